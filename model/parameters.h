@@ -1,0 +1,48 @@
+/// \file
+/// The ordered list of drive parameters, and the settings file (*.drc) that stores it.
+#ifndef PARAMETERS_H
+#define PARAMETERS_H
+
+#include "singleparam.h"
+
+#include <QList>
+
+/// An implicitly shared list of SingleParam in catalogue order, which is the order of reading, writing, listing and
+/// saving. Copies may travel between threads; a copy has no lock and belongs to one thread at a time.
+class Parameters
+{
+public:
+    int getParamCount() const;
+
+    /// Appends a record; fields that are not given keep their defaults.
+    void addParameter(int addr, const QString &name, double scaling, double offset, bool readonly, bool auxFlag,
+                      const QString &devices);
+    void addParameter(const SingleParam &p);
+
+    /// Copy of the first record with exactly this name, or a default record named "NULL".
+    SingleParam getParam(const QString &name) const;
+    /// Copy of the record at `index`, which must lie in 0..count-1 (not checked).
+    SingleParam getParam(int index) const;
+
+    /// Overwrites every field of the record at `index`; returns whether the value changed (also true with a NaN).
+    bool replaceParam(const SingleParam &p, int index);
+    /// The same for the first record named `p.name`; false and no change when there is none.
+    bool replaceParam(const SingleParam &p);
+
+    /// The list as an HTML table, four parameters to a row.
+    QString getParamsHTMLList() const;
+
+    /// Writes the settings file through a temporary file and a rename, so that a failure leaves an old file whole.
+    /// Returns an empty string, or the text to show.
+    QString saveToFile(const QString &fileName) const;
+    /// Takes the values of a settings file over. Returns an empty string; a text that begins with "Warning" when the
+    /// values were taken but the file comes from another device type; or an error text, with the list unchanged.
+    QString loadFromFile(const QString &fileName);
+
+private:
+    QList<SingleParam> m_list;
+};
+
+Q_DECLARE_METATYPE(Parameters)
+
+#endif

@@ -1,0 +1,159 @@
+/// \file
+/// The drive session: a worker thread that owns the bus, runs queued tasks and reports through signals.
+#ifndef CONNECTION_H
+#define CONNECTION_H
+
+#include "capturedata.h"
+#include "devicemodel.h"
+#include "parameters.h"
+
+#include <QList>
+#include <QMetaType>
+#include <QString>
+#include <QThread>
+#include <memory>
+
+/// One drive found by a bus scan.
+struct NodeType
+{
+    int address = 0;                  ///< bus address that answered
+    bool firmwareUpgradeMode = false; ///< address 251 or above, or register 2 read 0
+    int deviceType = 0;               ///< type id, register 6020
+};
+Q_DECLARE_METATYPE(QList<NodeType>)
+
+/// The only caller of the bus library. Everything public is called from the user-interface thread unless it says
+/// otherwise, and returns at once: setters store what is asked, `command` queues a task with a copy of it, and the
+/// results come back through signals, which are emitted on the worker thread (use queued connections).
+class Connection : public QThread
+{
+    Q_OBJECT
+
+public:
+    enum Task {
+        TaskNone = 0,
+        TaskConnect = 1,
+        TaskDisconnect = 2,
+        TaskSetParams = 3,
+        TaskGetParams = 4,
+        TaskUpdateStatus = 5,
+        TaskInitScope = 6,
+        TaskDownloadScope = 7,
+        TaskQuit = 8,
+        TaskCheckErrors = 9,
+        TaskClearFaults = 10,
+        TaskApplyEnableState = 11,
+        TaskStimulus = 12,
+        TaskSaveToFlash = 14,
+        TaskStartHoming = 15,
+        TaskAbortHoming = 16,
+        TaskSaveSettingsFile = 21,
+        TaskLoadSettingsFile = 22,
+        TaskScanBus = 23,
+        TaskFlashFirmware = 24,
+        TaskRestartDrive = 25,
+        TaskStopStimulus = 26,
+        TaskSetAbsoluteSetpoint = 27,
+        TaskSetIncrementalSetpoint = 28,
+        TaskRestartToDFU = 29,
+        TaskMeasure = 30,
+        TaskSetZero = 31,
+    };
+
+    enum Capability {
+        CapRestartToDFU = 0,
+        CapMeasureRL = 1,
+        CapResetToFactory = 2,
+        CapControlModeChange = 3,
+        CapIOSideFirmware = 4,
+    };
+
+    /// Builds the parameter catalogue and starts the worker thread.
+    explicit Connection(QObject *parent = nullptr);
+    /// Queues a disconnect and a quit, waits up to 5 s for the thread and terminates it otherwise.
+    ~Connection() override;
+
+    // --- Asking for work (user-interface thread) --------------------------------------------------------------
+
+    /// Queues a task with a copy of the requests stored by the setters. `waitForLoop` is kept for its callers: nothing
+    /// is locked across bus traffic, so there is nothing to wait for.
+    void command(Task task, bool waitForLoop = false);
+    /// Queues a connect to the drive at `nodeAddress` on a port; 255 means firmware-upgrade mode.
+    void connectDevice(const QString &portName, int nodeAddress);
+    /// Queues a bus scan; its answer is availableBusNodes. One scan at a time.
+    void getListOfBusNodes(const QString &portName);
+    /// Queues a full read; its answer is parametersRetreived(list, false).
+    void getParams();
+    /// Hands over the set that the next write, or save to a file, uses.
+    void setParams(const Parameters &list);
+    /// Emits parametersRetreived with a copy of the held list and `true`.
+    void emitParameters();
+    void checkErrors();
+    void clearDriveFaults();
+
+    void setSettingsFileName(const QString &fileName);
+    void setFirmwareFileName(const QString &fileName, bool resetToFactory);
+    void setDriveEnableStatus(bool enable);
+    void setDriveForceEnableStatus(bool force);
+    /// Setpoint for tasks 27 and 28, in the drive's setpoint units.
+    void setTargetSetpoint(int setpoint);
+    /// Square wave between two targets (setpoint units), held for the delays (s). Off while on queues task 26.
+    void setStimulus(double target1, double delay1, double target2, double delay2, bool enabled);
+    /// Chooses rate (Hz), trigger (0 rising setpoint, 1 setpoint change, 2 fault, 3 at once) and channels, in channel
+    /// order, of the next capture.
+    void setupCapture(double sampleRateHz, int triggerIndex, const QList<bool> &selected);
+    /// Register shown under the fault panel; 0 shows none.
+    void setWatchedParameter(int address);
+    /// Whether the fault panel shows the drive's debug values.
+    void setDebugValuesShown(bool shown);
+
+    // --- Asking about the drive (any thread) ------------------------------------------------------------------
+
+    bool isConnected() const;
+    /// Whether the connected drive runs its bootloader.
+    bool isInFirmwareUpgradeMode() const;
+    /// Type id of the connected drive, 0 when there is none.
+    int deviceType() const;
+    static QString deviceModelName(int typeId, bool withMakerPrefix);
+    bool isTorva() const;
+    bool isKeta() const;
+    bool isKetaPro() const;
+    /// False for every capability when no drive is connected.
+    bool deviceHasCapability(int capability) const;
+    /// Display value of the first held record with this name, 0.0 when there is none.
+    double getActiveParamValue(const QString &name) const;
+    /// Position feedback in counts, as last polled.
+    int positionFeedback() const;
+    /// Highest sample rate of the connected family's recorder, Hz.
+    double maxScopeSampleRate() const;
+    /// Next value of the square wave; advances its clock by one stream period.
+    double getStimulus();
+
+    /// Multiplies every pause of the worker (restart 3.5 s, measurement 8 s, ...): tests shorten them. Default 1.
+    void setPauseScale(double scale);
+
+    /// Divider of velocities and accelerations that suits a feedback resolution (lines) and a speed (rpm).
+    static int generateDividerValue(int resolution, int speed);
+
+signals:
+    void statusChanged(bool connected, QString text);
+    void parametersRetreived(Parameters list, bool loadedFromFile);
+    void error(QString text);
+    void plotReady(QList<CaptureData> capture);
+    void updateCaptureButtonText(QString text);
+    void physInputsUpdated(QString html);
+    void statusRegisterUpdated(QString html);
+    void faultRegisterUpdated(QString html);
+    void availableBusNodes(QList<NodeType> nodes);
+    void firmwareUpgradeMsg(QString html, bool done, bool failed);
+    void suggestDeviceRestart();
+    void setpointChanged(double setpoint);
+    void busy(bool busy, bool nonBlocking);
+    void setUnsavedState();
+    void controlModeChanged(int mode);
+
+protected:
+    void run() override;
+};
+
+#endif
