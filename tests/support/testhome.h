@@ -1,0 +1,32 @@
+/// \file
+/// A home folder of their own for tests, so that they neither read nor change the user's settings.
+#ifndef TESTHOME_H
+#define TESTHOME_H
+
+#include <cstdlib>
+#include <filesystem>
+
+/// Made at construction, removed at destruction. HOME and XDG_CONFIG_HOME point at it.
+class TestHome
+{
+public:
+    TestHome()
+    {
+        char name[] = "/tmp/velbrin-test-XXXXXX";
+        if (const char *made = mkdtemp(name))
+            m_folder = made;
+        setenv("HOME", m_folder.c_str(), 1);
+        setenv("XDG_CONFIG_HOME", m_folder.c_str(), 1);
+    }
+    ~TestHome()
+    {
+        std::error_code ignored;
+        std::filesystem::current_path("/", ignored);
+        std::filesystem::remove_all(m_folder, ignored);
+    }
+
+private:
+    std::filesystem::path m_folder;
+};
+
+#endif
