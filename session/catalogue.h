@@ -1,0 +1,12 @@
+/// \file
+/// The catalogue of drive settings: the one list of the parameters that the program knows.
+#ifndef CATALOGUE_H
+#define CATALOGUE_H
+
+#include "parameters.h"
+
+/// The 70 parameters, in the order of reading, writing, listing and saving; value, min and max are 0. To add a
+/// parameter add a row to the table in catalogue.cpp: everything else finds it by its mnemonic.
+Parameters driveParameterCatalogue();
+
+#endif

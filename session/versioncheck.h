@@ -1,0 +1,48 @@
+/// \file
+/// Whether this program may work with a drive: identity numbers in, verdict out. Pure functions, any thread.
+#ifndef VERSIONCHECK_H
+#define VERSIONCHECK_H
+
+#include <QString>
+
+/// What is read from a drive to identify it. Companions are the oldest versions that the drive claims to be compatible
+/// with: a version is out of bounds only when its companion is, too.
+struct DriveIdentity
+{
+    int deviceType = 0;      ///< type id, register 6020
+    int firmwareVersion = 0; ///< register 6010; the bootloader's version in firmware-upgrade mode
+    int firmwareCompanion = 0;
+    int coreVersion = 0; ///< register 6014; not used in firmware-upgrade mode
+    int coreCompanion = 0;
+    int protocolVersion = 0; ///< register 3
+    int protocolCompanion = 0;
+    bool firmwareUpgradeMode = false;
+    bool readCleanly = true; ///< every exchange of the identification ended with status ZB_OK
+};
+
+/// Versions that a device family (type id / 1000) must have.
+struct SupportedVersion
+{
+    int deviceFamily;
+    int lowestCore;
+    int highestCore;
+    int lowestFirmware;
+    int highestFirmware;
+    int recommendedCore; ///< older core firmware is accepted with a warning
+};
+
+struct VersionVerdict
+{
+    bool accepted = false;
+    bool restartToDFU = false; ///< refused; restart the drive into firmware-upgrade mode after telling the user
+    QString errorText;  ///< HTML for the user; with `accepted` a recommendation; empty when there is nothing to say
+    QString statusText; ///< connection text of a refusal; empty when accepted
+};
+
+/// First record for the family of a type id, null when the family is not supported.
+const SupportedVersion *supportedVersionOf(int deviceType);
+
+/// The verdict. `coreVersion` and its companion need not be read for a family without a record.
+VersionVerdict checkVersions(const DriveIdentity &drive);
+
+#endif
