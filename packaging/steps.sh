@@ -1,0 +1,64 @@
+# Shell functions shared by ./run and ./test, which source this file from the top folder: what a step prints, which
+# packages are installed, how a preset is built. A step that goes well is one line; one that fails shows why.
+
+logs=build/logs
+
+# step TEXT LOG COMMAND...: runs the command with its output in build/logs/LOG. Ends the script when it fails.
+step() {
+    local text=$1 log=$logs/$2
+    shift 2
+    mkdir -p "$logs"
+    echo "$text"
+    if ! "$@" >"$log" 2>&1; then
+        {
+            echo
+            echo "This failed: $text"
+            echo "The end of what it said (all of it is in $log):"
+            echo
+            tail -n 40 "$log"
+        } >&2
+        exit 1
+    fi
+}
+
+as_root() {
+    if [ "$(id -u)" = 0 ]; then
+        "$@"
+    elif command -v sudo >/dev/null; then
+        sudo "$@"
+    else
+        echo "Installing packages needs root: run this as root, or install sudo." >&2
+        return 1
+    fi
+}
+
+# The packages of the list that this machine does not have.
+missing_packages() {
+    local package
+    sed -e 's/#.*//' packaging/debian-packages.txt | while read -r package; do
+        [ -n "$package" ] || continue
+        [ "$(dpkg-query -W -f '${db:Status-Status}' "$package" 2>/dev/null)" = installed ] || echo "$package"
+    done
+}
+
+# apt-get without questions; waits a while for another one to finish.
+apt_get() { as_root env DEBIAN_FRONTEND=noninteractive apt-get -q -y -o DPkg::Lock::Timeout=300 "$@"; }
+
+install_packages() {
+    if ! command -v dpkg-query >/dev/null; then
+        echo "Not a Debian system: packaging/debian-packages.txt lists what has to be there."
+        return
+    fi
+    local missing
+    missing=$(missing_packages | tr '\n' ' ')
+    [ -n "$missing" ] || return 0
+    step "Updating the list of packages" apt-update.log apt_get update
+    # shellcheck disable=SC2086 # one word a package
+    step "Installing $missing" apt-install.log apt_get install --no-install-recommends $missing
+}
+
+# build_preset NAME: configures and builds build/NAME.
+build_preset() {
+    step "Configuring $1" "configure-$1.log" cmake --preset "$1"
+    step "Building $1" "build-$1.log" cmake --build --preset "$1" -j "$(nproc)"
+}
