@@ -5,12 +5,15 @@
 
 #include "singleparam.h"
 
+#include <QCoreApplication>
 #include <QList>
 
 /// An implicitly shared list of SingleParam in catalogue order, which is the order of reading, writing, listing and
 /// saving. Copies may travel between threads; a copy has no lock and belongs to one thread at a time.
 class Parameters
 {
+    Q_DECLARE_TR_FUNCTIONS(Parameters)
+
 public:
     int getParamCount() const;
 
@@ -32,11 +35,15 @@ public:
     /// The list as an HTML table, four parameters to a row.
     QString getParamsHTMLList() const;
 
+    // settingsfile.cpp
+
     /// Writes the settings file through a temporary file and a rename, so that a failure leaves an old file whole.
     /// Returns an empty string, or the text to show.
     QString saveToFile(const QString &fileName) const;
     /// Takes the values of a settings file over. Returns an empty string; a text that begins with "Warning" when the
     /// values were taken but the file comes from another device type; or an error text, with the list unchanged.
+    /// Numbers that are none, not finite, or a scaling of 0 are refused: they would end up in a drive. The file is only
+    /// read.
     QString loadFromFile(const QString &fileName);
 
 private:

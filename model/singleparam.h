@@ -6,6 +6,10 @@
 #include <QMetaType>
 #include <QString>
 
+/// `value` cut toward zero. What does not fit becomes the nearest end of the range, NaN becomes 0: the cast alone would
+/// be undefined.
+int truncateToInt32(double value);
+
 /// A plain value. Display value = (device value + offset) / scaling; device values are signed 32-bit integers.
 /// A fresh record is read-only and claims every model family until its builder says otherwise.
 class SingleParam
@@ -31,7 +35,7 @@ public:
     bool auxFlag = true;  ///< shown in the user interface; not stored in settings files
     bool readonly = true; ///< informative: never written to the drive
     QString devices = QStringLiteral("Torva,Keta,Keta Pro"); ///< model name prefixes, separated by commas
-    QString group;        ///< object name of the container that is hidden where the model lacks the parameter
+    QString group; ///< object name of the container that is hidden where the model lacks the parameter
 };
 
 Q_DECLARE_METATYPE(SingleParam)

@@ -1,0 +1,182 @@
+#include "devicemodel.h"
+#include "makerlinks.h"
+#include "parameters.h"
+
+#include <gtest/gtest.h>
+
+#include <QSettings>
+
+#include <cmath>
+#include <limits>
+
+TEST(SingleParam, StartsReadOnlyWithoutScalingOnAllFamilies)
+{
+    const SingleParam p;
+    EXPECT_EQ(p.scaling, 1.0);
+    EXPECT_EQ(p.offset, 0.0);
+    EXPECT_TRUE(p.readonly);
+    EXPECT_TRUE(p.auxFlag);
+    EXPECT_EQ(p.devices, "Torva,Keta,Keta Pro");
+}
+
+TEST(SingleParam, ConvertsBothWaysAndRoundsHalvesAwayFromZero)
+{
+    SingleParam milli;
+    milli.scaling = 1000;
+    EXPECT_EQ(milli.convertToGUIScale(1500), 1.5);
+    EXPECT_EQ(milli.convertToDeviceScale(1.5), 1500);
+    SingleParam mode;
+    mode.offset = -1;
+    EXPECT_EQ(mode.convertToGUIScale(3), 2);
+    EXPECT_EQ(mode.convertToDeviceScale(2), 3);
+    const SingleParam plain;
+    EXPECT_EQ(plain.convertToDeviceScale(2.5), 3);
+    EXPECT_EQ(plain.convertToDeviceScale(-2.5), -3);
+}
+
+TEST(SingleParam, IsSupportedByModelsWhoseNameBeginsWithAPiece)
+{
+    SingleParam p;
+    const auto fits = [&p](const char *devices, const char *model) {
+        p.devices = QString::fromLatin1(devices);
+        return p.supportedInDevice(QString::fromLatin1(model));
+    };
+    EXPECT_TRUE(fits("Keta", "KETA Pro"));
+    EXPECT_TRUE(fits("Keta Pro", "KETA Pro HC"));
+    EXPECT_FALSE(fits("Torva", "KETA Pro"));
+    EXPECT_FALSE(fits("Keta Pro", "KETA HC"));
+    EXPECT_TRUE(fits("Keta Pro,torva", "TORVA R"));
+    EXPECT_FALSE(fits("Keta, Torva", "TORVA")) << "pieces are not trimmed";
+    EXPECT_TRUE(fits("Keta,", "TORVA")) << "an empty piece fits every model";
+}
+
+TEST(SingleParam, CutsValuesOfAnySizeToAnInteger)
+{
+    EXPECT_EQ(truncateToInt32(-2.9), -2);
+    EXPECT_EQ(truncateToInt32(1e300), 2147483647);
+    EXPECT_EQ(truncateToInt32(-INFINITY), -2147483647 - 1);
+    EXPECT_EQ(truncateToInt32(NAN), 0);
+}
+
+namespace {
+
+Parameters namedList(const QStringList &names)
+{
+    Parameters list;
+    for (const QString &name : names)
+        list.addParameter(1, name, 1.0, 0.0, false, true, QStringLiteral("Keta"));
+    return list;
+}
+
+} // namespace
+
+TEST(Parameters, AreFoundByExactNameAndFirstMatch)
+{
+    Parameters list = namedList({"KVP", "KVI"});
+    SingleParam twin;
+    twin.name = "KVP";
+    twin.addr = 99;
+    list.addParameter(twin);
+    EXPECT_EQ(list.getParamCount(), 3);
+    EXPECT_EQ(list.getParam("KVP").addr, 1);
+    EXPECT_EQ(list.getParam(2).addr, 99);
+    const SingleParam none = list.getParam("kvp");
+    EXPECT_EQ(none.name, "NULL");
+    EXPECT_EQ(none.scaling, 1.0);
+    EXPECT_TRUE(none.readonly);
+}
+
+TEST(Parameters, ReplacingTellsWhetherTheValueChanged)
+{
+    Parameters list = namedList({"KVP"});
+    const Parameters before = list;
+    SingleParam p = list.getParam("KVP");
+    p.group = "ELMODE";
+    EXPECT_FALSE(list.replaceParam(p));
+    EXPECT_EQ(list.getParam("KVP").group, "ELMODE");
+    p.value = 3;
+    EXPECT_TRUE(list.replaceParam(p));
+    p.value = NAN;
+    EXPECT_TRUE(list.replaceParam(p, 0));
+    EXPECT_TRUE(list.replaceParam(p, 0)) << "not a number is never equal to itself";
+    p.name = "unknown";
+    EXPECT_FALSE(list.replaceParam(p));
+    EXPECT_EQ(before.getParam("KVP").group, "") << "copies are independent";
+}
+
+TEST(Parameters, ListAsTableOfFourPairsToARow)
+{
+    Parameters list = namedList({"HWSERIAL", "UID", "BUILDREVISION", "KVP", "FOC"});
+    const double values[] = {123456.9, 48879.0, -1.0, 1234567.0, 16.666666666666668};
+    for (int i = 0; i < 5; ++i) {
+        SingleParam p = list.getParam(i);
+        p.value = values[i];
+        list.replaceParam(p, i);
+    }
+    EXPECT_EQ(list.getParamsHTMLList(), "<h2>Parameters</h2><table class=\"paramslist\">"
+                                        "<tr><td>HWSERIAL</td><td>123456</td><td>UID</td><td>beef</td>"
+                                        "<td>BUILDREVISION</td><td>ffffffff</td><td>KVP</td><td>1.23457e+06</td></tr>\n"
+                                        "<tr><td>FOC</td><td>16.6667</td></tr>\n</table>");
+    EXPECT_EQ(Parameters().getParamsHTMLList(), "<h2>Parameters</h2><table class=\"paramslist\"></table>");
+}
+
+TEST(DeviceModel, NamesEveryModelAndSubmodel)
+{
+    const struct
+    {
+        int type;
+        const char *name;
+    } models[] = {
+        {4000, "TORVA"},
+        {4099, "TORVA"},
+        {5000, "TORVA R"},
+        {6012, "TORVA S"},
+        {11000, "KETA"},
+        {11001, "KETA Pro"},
+        {11002, "KETA Unknown submodel"},
+        {11200, "KETA HC"},
+        {11211, "KETA Pro HC"},
+        {11400, "KETA Pro (ID 11400)"},
+    };
+    for (const auto &m : models) {
+        EXPECT_EQ(deviceModelName(m.type, false), m.name);
+        EXPECT_EQ(deviceModelName(m.type, true), QStringLiteral("Tarnwell Devices ") + m.name);
+    }
+    EXPECT_EQ(deviceModelName(11205, true), "Tarnwell Devices KETA Unknown HC submodel");
+    EXPECT_EQ(deviceModelName(12345, true), "Unknown device type: 12345");
+    EXPECT_EQ(deviceModelName(0, false), "Unknown device type: 0");
+}
+
+TEST(DeviceModel, FamilyDecidesCapabilitiesAndBaseFrequency)
+{
+    for (const int keta : {11000, 11001, 11200, 11400}) {
+        for (int capability = 0; capability <= 5; ++capability)
+            EXPECT_EQ(modelHasCapability(keta, DeviceCapability(capability)), capability < 4) << keta;
+        EXPECT_EQ(baseFrequencyOfModel(keta, 1.0F), 20000.0F);
+    }
+    for (const int torva : {4000, 5000, 6000}) {
+        for (int capability = 0; capability <= 5; ++capability)
+            EXPECT_EQ(modelHasCapability(torva, DeviceCapability(capability)), capability == 4) << torva;
+        EXPECT_EQ(baseFrequencyOfModel(torva, 1.0F), 17500.0F);
+    }
+    EXPECT_FALSE(modelHasCapability(0, DeviceCapability::MeasureRL));
+    EXPECT_EQ(baseFrequencyOfModel(9000, 123.0F), 123.0F);
+    EXPECT_TRUE(isKetaProModel(11001) && isKetaProModel(11201) && isKetaProModel(11400));
+    EXPECT_FALSE(isKetaProModel(11000) || isKetaProModel(11200) || isKetaProModel(4000));
+}
+
+TEST(MakerLinks, EnvironmentGoesBeforeSettingsGoBeforeDefaults)
+{
+    EXPECT_EQ(makerWikiPage("/wiki/Velbrin"), "https://wiki.tarnwell.example/wiki/Velbrin");
+    EXPECT_EQ(makerUpdateServer(), "http://update.tarnwell.example");
+    {
+        QSettings settings("Tarnwell Devices", "Velbrin");
+        settings.setValue("wikiBase", "http://intranet/");
+    }
+    EXPECT_EQ(makerWikiPage("/wiki/Velbrin"), "http://intranet/wiki/Velbrin");
+    qputenv("VELBRIN_WIKI", "http://127.0.0.1:8080");
+    EXPECT_EQ(makerWikiBase(), "http://127.0.0.1:8080");
+    qunsetenv("VELBRIN_WIKI");
+    QSettings("Tarnwell Devices", "Velbrin").remove("wikiBase");
+    EXPECT_EQ(makerWikiBase(), "https://wiki.tarnwell.example");
+}

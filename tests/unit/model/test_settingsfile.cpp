@@ -1,0 +1,352 @@
+#include "parameters.h"
+
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QElapsedTimer>
+#include <QFileInfo>
+#include <QSettings>
+#include <QTemporaryDir>
+
+#include <csignal>
+#include <cstring>
+#include <limits>
+#include <sys/resource.h>
+#include <sys/stat.h>
+
+namespace {
+
+const char header[] = "[Header]\nDRCVersion=110\nVelbrinVersion=1.9.0\nVelbrinVersionInt=10900\n";
+const char note[] = " File was saved with Velbrin version 1.9.0.";
+
+/// One entry with usable numbers.
+QByteArray entry(int number, const QByteArray &name, const QByteArray &value)
+{
+    const QByteArray n = QByteArray::number(number) + '\\';
+    return n + "name=" + name + '\n' + n + "addr=7\n" + n + "scaling=10\n" + n + "offset=2\n" + n + "readonly=false\n" +
+           n + "value=" + value + '\n' + n + "min=-1.5\n" + n + "max=1e3\n";
+}
+
+class SettingsFile : public testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        for (const char *name : {"HWTYPE", "FWVER", "KVP", "CEI"}) {
+            SingleParam p;
+            p.name = QString::fromLatin1(name);
+            p.value = 5;
+            p.devices = "Keta";
+            p.group = "ELMODE";
+            list.addParameter(p);
+        }
+        setType(0);
+    }
+    void setType(double type)
+    {
+        SingleParam p = list.getParam("HWTYPE");
+        p.value = type;
+        list.replaceParam(p);
+    }
+    void write(const QByteArray &bytes)
+    {
+        QFile file(path);
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
+    }
+    QByteArray content() const
+    {
+        QFile file(path);
+        file.open(QIODevice::ReadOnly);
+        return file.readAll();
+    }
+    QString load(const QByteArray &bytes)
+    {
+        write(bytes);
+        return list.loadFromFile(path);
+    }
+    void expectUnchanged()
+    {
+        EXPECT_EQ(list.getParam("KVP").value, 5);
+        EXPECT_EQ(list.getParam("KVP").scaling, 1);
+        EXPECT_EQ(list.getParam("FWVER").value, 5);
+    }
+
+    QTemporaryDir folder;
+    QString path = folder.filePath("drive 1%1.drc");
+    QString cannotRead = "Error reading settings from file " + path + ".";
+    QString cannotWrite = "Error writing settings to file " + path;
+    Parameters list;
+};
+
+} // namespace
+
+TEST_F(SettingsFile, IsWrittenInListOrderAndLoadsAgain)
+{
+    Parameters one;
+    one.addParameter(202, "KVP", 10.24, -1, false, true, "Keta");
+    SingleParam p = one.getParam(0);
+    p.value = 0.1;
+    p.max = 16383;
+    one.replaceParam(p);
+    ASSERT_EQ(one.saveToFile(path), "");
+    EXPECT_EQ(content(), QByteArray(header) + "\n[TDT3Params]\n1\\name=KVP\n1\\addr=202\n1\\scaling=10.24\n"
+                                              "1\\offset=-1\n1\\readonly=false\n1\\value=0.1\n1\\min=0\n1\\max=16383\n"
+                                              "size=1\n");
+    ASSERT_EQ(list.loadFromFile(path), "");
+    EXPECT_EQ(list.getParam("KVP").value, 0.1);
+    EXPECT_EQ(list.getParam("KVP").addr, 202);
+    EXPECT_FALSE(list.getParam("KVP").readonly);
+    EXPECT_EQ(list.getParam("KVP").devices, "Keta");
+    EXPECT_EQ(list.getParam("KVP").group, "ELMODE");
+    EXPECT_EQ(list.getParam("CEI").value, 5) << "what the file does not mention stays";
+    EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files | QDir::Hidden).size(), 1) << "no lock or backup files";
+}
+
+TEST_F(SettingsFile, KeepsEveryDoubleAndNameBitForBitAlsoThroughQSettings)
+{
+    const double values[] = {0.1,  -0.0,        1.0 / 3, 50.0 / 3, 5e-324, std::numeric_limits<double>::max(),
+                             1e22, -1234567.875};
+    const QString names[] = {"KVP",
+                             "a b",
+                             "x;y,z=",
+                             "\"quoted\\\"",
+                             QString::fromUtf8("\u00e9"
+                                               "4\u20ac"
+                                               "f"),
+                             "@at",
+                             "",
+                             "tab\tline\n"};
+    Parameters saved;
+    for (int i = 0; i < 8; ++i) {
+        SingleParam p;
+        p.name = names[i];
+        p.value = p.min = values[i];
+        saved.addParameter(p);
+    }
+    ASSERT_EQ(saved.saveToFile(path), "");
+    Parameters loaded = saved;
+    for (int i = 0; i < 8; ++i)
+        loaded.replaceParam(SingleParam(), i);
+    for (int i = 0; i < 8; ++i) {
+        SingleParam p;
+        p.name = names[i];
+        loaded.replaceParam(p, i);
+    }
+    ASSERT_EQ(loaded.loadFromFile(path), "");
+
+    QSettings settings(path, QSettings::IniFormat);
+    EXPECT_EQ(settings.value("Header/DRCVersion").toInt(), 110);
+    EXPECT_EQ(settings.value("Header/VelbrinVersion").toString(), "1.9.0");
+    ASSERT_EQ(settings.beginReadArray("TDT3Params"), 8);
+    for (int i = 0; i < 8; ++i) {
+        settings.setArrayIndex(i);
+        const double read = settings.value("value").toDouble();
+        const double own = loaded.getParam(i).min;
+        EXPECT_EQ(std::memcmp(&read, &values[i], sizeof read), 0) << values[i];
+        EXPECT_EQ(std::memcmp(&own, &values[i], sizeof own), 0) << values[i];
+        EXPECT_EQ(settings.value("name").toString(), names[i]);
+        EXPECT_TRUE(settings.value("readonly").toBool());
+    }
+}
+
+TEST_F(SettingsFile, WrittenByQSettingsLoads)
+{
+    {
+        QSettings settings(path, QSettings::IniFormat);
+        settings.setValue("Header/DRCVersion", 110);
+        settings.setValue("Header/VelbrinVersion", "1.9.0; special, \"build\"");
+        settings.beginWriteArray("TDT3Params");
+        for (int i = 0; i < 12; ++i) {
+            settings.setArrayIndex(i);
+            settings.setValue("name", i == 11 ? "KVP" : "CEI");
+            settings.setValue("addr", -3);
+            settings.setValue("scaling", 50.0 / 3);
+            settings.setValue("offset", -1.0);
+            settings.setValue("readonly", i != 11);
+            settings.setValue("value", 1e-7 * i);
+            settings.setValue("min", -0.1);
+            settings.setValue("max", 1e30);
+        }
+        settings.endArray();
+    }
+    ASSERT_EQ(list.loadFromFile(path), "");
+    const SingleParam p = list.getParam("KVP");
+    EXPECT_EQ(p.value, 1e-7 * 11);
+    EXPECT_EQ(p.scaling, 50.0 / 3);
+    EXPECT_EQ(p.addr, -3);
+    EXPECT_EQ(p.max, 1e30);
+    EXPECT_FALSE(p.readonly);
+    EXPECT_TRUE(list.getParam("CEI").readonly);
+}
+
+TEST_F(SettingsFile, AcceptsBothSpellingsOfTheHeaderKeyAndVersion100)
+{
+    const QByteArray body = "[TDT3Params]\n" + entry(1, "KVP", "8") + "size=1\n";
+    for (const char *head :
+         {"[Header]\nDRCVersion=110\n", "[Header]\nDRCversion=110\n", "[Header]\r\ndrcversion=100\r\n",
+          "\xEF\xBB\xBF; by hand\n[HEADER]\nDRCVERSION = 100 ; old\n"}) {
+        SetUp();
+        EXPECT_EQ(load(head + body), "") << head;
+        EXPECT_EQ(list.getParam("KVP").value, 8) << head;
+        SingleParam back = list.getParam("KVP");
+        back.value = 5;
+        list.replaceParam(back);
+    }
+}
+
+TEST_F(SettingsFile, MissingNumbersReadAsZeroAndMissingBoolsAsFalse)
+{
+    ASSERT_EQ(load(QByteArray(header) + "[TDT3Params]\n1\\name=KVP\n1\\scaling=1\nsize=1\n"), "");
+    const SingleParam p = list.getParam("KVP");
+    EXPECT_EQ(p.addr, 0);
+    EXPECT_EQ(p.value, 0);
+    EXPECT_FALSE(p.readonly);
+    EXPECT_TRUE(p.auxFlag);
+}
+
+TEST_F(SettingsFile, NeverTakesOverTheIdentityOfAnotherDrive)
+{
+    ASSERT_EQ(load(QByteArray(header) + "[TDT3Params]\n" + entry(1, "FWVER", "57") + entry(2, "HWTYPE", "11000") +
+                   "size=2\n"),
+              "")
+        << "no warning with no drive connected";
+    EXPECT_EQ(list.getParam("FWVER").value, -1.0);
+    EXPECT_EQ(list.getParam("HWTYPE").value, 0);
+}
+
+TEST_F(SettingsFile, FromAnotherDeviceTypeIsTakenWithAWarning)
+{
+    const QByteArray file =
+        QByteArray(header) + "[TDT3Params]\n" + entry(1, "HWTYPE", "11001") + entry(2, "KVP", "8") + "size=2\n";
+    setType(11001);
+    EXPECT_EQ(load(file), "");
+    setType(4000);
+    EXPECT_EQ(load(file),
+              "Warning: the loaded file is saved on different device type <b>KETA Pro</b> while connected device type "
+              "is <b>TORVA</b>. Some settings and their value ranges may be incompatible. Apply button might cause "
+              "connection error if any parameter value is out of supported bounds.");
+    EXPECT_EQ(list.getParam("KVP").value, 8);
+    EXPECT_EQ(list.getParam("HWTYPE").value, 4000);
+}
+
+TEST_F(SettingsFile, ThatIsNoneIsRefusedWithNothingTakenOver)
+{
+    const QByteArray array = "[TDT3Params]\n";
+    const QByteArray good = entry(1, "KVP", "8");
+    const QString unsupported = "Unsupported file type or version. Try with later Velbrin version.";
+    const QString unknown = "Attempt to load a file with unknown parameter %1. Possibly Velbrin version too old, try "
+                            "later version.";
+    const struct
+    {
+        QByteArray bytes;
+        QString message;
+    } files[] = {
+        {"", unsupported},
+        {QByteArray(2 << 20, '\xA5'), unsupported},
+        {array + good + "size=1\n", unsupported},
+        {"[Header]\nDRCVersion=111\nVelbrinVersion=2.0\n" + array + good + "size=1\n",
+         unsupported + " File was saved with Velbrin version 2.0."},
+        {header, cannotRead + note},
+        {header + array + good, cannotRead + note}, // cut short
+        {header + array + good + "size=1\nnoise\n", cannotRead + note},
+        {header + array + good + "size=-1\n", cannotRead + note},
+        {header + array + good + entry(2, "BOGUS", "1") + "size=2\n", unknown.arg("BOGUS") + note},
+        {header + array + good + "size=1000000000\n", unknown.arg("") + note},
+        {QByteArray(9 << 20, '\n'), cannotRead},
+    };
+    for (const auto &f : files) {
+        QElapsedTimer time;
+        time.start();
+        EXPECT_EQ(load(f.bytes), f.message) << f.bytes.left(200).toStdString();
+        EXPECT_LT(time.elapsed(), 5000);
+        expectUnchanged();
+        EXPECT_EQ(content(), f.bytes) << "reading left the file alone";
+    }
+    EXPECT_EQ(load(QByteArray(header) + array + "size=0\n"), "") << "an empty array changes nothing";
+    expectUnchanged();
+}
+
+TEST_F(SettingsFile, WithANumberThatIsNoneIsRefused)
+{
+    const struct
+    {
+        const char *line;
+        const char *what;
+    } lines[] = {
+        {"value=nan", "value of parameter KVP: \"nan\""},
+        {"value=inf", "value of parameter KVP: \"inf\""},
+        {"value=1,5", "value of parameter KVP: \"1,5\""},
+        {"value=", "value of parameter KVP: \"\""},
+        {"scaling=0", "scaling of parameter KVP: \"0\""},
+        {"scaling=-inf", "scaling of parameter KVP: \"-inf\""},
+        {"min=1e999", "min of parameter KVP: \"1e999\""},
+        {"addr=7.5", "addr of parameter KVP: \"7.5\""},
+        {"offset=<b>", "offset of parameter KVP: \"&lt;b&gt;\""},
+        {"value=@Variant(\\0\\0\\0\\x9\\x7f\\xff\\xff\\xff)", nullptr}, // an object of two thousand million strings
+    };
+    for (const auto &l : lines) {
+        const QString message = load(QByteArray(header) + "[TDT3Params]\n" + entry(1, "FWVER", "1") +
+                                     entry(2, "KVP", "8") + "2\\" + l.line + "\nsize=2\n");
+        EXPECT_TRUE(message.startsWith("Attempt to load a file with unusable ")) << l.line;
+        if (l.what) {
+            EXPECT_EQ(message, QString("Attempt to load a file with unusable %1.%2").arg(l.what, note));
+        }
+        expectUnchanged();
+    }
+}
+
+TEST_F(SettingsFile, ThatCannotBeReadOrWrittenSaysSo)
+{
+    EXPECT_EQ(list.loadFromFile(path), cannotRead) << "missing";
+    ASSERT_EQ(::mkfifo(QFile::encodeName(path).constData(), 0600), 0);
+    EXPECT_EQ(list.loadFromFile(path), cannotRead) << "a pipe";
+    EXPECT_EQ(list.saveToFile(path), cannotWrite) << "a pipe";
+    ASSERT_TRUE(QFile::remove(path) && QDir().mkdir(path));
+    EXPECT_EQ(list.loadFromFile(path), cannotRead) << "a directory";
+    EXPECT_EQ(list.saveToFile(path), cannotWrite) << "a directory";
+    EXPECT_EQ(list.loadFromFile(""), "Error reading settings from file .");
+    EXPECT_EQ(list.saveToFile(""), "Error writing settings to file ");
+    EXPECT_EQ(list.loadFromFile("/dev/zero"), "Error reading settings from file /dev/zero.");
+    EXPECT_EQ(list.saveToFile(folder.filePath("gone/x.drc")),
+              "Error writing settings to file " + folder.filePath("gone/x.drc"));
+    if (::geteuid() == 0)
+        return; // root reads everything
+    ASSERT_TRUE(QDir().rmdir(path));
+    write(header);
+    QFile::setPermissions(path, {});
+    EXPECT_EQ(list.loadFromFile(path), cannotRead) << "no permission";
+}
+
+TEST_F(SettingsFile, OldOneStaysWholeWhenTheDiskIsFull)
+{
+    write("old");
+    rlimit before;
+    ASSERT_EQ(::getrlimit(RLIMIT_FSIZE, &before), 0);
+    const rlimit small = {100, before.rlim_max};
+    const auto oldHandler = std::signal(SIGXFSZ, SIG_IGN);
+    ::setrlimit(RLIMIT_FSIZE, &small);
+    const QString message = list.saveToFile(path);
+    ::setrlimit(RLIMIT_FSIZE, &before);
+    std::signal(SIGXFSZ, oldHandler);
+    EXPECT_EQ(message, cannotWrite);
+    EXPECT_EQ(content(), "old");
+    EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files | QDir::Hidden).size(), 1) << "no temporary file left";
+}
+
+TEST_F(SettingsFile, GetsThePermissionsOfAnOrdinaryFileOrOfTheOneItReplaces)
+{
+    const mode_t mask = ::umask(0022);
+    ASSERT_EQ(list.saveToFile(path), "");
+    const QByteArray name = QFile::encodeName(path);
+    struct stat info = {};
+    ::stat(name.constData(), &info);
+    EXPECT_EQ(info.st_mode & 0777, 0644u);
+    ::chmod(name.constData(), 0640);
+    const QString link = folder.filePath("link.drc");
+    ASSERT_TRUE(QFile::link("drive 1%1.drc", link));
+    EXPECT_EQ(list.saveToFile(link), "");
+    ::umask(mask);
+    ::stat(name.constData(), &info);
+    EXPECT_EQ(info.st_mode & 0777, 0640u);
+    EXPECT_TRUE(QFileInfo(link).isSymLink()) << "saving follows a link instead of replacing it";
+}
