@@ -37,8 +37,9 @@ constexpr int ZB_MAX_TIMEOUT_MS = 5000; ///< largest value that zbSetTimeout tak
 // --- Buses ------------------------------------------------------------------------------------------------------
 
 /// Opens the bus on a serial port; `name` must begin with "COM" or "/dev/tty". Returns the lowest free handle, or -1
-/// (other name, port missing, no permission, in use by another program, ten buses open). The receive state and the
-/// cumulative status of a reused handle are left as they were: call zbResetZB485variables.
+/// (other name EINVAL, port missing, no permission, in use by another program EBUSY, ten buses open EMFILE); errno says
+/// why. The receive state and the cumulative status of a reused handle are left as they were: call
+/// zbResetZB485variables.
 ZbHandle zbOpenBus(const char *name);
 
 /// Closes the bus. Returns ZB_ERR_NODEVICE always, also when it was open: a quirk that callers ignore.
@@ -61,6 +62,11 @@ ZbStatus zbResetZB485variables(ZbHandle handle);
 /// reply could answer the next request. Returns ZB_OK or ZB_ERR_NODEVICE.
 ZbStatus zbDiscardInput(ZbHandle handle);
 
+/// Non-zero once the adapter was pulled out (or the other end of a pseudo terminal closed); 0 on a line that is merely
+/// quiet, and for a closed handle. Never waits. After it sends fail with ZB_ERR_BUS and receives with
+/// ZB_ERR_COMMUNICATION, both at once: only closing helps.
+int zbIsLineGone(ZbHandle handle);
+
 // --- Queue ------------------------------------------------------------------------------------------------------
 
 enum ZbQueueItem {
@@ -80,7 +86,8 @@ ZbStatus zbExecuteCommandQueue(ZbHandle handle, std::uint8_t address);
 /// Sends the queue to the drive at `address` for timed execution from its command buffer, and receives its reply.
 ZbStatus zbUploadCommandQueueToDeviceBuffer(ZbHandle handle, std::uint8_t address);
 
-/// The round trip behind both. A failed send leaves the queue filled, a failed receive leaves it empty.
+/// The round trip behind both. A failed send leaves the queue filled, a failed receive leaves it empty. Blocks for at
+/// most 0.5 s in the send, one read time-out per byte of the reply and 2 s to drain a line that talks nonsense.
 ZbStatus zbTransmitReceiveCommandQueue(ZbHandle handle, std::uint8_t address, std::uint8_t cmdid);
 
 /// Decodes the next return value of the last reply into `value` (may be null). ZB_ERR_LENGTH and 0 at the end.
@@ -108,7 +115,7 @@ ZbStatus zbRead3Parameters(ZbHandle handle, std::uint8_t address, std::int16_t p
                            std::int16_t paramB, long *valueB, std::int16_t paramC, long *valueC);
 ZbStatus zbSetParameter(ZbHandle handle, std::uint8_t address, std::int16_t parameter, long value);
 
-/// The drive's 16-bit buffer clock, in 0.1 ms.
+/// The drive's 16-bit buffer clock, in 0.1 ms. Ask with an empty queue: the reply lands where the queued items are.
 ZbStatus zbGetBufferClock(ZbHandle handle, std::uint8_t address, std::uint16_t *clock);
 
 // --- Cumulative status and debug output -------------------------------------------------------------------------
