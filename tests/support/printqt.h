@@ -1,0 +1,14 @@
+/// \file
+/// Makes GoogleTest print Qt's strings as text instead of bytes.
+#ifndef PRINTQT_H
+#define PRINTQT_H
+
+#include <QString>
+#include <ostream>
+
+inline void PrintTo(const QString &text, std::ostream *out)
+{
+    *out << '"' << text.toStdString() << '"';
+}
+
+#endif

@@ -1,0 +1,101 @@
+#include "catalogue.h"
+#include "printqt.h"
+
+#include <QSet>
+#include <gtest/gtest.h>
+
+namespace {
+
+QStringList namesUnsupportedBy(const QString &modelName)
+{
+    const Parameters list = driveParameterCatalogue();
+    QStringList names;
+    for (int i = 0; i < list.getParamCount(); ++i) {
+        if (!list.getParam(i).supportedInDevice(modelName))
+            names.append(list.getParam(i).name);
+    }
+    return names;
+}
+
+} // namespace
+
+TEST(Catalogue, HasSeventyDifferentNamesAndRegistersInOrder)
+{
+    const Parameters list = driveParameterCatalogue();
+    ASSERT_EQ(list.getParamCount(), 70);
+    EXPECT_EQ(list.getParam(0).name, "TCFWVER");
+    EXPECT_EQ(list.getParam(25).name, "FLAGS");
+    EXPECT_EQ(list.getParam(53).name, "HOMING");
+    EXPECT_EQ(list.getParam(69).name, "BDD");
+    QSet<QString> names;
+    QSet<int> addresses;
+    int addressSum = 0;
+    for (int i = 0; i < 70; ++i) {
+        const SingleParam p = list.getParam(i);
+        names.insert(p.name);
+        addresses.insert(p.addr);
+        addressSum += p.addr;
+        EXPECT_EQ(p.value, 0.0) << p.name.toStdString();
+        EXPECT_EQ(p.min, 0.0) << p.name.toStdString();
+        EXPECT_EQ(p.max, 0.0) << p.name.toStdString();
+    }
+    EXPECT_EQ(names.size(), 70);
+    EXPECT_EQ(addresses.size(), 70);
+    EXPECT_EQ(addressSum, 121352) << "a register is mistyped";
+}
+
+TEST(Catalogue, ConvertsByTheUnevenScalings)
+{
+    const struct
+    {
+        const char *name;
+        double deviceValue;
+        double displayValue;
+    } cases[] = {
+        {"TRA1", 1500, 1.5}, {"TRA2", 1024, 100}, {"PFF", 1024, 100}, {"FOC", 50, 3},         {"CAO", 16384, 100},
+        {"MPC", 100, 200},   {"AXS", 100000, 1},  {"FFT", 2500, 1},   {"CM", 1, 0},           {"CM", 3, 2},
+        {"FOV", 6000, 60},   {"FUV", 1200, 12},   {"MMC", 5000, 5},   {"MCC", 2500, 2.5},     {"MR", 1200, 1.2},
+        {"ML", 800, 0.8},    {"HMT", 1000, 1},    {"BED", 250, 0.25}, {"BER", 250, 0.25},     {"BDD", 7, 7},
+        {"KVP", 300, 300},   {"CVL", 1000, 1000}, {"HOMING", 5, 5},   {"overrideVal3", 9, 9},
+    };
+    const Parameters list = driveParameterCatalogue();
+    for (const auto &c : cases) {
+        const SingleParam p = list.getParam(QString::fromLatin1(c.name));
+        EXPECT_NEAR(p.convertToGUIScale(c.deviceValue), c.displayValue, 1e-9) << c.name;
+        EXPECT_EQ(p.convertToDeviceScale(c.displayValue), c.deviceValue) << c.name;
+    }
+}
+
+TEST(Catalogue, NeverWritesWhatIdentifiesTheDrive)
+{
+    const Parameters list = driveParameterCatalogue();
+    QStringList readOnly, withoutAux;
+    for (int i = 0; i < list.getParamCount(); ++i) {
+        const SingleParam p = list.getParam(i);
+        if (p.readonly)
+            readOnly.append(p.name);
+        if (!p.auxFlag)
+            withoutAux.append(p.name);
+    }
+    EXPECT_EQ(readOnly.join(' '), "TCFWVER FWVER HWTYPE HWSERIAL BUILDREVISION UID PIF");
+    EXPECT_EQ(withoutAux.join(' '), "FLAGS PIF");
+}
+
+TEST(Catalogue, KnowsWhatEachFamilyLacks)
+{
+    EXPECT_EQ(namesUnsupportedBy("TORVA").join(' '), "BUILDREVISION CEI UID ZBO TRF1 TRF2 TRA1 TRA2");
+    EXPECT_EQ(namesUnsupportedBy("KETA").join(' '), "FWVER TRF1 TRF2 TRA1 TRA2");
+    EXPECT_EQ(namesUnsupportedBy("KETA HC").join(' '), "FWVER TRF1 TRF2 TRA1 TRA2");
+    EXPECT_EQ(namesUnsupportedBy("KETA Pro").join(' '), "FWVER");
+}
+
+TEST(Catalogue, NamesTheContainersThatHideWithAParameter)
+{
+    const Parameters list = driveParameterCatalogue();
+    QStringList groups;
+    for (int i = 0; i < list.getParamCount(); ++i) {
+        if (!list.getParam(i).group.isEmpty())
+            groups.append(list.getParam(i).name + '=' + list.getParam(i).group);
+    }
+    EXPECT_EQ(groups.join(' '), "FWVER=IOFWVERGROUP BUILDREVISION=BUILDREVGROUP CEI=ELMODE");
+}

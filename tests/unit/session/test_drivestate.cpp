@@ -1,0 +1,158 @@
+#include "drivestate.h"
+#include "parameters.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+DriveState wanting(bool debugValues, int watchedAddress, bool firmwareUpgradeMode = false)
+{
+    DriveState state;
+    state.debugValuesShown = debugValues;
+    state.watchedAddress = watchedAddress;
+    state.firmwareUpgradeMode = firmwareUpgradeMode;
+    return state;
+}
+
+const QVector<int> alwaysRead = {552, 553, 2533, 950, 951, 952, 953, 954, 955, 956,
+                                 957, 958, 959,  960, 961, 962, 963, 964, 965, 5011};
+const QVector<int> debugRegisters = {971, 972, 973, 974, 975, 976};
+
+SingleParam named(const char *name, double value)
+{
+    SingleParam p;
+    p.name = name;
+    p.value = value;
+    return p;
+}
+
+} // namespace
+
+TEST(StatusPoll, ReadsDebugValuesAndWatchedRegisterOnlyWhenWanted)
+{
+    EXPECT_EQ(StatusPoll(wanting(false, 0)).registers(), alwaysRead);
+    EXPECT_EQ(StatusPoll(wanting(true, 0)).registers(), alwaysRead + debugRegisters);
+    EXPECT_EQ(StatusPoll(wanting(false, 202)).registers(), alwaysRead + QVector<int>{202});
+    EXPECT_EQ(StatusPoll(wanting(true, 202)).registers(), alwaysRead + debugRegisters + QVector<int>{202});
+    EXPECT_EQ(StatusPoll(wanting(true, 202, true)).registers(), QVector<int>{552});
+}
+
+TEST(StatusPoll, FillsOneReplyExactlyWithEverythingOn)
+{
+    // A reply carries 120 bytes, a request as well; the first item may still be answered in the longest form.
+    const QVector<QueueItem> items = StatusPoll(wanting(true, 202)).items();
+    EXPECT_EQ(items.size() * 4, 120);
+    int requestBytes = 0;
+    for (const QueueItem &item : items)
+        requestBytes += item.kind == QueueItem::Address ? 2 : item.kind == QueueItem::Value24 ? 3 : 4;
+    EXPECT_LE(requestBytes, 120);
+}
+
+TEST(StatusPoll, WalksTheReturnSelector)
+{
+    const QVector<QueueItem> expected = {
+        {QueueItem::Address, 10}, {QueueItem::Value24, 0}, {QueueItem::Address, 9}, {QueueItem::Value24, 552}};
+    EXPECT_EQ(StatusPoll(wanting(true, 202, true)).items(), expected);
+    EXPECT_EQ(StatusPoll(wanting(false, 202)).items().mid(0, 4), expected);
+    EXPECT_EQ(StatusPoll(wanting(false, 202)).items().last(), (QueueItem{QueueItem::Value24, 202}));
+}
+
+TEST(StatusPoll, StoresEveryReturnValueInItsUnit)
+{
+    const QVector<qint32> returned = {
+        77,   88,   99, // what the set-up items return is not ours
+        2,    24,   1,    4800, -280, 41,    1500, 3, -12, 123456,
+        -7,   2500, -125, 3300, 1650, 65535, 31,   5, 6,   4, // ... 965, scope state
+        11,   12,   13,   14,   15,   16,                     // debug values
+        -300,                                                 // watched
+    };
+    DriveState state = wanting(true, 202);
+    const StatusPoll poll(state);
+    state.watchedAddress = 415; // chosen while the poll was on the line
+    ASSERT_TRUE(poll.store(returned, state));
+
+    EXPECT_EQ(state.faultRegister, 2);
+    EXPECT_EQ(state.statusRegister, 24);
+    EXPECT_EQ(state.softEnable, 1);
+    EXPECT_DOUBLE_EQ(state.busVoltage, 48.0);
+    EXPECT_DOUBLE_EQ(state.outputCurrent, -0.5);
+    EXPECT_DOUBLE_EQ(state.deviceTemperature, 41.0);
+    EXPECT_DOUBLE_EQ(state.actualCurrentLimit, 1.5);
+    EXPECT_EQ(state.lastLimitReason, 3);
+    EXPECT_EQ(state.rawVelocity, -12);
+    EXPECT_EQ(state.position, 123456);
+    EXPECT_EQ(state.setpoint, -7);
+    EXPECT_DOUBLE_EQ(state.analogIn1, 2.5);
+    EXPECT_DOUBLE_EQ(state.analogIn2, -0.125);
+    EXPECT_DOUBLE_EQ(state.analogEncoderA, 3.3);
+    EXPECT_DOUBLE_EQ(state.analogEncoderB, 1.65);
+    EXPECT_EQ(state.digitalInputs, 65535);
+    EXPECT_EQ(state.controlInputs, 31);
+    EXPECT_EQ(state.faultLocation1, 5);
+    EXPECT_EQ(state.faultLocation2, 6);
+    EXPECT_EQ(state.scopeState, 4);
+    EXPECT_EQ(state.debugValues, (std::array<qint32, 6>{11, 12, 13, 14, 15, 16}));
+    EXPECT_EQ(state.watchedValue, -300);
+    EXPECT_EQ(state.watchedAddress, 202) << "the value must stand beside the register it came from";
+}
+
+TEST(StatusPoll, TakesTheWatchedValueAlsoWithoutDebugValues)
+{
+    DriveState state = wanting(false, 202);
+    QVector<qint32> returned(3 + 20, 0);
+    returned.append(4711);
+    ASSERT_TRUE(StatusPoll(state).store(returned, state));
+    EXPECT_EQ(state.watchedValue, 4711);
+    EXPECT_EQ(state.debugValues, (std::array<qint32, 6>{}));
+}
+
+TEST(StatusPoll, InFirmwareUpgradeModeChangesTheFaultsOnly)
+{
+    DriveState state = wanting(false, 0, true);
+    state.statusRegister = 8;
+    ASSERT_TRUE(StatusPoll(state).store({0, 0, 0, 0x120}, state));
+    EXPECT_EQ(state.faultRegister, 0x120);
+    EXPECT_EQ(state.statusRegister, 8);
+}
+
+TEST(StatusPoll, RefusesAnotherNumberOfValuesUntouched)
+{
+    DriveState state = wanting(false, 0);
+    const StatusPoll poll(state);
+    for (int count : {0, 3, 22, 24, 30}) {
+        EXPECT_FALSE(poll.store(QVector<qint32>(count, 1), state)) << count;
+        EXPECT_EQ(state.faultRegister, 0) << count;
+    }
+}
+
+TEST(DriveState, WordsTheLimitReasons)
+{
+    EXPECT_EQ(limitReasonText(0), "None");
+    EXPECT_EQ(limitReasonText(1), "Peak current [MMC]");
+    EXPECT_EQ(limitReasonText(2), "Continuous current [MCC]");
+    EXPECT_EQ(limitReasonText(3), "Motor thermal model [MTC]");
+    EXPECT_EQ(limitReasonText(4), "Drive temperature");
+    EXPECT_EQ(limitReasonText(5), "Supply voltage");
+    EXPECT_EQ(limitReasonText(6), "Unknown (6)");
+    EXPECT_EQ(limitReasonText(-1), "Unknown (-1)");
+}
+
+TEST(DriveState, TakesTheLimitSwitchSettingByEitherName)
+{
+    Parameters list;
+    DriveState state;
+    state.limitSwitchFunction = 9;
+    takeWordingSettings(list, state);
+    EXPECT_EQ(state.limitSwitchFunction, 0.0);
+    EXPECT_EQ(state.feedbackResolution, 0.0);
+
+    list.addParameter(named("LSF", 3));
+    list.addParameter(named("FBR", 2048));
+    takeWordingSettings(list, state);
+    EXPECT_EQ(state.limitSwitchFunction, 3.0);
+    EXPECT_EQ(state.feedbackResolution, 2048.0);
+
+    list.addParameter(named("LFS", 1));
+    takeWordingSettings(list, state);
+    EXPECT_EQ(state.limitSwitchFunction, 1.0);
+}

@@ -1,0 +1,149 @@
+#include "scopechannels.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+QList<CaptureData> channelsWith(std::initializer_list<int> enabled)
+{
+    QList<CaptureData> channels = scopeChannels();
+    for (int i : enabled)
+        channels[i].enabled = true;
+    return channels;
+}
+
+const int torqueSetpoint = 0, velocitySetpoint = 2, positionAchieved = 5, busVoltage = 8, pwm1 = 9, fluxVoltage = 15;
+
+} // namespace
+
+TEST(ScopeChannels, AreSixteenDisabledAndEmpty)
+{
+    const QList<CaptureData> channels = scopeChannels();
+    ASSERT_EQ(channels.size(), 16);
+    const char *const keys[] = {"torqueref", "torquemeas", "velreference", "velmeas",    "posreference", "posmeas",
+                                "posferror", "outputvolt", "hvbusvolt",    "pwm1",       "pwm2",         "pwm3",
+                                "debug",     "debug2",     "fluxcurrent",  "fluxvoltage"};
+    const quint32 bits[] = {0x2,   0x4,     0x8,     0x10,    0x20,    0x40,     0x80,     0x100,
+                            0x200, 0x10000, 0x20000, 0x40000, 0x80000, 0x100000, 0x800000, 0x1000000};
+    for (int i = 0; i < 16; ++i) {
+        EXPECT_EQ(channels[i].key, keys[i]);
+        EXPECT_EQ(channels[i].sourceBit, bits[i]) << keys[i];
+        EXPECT_EQ(channels[i].isUnsigned, i == busVoltage) << keys[i];
+        EXPECT_FALSE(channels[i].enabled) << keys[i];
+        EXPECT_TRUE(channels[i].samples.isEmpty()) << keys[i];
+    }
+    EXPECT_EQ(channels[torqueSetpoint].name, "Torque setpoint [A]");
+    EXPECT_EQ(channels[14].group, "Torque") << "the flux current shares the axis of the torque";
+    EXPECT_EQ(channels[6].group, "PositionFerror");
+}
+
+TEST(ScopeChannels, ScaleVoltageAndPwmPercentDifferently)
+{
+    const QList<CaptureData> channels = scopeChannels();
+    EXPECT_DOUBLE_EQ(channels[7].scale, 0.0061038881767686);
+    EXPECT_DOUBLE_EQ(channels[fluxVoltage].scale, 0.0061038881767686);
+    EXPECT_EQ(channels[pwm1].scale, 0.006103515625);
+    EXPECT_DOUBLE_EQ(channels[torqueSetpoint].scale * 560, 1.0);
+    EXPECT_DOUBLE_EQ(channels[14].scale * 560, 1.0);
+    EXPECT_EQ(channels[busVoltage].scale, 0.01);
+}
+
+TEST(ScopeChannels, SelectionShorterThanTheListKeepsTheRestUncounted)
+{
+    QList<CaptureData> channels = channelsWith({0, fluxVoltage});
+    EXPECT_EQ(selectScopeChannels(channels, {false, true, true}), 2);
+    EXPECT_FALSE(channels[0].enabled);
+    EXPECT_TRUE(channels[1].enabled);
+    EXPECT_TRUE(channels[fluxVoltage].enabled);
+    EXPECT_EQ(scopeSourceMask(channels), 0x1000000u + 0x4u + 0x8u);
+
+    QList<bool> tooMany;
+    for (int i = 0; i < 20; ++i)
+        tooMany.append(true);
+    EXPECT_EQ(selectScopeChannels(channels, tooMany), 16);
+    EXPECT_EQ(selectScopeChannels(channels, {}), 0);
+}
+
+TEST(ScopeRates, DividersOfTheOfferedRates)
+{
+    const struct
+    {
+        double rate;
+        int torva, keta;
+    } cases[] = {{17500, 0, 0},  {10000, 1, 1}, {5000, 3, 3},  {2500, 6, 7},
+                 {1250, 13, 15}, {500, 34, 39}, {250, 69, 79}, {100, 174, 199}};
+    for (const auto &c : cases) {
+        EXPECT_EQ(scopeDivider(17500.0, c.rate), c.torva) << c.rate;
+        EXPECT_EQ(scopeDivider(20000.0, c.rate), c.keta) << c.rate;
+    }
+    EXPECT_DOUBLE_EQ(scopeSamplePeriod(17500.0, 1), 2.0 / 17500.0);
+    EXPECT_DOUBLE_EQ(scopeSamplePeriod(20000.0, 0), 1.0 / 20000.0);
+}
+
+TEST(ScopeRates, ImpossibleRatesStayWithinWhatTheDriveTakes)
+{
+    for (double rate : {1e9, 40000.0, 0.0, -5.0})
+        EXPECT_EQ(scopeDivider(17500.0, rate), 0) << rate;
+    EXPECT_EQ(scopeDivider(17500.0, 1e-12), 536870911);
+}
+
+TEST(ScopeDownload, BeginsWithTheFiveSetUpItems)
+{
+    const std::array<QueueItem, 5> expected = {{{QueueItem::Address, 10},
+                                                {QueueItem::Value24, 1},
+                                                {QueueItem::Address, 9},
+                                                {QueueItem::Value24, 5334},
+                                                {QueueItem::Address, 5333}}};
+    EXPECT_EQ(scopeDownloadSetUp, expected);
+}
+
+TEST(ScopeDownload, DealsTheWordsOutToTheEnabledChannels)
+{
+    // Every word is its own index, so that each sample shows where it came from.
+    QList<CaptureData> channels = channelsWith({velocitySetpoint, positionAchieved, busVoltage});
+    for (int i = 0; i < scopeWordCount; ++i)
+        storeCaptureSample(channels, i, static_cast<qint16>(i), 0.5);
+    ASSERT_EQ(channels[velocitySetpoint].samples.size(), 667);
+    ASSERT_EQ(channels[positionAchieved].samples.size(), 667);
+    ASSERT_EQ(channels[busVoltage].samples.size(), 666);
+    EXPECT_TRUE(channels[torqueSetpoint].samples.isEmpty());
+    for (int k : {0, 1, 333, 665}) {
+        EXPECT_EQ(channels[velocitySetpoint].samples[k], qMakePair(k * 0.5, 3.0 * k));
+        EXPECT_EQ(channels[positionAchieved].samples[k], qMakePair(k * 0.5, 3.0 * k + 1));
+        EXPECT_DOUBLE_EQ(channels[busVoltage].samples[k].second, (3.0 * k + 2) * 0.01);
+    }
+}
+
+TEST(ScopeDownload, SixteenChannelsAndOneChannelShareTheWordsEvenly)
+{
+    QList<CaptureData> all = channelsWith({0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15});
+    QList<CaptureData> one = channelsWith({12});
+    for (int i = 0; i < scopeWordCount; ++i) {
+        storeCaptureSample(all, i, 1, 1.0 / 20000.0);
+        storeCaptureSample(one, i, 1, 1.0 / 17500.0);
+    }
+    for (const CaptureData &channel : qAsConst(all)) {
+        ASSERT_EQ(channel.samples.size(), 125) << channel.key.toStdString();
+        EXPECT_DOUBLE_EQ(channel.samples[124].first, 124.0 / 20000.0);
+    }
+    ASSERT_EQ(one[12].samples.size(), 2000);
+    EXPECT_DOUBLE_EQ(one[12].samples.last().first, 1999.0 / 17500.0);
+}
+
+TEST(ScopeDownload, OnlyTheBusVoltageIsUnsigned)
+{
+    for (int i = 0; i < 16; ++i) {
+        QList<CaptureData> channels = channelsWith({i});
+        storeCaptureSample(channels, 0, static_cast<qint16>(0xFFFF), 1.0);
+        const double expected = i == busVoltage ? 655.35 : -channels[i].scale;
+        EXPECT_DOUBLE_EQ(channels[i].samples[0].second, expected) << i;
+    }
+}
+
+TEST(ScopeDownload, WithoutAChannelNothingHappens)
+{
+    QList<CaptureData> channels = scopeChannels();
+    storeCaptureSample(channels, 5, 1, 1.0);
+    for (const CaptureData &channel : qAsConst(channels))
+        EXPECT_TRUE(channel.samples.isEmpty());
+}
