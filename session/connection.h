@@ -11,7 +11,10 @@
 #include <QMetaType>
 #include <QString>
 #include <QThread>
+#include <functional>
 #include <memory>
+
+struct TaskRequest;
 
 /// One drive found by a bus scan.
 struct NodeType
@@ -151,9 +154,19 @@ signals:
     void busy(bool busy, bool nonBlocking);
     void setUnsavedState();
     void controlModeChanged(int mode);
+    /// A disable was sent; whether the drive answered it. What it did about it shows in the next enableStatePolled.
+    void disableAnswered(bool acknowledged);
+    /// Enable state in a status poll of a drive in normal mode.
+    void enableStatePolled(bool enabled);
 
 protected:
     void run() override;
+
+private:
+    void queue(int task, const std::function<void(TaskRequest &)> &store = {});
+
+    struct Private;
+    std::unique_ptr<Private> d;
 };
 
 #endif

@@ -1,0 +1,123 @@
+#include "busline.h"
+
+namespace {
+constexpr long minWriteValue = -(1L << 29);
+constexpr long maxWriteValue = (1L << 29) - 1;
+constexpr int registerBits = 0x3FFF;
+
+bool isFailure(ZbStatus status)
+{
+    return (status & ~ZB_OK) != 0;
+}
+} // namespace
+
+bool BusLine::open(const QString &portName, int timeoutMs)
+{
+    close();
+    m_status = 0;
+    m_appended = 0;
+    m_failures = 0;
+    zbSetTimeout(static_cast<std::uint16_t>(timeoutMs));
+    m_handle = zbOpenBus(portName.toLocal8Bit().constData());
+    if (isOpen())
+        zbResetZB485variables(m_handle);
+    return isOpen();
+}
+
+void BusLine::close()
+{
+    if (isOpen())
+        zbCloseBus(m_handle);
+    m_handle = -1;
+}
+
+ZbStatus BusLine::record(ZbStatus status)
+{
+    m_status |= status;
+    return status;
+}
+
+ZbStatus BusLine::recordAppend(ZbStatus status)
+{
+    m_appended |= status;
+    return record(status);
+}
+
+ZbStatus BusLine::append(const QueueItem &item)
+{
+    return recordAppend(zbAppendZBCommandToQueue(m_handle, item.kind, item.value));
+}
+
+ZbStatus BusLine::appendRead(int address)
+{
+    return recordAppend(zbAppendGetParamCommandToQueue(m_handle, static_cast<std::int16_t>(address)));
+}
+
+ZbStatus BusLine::appendWrite(int address, long value)
+{
+    // The bits that an item has no room for would be cut off: another register or value than was asked for.
+    if (value < minWriteValue || value > maxWriteValue || (address & ~registerBits) != 0)
+        return recordAppend(ZB_ERR_PARAMETER);
+    return recordAppend(zbAppendSetParamCommandToQueue(m_handle, static_cast<std::int16_t>(address), value));
+}
+
+ZbStatus BusLine::execute()
+{
+    return exchange(zbExecuteCommandQueue);
+}
+
+ZbStatus BusLine::upload()
+{
+    return exchange(zbUploadCommandQueueToDeviceBuffer);
+}
+
+ZbStatus BusLine::exchange(ZbStatus (*roundTrip)(ZbHandle, std::uint8_t))
+{
+    const ZbStatus appended = m_appended;
+    m_appended = 0;
+    if (isFailure(appended) || isDead()) {
+        zbResetZB485variables(m_handle);
+        return record(isFailure(appended) ? appended : ZB_ERR_COMMUNICATION);
+    }
+    zbDiscardInput(m_handle);
+    const ZbStatus status = record(roundTrip(m_handle, m_node));
+    m_failures = isFailure(status) ? m_failures + 1 : 0;
+    // A failed send leaves its items queued; they would go out in front of the next batch.
+    if (isFailure(status))
+        zbResetZB485variables(m_handle);
+    return status;
+}
+
+ZbStatus BusLine::fetch(long *value)
+{
+    return record(zbGetQueuedZBCommandReturnValue(m_handle, value));
+}
+
+ZbStatus BusLine::fetchRead(long *value)
+{
+    return record(zbGetQueuedGetParamReturnValue(m_handle, value));
+}
+
+ZbStatus BusLine::fetchWrite()
+{
+    long ignored = 0;
+    return record(zbGetQueuedSetParamReturnValue(m_handle, &ignored));
+}
+
+ZbStatus BusLine::finishReply()
+{
+    return record(bytesLeft() > 0 ? ZB_ERR_LENGTH : ZB_OK);
+}
+
+int BusLine::bytesLeft() const
+{
+    int count = 0;
+    zbBytesReceived(m_handle, &count);
+    return count;
+}
+
+ZbStatus BusLine::readBufferClock()
+{
+    std::uint16_t clock = 0;
+    return record(zbGetBufferClock(m_handle, m_node, &clock));
+}

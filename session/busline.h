@@ -1,0 +1,73 @@
+/// \file
+/// The session's end of the bus: one open bus handle, the address it talks to, and what went wrong on it.
+#ifndef BUSLINE_H
+#define BUSLINE_H
+
+#include "queueitem.h"
+#include "zetabus.h"
+
+#include <QString>
+
+/// Worker thread only. Work is batched as the bus library does it: append, execute, fetch the return values in order.
+/// Every status is ORed into an accumulated status, which is a success only while it is 0 or ZB_OK.
+class BusLine
+{
+public:
+    ~BusLine() { close(); }
+
+    /// Opens the bus with a read time-out in ms and starts clean: a reused handle still holds what its last user left
+    /// in its queue. False when there is no such port, no permission, or it is in use.
+    bool open(const QString &portName, int timeoutMs);
+    void close();
+    bool isOpen() const { return m_handle >= 0; }
+    int handle() const { return m_handle; }
+
+    void setNodeAddress(int address) { m_node = static_cast<std::uint8_t>(address); }
+
+    ZbStatus status() const { return m_status; }
+    void clearStatus() { m_status = 0; }
+
+    /// Forgets the exchanges that went unanswered.
+    void startTask() { m_failures = 0; }
+    /// Three exchanges in a row without a good reply. From then on nothing is sent until the next task: 57 writes to a
+    /// dead line would take a minute.
+    bool isDead() const { return m_failures >= maxFailures; }
+    bool lastExchangeFailed() const { return m_failures > 0; }
+
+    /// Each returns its own status. An item that does not fit, or a register or value with more bits than a write item
+    /// carries, spoils the whole batch: `execute` then sends nothing and reports it.
+    ZbStatus append(const QueueItem &item);
+    ZbStatus appendRead(int address);
+    ZbStatus appendWrite(int address, long value);
+
+    /// Sends the batch and receives its reply. What is left on the line is dropped first: a late reply must not answer
+    /// the next request.
+    ZbStatus execute();
+    /// The same for timed execution from the drive's command buffer.
+    ZbStatus upload();
+
+    ZbStatus fetch(long *value);
+    ZbStatus fetchRead(long *value);
+    ZbStatus fetchWrite();
+    /// Ends the decoding of a reply: bytes that are left over make it the reply to something else, a failure.
+    ZbStatus finishReply();
+    /// Undecoded bytes of the last reply.
+    int bytesLeft() const;
+
+    ZbStatus readBufferClock();
+
+private:
+    static constexpr int maxFailures = 3;
+
+    ZbStatus record(ZbStatus status);
+    ZbStatus recordAppend(ZbStatus status);
+    ZbStatus exchange(ZbStatus (*roundTrip)(ZbHandle, std::uint8_t));
+
+    ZbHandle m_handle = -1;
+    std::uint8_t m_node = 0;
+    ZbStatus m_status = 0;
+    ZbStatus m_appended = 0; ///< OR of the appends of the batch that is being built
+    int m_failures = 0;
+};
+
+#endif

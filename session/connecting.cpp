@@ -1,0 +1,170 @@
+// Connecting, disconnecting and searching the bus.
+#include "sessionregisters.h"
+#include "sessionworker.h"
+
+#include <QElapsedTimer>
+
+namespace {
+constexpr int driveTimeoutMs = 1000;
+constexpr int scanTimeoutMs = 100; // what a silent address costs
+constexpr int lastScannedNode = 20;
+constexpr int firstUpgradeNode = 251;
+constexpr int lastNode = 255;
+constexpr int upgradeNode = 255; // a drive in firmware-upgrade mode, whatever its own address is
+
+/// Bus addresses in the order of the scan.
+QList<int> scanAddresses()
+{
+    QList<int> result;
+    for (int address = 1; address <= lastScannedNode; ++address)
+        result << address;
+    for (int address = firstUpgradeNode; address <= lastNode; ++address)
+        result << address;
+    return result;
+}
+} // namespace
+
+bool SessionWorker::openLine(const QString &portName, int timeoutMs)
+{
+    if (m_line.open(portName, timeoutMs))
+        return true;
+    qCDebug(sessionLog, "connect failed");
+    emit m_session.statusChanged(false, Connection::tr("Connect failed"));
+    emit m_session.error(Connection::tr("Unable to connect. Possibly incompatible COM adapter selected or device is "
+                                        "already used by another application"));
+    return false;
+}
+
+void SessionWorker::resetDriveState()
+{
+    m_deviceErrors = 0;
+    m_state = DriveState();
+    m_polled = false;
+    m_permanentStop = false;
+    m_setpointAnnounced = false;
+    m_capturePending = false;
+    m_streamStarted = false;
+    m_data.positionFeedback = 0;
+    std::lock_guard<std::mutex> lock(m_data.mutex);
+    m_data.stimulus.stop();
+    // A forced enable is for the drive it was asked for.
+    m_data.wanted.forceEnable = false;
+}
+
+void SessionWorker::connectDrive(const TaskRequest &request)
+{
+    if (isConnected())
+        disconnectDrive(request);
+    qCDebug(sessionLog) << "connecting" << request.portName;
+    resetDriveState();
+    if (!openLine(request.portName, driveTimeoutMs))
+        return;
+    qCDebug(sessionLog) << "connected" << m_line.handle();
+    m_line.setNodeAddress(request.nodeAddress);
+    if (!identify(request.nodeAddress)) {
+        m_line.close();
+        m_data.firmwareUpgradeMode = false;
+        return;
+    }
+    m_data.connected = true;
+    emit m_session.statusChanged(true, Connection::tr("Connected"));
+    emit m_session.updateCaptureButtonText(Connection::tr("Start capture"));
+    if (inFirmwareUpgradeMode())
+        announceFirmwareUpgradeMode();
+    else
+        setParameter(reg::BusWatchdog, 0);
+}
+
+void SessionWorker::refuse(const QString &statusText, const QString &errorText)
+{
+    // First, since the window asks about capabilities when it hears of the refusal.
+    m_data.deviceType = 0;
+    m_line.clearStatus();
+    emit m_session.statusChanged(false, statusText.isEmpty() ? Connection::tr("Connect failed") : statusText);
+    emit m_session.error(errorText);
+}
+
+void SessionWorker::announceFirmwareUpgradeMode()
+{
+    long faults = 0;
+    readParameters(reg::FaultRegister, faults);
+    const QString welcome = Connection::tr(
+        "Connected to device in firmware upgrade mode (bootloader version %1). To begin upgrading, select file from "
+        "the "
+        "button below. Upgrading starts immediately after file opened.<br><br> <b>Backup</b> your settings before "
+        "upgrade as all parameters will be reset to defaults!<br><br><b>Ensure</b> that you have a firmware file "
+        "designed for your hardware type and version!");
+    emit m_session.firmwareUpgradeMsg(welcome.arg(m_firmwareVersion), false, false);
+    if (faults == 0)
+        return;
+    const QString note = Connection::tr(
+        "<br><b>Note:</b> The device seem to have some fault bits active (%1 hex%2). This could mean that the last "
+        "upgrade of firmware has failed, or internal memory of device has corrupted. If this happens randomly, check "
+        "voltage supply stability and EMI noise. You may continue FW upgrade normally.");
+    const QString cause = faults == reg::FaultUpgradeInterrupted
+                              ? Connection::tr(" = chip firmware memory checksum mismatch")
+                              : QString();
+    emit m_session.firmwareUpgradeMsg(note.arg(QString::number(faults, 16), cause), false, false);
+}
+
+void SessionWorker::disconnectDrive(const TaskRequest &)
+{
+    if (!isConnected())
+        return;
+    // Closing has five seconds in all; a line that has just failed is not worth another time-out then.
+    const bool skipFarewell = m_queue.isClosing() && m_line.lastExchangeFailed();
+    m_line.startTask();
+    // Not by setParameter: the end of a connection is no place for another error text.
+    if (!inFirmwareUpgradeMode() && !skipFarewell)
+        writeAndFetch(reg::BusWatchdog, 0);
+    qCDebug(sessionLog) << "disconnecting" << m_line.handle();
+    m_line.close();
+    m_line.clearStatus();
+    m_data.connected = false;
+    m_data.firmwareUpgradeMode = false;
+    m_data.deviceType = 0;
+    resetDriveState();
+    {
+        std::lock_guard<std::mutex> lock(m_data.mutex);
+        SingleParam type = m_data.wanted.parameters.getParam(QStringLiteral("HWTYPE"));
+        // The address stays: a record without it could not be read at the next connection.
+        type.value = type.min = type.max = 0.0;
+        m_data.wanted.parameters.replaceParam(type);
+    }
+    emit m_session.statusChanged(false, Connection::tr("Disconnected"));
+}
+
+void SessionWorker::scanBus(const TaskRequest &request)
+{
+    if (isConnected() || !openLine(request.portName, scanTimeoutMs))
+        return;
+    emit m_session.busy(true, true);
+    QList<NodeType> nodes;
+    int noisyAddresses = 0;
+    for (int address : scanAddresses()) {
+        if (m_queue.isClosing() || noisyAddresses >= 3)
+            break;
+        QElapsedTimer timer;
+        timer.start();
+        m_line.startTask(); // silence is normal here
+        m_line.clearStatus();
+        m_line.setNodeAddress(address);
+        long type = 0;
+        long mode = 0;
+        readParameters(reg::DeviceType, type, reg::OperatingMode, mode);
+        if (m_line.status() == ZB_OK)
+            nodes << NodeType{address, address >= firstUpgradeNode || mode == 0, static_cast<int>(type)};
+        // A line that babbles instead of being silent costs seconds an address, and would go on doing so.
+        noisyAddresses = timer.elapsed() > 10 * scanTimeoutMs ? noisyAddresses + 1 : 0;
+    }
+    m_line.close();
+    m_line.clearStatus();
+    emit m_session.busy(false, true);
+    if (noisyAddresses >= 3) {
+        emit m_session.statusChanged(false, Connection::tr("Connect failed"));
+        emit m_session.error(Connection::tr("The bus is never quiet, so no drive can be found on it. Check the wiring "
+                                            "and that the port belongs to a Zetabus adapter."));
+        return;
+    }
+    emit m_session.availableBusNodes(nodes);
+}

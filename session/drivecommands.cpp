@@ -1,0 +1,115 @@
+// Commands to the drive that are a write or two, and the pauses that some of them need.
+#include "makerlinks.h"
+#include "sessionregisters.h"
+#include "sessionworker.h"
+
+namespace {
+constexpr int restartPauseMs = 3500;
+constexpr int measurePauseMs = 8000;
+constexpr int lowestCoreThatMeasures = 1060;
+} // namespace
+
+void SessionWorker::clearFaults(const TaskRequest &)
+{
+    qCDebug(sessionLog, "clearfaults");
+    writeAndFetch(reg::FaultRegister, 0);
+}
+
+void SessionWorker::applyEnableState(const TaskRequest &request)
+{
+    writeAndFetch(reg::SoftEnable, request.enable ? 1 : 0);
+    if (request.forceEnable)
+        writeAndFetch(reg::ForceEnable, reg::ForceEnableKey);
+    if (!request.enable) {
+        emit m_session.disableAnswered(!m_line.lastExchangeFailed());
+        // Whoever pressed it wants to see soon whether it took effect.
+        if (!m_queue.contains(Connection::TaskUpdateStatus))
+            m_queue.push(Connection::TaskUpdateStatus);
+    }
+}
+
+void SessionWorker::saveToFlash(const TaskRequest &)
+{
+    writeAndFetch(reg::SystemCommand, reg::CommandSaveToFlash);
+}
+
+void SessionWorker::startHoming(const TaskRequest &)
+{
+    writeAndFetch(reg::Homing, 1);
+}
+
+void SessionWorker::abortHoming(const TaskRequest &)
+{
+    writeAndFetch(reg::Homing, 0);
+}
+
+void SessionWorker::stopStimulus(const TaskRequest &)
+{
+    writeAndFetch(reg::SystemCommand, reg::CommandStopStream);
+}
+
+void SessionWorker::setAbsoluteSetpoint(const TaskRequest &request)
+{
+    setParameter(reg::AbsoluteSetpoint, request.setpoint);
+}
+
+void SessionWorker::setIncrementalSetpoint(const TaskRequest &request)
+{
+    setParameter(reg::IncrementalSetpoint, request.setpoint);
+}
+
+void SessionWorker::setZero(const TaskRequest &)
+{
+    setParameter(reg::SystemCommand, reg::CommandSetZero);
+    checkZBErrors();
+    reportErrors();
+    connectionUpdate();
+}
+
+void SessionWorker::restartDrive(const TaskRequest &)
+{
+    emit m_session.busy(true, true);
+    writeAndFetch(reg::SystemCommand, reg::CommandRestart);
+    pause(restartPauseMs);
+    emit m_session.busy(false, true);
+}
+
+void SessionWorker::restartToDFU(const TaskRequest &)
+{
+    restartToDFUMode();
+}
+
+void SessionWorker::restartToDFUMode()
+{
+    writeAndFetch(reg::SystemCommand, reg::CommandRestartToDFU);
+    pause(restartPauseMs);
+}
+
+void SessionWorker::measure(const TaskRequest &)
+{
+    if (!deviceModelName(m_data.deviceType, false).contains(QLatin1String("KETA"))) {
+        emit m_session.error(Connection::tr("Measure function is available only in KETA drive models"));
+        return;
+    }
+    if (m_coreVersion < lowestCoreThatMeasures) {
+        emit m_session.error(Connection::tr("Measure function requires newer firmware version"));
+        return;
+    }
+    emit m_session.busy(true, false);
+    setParameter(reg::SystemCommand, reg::CommandMeasureMotor);
+    const bool finished = pause(measurePauseMs);
+    long result = 0;
+    if (finished)
+        readParameters(reg::MeasureResult, result);
+    emit m_session.busy(false, false);
+    if (!finished || !statusIsClean())
+        return; // a bad line gets its own message
+    if (result != reg::MeasureSucceeded) {
+        const QString page = makerWikiPage(QStringLiteral("/wiki/Measure_motor_resistance_and_inductance_in_Velbrin"));
+        emit m_session.error(
+            Connection::tr("Measurement failed. Ensure that all required conditions are met. See <i>%1</i>").arg(page));
+        return;
+    }
+    m_queue.push(Connection::TaskGetParams);
+    emit m_session.setUnsavedState();
+}

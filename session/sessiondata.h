@@ -1,0 +1,40 @@
+/// \file
+/// What the threads of a session share: the requests of the setters, and what is known about the drive.
+#ifndef SESSIONDATA_H
+#define SESSIONDATA_H
+
+#include "squarewave.h"
+#include "taskqueue.h"
+
+#include <QLoggingCategory>
+#include <atomic>
+#include <mutex>
+
+/// The session's marker lines. Off unless asked for: QT_LOGGING_RULES="velbrin.session.debug=true".
+Q_DECLARE_LOGGING_CATEGORY(sessionLog)
+
+struct SessionData
+{
+    /// Guards the plain members below it. Held to copy something in or out, never across bus traffic or a file.
+    mutable std::mutex mutex;
+    TaskRequest wanted;              ///< what the setters stored; its `parameters` are the session's list
+    unsigned parameterHandOvers = 0; ///< counts setParams: a read that was overtaken by one leaves the list alone
+    SquareWave stimulus;
+    int watchedParameter = 0;
+    bool debugValuesShown = false;
+
+    std::atomic<bool> connected{false};
+    std::atomic<bool> firmwareUpgradeMode{false};
+    std::atomic<int> deviceType{0};
+    std::atomic<int> positionFeedback{0};
+    std::atomic<float> baseFrequency{17500.0F}; ///< Hz; a drive of an unknown family inherits the last one's
+    std::atomic<double> pauseScale{1.0};
+
+    Parameters parameters() const
+    {
+        std::lock_guard<std::mutex> lock(mutex);
+        return wanted.parameters;
+    }
+};
+
+#endif

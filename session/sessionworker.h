@@ -1,0 +1,122 @@
+/// \file
+/// The worker's side of a session: performs the queued tasks on the bus. Lives on Connection's thread.
+#ifndef SESSIONWORKER_H
+#define SESSIONWORKER_H
+
+#include "busline.h"
+#include "drivestate.h"
+#include "sessiondata.h"
+
+/// One source file a topic: sessionworker.cpp (loop, errors, pauses), connecting.cpp, identification.cpp, transfer.cpp,
+/// statuspoll.cpp, drivecommands.cpp, settingsfiles.cpp. A new task is a row in the table of sessionworker.cpp.
+/// Signals are Connection's, emitted from here.
+class SessionWorker
+{
+public:
+    SessionWorker(Connection &session, SessionData &data, TaskQueue &queue);
+
+    /// Performs tasks until the quit task.
+    void run();
+
+private:
+    using Handler = void (SessionWorker::*)(const TaskRequest &);
+    struct TaskRule;
+    static const TaskRule *ruleOf(int task);
+
+    // --- Loop and what every task may use (sessionworker.cpp) ---
+    void perform(const QueuedTask &entry);
+    void finishTask();
+    void connectionUpdate();
+    bool pause(int milliseconds); ///< false when the session is closing; serves a disable at once
+    bool serveWaitingDisable();   ///< between two exchanges of a long task; true when one was sent
+    void debug() const;
+    void checkZBErrors();
+    /// Text for what has accumulated, empty when nothing did; ends the connection and clears what it words.
+    QString stringifyZBBusErrors(const SingleParam *param = nullptr);
+    void reportErrors(const SingleParam *param = nullptr);
+    void reportWrite(const SingleParam &param); ///< after a write, while the error latch is set
+    bool statusIsClean() const;                 ///< no failure since the last report
+    bool isConnected() const { return m_data.connected; }
+    bool inFirmwareUpgradeMode() const { return m_data.firmwareUpgradeMode; }
+    void doNothing(const TaskRequest &) {}
+    void quit(const TaskRequest &);
+    void checkErrors(const TaskRequest &);
+    void notInThisBuild(const TaskRequest &);
+
+    // --- Connecting (connecting.cpp) ---
+    void connectDrive(const TaskRequest &request);
+    void disconnectDrive(const TaskRequest &);
+    void scanBus(const TaskRequest &request);
+    bool openLine(const QString &portName, int timeoutMs);
+    void resetDriveState();
+    void refuse(const QString &statusText, const QString &errorText);
+    void announceFirmwareUpgradeMode();
+
+    // --- Identification (identification.cpp) ---
+    bool identify(int nodeAddress);
+    bool checkFWversion();
+    bool refuseUncleanLine();
+    void setDeviceSpecificVariables(int typeId);
+    bool isParamAvailableInCurrentDevice(const SingleParam &param) const;
+
+    // --- Parameter transfer (transfer.cpp) ---
+    ZbStatus readParameters(int address1, long &value1);
+    ZbStatus readParameters(int address1, long &value1, int address2, long &value2);
+    ZbStatus readParameters(int address1, long &value1, int address2, long &value2, int address3, long &value3);
+    ZbStatus requestParamStruct(const SingleParam &param);
+    bool fillParamStruct(SingleParam &param);
+    bool readRecord(SingleParam &param);
+    void writeRecord(const SingleParam &param);
+    bool setParameter(int address, long value);
+    void writeAndFetch(int address, long value);
+    void setOverriddenParam(const Parameters &list, unsigned slot);
+    void getParams(const TaskRequest &);
+    void setParams(const TaskRequest &request);
+
+    // --- Status poll (statuspoll.cpp) ---
+    void updateStatus(const TaskRequest &);
+    void announcePoll();
+
+    // --- Commands that are a write or two (drivecommands.cpp) ---
+    void clearFaults(const TaskRequest &);
+    void applyEnableState(const TaskRequest &request);
+    void saveToFlash(const TaskRequest &);
+    void startHoming(const TaskRequest &);
+    void abortHoming(const TaskRequest &);
+    void stopStimulus(const TaskRequest &);
+    void setAbsoluteSetpoint(const TaskRequest &request);
+    void setIncrementalSetpoint(const TaskRequest &request);
+    void setZero(const TaskRequest &);
+    void restartDrive(const TaskRequest &);
+    void restartToDFU(const TaskRequest &);
+    void restartToDFUMode();
+    void measure(const TaskRequest &);
+
+    // --- Settings files (settingsfiles.cpp) ---
+    void saveSettingsFile(const TaskRequest &request);
+    void loadSettingsFile(const TaskRequest &request);
+
+    Connection &m_session;
+    SessionData &m_data;
+    TaskQueue &m_queue;
+    BusLine m_line;
+
+    bool m_quit = false;
+    bool m_errorLatch = false;            ///< set by every error text: from then on each write is checked
+    bool m_communicationReported = false; ///< in this task: one text about the line is enough
+    quint32 m_deviceErrors = 0;           ///< register 13 as last queried
+
+    int m_firmwareVersion = 0; ///< the bootloader's in firmware-upgrade mode
+    int m_coreVersion = 0;
+    int m_controlMode = 0; ///< CM as last read or written
+
+    DriveState m_state;
+    bool m_polled = false;            ///< since connecting
+    bool m_permanentStop = false;     ///< in the last poll
+    bool m_setpointAnnounced = false; ///< since connecting
+    qint32 m_announcedSetpoint = 0;
+    bool m_capturePending = false;
+    bool m_streamStarted = false;
+};
+
+#endif

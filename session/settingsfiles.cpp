@@ -1,0 +1,25 @@
+// Saving the session's parameter list to a settings file, and loading one. Needs no drive.
+#include "sessionworker.h"
+
+void SessionWorker::saveSettingsFile(const TaskRequest &request)
+{
+    const QString message = request.parameters.saveToFile(request.settingsFileName);
+    if (!message.isEmpty())
+        emit m_session.error(message);
+}
+
+void SessionWorker::loadSettingsFile(const TaskRequest &request)
+{
+    // The list as it is now, not as it was when the file was asked for: a full read may have come in between.
+    Parameters list = m_data.parameters();
+    const QString message = list.loadFromFile(request.settingsFileName);
+    if (!message.isEmpty())
+        emit m_session.error(message);
+    if (!message.isEmpty() && !message.startsWith(QLatin1String("Warning")))
+        return;
+    {
+        std::lock_guard<std::mutex> lock(m_data.mutex);
+        m_data.wanted.parameters = list;
+    }
+    emit m_session.parametersRetreived(list, true);
+}
