@@ -31,11 +31,15 @@ void resetReceiveSide(BusState &bus)
     bus.returnReadIndex = 0;
 }
 
+BusState *busRecord(ZbHandle handle)
+{
+    return handle >= 0 && handle < ZB_MAX_BUSES ? &buses[handle] : nullptr;
+}
+
 BusState *openBus(ZbHandle handle)
 {
-    if (handle < 0 || handle >= ZB_MAX_BUSES || !buses[handle].open)
-        return nullptr;
-    return &buses[handle];
+    BusState *bus = busRecord(handle);
+    return bus && bus->open ? bus : nullptr;
 }
 
 void zbBusesInit()

@@ -49,6 +49,9 @@ struct BusState
 /// Closes every record and puts it to its initial values. The first zbOpenBus does this by itself.
 void zbBusesInit();
 
+/// The record of a handle 0-9, open or not, else null.
+BusState *busRecord(ZbHandle handle);
+
 /// The record of an open handle, else null.
 BusState *openBus(ZbHandle handle);
 

@@ -1,0 +1,202 @@
+#include "busfixture.h"
+
+#include <atomic>
+#include <thread>
+
+namespace {
+
+class BadLine : public OnALine
+{
+protected:
+    ZbStatus readOnce()
+    {
+        long ignored = 0;
+        ZbStatus status = zbAppendGetParamCommandToQueue(bus, 6012);
+        status |= zbExecuteCommandQueue(bus, 3);
+        status |= zbGetQueuedGetParamReturnValue(bus, &ignored);
+        line.read(requestSize);
+        return status;
+    }
+
+    // The request was sent whole and the queue is empty, so that the next exchange is a clean one.
+    void expectGoodExchange(const std::string &after)
+    {
+        line.write(reply);
+        EXPECT_EQ(readOnce(), ZB_OK) << "after " << after;
+    }
+
+    static constexpr std::size_t requestSize = 15;
+    static constexpr ZbStatus failedExchange = ZB_OK | ZB_ERR_COMMUNICATION | ZB_ERR_LENGTH;
+    const Bytes reply = {0x25, 0x10, 0x03, 0x00, 0x00, 0x00, 0x00, 0x00, 0x00, 0x00, 0x00,
+                         0x00, 0x00, 0x00, 0x07, 0x00, 0x00, 0x17, 0x84, 0x09, 0x6D};
+};
+
+// Writes to the line until it is told to stop or the line is gone.
+class Babbler
+{
+public:
+    Babbler(int line, Bytes noise, int pauseMs) : m_line(line), m_noise(std::move(noise)), m_pause(pauseMs)
+    {
+        fcntl(line, F_SETFL, fcntl(line, F_GETFL) | O_NONBLOCK); // a full line must not keep it from stopping
+        m_thread = std::thread([this] { babble(); });
+    }
+    ~Babbler()
+    {
+        m_stop = true;
+        m_thread.join();
+    }
+
+private:
+    void babble()
+    {
+        while (!m_stop) {
+            pollfd request = {m_line, POLLOUT, 0};
+            if (poll(&request, 1, 10) > 0 && write(m_line, m_noise.data(), m_noise.size()) < 0 && errno != EAGAIN)
+                return;
+            std::this_thread::sleep_for(m_pause);
+        }
+    }
+
+    int m_line;
+    Bytes m_noise;
+    std::chrono::milliseconds m_pause;
+    std::atomic<bool> m_stop{false};
+    std::thread m_thread;
+};
+
+} // namespace
+
+TEST_F(BadLine, ReplyCutShortAtEveryByteFailsAndTheNextIsTaken)
+{
+    open();
+    for (std::size_t length = 0; length < reply.size(); ++length) {
+        line.write(Bytes(reply.begin(), reply.begin() + static_cast<long>(length)));
+        EXPECT_EQ(readOnce(), failedExchange) << length << " bytes";
+        expectGoodExchange("a reply of " + std::to_string(length) + " bytes");
+    }
+}
+
+TEST_F(BadLine, ReplyWithAnyByteFlippedFailsAndTheNextIsTaken)
+{
+    open();
+    for (std::size_t byte = 0; byte < reply.size(); ++byte) {
+        for (int mask : {0x01, 0x02, 0x04, 0x80, 0xFF}) {
+            Bytes damaged = reply;
+            damaged[byte] ^= static_cast<std::uint8_t>(mask);
+            line.write(damaged);
+            EXPECT_EQ(readOnce(), failedExchange) << "byte " << byte << " xor " << mask;
+            expectGoodExchange("byte " + std::to_string(byte) + " xor " + std::to_string(mask));
+        }
+    }
+}
+
+TEST_F(BadLine, ReplyOf121BytesFailsAndIsDrained)
+{
+    open();
+    Bytes tooLong = {0x25, 121, 3};
+    tooLong.resize(3 + 121, 0xC1);
+    line.write(withChecksum(tooLong));
+    EXPECT_EQ(readOnce(), failedExchange);
+    expectGoodExchange("a reply of 121 bytes");
+}
+
+TEST_F(BadLine, SilenceEndsAfterOneTimeout)
+{
+    open(shortWait);
+    const Stopwatch watch;
+    EXPECT_EQ(readOnce(), failedExchange);
+    EXPECT_GE(watch.elapsed(), 90);
+    EXPECT_LT(watch.elapsed(), 1000);
+    EXPECT_EQ(zbIsLineGone(bus), 0);
+    expectGoodExchange("silence");
+}
+
+TEST_F(BadLine, FullSpeedNoiseEndsWithTheDrainsByteLimit)
+{
+    open(shortWait);
+    const Babbler babbler(line.master(), Bytes(200, 0xFF), 0);
+    const Stopwatch watch;
+    zbAppendGetParamCommandToQueue(bus, 6012);
+    EXPECT_EQ(zbExecuteCommandQueue(bus, 3), ZB_ERR_COMMUNICATION);
+    EXPECT_LT(watch.elapsed(), 1900) << "the bytes end it, not the time";
+    EXPECT_EQ(zbDiscardInput(bus), ZB_OK);
+    EXPECT_LT(watch.elapsed(), 5000);
+}
+
+TEST_F(BadLine, TricklingNoiseEndsWithTheDrainsTimeLimit)
+{
+    open(shortWait);
+    const Babbler babbler(line.master(), {0xFF}, 20);
+    const Stopwatch watch;
+    zbAppendGetParamCommandToQueue(bus, 6012);
+    EXPECT_EQ(zbExecuteCommandQueue(bus, 3), ZB_ERR_COMMUNICATION);
+    EXPECT_GE(watch.elapsed(), 1900);
+    EXPECT_LT(watch.elapsed(), 5000);
+}
+
+TEST_F(BadLine, AdapterPulledOutBeforeAnExchangeFailsAtOnce)
+{
+    open(longWait);
+    EXPECT_EQ(zbIsLineGone(bus), 0);
+    line.hangUp();
+    const Stopwatch watch;
+    zbAppendGetParamCommandToQueue(bus, 6012);
+    EXPECT_EQ(zbExecuteCommandQueue(bus, 3), ZB_ERR_BUS);
+    EXPECT_EQ(zbDiscardInput(bus), ZB_OK);
+    EXPECT_NE(zbIsLineGone(bus), 0);
+    EXPECT_LT(watch.elapsed(), 1000);
+}
+
+TEST_F(BadLine, AdapterPulledOutDuringAReplyFailsAtOnce)
+{
+    // In the middle of a good reply, and in the middle of draining a bad one.
+    for (const Bytes &begun : {Bytes{0x25, 0x10, 0x03}, Bytes{0xFF, 0xFF}}) {
+        RawLine other("COM2");
+        zbSetTimeout(longWait);
+        bus = zbOpenBus("COM2");
+        ASSERT_EQ(bus, 0);
+        zbResetZB485variables(bus);
+        std::thread puller([&] {
+            other.read(requestSize);
+            other.write(begun);
+            other.hangUp();
+        });
+        const Stopwatch watch;
+        zbAppendGetParamCommandToQueue(bus, 6012);
+        EXPECT_EQ(zbExecuteCommandQueue(bus, 3), ZB_ERR_COMMUNICATION);
+        EXPECT_LT(watch.elapsed(), 2500);
+        EXPECT_NE(zbIsLineGone(bus), 0);
+        puller.join();
+        zbCloseBus(bus);
+    }
+}
+
+TEST_F(BadLine, OpensAgainAfterTheAdapterWasPulledOut)
+{
+    open(longWait);
+    line.hangUp();
+    zbCloseBus(bus);
+    RawLine replugged("COM1");
+    zbSetTimeout(neverWait);
+    bus = zbOpenBus("COM1");
+    ASSERT_EQ(bus, 0);
+    zbResetZB485variables(bus);
+    replugged.write(reply);
+    long value = 0;
+    EXPECT_EQ(zbRead1Parameter(bus, 3, 6012, &value), ZB_OK);
+    EXPECT_EQ(value, 6020);
+}
+
+TEST_F(BadLine, RequestThatNobodyTakesFailsInsteadOfWaitingForEver)
+{
+    open();
+    const Stopwatch watch;
+    ZbStatus status = ZB_ERR_COMMUNICATION;
+    for (int i = 0; i < 20000 && status == ZB_ERR_COMMUNICATION; ++i) {
+        for (int item = 0; item < 12; ++item)
+            zbAppendGetParamCommandToQueue(bus, 6012);
+        status = zbExecuteCommandQueue(bus, 3);
+    }
+    EXPECT_EQ(status, ZB_ERR_BUS);
+    EXPECT_LT(watch.elapsed(), 10000);
+}
