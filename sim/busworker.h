@@ -1,0 +1,83 @@
+/// \file
+/// The thread behind VirtualBus: serves the port, lets the drives' time follow the wall clock, sends replies when they
+/// are due.
+#ifndef SIM_BUSWORKER_H
+#define SIM_BUSWORKER_H
+
+#include "pseudoterminal.h"
+#include "virtualbus.h"
+
+#include <condition_variable>
+#include <deque>
+#include <mutex>
+#include <thread>
+
+namespace sim {
+
+struct VirtualBus::Worker
+{
+    using Clock = std::chrono::steady_clock;
+
+    explicit Worker(BusOptions given);
+    ~Worker();
+
+    std::string start();
+    void stop();
+    std::string plugIn(std::unique_lock<std::mutex> &lock);
+    /// Asks the thread to let go of the port and waits until it has.
+    void unplug(std::unique_lock<std::mutex> &lock);
+    VirtualDrive *find(int address);
+    void wake();
+
+    BusOptions options;
+
+    /// Guards everything below. Never held while waiting for the port.
+    mutable std::mutex mutex;
+    mutable std::condition_variable changed;    ///< a request arrived, or the port came or went
+    mutable std::condition_variable timePassed; ///< the drives have moved on
+    PseudoTerminal port;
+    Drives drives;
+    LineDamage damage;
+    bool isNoisy = false; ///< the line babbles
+    ReceivedRequests received;
+    std::string stateError;
+
+private:
+    struct Pending
+    {
+        Clock::time_point due;
+        Bytes bytes;
+    };
+
+    void run();
+    void waitForWork(int descriptor, Clock::time_point until);
+    void serve();
+    void take(const Bytes &bytes);
+    void handle(const Packet &request);
+    void reply(const Packet &request, const Packet &answer, LineFault::Kind fault);
+    void sendDue();
+    void makeNoise();
+    void pullPlug();
+    void advanceDrives();
+    void saveIfChanged();
+    std::string makeLink();
+    void removeLink();
+    Clock::time_point nextWakeUp() const;
+
+    std::thread m_thread;
+    int m_wakeEvent = -1;
+    bool m_running = false;
+    bool m_stopping = false;
+    bool m_unplugging = false;
+    bool m_linked = false;
+    RequestParser m_parser;
+    Clock::time_point m_lastByte;
+    Clock::time_point m_lastAdvance;
+    Clock::time_point m_lastNoise;
+    std::deque<Pending> m_pending;
+    std::vector<unsigned> m_savedGenerations;
+};
+
+} // namespace sim
+
+#endif

@@ -1,0 +1,41 @@
+#include "commandbuffer.h"
+
+#include <utility>
+
+namespace sim {
+
+bool CommandBuffer::store(const Item &item)
+{
+    if (freeBytes() < ItemBytes)
+        return false;
+    m_items.push_back(item);
+    return true;
+}
+
+Item CommandBuffer::take()
+{
+    const Item item = m_items.front();
+    m_items.pop_front();
+    return item;
+}
+
+void CommandBuffer::advance(int units)
+{
+    m_wait -= units;
+    // A remainder is carried over while setpoints keep coming, so that the mean rate is exact; a pause is not.
+    if (m_wait < 0 && m_items.empty())
+        m_wait = 0;
+}
+
+void CommandBuffer::addReturn(const Bytes &value)
+{
+    if (m_returns.size() + value.size() <= ReturnBytes)
+        m_returns.insert(m_returns.end(), value.begin(), value.end());
+}
+
+Bytes CommandBuffer::takeReturns()
+{
+    return std::exchange(m_returns, {});
+}
+
+} // namespace sim

@@ -1,0 +1,98 @@
+#include "recorder.h"
+
+namespace sim {
+
+namespace {
+
+struct Source
+{
+    std::int32_t bit;
+    std::int32_t AxisSignals::*signal;
+    bool isUnsigned = false;
+};
+
+/// In the order in which they are stored.
+constexpr Source Sources[] = {
+    {0x2, &AxisSignals::torqueSetpoint},     {0x4, &AxisSignals::torque},
+    {0x8, &AxisSignals::velocitySetpoint},   {0x10, &AxisSignals::velocity},
+    {0x20, &AxisSignals::positionSetpoint},  {0x40, &AxisSignals::position},
+    {0x80, &AxisSignals::trackingError},     {0x100, &AxisSignals::outputVoltage},
+    {0x200, &AxisSignals::busVoltage, true}, {0x10000, &AxisSignals::pwm1},
+    {0x20000, &AxisSignals::pwm2},           {0x40000, &AxisSignals::pwm3},
+    {0x80000, &AxisSignals::debug1},         {0x100000, &AxisSignals::debug2},
+    {0x800000, &AxisSignals::fluxCurrent},   {0x1000000, &AxisSignals::fluxVoltage},
+};
+
+std::int32_t toWord(std::int32_t value, bool isUnsigned)
+{
+    if (isUnsigned)
+        return static_cast<std::uint16_t>(value);
+    return static_cast<std::int16_t>(value);
+}
+
+} // namespace
+
+bool Recorder::arm(std::int32_t trigger, const AxisSignals &now)
+{
+    if (trigger == Off) {
+        m_state = Off;
+        return true;
+    }
+    std::int32_t known = 0;
+    for (const Source &source : Sources)
+        known |= source.bit;
+    if (trigger < SetpointRises || trigger > AtOnce || (m_nextSources & known) == 0)
+        return false;
+    m_sources = m_nextSources;
+    m_divider = m_nextDivider;
+    m_state = trigger;
+    m_recording = false;
+    m_lastSetpoint = now.setpoint;
+    m_lastFaults = now.faults;
+    m_stored = 0;
+    m_periodsToSample = 0;
+    return true;
+}
+
+void Recorder::tick(const AxisSignals &signals)
+{
+    if (m_state == Off)
+        return;
+    if (!m_recording)
+        m_recording = triggered(signals);
+    m_lastSetpoint = signals.setpoint;
+    m_lastFaults = signals.faults;
+    if (!m_recording || m_periodsToSample-- > 0)
+        return;
+    m_periodsToSample = m_divider;
+    store(signals);
+}
+
+bool Recorder::triggered(const AxisSignals &signals) const
+{
+    if (m_state == AtOnce)
+        return true;
+    switch (m_state) {
+    case SetpointRises:
+        return signals.setpoint > m_lastSetpoint;
+    case SetpointChanges:
+        return signals.setpoint != m_lastSetpoint;
+    default:
+        return (signals.faults & ~m_lastFaults) != 0;
+    }
+}
+
+void Recorder::store(const AxisSignals &signals)
+{
+    for (const Source &source : Sources) {
+        if (!(m_sources & source.bit))
+            continue;
+        m_words[static_cast<std::size_t>(m_stored)] = toWord(signals.*source.signal, source.isUnsigned);
+        if (++m_stored == Words) {
+            m_state = Off;
+            return;
+        }
+    }
+}
+
+} // namespace sim

@@ -1,0 +1,100 @@
+/// \file
+/// The one fixture that brings up a virtual bus. Works in a private temporary folder, in which "COM1" is a link to the
+/// bus's port: the name that a program under test opens.
+///
+/// A test that wants other drives, or starts the bus later, derives from it and overrides busOptions():
+///
+///     class TwoDrives : public VirtualBusFixture {
+///         sim::BusOptions busOptions() const override { return {{{"keta", 3}, {"torva", 7}}}; }
+///     };
+///
+/// Header only, so that every test executable can use it. The working folder belongs to the process: one at a time.
+#ifndef VIRTUALBUSFIXTURE_H
+#define VIRTUALBUSFIXTURE_H
+
+#include "virtualbus.h"
+
+#include <cstdlib>
+#include <filesystem>
+#include <gtest/gtest.h>
+#include <memory>
+#include <string>
+
+/// A private folder that is the working folder while this lives; removed with all its contents.
+class PrivateFolder
+{
+public:
+    PrivateFolder() : m_before(std::filesystem::current_path())
+    {
+        std::string name = (std::filesystem::temp_directory_path() / "velbrin-bus-XXXXXX").string();
+        if (const char *made = mkdtemp(name.data()))
+            std::filesystem::current_path(m_path = made);
+    }
+    ~PrivateFolder()
+    {
+        std::error_code ignored;
+        std::filesystem::current_path(m_before, ignored);
+        std::filesystem::remove_all(m_path, ignored);
+    }
+    const std::filesystem::path &path() const { return m_path; }
+
+private:
+    std::filesystem::path m_before;
+    std::filesystem::path m_path;
+};
+
+class VirtualBusFixture : public testing::Test
+{
+public:
+    /// Where the default drive answers.
+    static constexpr int DriveAddress = 5;
+
+    /// What a program under test opens.
+    static const char *port() { return "COM1"; }
+
+protected:
+    /// One Keta at address 5 unless overridden. Link, recording and restart time are the fixture's own.
+    virtual sim::BusOptions busOptions() const { return {}; }
+
+    void SetUp() override { startBus(busOptions()); }
+    void TearDown() override { m_bus.reset(); }
+
+    /// Brings the bus up anew, with other drives or on the same state file.
+    void startBus(sim::BusOptions options)
+    {
+        m_bus.reset();
+        options.linkPath = port();
+        options.recordRequests = true;
+        if (options.restartTime == sim::BusOptions().restartTime)
+            options.restartTime = std::chrono::milliseconds(20);
+        m_bus = std::make_unique<sim::VirtualBus>(options);
+        const std::string error = m_bus->start();
+        ASSERT_EQ(error, "");
+    }
+
+    sim::VirtualBus &bus() { return *m_bus; }
+
+    /// Requests that arrived for one drive, in order.
+    sim::ReceivedRequests receivedAt(int address) const
+    {
+        sim::ReceivedRequests requests;
+        for (const sim::ReceivedRequest &request : m_bus->received()) {
+            if (request.packet.address == address)
+                requests.push_back(request);
+        }
+        return requests;
+    }
+
+    /// Waits until so many requests have arrived since the bus came up or clearReceived().
+    bool waitForRequests(std::size_t count, std::chrono::milliseconds limit = std::chrono::seconds(20)) const
+    {
+        return m_bus->waitForReceived([count](const sim::ReceivedRequests &all) { return all.size() >= count; }, limit);
+    }
+
+    PrivateFolder m_folder; ///< before the bus, whose link lies in it
+
+private:
+    std::unique_ptr<sim::VirtualBus> m_bus;
+};
+
+#endif
