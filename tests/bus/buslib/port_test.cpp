@@ -109,6 +109,8 @@ TEST_F(Port, TheEleventhBusIsRefusedAndTheLowestFreeHandleUsedAgain)
 
 TEST_F(Port, DropsWhatIsLeftOverFromBefore)
 {
+    open(); // leaves the line raw, or it would not keep these bytes as they are
+    zbCloseBus(bus);
     line.write(withChecksum({0x53, 0x03, 0x34, 0x12}));
     open(shortWait);
     std::uint16_t clock = 0;
