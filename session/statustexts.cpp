@@ -147,12 +147,13 @@ QString getFaultRegString(const DriveState &state, bool &inactivityReason)
     QString text = flagLines(state, faultFlags, state.faultRegister, inactivityReason);
     text += SessionText::tr("<br>Fault location ID 1 %1 <a href=%2>?</a>").arg(state.faultLocation1).arg(helpPage);
     text += SessionText::tr("<br>Fault location ID 2 %1 <a href=%2>?</a>").arg(state.faultLocation2).arg(helpPage);
-    if (state.debugValuesShown) {
+    const bool polled = !state.firmwareUpgradeMode; // a bootloader has neither: no zeros that nobody has read
+    if (polled && state.debugValuesShown) {
         text += QStringLiteral("<br><br>");
         for (std::size_t i = 0; i < state.debugValues.size(); ++i)
             text += SessionText::tr("Debug %1&nbsp;&nbsp;%2<br>").arg(i + 1).arg(state.debugValues[i]);
     }
-    if (state.watchedAddress != 0)
+    if (polled && state.watchedAddress != 0)
         text += SessionText::tr("Param %1&nbsp;&nbsp;%2<br>").arg(state.watchedAddress).arg(state.watchedValue);
     if (inactivityReason)
         text += SessionText::tr("<br><font style=\"color:#e00\"><b>!</b> = reason for inactivity</font>");

@@ -241,6 +241,9 @@ TEST(FaultPanel, ShowsDebugValuesAndTheWatchedRegisterWhenWanted)
     EXPECT_EQ(faultPanel(state, true).text, plain + debug + watched + legend);
     state.debugValuesShown = false;
     EXPECT_EQ(faultPanel(state).text, plain + watched);
+    state.debugValuesShown = true;
+    state.firmwareUpgradeMode = true; // a bootloader knows neither
+    EXPECT_EQ(faultPanel(state).text, plain);
 }
 
 TEST(InputPanel, AllClear)
