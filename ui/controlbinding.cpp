@@ -98,6 +98,21 @@ int collectBitField(const QWidget *root, const QVector<BitFieldControl> &control
     return value;
 }
 
+/// Empties a control that there is nothing to show in. A spin box can only do that at its minimum.
+void setBlank(QWidget *control, bool blank)
+{
+    if (auto *box = qobject_cast<QAbstractSpinBox *>(control))
+        box->setSpecialValueText(blank ? QStringLiteral("\u2013") : QString());
+    if (!blank)
+        return;
+    if (auto *box = qobject_cast<QSpinBox *>(control))
+        box->setValue(box->minimum());
+    else if (auto *box = qobject_cast<QDoubleSpinBox *>(control))
+        box->setValue(box->minimum());
+    else if (auto *combo = qobject_cast<QComboBox *>(control))
+        combo->setCurrentIndex(-1);
+}
+
 // The item "Value n" is the only one that carries data; every other stands for its index.
 bool hasValueItem(const QComboBox *combo)
 {
@@ -155,8 +170,14 @@ double ControlBinding::collect(const SingleParam &p) const
 void ControlBinding::setSupported(const QString &name, bool supported)
 {
     QWidget *control = findControl(m_root, name);
-    if (!control || supported != m_withdrawn.contains(name))
+    if (!control || qobject_cast<QLabel *>(control))
         return;
+    if (!supported)
+        setBlank(control, true); // each time: what was filled in before is nothing that the drive has
+    if (supported != m_withdrawn.contains(name))
+        return;
+    if (supported)
+        setBlank(control, false);
     QList<QWidget *> widgets{control};
     for (QLabel *label : m_root->findChildren<QLabel *>())
         if (label->buddy() == control)

@@ -29,8 +29,9 @@ public:
     /// The parameter's value as its control stands. Labels, read-only parameters, parameters without a control and
     /// withdrawn ones give back the held value: nothing can be edited there.
     double collect(const SingleParam &p) const;
-    /// Withdraws the control of a parameter that the connected model lacks: it is disabled and its tool tip says why.
-    /// The other way round it is enabled and its own tool tip comes back. The caption goes with its control.
+    /// Withdraws the control of a parameter that the connected model lacks: it is emptied and disabled, and its tool
+    /// tip says why. The other way round it is enabled and its own tool tip comes back. The caption goes with its
+    /// control; labels are left alone. To be called after fill().
     void setSupported(const QString &name, bool supported);
 
 private:

@@ -1,0 +1,215 @@
+// The forms against the parameter catalogue: what a slip in Designer would break without a compiler's word.
+#include "bitfields.h"
+#include "catalogue.h"
+#include "pagetable.h"
+#include "printqt.h"
+#include "visibility.h"
+
+#include <QDir>
+#include <QDoubleSpinBox>
+#include <QFile>
+#include <QIcon>
+#include <QMap>
+#include <QSet>
+#include <QXmlStreamReader>
+#include <gtest/gtest.h>
+
+namespace {
+
+struct Widget
+{
+    QString kind;
+    QMap<QString, QString> properties; ///< as texts
+    int items = 0;
+};
+struct Form
+{
+    QMap<QString, Widget> widgets;
+    QStringList names; ///< of widgets and layouts, with repetitions
+    QStringList tabStops;
+};
+
+Form readForm(const QString &path)
+{
+    Form form;
+    QFile file(path);
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << qPrintable(path);
+    QXmlStreamReader xml(&file);
+    QStringList open; // enclosing widgets
+    QString property;
+    while (!xml.atEnd()) {
+        xml.readNext();
+        const QString name = xml.attributes().value("name").toString();
+        if (xml.isEndElement() && xml.name() == QLatin1String("widget"))
+            open.removeLast();
+        if (!xml.isStartElement())
+            continue;
+        if (xml.name() == QLatin1String("widget")) {
+            open.append(name);
+            form.names.append(name);
+            form.widgets[name].kind = xml.attributes().value("class").toString();
+        } else if (xml.name() == QLatin1String("layout")) {
+            form.names.append(name);
+        } else if (xml.name() == QLatin1String("item") &&
+                   form.widgets[open.last()].kind == QLatin1String("QComboBox")) {
+            ++form.widgets[open.last()].items;
+        } else if (xml.name() == QLatin1String("property")) {
+            property = name;
+        } else if (xml.name() == QLatin1String("tabstop")) {
+            form.tabStops.append(xml.readElementText());
+        } else if (!open.isEmpty() && !property.isEmpty()) {
+            const QString text = xml.readElementText(QXmlStreamReader::IncludeChildElements);
+            if (form.widgets[open.last()].items == 0)
+                form.widgets[open.last()].properties[property] = text;
+            property.clear();
+        }
+    }
+    EXPECT_FALSE(xml.hasError()) << qPrintable(path + ": " + xml.errorString());
+    return form;
+}
+
+const QDir &formsFolder()
+{
+    static const QDir folder(QStringLiteral(VELBRIN_SOURCE_DIR "/ui/forms"));
+    return folder;
+}
+
+/// The forms that end up in one window: the shell and the pages, and the dialog that holds parameters.
+const QMap<QString, Form> &windowForms()
+{
+    static const QMap<QString, Form> forms = [] {
+        QMap<QString, Form> all;
+        QStringList files = formsFolder().entryList({"*page.ui"});
+        files << "mw.ui"
+              << "overrideparams.ui";
+        for (const QString &file : qAsConst(files))
+            all.insert(file, readForm(formsFolder().filePath(file)));
+        return all;
+    }();
+    return forms;
+}
+
+const Widget *findWidget(const QString &name)
+{
+    for (const Form &form : windowForms())
+        if (form.widgets.contains(name))
+            return &*form.widgets.find(name);
+    return nullptr;
+}
+
+bool isEditable(const QString &kind)
+{
+    return kind == QLatin1String("QSpinBox") || kind == QLatin1String("QDoubleSpinBox") ||
+           kind == QLatin1String("QComboBox") || kind == QLatin1String("QCheckBox");
+}
+
+} // namespace
+
+TEST(Forms, NoNameIsUsedTwiceInOneWindow)
+{
+    QMap<QString, QString> seen;
+    for (auto form = windowForms().begin(); form != windowForms().end(); ++form)
+        for (const QString &name : form->names) {
+            EXPECT_FALSE(seen.contains(name))
+                << qPrintable(name) << " in " << qPrintable(form.key()) << " and " << qPrintable(seen.value(name));
+            seen.insert(name, form.key());
+        }
+    EXPECT_GT(seen.size(), 300);
+}
+
+TEST(Forms, EveryParameterThatCanBeEditedHasItsControl)
+{
+    const QSet<QString> withoutControl{"HWTYPE", "UID", "PIF"};
+    const Parameters catalogue = driveParameterCatalogue();
+    for (int i = 0; i < catalogue.getParamCount(); ++i) {
+        const SingleParam p = catalogue.getParam(i);
+        EXPECT_TRUE(p.group.isEmpty() || findWidget(p.group)) << qPrintable(p.group);
+        const auto &bitField = bitFieldControls(p.name);
+        for (const BitFieldControl &part : bitField) {
+            const Widget *control = findWidget(QString::fromLatin1(part.name));
+            ASSERT_TRUE(control) << part.name;
+            EXPECT_EQ(control->kind, part.choices == 2 ? "QCheckBox" : "QComboBox") << part.name;
+            EXPECT_EQ(control->items, part.choices == 2 ? 0 : part.choices) << part.name;
+        }
+        if (!bitField.isEmpty() || withoutControl.contains(p.name))
+            continue;
+        const Widget *control = findWidget(p.name);
+        ASSERT_TRUE(control) << qPrintable(p.name);
+        EXPECT_EQ(control->kind == QLatin1String("QLabel"), p.readonly) << qPrintable(p.name);
+        EXPECT_TRUE(p.readonly || (isEditable(control->kind) && control->kind != QLatin1String("QCheckBox")))
+            << qPrintable(p.name);
+    }
+}
+
+TEST(Forms, EveryRawValueSurvivesItsControl)
+{
+    const Parameters catalogue = driveParameterCatalogue();
+    int tried = 0;
+    for (int i = 0; i < catalogue.getParamCount(); ++i) {
+        const SingleParam p = catalogue.getParam(i);
+        const Widget *control = findWidget(p.name);
+        if (!control || !control->kind.endsWith(QLatin1String("SpinBox")))
+            continue;
+        QDoubleSpinBox box;
+        box.setDecimals(control->kind == QLatin1String("QSpinBox") ? 0 : control->properties["decimals"].toInt());
+        box.setRange(-1e9, 1e9);
+        for (int raw = -3000; raw <= 3000; ++raw) {
+            box.setValue(p.convertToGUIScale(raw));
+            ASSERT_EQ(p.convertToDeviceScale(box.value()), raw) << qPrintable(p.name);
+        }
+        ++tried;
+    }
+    EXPECT_GT(tried, 40);
+}
+
+TEST(Forms, EveryInputExplainsItselfAndIsReachedByTheTabKey)
+{
+    for (auto form = windowForms().begin(); form != windowForms().end(); ++form)
+        for (auto widget = form->widgets.begin(); widget != form->widgets.end(); ++widget) {
+            if (!isEditable(widget->kind))
+                continue;
+            EXPECT_TRUE(form->tabStops.contains(widget.key()) || widget.key() == QLatin1String("stimuluspresets"))
+                << qPrintable(widget.key());
+            // Channels are named by their check box; every other input needs a sentence.
+            EXPECT_TRUE(!widget->properties["toolTip"].isEmpty() ||
+                        widget.key().startsWith(QLatin1String("scope"), Qt::CaseInsensitive) ||
+                        widget.key() == QLatin1String("stimuluspresets"))
+                << qPrintable(widget.key());
+        }
+}
+
+TEST(Forms, CaptionsNameTheirControlAndBelongToIt)
+{
+    int captions = 0;
+    for (const Form &form : windowForms())
+        for (auto widget = form.widgets.begin(); widget != form.widgets.end(); ++widget) {
+            const QString buddy = widget->properties.value("buddy");
+            const QString text = widget->properties.value("text");
+            EXPECT_TRUE(buddy.isEmpty() || form.widgets.contains(buddy)) << qPrintable(widget.key());
+            if (!text.startsWith('[') || widget->kind == QLatin1String("QCheckBox"))
+                continue;
+            ++captions;
+            EXPECT_FALSE(buddy.isEmpty()) << qPrintable(text);
+            EXPECT_EQ(widget->properties["toolTip"], form.widgets[buddy].properties["toolTip"]) << qPrintable(text);
+            EXPECT_TRUE(text.startsWith('[' + buddy + ']') || buddy.startsWith(QLatin1String("stimulus")))
+                << qPrintable(text);
+            EXPECT_EQ(QString(text).remove("&&").count('&'), 0) << "swallowed ampersand: " << qPrintable(text);
+        }
+    EXPECT_GT(captions, 50);
+}
+
+TEST(Forms, EveryObjectOfAVisibilityRuleIsThere)
+{
+    for (const ObjectVisibility &object : visibilityOf(VisibilityInputs()))
+        EXPECT_TRUE(findWidget(object.objectName)) << qPrintable(object.objectName);
+}
+
+TEST(Pages, FormsAndPicturesOfThePageTableAreThere)
+{
+    Q_INIT_RESOURCE(graphics); // the pictures stand in a static library
+    for (const PageInfo &page : pageTable) {
+        EXPECT_TRUE(findWidget(QString::fromLatin1(page.form))) << page.form;
+        EXPECT_FALSE(QIcon(QString::fromLatin1(page.icon)).pixmap(64, 64).isNull()) << page.icon;
+        EXPECT_EQ(page.hasSettings, &page >= &pageTable[GoalsPageIndex] && &page <= &pageTable[FaultLimitsPageIndex]);
+    }
+}

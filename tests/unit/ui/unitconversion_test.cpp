@@ -1,0 +1,128 @@
+#include "printqt.h"
+#include "unitconversion.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+/// 1000 lines and 10 mm a revolution: 400 counts a millimetre.
+UnitConversion screwAxis()
+{
+    UnitConversion units;
+    units.fbr = 1000;
+    units.axs = 10;
+    units.unit = QStringLiteral("mm");
+    return units;
+}
+
+} // namespace
+
+TEST(UnitConversion, OneCountPerCycleOnATenMillimetreScrewIsSixAndAQuarterMillimetresASecond)
+{
+    EXPECT_EQ(screwAxis().velocityLabel(1), "= 6.25 mm/s");
+}
+
+TEST(UnitConversion, VelocityOfASetpointIsDividedTwiceAndMultipliedOnce)
+{
+    UnitConversion units = screwAxis();
+    units.mul = 3;
+    units.div = 4;
+    EXPECT_DOUBLE_EQ(units.velocity(64), 64 * 6.25 / 4);
+    EXPECT_DOUBLE_EQ(units.velocity(64, true), 64 * 6.25 / 4 * 3 / 4);
+    EXPECT_DOUBLE_EQ(units.velocity(64, false, true), 64 * 6.25);
+    EXPECT_DOUBLE_EQ(units.velocity(64, true, true), 64 * 6.25 * 3);
+}
+
+TEST(UnitConversion, PositionKnowsSetpointUnitsAndCounts)
+{
+    UnitConversion units = screwAxis();
+    units.mul = 3;
+    units.div = 4;
+    EXPECT_EQ(units.positionLabel(4000), "= 7.5 mm");
+    EXPECT_EQ(units.positionLabel(4000, true), "= 10 mm");
+}
+
+TEST(UnitConversion, AccelerationCountsInDividedCountsPerCycleSquared)
+{
+    UnitConversion units = screwAxis();
+    units.div = 200;
+    EXPECT_EQ(units.accelerationLabel(320), "= 25000 mm/s²"); // 320 * 2500 * 2500 / 200 / 400
+}
+
+TEST(UnitConversion, SuffixOfTheLabelChoosesTheConversion)
+{
+    UnitConversion units = screwAxis();
+    units.mul = 2;
+    units.div = 4;
+    const struct
+    {
+        const char *label;
+        const char *text;
+    } expected[] = {
+        {"HLLrpos", "= 0.5 mm"},    {"CVLrvel", "= 625 mm/s"}, {"CALracc", "= 1.5625e+06 mm/s²"}, {"FPThpos", "= 1 mm"},
+        {"FVThvel", "= 2500 mm/s"}, {"XYZhacc", "ERROR"},      {"somethingElse", "ERROR"},
+    };
+    for (const auto &row : expected)
+        EXPECT_EQ(units.labelBySuffix(400, QString::fromLatin1(row.label)), row.text) << row.label;
+}
+
+TEST(UnitConversion, LabelsThatFollowAControlAreToldByTheirNames)
+{
+    for (const char *name : {"HLLrpos", "CVLrvel", "CALracc", "FPThpos", "FVThvel", "XYZhacc"})
+        EXPECT_TRUE(isUnitLabelName(QString::fromLatin1(name))) << name;
+    for (const char *name : {"AXSr", "SCALINGr", "TSR1r", "CVLl", ""})
+        EXPECT_FALSE(isUnitLabelName(QString::fromLatin1(name))) << name;
+    EXPECT_EQ(controlOfUnitLabel(QStringLiteral("CVLrvel")), "CVL");
+}
+
+TEST(UnitConversion, SetpointIsShownAsWhatItCommandsInTheActiveMode)
+{
+    UnitConversion units = screwAxis();
+    units.mul = 1;
+    units.div = 2;
+    ActiveScale active;
+    active.cvl = 1000;
+    active.mmc = 20;
+    EXPECT_EQ(units.setpointLabel(8192, active), "= 10.24 mm"); // 8192 / 2 / 400
+    active.controlMode = 1;
+    EXPECT_EQ(units.setpointLabel(8192, active), "= 781.25 mm/s"); // 500 / 2 * 6.25 * 1 / 2
+    active.controlMode = 2;
+    EXPECT_EQ(units.setpointLabel(8192, active), "= 5 A"); // half of 20 A, halved again
+    active.controlMode = 3;
+    EXPECT_EQ(units.setpointLabel(8192, active), "no mode");
+    active.controlMode = -1;
+    EXPECT_EQ(units.setpointLabel(8192, active), "no mode");
+}
+
+TEST(UnitConversion, MissingDividerOrResolutionShowsAsSuchAndNotAsANumber)
+{
+    UnitConversion units = screwAxis();
+    units.div = 0;
+    EXPECT_EQ(units.velocityLabel(1), "= inf mm/s");
+    EXPECT_EQ(units.velocityLabel(0), "= nan mm/s");
+    units = screwAxis();
+    units.fbr = 0;
+    EXPECT_EQ(units.positionLabel(-1), "= -inf mm");
+}
+
+TEST(UnitConversion, ScalingFactorIsShownAsAFractionAndInPercent)
+{
+    UnitConversion units;
+    units.mul = 50;
+    units.div = 400;
+    EXPECT_EQ(units.scalingText(), "Setpoint scaling factor:\n50/400=12.5%");
+}
+
+TEST(AxisUnits, NamesOfAllAxisTypesAndOfNone)
+{
+    const char *plurals[] = {"mm", "µm", "inches", "revolutions", "degrees"};
+    const char *singulars[] = {"mm", "µm", "inch", "revolution", "degree"};
+    for (int type = 0; type < 5; ++type) {
+        EXPECT_EQ(axisUnits(type).plural, plurals[type]);
+        EXPECT_EQ(axisUnits(type).singular, singulars[type]);
+    }
+    for (int type : {-1, 5}) {
+        EXPECT_EQ(axisUnits(type).plural, "error");
+        EXPECT_EQ(axisUnits(type).singular, "error");
+    }
+}
