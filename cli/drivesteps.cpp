@@ -1,0 +1,126 @@
+#include "drivesteps.h"
+
+#include "commandline.h"
+#include "driveclient.h"
+#include "plaintext.h"
+#include "settingschecks.h"
+
+#include <QCoreApplication>
+#include <QJsonObject>
+
+namespace {
+
+QString tr(const char *text)
+{
+    return QCoreApplication::translate("DriveSteps", text);
+}
+
+QStringList severalDrives(const QList<NodeType> &nodes)
+{
+    QStringList lines(tr("There are several drives; choose one with --node:"));
+    for (const NodeType &node : nodes)
+        lines.append(QStringLiteral("%1\t%2").arg(QString::number(node.address),
+                                                  Connection::deviceModelName(node.deviceType, false)));
+    return lines;
+}
+
+} // namespace
+
+QString modelName(const DriveClient &client)
+{
+    return Connection::deviceModelName(client.deviceType(), false);
+}
+
+QString modeName(bool upgradeMode)
+{
+    return upgradeMode ? QStringLiteral("upgrade") : QStringLiteral("normal");
+}
+
+Table settingsTable(const Parameters &list, const QStringList &names)
+{
+    Table table{{"name", "value", "minimum", "maximum"}, {}};
+    const auto add = [&table](const SingleParam &param) {
+        table.rows.append({param.name, param.value, param.min, param.max});
+    };
+    for (const QString &name : names)
+        add(list.getParam(name));
+    for (int i = 0; names.isEmpty() && i < list.getParamCount(); ++i)
+        add(list.getParam(i));
+    return table;
+}
+
+bool connectToDrive(DriveClient &client, const CommandLine &line, QStringList &messages)
+{
+    if (line.node != 0)
+        return client.connectTo(line.node);
+    const auto nodes = client.scan();
+    if (!nodes)
+        return false;
+    if (nodes->isEmpty())
+        messages = QStringList(tr("No drive answers on %1.").arg(client.port()));
+    else if (nodes->size() > 1)
+        messages = severalDrives(*nodes);
+    return nodes->size() == 1 && client.connectTo(nodes->first().address);
+}
+
+std::optional<Parameters> readDrive(DriveClient &client, const CommandLine &line, QStringList &messages)
+{
+    if (!connectToDrive(client, line, messages))
+        return std::nullopt;
+    if (client.isInUpgradeMode()) {
+        messages = QStringList(tr("The drive is in firmware-upgrade mode and has no settings there."));
+        return std::nullopt;
+    }
+    const auto list = client.read();
+    if (!list)
+        messages = QStringList(tr("The drive's settings could not be read."));
+    return list;
+}
+
+std::optional<Parameters> loadFile(const DriveClient &client, const QString &fileName, const Parameters &drive,
+                                   QStringList &messages)
+{
+    Parameters loaded = drive;
+    const QString text = loaded.loadFromFile(fileName);
+    if (!text.isEmpty())
+        messages.append(plainText(text));
+    if (!text.isEmpty() && !text.startsWith(QLatin1String("Warning")))
+        return std::nullopt;
+    const QStringList kept = keepWhereFileHasNone(loaded, drive, modelName(client));
+    if (!kept.isEmpty())
+        messages.append(tr("The file has no value for %1; the drive's own stays.").arg(kept.join(QLatin1String(", "))));
+    return loaded;
+}
+
+Outcome applySettings(DriveClient &client, const CommandLine &line, const Parameters &wanted, const QStringList &names)
+{
+    const auto held = client.write(wanted);
+    if (!held)
+        return failed({tr("Broken off while writing: the drive may hold some of the new values in its working memory. "
+                          "Nothing was saved to its flash.")});
+    Outcome outcome;
+    Table notTaken{{"name", "asked", "held"}, {}};
+    for (const Difference &difference : differences(wanted, *held, modelName(client))) {
+        notTaken.rows.append({difference.name, difference.first, difference.second});
+        outcome.messages.append(
+            tr("%1: %2 was not taken, the drive has %3.")
+                .arg(difference.name, shortNumber(difference.first), shortNumber(difference.second)));
+    }
+    bool saved = false;
+    if (!notTaken.rows.isEmpty()) {
+        outcome.status = ExitFailed;
+        outcome.messages.append(line.toFlash ? tr("The rest was applied; nothing was saved to flash.")
+                                             : tr("The rest was applied."));
+    } else if (line.toFlash) {
+        saved = client.saveToFlash();
+        if (!saved) {
+            outcome.status = ExitFailed;
+            outcome.messages.append(tr("The settings were applied; whether they reached the flash is not known."));
+        }
+    }
+    const Table shown = names.isEmpty() ? Table() : settingsTable(*held, names);
+    outcome.results.lines = tabSeparated(shown);
+    outcome.results.json =
+        QJsonObject{{"parameters", toJson(shown)}, {"notTaken", toJson(notTaken)}, {"savedToFlash", saved}};
+    return outcome;
+}

@@ -1,0 +1,48 @@
+#include "interruption.h"
+
+#include <csignal>
+#include <unistd.h>
+
+namespace {
+
+int pipeEnds[2] = {-1, -1};
+std::function<void()> stopHandler;
+
+constexpr int stopSignals[] = {SIGINT, SIGTERM, SIGHUP};
+
+extern "C" void wakeMainThread(int)
+{
+    const char byte = 0;
+    // Nothing can be done about a full pipe, and it is enough that one byte is in it.
+    [[maybe_unused]] const ssize_t written = write(pipeEnds[1], &byte, 1);
+}
+
+} // namespace
+
+Interruption::Interruption()
+{
+    std::signal(SIGPIPE, SIG_IGN);
+    if (pipe(pipeEnds) != 0)
+        return;
+    m_notifier = std::make_unique<QSocketNotifier>(pipeEnds[0], QSocketNotifier::Read);
+    QObject::connect(m_notifier.get(), &QSocketNotifier::activated, [] {
+        char byte = 0;
+        if (read(pipeEnds[0], &byte, 1) == 1 && stopHandler)
+            stopHandler();
+    });
+}
+
+Interruption::~Interruption()
+{
+    connectTo(nullptr);
+    m_notifier.reset();
+    close(pipeEnds[0]);
+    close(pipeEnds[1]);
+}
+
+void Interruption::connectTo(std::function<void()> handler)
+{
+    stopHandler = std::move(handler);
+    for (const int signal : stopSignals)
+        std::signal(signal, stopHandler ? wakeMainThread : SIG_DFL);
+}

@@ -1,0 +1,72 @@
+// velbrin-cli: the drive session without a window, for scripts and for benches with many machines.
+#include "commandline.h"
+#include "commands.h"
+#include "driveclient.h"
+#include "interruption.h"
+#include "virtualport.h"
+
+#include <QCoreApplication>
+#include <QLoggingCategory>
+#include <cstdio>
+#include <memory>
+
+namespace {
+
+void complain(const QStringList &messages)
+{
+    for (const QString &message : messages)
+        std::fprintf(stderr, "%s\n", qPrintable(message));
+}
+
+/// False when the results did not get where they were sent (a full disk, a closed pipe).
+bool print(const QByteArray &text)
+{
+    return std::fwrite(text.constData(), 1, text.size(), stdout) == size_t(text.size()) && std::fflush(stdout) == 0;
+}
+
+Outcome runCommand(const CommandLine &line, const QString &port)
+{
+    DriveClient client(port);
+    Interruption::connectTo([&client] { client.interrupt(); });
+    Outcome outcome = findCommand(line.command)->run(client, line);
+    client.close();
+    Interruption::connectTo(nullptr);
+    outcome.messages = client.messages() + outcome.messages;
+    return outcome;
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    QCoreApplication app(argc, argv);
+    // The session's log is for those who ask for it, with QT_LOGGING_RULES="*.debug=true".
+    QLoggingCategory::setFilterRules(QStringLiteral("*.debug=false"));
+    Interruption interruption;
+
+    CommandLine line = parseCommandLine(app.arguments());
+    if (!line.answer.isEmpty())
+        return print(line.answer.toUtf8()) ? ExitDone : ExitFailed;
+    if (!line.problem.isEmpty()) {
+        complain({line.problem, QCoreApplication::translate("main", "velbrin-cli --help tells more.")});
+        return ExitUsage;
+    }
+
+    std::unique_ptr<VirtualPort> virtualPort;
+    if (!line.virtualDrives.isEmpty()) {
+        virtualPort = std::make_unique<VirtualPort>(line.virtualDrives);
+        if (!virtualPort->error().isEmpty()) {
+            complain({virtualPort->error()});
+            return ExitFailed;
+        }
+        line.port = VirtualPort::portName();
+    }
+
+    const Outcome outcome = runCommand(line, line.port);
+    complain(outcome.messages);
+    if (!print(printed(outcome.results, line.json))) {
+        complain({QCoreApplication::translate("main", "The results could not be written.")});
+        return ExitFailed;
+    }
+    return outcome.status;
+}

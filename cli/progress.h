@@ -1,0 +1,31 @@
+/// \file
+/// One line on the terminal that says what is going on, for work that takes longer than a moment.
+#ifndef PROGRESS_H
+#define PROGRESS_H
+
+#include <QElapsedTimer>
+#include <QString>
+#include <QTimer>
+
+/// Writes to standard error, and only when that is a terminal. The line is gone when the work is done.
+class Progress
+{
+public:
+    Progress();
+    ~Progress() { clear(); }
+
+    /// Shows `text` with the seconds that it has been there.
+    void show(const QString &text);
+    void clear();
+
+private:
+    void draw();
+
+    bool m_terminal;
+    bool m_shown = false;
+    QString m_text;
+    QElapsedTimer m_since;
+    QTimer m_timer;
+};
+
+#endif

@@ -1,0 +1,45 @@
+/// \file
+/// What a command found, and its two forms on standard output: tab-separated lines, or one JSON document.
+#ifndef RESULTS_H
+#define RESULTS_H
+
+#include <QByteArray>
+#include <QJsonValue>
+#include <QList>
+#include <QString>
+#include <QStringList>
+#include <QVariant>
+
+/// Rows under named columns. Doubles print with as many of 15 digits as they need.
+struct Table
+{
+    QStringList columns;
+    QList<QVariantList> rows;
+};
+
+/// `lines` is what text output shows, `json` what --json shows.
+struct Results
+{
+    QStringList lines;
+    QJsonValue json = QJsonValue::Undefined;
+};
+
+/// As many of 15 digits as it takes.
+inline QString shortNumber(double value)
+{
+    return QString::number(value, 'g', 15);
+}
+
+/// One line a row, without the column names.
+QStringList tabSeparated(const Table &table);
+/// An array of objects with the column names as keys.
+QJsonValue toJson(const Table &table);
+inline Results toResults(const Table &table)
+{
+    return {tabSeparated(table), toJson(table)};
+}
+
+/// The bytes for standard output.
+QByteArray printed(const Results &results, bool asJson);
+
+#endif

@@ -1,0 +1,73 @@
+#include "settingschecks.h"
+
+#include "results.h"
+
+#include <QCoreApplication>
+#include <cmath>
+
+namespace {
+
+QString tr(const char *text)
+{
+    return QCoreApplication::translate("SettingsChecks", text);
+}
+
+} // namespace
+
+std::optional<Assignment> parseAssignment(const QString &text)
+{
+    const int equals = text.indexOf(QLatin1Char('='));
+    bool isNumber = false;
+    const double value = text.mid(equals + 1).trimmed().toDouble(&isNumber);
+    if (equals < 1 || !isNumber || !std::isfinite(value))
+        return std::nullopt;
+    return Assignment{text.left(equals).trimmed(), value};
+}
+
+QString refusal(const Parameters &drive, const Assignment &assignment, const QString &modelName)
+{
+    const SingleParam param = drive.getParam(assignment.name);
+    if (!param.supportedInDevice(modelName))
+        return tr("%1 is not on this model (%2).").arg(param.name, modelName);
+    if (param.readonly)
+        return tr("%1 is read-only.").arg(param.name);
+    // Compared as it goes over the bus: the limits as printed may be rounded.
+    const double value = param.convertToDeviceScale(assignment.value);
+    if (value < param.convertToDeviceScale(param.min) || value > param.convertToDeviceScale(param.max)) {
+        return tr("%1=%2 is outside the drive's limits, %3 to %4.")
+            .arg(param.name, shortNumber(assignment.value), shortNumber(param.min), shortNumber(param.max));
+    }
+    return QString();
+}
+
+QList<Difference> differences(const Parameters &first, const Parameters &second, const QString &modelName)
+{
+    QList<Difference> found;
+    for (int i = 0; i < first.getParamCount(); ++i) {
+        const SingleParam a = first.getParam(i);
+        const SingleParam b = second.getParam(a.name);
+        if (a.readonly || b.readonly || !b.supportedInDevice(modelName))
+            continue;
+        if (a.convertToDeviceScale(a.value) != b.convertToDeviceScale(b.value))
+            found.append({a.name, a.value, b.value});
+    }
+    return found;
+}
+
+QStringList keepWhereFileHasNone(Parameters &loaded, const Parameters &drive, const QString &modelName)
+{
+    QStringList kept;
+    for (int i = 0; i < loaded.getParamCount(); ++i) {
+        const SingleParam fromFile = loaded.getParam(i);
+        const SingleParam fromDrive = drive.getParam(i);
+        const bool isMark =
+            (fromFile.value == 0.0 || fromFile.value == -1.0) && fromFile.min == 0.0 && fromFile.max == 0.0;
+        const bool hasLimits = fromDrive.min != 0.0 || fromDrive.max != 0.0;
+        if (!isMark || !hasLimits)
+            continue;
+        loaded.replaceParam(fromDrive, i);
+        if (!fromDrive.readonly && fromDrive.supportedInDevice(modelName))
+            kept.append(fromDrive.name);
+    }
+    return kept;
+}

@@ -1,0 +1,52 @@
+// Before Qt, whose keywords are ordinary words there.
+#include "virtualbus.h"
+
+#include "virtualport.h"
+
+#include <QDir>
+#include <QStringList>
+
+namespace {
+
+constexpr int firstAddress = 5;
+
+std::vector<sim::DriveOptions> driveOptions(const QString &profiles)
+{
+    std::vector<sim::DriveOptions> drives;
+    for (const QString &text : profiles.split(QLatin1Char(','))) {
+        sim::DriveOptions drive;
+        drive.profile = text.section(QLatin1Char('@'), 0, 0).toStdString();
+        drive.address = text.contains(QLatin1Char('@')) ? text.section(QLatin1Char('@'), 1).toInt()
+                                                        : firstAddress + int(drives.size());
+        drives.push_back(drive);
+    }
+    return drives;
+}
+
+} // namespace
+
+VirtualPort::VirtualPort(const QString &profiles)
+    : m_folder(QDir::tempPath() + QLatin1String("/velbrin-XXXXXX")), m_previous(QDir::currentPath())
+{
+    if (!m_folder.isValid()) {
+        m_error = m_folder.errorString();
+        return;
+    }
+    sim::BusOptions options;
+    options.drives = driveOptions(profiles);
+    options.linkPath = m_folder.filePath(portName()).toStdString();
+    m_bus = std::make_unique<sim::VirtualBus>(options);
+    m_error = QString::fromStdString(m_bus->start());
+    if (m_error.isEmpty())
+        QDir::setCurrent(m_folder.path());
+}
+
+VirtualPort::~VirtualPort()
+{
+    QDir::setCurrent(m_previous);
+}
+
+QString checkProfiles(const QString &profiles)
+{
+    return QString::fromStdString(sim::checkDrives(driveOptions(profiles)));
+}
