@@ -8,8 +8,9 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <cstdio>
 #include <initializer_list>
-#include <string>
 
 class OpenRecord : public testing::Test
 {
