@@ -1,0 +1,27 @@
+/// \file
+/// The box that stands over the window while the drive must not be disturbed.
+#ifndef BUSYDIALOG_H
+#define BUSYDIALOG_H
+
+#include "ui_busydialog.h"
+
+#include <QDialog>
+
+/// Only the program closes it: Esc and the close box are ignored (Esc still disables the drive, see EscapeFilter).
+class BusyDialog : public QDialog
+{
+    Q_OBJECT
+
+public:
+    explicit BusyDialog(QWidget *parent);
+
+    void reject() override {}
+
+protected:
+    void closeEvent(QCloseEvent *event) override;
+
+private:
+    Ui_busyDialog m_form;
+};
+
+#endif

@@ -1,0 +1,95 @@
+// The program: command line, the built-in virtual drives, the window, and a clean end.
+#include "virtualbus.h" // before Qt, whose keywords it uses as names
+
+#include "datafolder.h"
+#include "mw.h"
+#include "programoptions.h"
+#include "quitsignals.h"
+
+#include <QApplication>
+#include <QDebug>
+#include <QStyleFactory>
+#include <cstdio>
+#include <cstring>
+
+namespace {
+
+constexpr int EXIT_USAGE = 2;
+constexpr int FIRST_VIRTUAL_ADDRESS = 5;
+
+// Help and version are asked for on machines without a display, too.
+bool wantsTextOnly(int argc, char **argv)
+{
+    for (int i = 1; i < argc; ++i) {
+        for (const char *option : {"--help", "-h", "--version", "-v"}) {
+            if (std::strcmp(argv[i], option) == 0)
+                return true;
+        }
+    }
+    return false;
+}
+
+sim::BusOptions busOptions(const QStringList &models)
+{
+    sim::BusOptions options;
+    options.drives.clear();
+    for (const QString &model : models) {
+        sim::DriveOptions drive;
+        drive.profile = model.toStdString();
+        drive.address = FIRST_VIRTUAL_ADDRESS + int(options.drives.size());
+        options.drives.push_back(drive);
+    }
+    options.lineRate = true; // as quick as a real line, no quicker
+    return options;
+}
+
+void setStyle()
+{
+    QStyle *style = QStyleFactory::create(QStringLiteral("plastique"));
+    QApplication::setStyle(style ? style : QStyleFactory::create(QStringLiteral("fusion")));
+}
+
+int failed(const QString &text, int exitCode)
+{
+    std::fprintf(stderr, "velbrin: %s\n", qPrintable(text));
+    return exitCode;
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    if (wantsTextOnly(argc, argv))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication application(argc, argv);
+    const ProgramOptions options = parseProgramOptions(QApplication::arguments());
+    if (!options.error.isEmpty())
+        return failed(options.error, EXIT_USAGE);
+    if (!options.text.isEmpty()) {
+        std::fputs(qPrintable(options.text), stdout);
+        return 0;
+    }
+    QuitSignals quitSignals;
+
+    MW::Options window;
+    window.port = options.port;
+    window.debugValues = options.debugValues;
+    sim::VirtualBus bus(busOptions(options.virtualDrives));
+    std::unique_ptr<VirtualDriveFolder> folder;
+    if (options.virtualDrives.isEmpty()) {
+        enterDataFolder();
+    } else {
+        const QString error = QString::fromStdString(bus.start());
+        if (!error.isEmpty())
+            return failed(error, EXIT_FAILURE);
+        folder = std::make_unique<VirtualDriveFolder>(QString::fromStdString(bus.portName()));
+        if (!folder->error().isEmpty())
+            return failed(folder->error(), EXIT_FAILURE);
+        window.virtualPort = VirtualDriveFolder::portName();
+    }
+
+    MW mainWindow(window);
+    setStyle();
+    mainWindow.show();
+    return QApplication::exec();
+}

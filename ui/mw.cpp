@@ -1,0 +1,362 @@
+// The shell: construction in its fixed order, the disclaimer, the busy indicator, and closing.
+#include "mw.h"
+
+#include "busydialog.h"
+#include "errorwindow.h"
+#include "escapefilter.h"
+#include "firmwaredialog.h"
+#include "helpview.h"
+#include "mwforms.h"
+#include "pagetable.h"
+#include "ui_overrideparams.h"
+#include "version.h"
+#include "wheelguard.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QDebug>
+#include <QMessageBox>
+#include <QSettings>
+#include <QShortcut>
+#include <QTimer>
+
+namespace {
+
+constexpr int APPLY_INTERVAL_MS = 1000;
+constexpr int HELP_TIMEOUT_MS = 60000;
+constexpr int QUESTION_RETRY_MS = 100;
+constexpr QSize PAGE_ITEM_SIZE(79, 96);
+constexpr int SINE_AND_COSINE_ORDERS = 12;
+
+QSettings windowSettings()
+{
+    return QSettings(QStringLiteral("Tarnwell Devices"), QStringLiteral("Velbrin"));
+}
+
+} // namespace
+
+// The pictures are in a static library, where the linker would leave them out.
+static void initResources()
+{
+    Q_INIT_RESOURCE(graphics);
+}
+
+MW::MW(const Options &options, QWidget *parent)
+    : QMainWindow(parent), m_options(options), m_form(new Forms), m_overridesForm(new Ui_overrideParams)
+{
+    initResources();
+    buildForms();
+    m_form->wellcomeText->setText(
+        m_form->wellcomeText->text().replace(m_form->wellcomeText->text().indexOf(QLatin1String("%VELBRIN_VERSION")),
+                                             int(qstrlen("%VELBRIN_VERSION")), QLatin1String(VELBRIN_VERSION)));
+    qRegisterMetaType<Parameters>("Parameters");
+    qRegisterMetaType<QList<CaptureData>>("QList <CaptureData>");
+    qRegisterMetaType<QList<NodeType>>("QList <NodeType>");
+    buildPageList();
+    buildHelpAndStatus();
+    connectSession();
+    createShortcuts();
+
+    on_FB2D_currentIndexChanged(0);
+    on_MT_currentIndexChanged(0);
+    on_CRI_currentIndexChanged(0);
+    on_HME_currentIndexChanged(0);
+    on_AXT_currentIndexChanged(0);
+    hideForGood();
+    connectDynamicSpinboxLabels();
+    updateUnitLabels();
+    new WheelGuard(this);
+    populateConnectionPortList();
+    restoreLayout();
+
+    m_connection.setDebugValuesShown(m_options.debugValues);
+    m_connection.emitParameters();
+    connectionStatusChanged(false, tr("Not connected"));
+    fillTorqueFunctions();
+    m_showAdvanced = false;
+    updateControlVisibility();
+    showDisclaimer();
+}
+
+MW::~MW()
+{
+    // Controls that lose the keyboard while they are being destroyed must not reach slots of a half-gone window.
+    const auto children = findChildren<QObject *>();
+    for (QObject *child : children)
+        child->disconnect(this);
+}
+
+void MW::buildForms()
+{
+    m_form->Ui_MW::setupUi(this);
+    const auto addPage = [this](auto &form) {
+        auto *page = new QWidget;
+        form.setupUi(page);
+        m_form->pages->addWidget(page);
+    };
+    addPage(static_cast<Ui_WelcomePage &>(*m_form));
+    addPage(static_cast<Ui_ConnectPage &>(*m_form));
+    addPage(static_cast<Ui_GoalsPage &>(*m_form));
+    addPage(static_cast<Ui_MachinePage &>(*m_form));
+    addPage(static_cast<Ui_TuningPage &>(*m_form));
+    addPage(static_cast<Ui_FaultLimitsPage &>(*m_form));
+    addPage(static_cast<Ui_TestingPage &>(*m_form));
+
+    m_overridesDialog = new QDialog(this);
+    m_overridesForm->setupUi(m_overridesDialog);
+    m_busyDialog = new BusyDialog(this);
+    m_firmwareDialog = new FirmwareDialog(this);
+    connect(m_firmwareDialog->form.openFile, &QPushButton::clicked, this, &MW::FWUpgrade_openFile_clicked);
+    connect(m_firmwareDialog->form.close, &QPushButton::clicked, this, &MW::FWUpgrade_close_clicked);
+
+    // Once, when all forms are built: twice would run every slot twice.
+    QMetaObject::connectSlotsByName(this);
+    connect(m_form->clear_faults_2, &QPushButton::clicked, this, &MW::on_clear_faults_clicked);
+    connect(m_form->refreshPorts, &QPushButton::clicked, this, &MW::populateConnectionPortList);
+}
+
+void MW::buildPageList()
+{
+    m_helpTimer = new QTimer(this);
+    m_helpTimer->setSingleShot(true);
+    m_helpTimer->setInterval(HELP_TIMEOUT_MS);
+    connect(m_helpTimer, &QTimer::timeout, this, &MW::helpLoadingTimeouted);
+
+    m_helpView = new HelpView(m_form->helpContainer);
+    m_helpView->setObjectName(QStringLiteral("helpView"));
+    m_form->helpContainer->layout()->addWidget(m_helpView);
+
+    for (const PageInfo &page : pageTable) {
+        auto *item = new QListWidgetItem(QIcon(QLatin1String(page.icon)), tr(page.text), m_form->pageSelector);
+        item->setSizeHint(PAGE_ITEM_SIZE);
+    }
+    m_form->splitter->setStretchFactor(0, 0);
+    m_form->splitter->setStretchFactor(1, 1);
+}
+
+void MW::buildHelpAndStatus()
+{
+    m_saveAsPdfButton = new QPushButton(tr("Save as PDF"), m_helpView);
+    m_saveAsPdfButton->hide();
+    connect(m_saveAsPdfButton, &QPushButton::clicked, this, &MW::saveTestResults_clicked);
+    m_errorWindow = new ErrorWindow(this);
+    connect(m_errorWindow, &ErrorWindow::vitalMessage, this,
+            [this](const QString &line) { statusBar()->showMessage(line); });
+    m_connectionStatusLabel = new QLabel(tr("Not connected"));
+    m_connectionStatusLabel->setMargin(2);
+    statusBar()->addPermanentWidget(m_connectionStatusLabel);
+    statusBar()->showMessage(tr("Program started"));
+
+    connect(m_helpView, &HelpView::linkClicked, this, &MW::browserLinkClicked);
+    connect(m_helpView, &HelpView::pageLoaded, this, &MW::helpViewLoadFinished);
+    for (QLabel *label : {m_form->faultRegister, m_form->FBDhelp}) {
+        label->setOpenExternalLinks(false);
+        connect(label, &QLabel::linkActivated, this, [this](const QString &link) { browserLinkClicked(QUrl(link)); });
+    }
+    connect(m_form->pageSelector, &QListWidget::itemSelectionChanged, this, &MW::pageChanged);
+    m_form->pageSelector->setCurrentRow(WelcomePageIndex);
+}
+
+void MW::connectSession()
+{
+    m_applyTimer = new QTimer(this);
+    m_applyTimer->setInterval(APPLY_INTERVAL_MS);
+    connect(m_applyTimer, &QTimer::timeout, this, &MW::updateApplyButtonState);
+    m_applyTimer->start();
+    m_questionTimer = new QTimer(this);
+    m_questionTimer->setInterval(QUESTION_RETRY_MS);
+    connect(m_questionTimer, &QTimer::timeout, this, &MW::runWaitingQuestion);
+
+    // The worker emits on its own thread; everything arrives here through the event loop.
+    const auto type = Qt::QueuedConnection;
+    connect(&m_connection, &Connection::statusChanged, this, &MW::connectionStatusChanged, type);
+    connect(&m_connection, &Connection::error, m_errorWindow, &ErrorWindow::showMessage, type);
+    connect(&m_connection, &Connection::parametersRetreived, this, &MW::paramsRetreived, type);
+    connect(&m_connection, &Connection::plotReady, this, &MW::plotCapture, type);
+    connect(&m_connection, &Connection::updateCaptureButtonText, this, &MW::changeScopeButtonText, type);
+    connect(&m_connection, &Connection::physInputsUpdated, m_form->physInputStatus, &QLabel::setText, type);
+    connect(&m_connection, &Connection::statusRegisterUpdated, m_form->statusRegister, &QLabel::setText, type);
+    connect(&m_connection, &Connection::faultRegisterUpdated, m_form->faultRegister, &QLabel::setText, type);
+    connect(&m_connection, &Connection::availableBusNodes, this, &MW::availableBusNodesListReceived, type);
+    connect(&m_connection, &Connection::firmwareUpgradeMsg, this, &MW::firmwareUpgradeMsg, type);
+    connect(&m_connection, &Connection::suggestDeviceRestart, this, &MW::suggestDeviceRestart, type);
+    connect(&m_connection, &Connection::setpointChanged, this, &MW::setpointChanged, type);
+    connect(&m_connection, &Connection::busy, this, &MW::setBusy, type);
+    connect(&m_connection, &Connection::setUnsavedState, this, &MW::setUnsavedStatus, type);
+    connect(&m_connection, &Connection::controlModeChanged, this, &MW::deviceControlModeChanged, type);
+
+    const auto changed = QOverload<int>::of(&QSpinBox::valueChanged);
+    connect(m_form->MUL, changed, this, &MW::updateUnitLabels);
+    connect(m_form->DIV, changed, this, &MW::updateUnitLabels);
+    connect(m_form->FBR, changed, this, &MW::updateUnitLabels);
+    connect(m_form->AXS, QOverload<double>::of(&QDoubleSpinBox::valueChanged), this, &MW::updateUnitLabels);
+    connect(m_form->AXT, QOverload<int>::of(&QComboBox::currentIndexChanged), this, &MW::updateUnitLabels);
+}
+
+void MW::createShortcuts()
+{
+    struct Shortcut
+    {
+        const char *key;
+        void (MW::*slot)();
+    };
+    // Alt+2 and Alt+3 cross on purpose: absolute targets first, then the increments.
+    const Shortcut shortcuts[] = {
+        {"Ctrl+P", &MW::on_actionRaw_parameters_triggered},
+        {"Alt+A", &MW::on_apply_button_clicked},
+        {"Alt+1", &MW::on_setAbs1_clicked},
+        {"Alt+2", &MW::on_setAbs2_clicked},
+        {"Alt+3", &MW::on_setInc1_clicked},
+        {"Alt+4", &MW::on_setInc2_clicked},
+        {"Alt+0", &MW::on_setZero_clicked},
+        {"Alt+R", &MW::on_clear_faults_clicked},
+        {"Alt+S", &MW::on_ScopeCaptureNow_clicked},
+        {"Ctrl+S", &MW::on_save_settings_to_file_clicked},
+        {"Ctrl+O", &MW::on_load_settings_from_file_clicked},
+        {"Alt+O", &MW::on_connect_button_clicked},
+        {"Alt+D", &MW::on_disconnect_button_clicked},
+    };
+    for (const Shortcut &shortcut : shortcuts) {
+        auto *key = new QShortcut(QKeySequence(QLatin1String(shortcut.key)), this);
+        key->setAutoRepeat(false); // a held Alt+3 must not walk the axis away
+        connect(key, &QShortcut::activated, this, shortcut.slot);
+    }
+    m_escapeFilter = new EscapeFilter(this);
+    connect(m_escapeFilter, &EscapeFilter::escapePressed, this, &MW::on_disable_drive_clicked);
+    auto *escape = new QShortcut(QKeySequence(Qt::Key_Escape), this);
+    escape->setAutoRepeat(false);
+    connect(escape, &QShortcut::activated, m_escapeFilter, &EscapeFilter::shortcutActivated);
+    connect(escape, &QShortcut::activatedAmbiguously, m_escapeFilter, &EscapeFilter::shortcutActivated);
+}
+
+void MW::hideForGood()
+{
+    QWidget *const hidden[] = {m_form->offlineHelpNotification,
+                               m_form->stimuluspresets,
+                               m_form->CSDracc,
+                               m_form->CSDl,
+                               m_form->CSD,
+                               m_form->AD,
+                               m_form->ADl,
+                               m_form->FUVwarning,
+                               m_form->menuBar,
+                               m_form->mainToolBar,
+                               m_form->ScopeDebug,
+                               m_form->ScopeDebug2,
+                               m_form->scopeFluxCurrent,
+                               m_form->scopeFluxVoltage,
+                               m_form->scopePWM1,
+                               m_form->scopePWM2,
+                               m_form->scopePWM3,
+                               m_form->dualfbgroup};
+    for (QWidget *widget : hidden)
+        widget->hide();
+    const auto labels = findChildren<QLabel *>();
+    for (QLabel *label : labels) {
+        if (label->objectName().startsWith(QLatin1String("hiddenlabel")))
+            label->hide();
+    }
+}
+
+void MW::fillTorqueFunctions()
+{
+    // Behind the form's "None" and "Constant"; the index is the value that the drive knows.
+    for (int k = 2; k < 2 + 2 * SINE_AND_COSINE_ORDERS; ++k) {
+        const QString text = (k % 2 == 0 ? tr("Sin(%1x)") : tr("Cos(%1x)")).arg(k / 2);
+        m_form->TRF1->addItem(text);
+        m_form->TRF2->addItem(text);
+    }
+}
+
+void MW::restoreLayout()
+{
+    const QSettings settings = windowSettings();
+    if (!restoreGeometry(settings.value(QStringLiteral("geometry")).toByteArray()))
+        resize(1300, 730);
+    restoreState(settings.value(QStringLiteral("windowState")).toByteArray(), 0);
+    m_form->mainToolBar->hide(); // whatever an old state says
+}
+
+void MW::showDisclaimer()
+{
+    QMessageBox box(this);
+    box.setWindowIcon(windowIcon());
+    box.setIconPixmap(windowIcon().pixmap(64, 64));
+    box.setWindowTitle(tr("Velbrin starting up"));
+    box.setText(tr("Welcome to Velbrin servo drive configuration software!<h3>Important safety information</h3>The "
+                   "most important thing while operating a servo drive is knowing the electrical and mechanical risks "
+                   "and hazards involved. If unsure about the dangers involved, don't use this software or it's "
+                   "associated hardware.<br><br>Only a person with sufficient electrical and machinery safety skills "
+                   "may install the devices configured by this software.<br><br>Tarnwell Devices or its personnell "
+                   "(later Producers) are not responsible of damages caused by inproper usage.<br><h3>Limited warranty "
+                   "and liability</h3>Producer is not liable of damages, losses or other consequences caused directly "
+                   "or indirectly by Tarnwell Devices products (later Products). User's responsibility is to ensure "
+                   "safety of system where Products are being utilized. Producer's warranty is limited to cover "
+                   "Products only and Producers will not cover any of the potential harms that may be caused by "
+                   "Products even in the case of severe Product malfunctioning or defects.<br><br>"));
+    box.setInformativeText(tr("By clicking <i>I Agree</i> you are agreeing these terms and conditions."));
+    QPushButton *disagree = box.addButton(tr("Disagree"), QMessageBox::RejectRole);
+    const QPushButton *agree = box.addButton(tr("I Agree"), QMessageBox::AcceptRole);
+    box.setDefaultButton(disagree);
+    box.exec();
+    if (box.clickedButton() == agree)
+        return;
+
+    QMessageBox farewell(this);
+    farewell.setWindowTitle(tr("Velbrin"));
+    farewell.setText(tr("This software will exit as Disagree button was clicked. You may contact Tarnwell Devices to "
+                        "obtain customized agreement."));
+    farewell.setDefaultButton(farewell.addButton(tr("Quit"), QMessageBox::RejectRole));
+    farewell.exec();
+    QTimer::singleShot(0, this, &QWidget::close);
+    qDebug() << "disagree";
+}
+
+void MW::on_actionRaw_parameters_triggered()
+{
+    m_overridesDialog->show();
+    m_overridesDialog->raise();
+    m_overridesDialog->activateWindow();
+}
+
+void MW::setBusy(bool busy, bool nonBlocking)
+{
+    qDebug() << "BUSY " << (busy ? "true" : "false");
+    if (!busy)
+        m_busyDialog->hide();
+    else if (!nonBlocking)
+        m_busyDialog->show();
+    setCursor(busy ? Qt::BusyCursor : Qt::ArrowCursor);
+}
+
+void MW::askWhenFree(const std::function<void()> &question)
+{
+    m_questions.append(question);
+    m_questionTimer->start();
+    runWaitingQuestion();
+}
+
+void MW::runWaitingQuestion()
+{
+    if (m_questions.isEmpty()) {
+        m_questionTimer->stop();
+        return;
+    }
+    if (!QApplication::activeModalWidget() && !QApplication::activePopupWidget() && !m_errorWindow->isVisible())
+        m_questions.takeFirst()();
+}
+
+void MW::closeEvent(QCloseEvent *event)
+{
+    qDebug() << "Close";
+    if (checkIfParamsChangedAndAskUser(AskWithAbort) || checkIfParamsSavedAndAskUser()) {
+        event->ignore();
+        return;
+    }
+    stopStimulus();
+    m_questions.clear();
+    QSettings settings = windowSettings();
+    settings.setValue(QStringLiteral("geometry"), saveGeometry());
+    settings.setValue(QStringLiteral("windowState"), saveState(0));
+    event->accept();
+}

@@ -1,0 +1,232 @@
+/// \file
+/// The main window: page list, seven pages, help view, and the dialogs that belong to it. A thin shell: what can be
+/// told without a window (units, bit fields, visibility, sanity checks) stands in files of its own beside this one.
+#ifndef MW_H
+#define MW_H
+
+#include "captureplotter.h"
+#include "connection.h"
+#include "controlbinding.h"
+#include "pendingchanges.h"
+
+#include <QDialog>
+#include <QMainWindow>
+#include <QPointer>
+#include <QUrl>
+#include <functional>
+#include <memory>
+
+class BusyDialog;
+class ErrorWindow;
+class EscapeFilter;
+class FirmwareDialog;
+class HelpView;
+class QCloseEvent;
+class QLabel;
+class QPushButton;
+class QTimer;
+class Ui_overrideParams;
+struct Forms;
+
+/// One per program, on the user-interface thread. It never waits on the bus: every slot stores what is asked on the
+/// Connection and queues a task, and the answers come back as queued signals.
+class MW : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    /// What the command line asked for.
+    struct Options
+    {
+        QString port;             ///< port to choose at first; empty: the last recognised adapter
+        QString virtualPort;      ///< port of the built-in virtual drive, empty when there is none
+        bool debugValues = false; ///< show the drive's debug values in the fault panel
+    };
+
+    /// When checkIfParamsChangedAndAskUser asks, and how.
+    enum AskForApplyMode {
+        AskWithAbort = 0,     ///< apply, go on without, or go back
+        AskBeforeTesting = 1, ///< apply or not
+    };
+
+    /// Builds the window, asks the user to accept the disclaimer (a modal box) and queues close() if they do not.
+    explicit MW(const Options &options, QWidget *parent = nullptr);
+    MW() : MW(Options()) {}
+    ~MW() override;
+
+protected:
+    void closeEvent(QCloseEvent *event) override;
+
+private slots:
+    void pageChanged();
+    void availableBusNodesListReceived(QList<NodeType> list);
+    void on_apply_button_clicked();
+    void saveTestResults_clicked();
+    void connectionStatusChanged(bool connected, QString text);
+    void on_MPC_editingFinished();
+    void on_MCC_editingFinished();
+    void on_MMC_editingFinished();
+    void on_MT_currentIndexChanged(int index);
+    void on_CRI_currentIndexChanged(int index);
+    void on_AXT_currentIndexChanged(int index);
+    void on_CM_currentIndexChanged(int index);
+    void on_HME_currentIndexChanged(int index);
+    void paramsRetreived(Parameters params, bool loadedFromFile);
+    void on_disable_drive_clicked();
+    void on_enable_drive_clicked();
+    void on_FB2D_currentIndexChanged(int index);
+    void plotCapture(QList<CaptureData> capture);
+    void browserLinkClicked(QUrl url);
+    void on_ScopeCaptureNow_clicked();
+    void on_stimulusTarget1_editingFinished();
+    void on_stimulusDelay1_editingFinished();
+    void on_stimulusTarget2_editingFinished();
+    void on_stimulusDelay2_editingFinished();
+    void on_stimulusEnabled_stateChanged(int arg1);
+    void on_clear_faults_clicked();
+    void changeScopeButtonText(QString text);
+    void on_saveToFlash_clicked();
+    double convertHWtoMachineVelocityUnits(double hwunits, bool isSetpoint = false, bool rawHWscale = false);
+    QString convertHWtoMachineVelocityUnitsLabel(double hwunits, bool isSetpoint = false, bool rawHWscale = false);
+    QString convertHWtoMachinePositionUnitsLabel(double hwunits, bool rawHWscale = false);
+    QString convertHWtoMachineAccelerationUnitsLabel(double hwunits);
+    QString convertHWtoMachineUnitsLabel(double hwunits, QString labelname);
+    QString convertHWrefToUnitsLabel(double ref);
+    void on_stimulusTarget1_valueChanged(int arg1);
+    void on_stimulusTarget2_valueChanged(int arg1);
+    void on_actionRaw_parameters_triggered();
+    QString giveDeviceVersion(int hwtypeid);
+    void on_start_homing_clicked();
+    void on_abort_homing_clicked();
+    void on_HLL_editingFinished();
+    void on_HHL_editingFinished();
+    void updateUnitLabels();
+    void on_load_settings_from_file_clicked();
+    void on_save_settings_to_file_clicked();
+    void helpViewLoadFinished(bool ok);
+    void on_connect_button_clicked();
+    void on_disconnect_button_clicked();
+    void on_restartDrive_clicked();
+    void updateApplyButtonState();
+    void helpLoadingTimeouted();
+    void firmwareUpgradeMsg(QString msg, bool done, bool failed);
+    void FWUpgrade_openFile_clicked();
+    void FWUpgrade_close_clicked();
+    void suggestDeviceRestart();
+    void on_force_enable_clicked();
+    void handleUpdateCheckerMessage(QString html, bool mustDisconnect);
+    void on_setAbs1_clicked();
+    void on_setInc1_clicked();
+    void on_setAbs2_clicked();
+    void on_setInc2_clicked();
+    void on_copyDeviceStateToClipboard_clicked();
+    void on_FUV_valueChanged(double arg1);
+    void on_setZero_clicked();
+    void setpointChanged(double val);
+    void on_restartToDFUMode_clicked();
+    void on_measureRLbutton_clicked();
+    void setBusy(bool busy, bool nonBlocking);
+    void setUnsavedStatus();
+    void on_FBD_currentIndexChanged(QString arg1);
+    void on_showAdvancedSettings_clicked();
+    void deviceControlModeChanged(int newmode);
+
+private:
+    // Construction, in this order (mw.cpp)
+    void buildForms();
+    void buildPageList();
+    void buildHelpAndStatus();
+    void connectSession();
+    void createShortcuts();
+    void hideForGood();
+    void fillTorqueFunctions();
+    void restoreLayout();
+    void showDisclaimer();
+
+    // Connect page
+    void populateConnectionPortList();
+    QString chosenPort() const;
+    void chooseNode();
+    void connectToNode(int address);
+    void showMaximumSampleRate();
+    void showNoDevice();
+
+    // Parameter pages
+    void setParams();
+    void fillControls(bool bareCatalogue);
+    void showDeviceType(int typeId);
+    void connectDynamicSpinboxLabels();
+    void doParamSanityChecks();
+    void updateControlVisibility();
+    void updateAllRules();
+    struct UnitConversion unitConversion() const;
+    void askToResetPosition();
+
+    // Apply, save, files
+    void clearChangesPending();
+    void commitEditedField();
+    bool valuesHaveArrived(const QString &refusal);
+    bool applyToDrive();
+    bool areParamsChanged();
+    bool checkIfParamsChangedAndAskUser(AskForApplyMode mode);
+    bool checkIfParamsSavedAndAskUser();
+    bool askBeforeTesting(const QString &text);
+    bool askWithAbort(const QString &text);
+    /// `mode` is QFileDialog::AcceptSave or AcceptOpen, "~" the home folder; empty when the user gave no name.
+    QString askFile(int mode, const QString &title, QString start, const QString &filters);
+
+    // Testing, actions, help
+    void stopStimulus();
+    void sendSetpoint(const QWidget *button, int target, Connection::Task task);
+    void restartAndReconnect(Connection::Task restartTask);
+    void loadHelp();
+    void showPlotPage();
+    /// Runs a question as soon as no other box, message or popup is open, so that its default button never takes a key
+    /// that was meant for the other. Questions wait in order.
+    void askWhenFree(const std::function<void()> &question);
+    void runWaitingQuestion();
+
+    Options m_options;
+    std::unique_ptr<Forms> m_form;
+    std::unique_ptr<Ui_overrideParams> m_overridesForm;
+    QDialog *m_overridesDialog = nullptr;
+    BusyDialog *m_busyDialog = nullptr;
+    FirmwareDialog *m_firmwareDialog = nullptr;
+    HelpView *m_helpView = nullptr;
+    QPushButton *m_saveAsPdfButton = nullptr;
+    ErrorWindow *m_errorWindow = nullptr;
+    EscapeFilter *m_escapeFilter = nullptr;
+    QLabel *m_connectionStatusLabel = nullptr;
+    QTimer *m_applyTimer = nullptr;
+    QTimer *m_helpTimer = nullptr;
+    QTimer *m_questionTimer = nullptr;
+    QList<std::function<void()>> m_questions;
+
+    Parameters m_params; ///< the set last shown in the pages
+    ControlBinding m_binding{this};
+    PendingChanges m_pending;
+    QList<QLabel *> m_unitLabels; ///< labels that show their control in machine units
+    CapturePlotter m_plotter;
+    QList<CaptureData> m_captures; ///< the last capture, kept for plotting it again
+    QString m_lastDirectory = QStringLiteral("~");
+    QString m_lastFirmwareFolder = QStringLiteral("~");
+    QList<NodeType> m_foundNodes;
+    QPointer<QDialog> m_nodeDialog;
+    bool m_nodeQuestionWaits = false;
+
+    int m_currentPage = 0;
+    bool m_helpEnabled = true;     ///< false while a plot is shown
+    bool m_offlineHelp = false;    ///< once true, help comes from local files for the rest of the run
+    bool m_changesPending = false; ///< controls hold values that the drive has not been given
+    bool m_paramsSaved = true;     ///< the drive's flash holds what was last applied
+    bool m_valuesArrived = false;  ///< this connection's full read has filled the controls
+    bool m_anySetArrived = false;  ///< the first set is the bare catalogue, whose zeros are nobody's settings
+    bool m_showAdvanced = false;
+    bool m_reconnectAfterUpgrade = false;
+    double m_loopFrequency = 2500.0; ///< control cycles a second (PIF), Hz
+    enum class ResetChoice { Ask, Never, Always } m_resetChoice = ResetChoice::Ask; ///< for this run only
+
+    Connection m_connection; ///< last, so that the worker ends while everything it reports to still exists
+};
+
+#endif

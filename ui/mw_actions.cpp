@@ -1,0 +1,101 @@
+// Buttons and shortcuts that act on the connected drive at once.
+#include "mw.h"
+#include "mwforms.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QTextDocument>
+
+void MW::on_enable_drive_clicked()
+{
+    m_connection.setDriveEnableStatus(true);
+    m_connection.command(Connection::TaskApplyEnableState);
+}
+
+void MW::on_force_enable_clicked()
+{
+    m_connection.setDriveEnableStatus(true);
+    m_connection.setDriveForceEnableStatus(true);
+    m_connection.command(Connection::TaskApplyEnableState);
+}
+
+// No guard: a disable always gets through, whatever the window believes about the connection.
+void MW::on_disable_drive_clicked()
+{
+    m_connection.setDriveEnableStatus(false);
+    m_connection.setDriveForceEnableStatus(false);
+    stopStimulus();
+    m_connection.command(Connection::TaskApplyEnableState);
+}
+
+void MW::on_clear_faults_clicked()
+{
+    if (m_form->clear_faults->isEnabled())
+        m_connection.clearDriveFaults();
+}
+
+void MW::on_start_homing_clicked()
+{
+    if (!checkIfParamsChangedAndAskUser(AskWithAbort))
+        m_connection.command(Connection::TaskStartHoming);
+}
+
+void MW::on_abort_homing_clicked()
+{
+    m_connection.command(Connection::TaskAbortHoming);
+}
+
+void MW::sendSetpoint(const QWidget *button, int target, Connection::Task task)
+{
+    // The shortcuts reach the slots even when the buttons are disabled.
+    if (!button->isEnabled())
+        return;
+    m_connection.setTargetSetpoint(target);
+    m_connection.command(task);
+}
+
+void MW::on_setAbs1_clicked()
+{
+    sendSetpoint(m_form->setAbs1, m_form->stimulusTarget1->value(), Connection::TaskSetAbsoluteSetpoint);
+}
+
+void MW::on_setInc1_clicked()
+{
+    sendSetpoint(m_form->setInc1, m_form->stimulusTarget1->value(), Connection::TaskSetIncrementalSetpoint);
+}
+
+void MW::on_setAbs2_clicked()
+{
+    sendSetpoint(m_form->setAbs2, m_form->stimulusTarget2->value(), Connection::TaskSetAbsoluteSetpoint);
+}
+
+void MW::on_setInc2_clicked()
+{
+    sendSetpoint(m_form->setInc2, m_form->stimulusTarget2->value(), Connection::TaskSetIncrementalSetpoint);
+}
+
+// No guard, as with disabling.
+void MW::on_setZero_clicked()
+{
+    stopStimulus();
+    m_connection.setTargetSetpoint(0);
+    m_connection.command(Connection::TaskSetAbsoluteSetpoint);
+}
+
+void MW::on_measureRLbutton_clicked()
+{
+    // The measurement ends in a full read, which would take edits that were not applied with it.
+    if (checkIfParamsChangedAndAskUser(AskWithAbort))
+        return;
+    stopStimulus();
+    m_connection.command(Connection::TaskMeasure);
+}
+
+void MW::on_copyDeviceStateToClipboard_clicked()
+{
+    const QStringList panels{m_form->physInputStatus->text(), m_form->statusRegister->text(),
+                             m_form->faultRegister->text()};
+    QTextDocument document;
+    document.setHtml(panels.join(QLatin1String("<br><br>")));
+    QGuiApplication::clipboard()->setText(document.toPlainText(), QClipboard::Clipboard);
+}

@@ -1,0 +1,204 @@
+// From the controls to the drive, to its flash, to a settings file; and the questions before edits would be lost.
+#include "errorwindow.h"
+#include "mw.h"
+#include "mwforms.h"
+#include "ui_overrideparams.h"
+
+#include <QAbstractSpinBox>
+#include <QDebug>
+#include <QDir>
+#include <QFileDialog>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QStatusBar>
+
+void MW::updateApplyButtonState()
+{
+    setParams();
+    QPushButton *button = m_form->apply_button;
+    button->setDefault(m_changesPending);
+    button->setText(m_changesPending ? tr("Apply settings (parameters changed)") : tr("Apply settings [Alt+A]"));
+}
+
+bool MW::areParamsChanged()
+{
+    setParams();
+    return m_changesPending;
+}
+
+void MW::clearChangesPending()
+{
+    m_pending.settle(m_params);
+    m_changesPending = false;
+}
+
+// What is being typed counts as soon as the field loses the keyboard; a shortcut does not take it away by itself.
+void MW::commitEditedField()
+{
+    QWidget *field = focusWidget();
+    if (!field || !field->hasFocus())
+        return;
+    field->clearFocus();
+    field->setFocus();
+}
+
+bool MW::valuesHaveArrived(const QString &refusal)
+{
+    // Before the first full read the controls hold no value of this drive, and no limits of it either.
+    if (!m_valuesArrived)
+        statusBar()->showMessage(refusal);
+    return m_valuesArrived;
+}
+
+void MW::on_apply_button_clicked()
+{
+    commitEditedField();
+    applyToDrive();
+}
+
+bool MW::applyToDrive()
+{
+    if (!m_form->apply_button->isEnabled())
+        return false;
+    if (!valuesHaveArrived(tr("Nothing applied: the settings of this drive have not been read yet")))
+        return false;
+    doParamSanityChecks();
+    m_connection.setWatchedParameter(m_overridesForm->customParamDisplay->value());
+    setParams();
+    clearChangesPending();
+    m_paramsSaved = false;
+    m_connection.setParams(m_params);
+    m_connection.command(Connection::TaskSetParams);
+    m_connection.checkErrors();
+    updateUnitLabels();
+    updateApplyButtonState();
+    return true;
+}
+
+void MW::on_saveToFlash_clicked()
+{
+    // An abort here still saves: what is in the drive's memory is worth keeping whatever becomes of the edits.
+    checkIfParamsChangedAndAskUser(AskWithAbort);
+    if (!valuesHaveArrived(tr("Nothing saved: the settings of this drive have not been read yet")))
+        return;
+    m_connection.command(Connection::TaskSaveToFlash);
+    m_paramsSaved = true;
+}
+
+void MW::setUnsavedStatus()
+{
+    m_paramsSaved = false;
+}
+
+bool MW::checkIfParamsChangedAndAskUser(AskForApplyMode mode)
+{
+    setParams();
+    if (!m_changesPending || !m_connection.isConnected())
+        return false;
+    const QString text = tr("Some paramets have been changed since last Apply. Changed settings won't take effect "
+                            "before Apply.");
+    switch (mode) {
+    case AskBeforeTesting:
+        return askBeforeTesting(text);
+    case AskWithAbort:
+        return askWithAbort(text);
+    }
+    return false;
+}
+
+bool MW::askBeforeTesting(const QString &text)
+{
+    QMessageBox box(QMessageBox::Question, tr("Velbrin"), text, QMessageBox::Yes | QMessageBox::No, this);
+    box.setInformativeText(tr("Do you wish to apply changes to drive now?"));
+    box.setDefaultButton(QMessageBox::Yes);
+    if (box.exec() == QMessageBox::Yes)
+        on_apply_button_clicked();
+    return false;
+}
+
+bool MW::askWithAbort(const QString &text)
+{
+    QMessageBox box(QMessageBox::Question, tr("Velbrin"), text, QMessageBox::Abort, this);
+    box.setInformativeText(tr("Do you wish to apply changes to drive now? You may also choose Abort to go back."));
+    const QPushButton *goOn = box.addButton(tr("Continue without applying"), QMessageBox::DestructiveRole);
+    const QPushButton *apply = box.addButton(tr("Apply settings"), QMessageBox::YesRole);
+    box.setDefaultButton(QMessageBox::Abort); // a stray Return neither writes to the drive nor loses an edit
+    box.exec();
+    if (box.clickedButton() == goOn) {
+        qDebug() << "dont apply";
+        clearChangesPending();
+        return false;
+    }
+    if (box.clickedButton() == apply) {
+        qDebug() << "apply";
+        return !applyToDrive(); // a refused apply must not cost the edits
+    }
+    qDebug() << "abort";
+    return true;
+}
+
+bool MW::checkIfParamsSavedAndAskUser()
+{
+    setParams();
+    if (m_paramsSaved || !m_connection.isConnected())
+        return false;
+    QMessageBox box(QMessageBox::Question, tr("Velbrin"),
+                    tr("Some paramets have been changed since last Save to drive. Last changes will be lost on drive "
+                       "power-off if not saved."),
+                    QMessageBox::Abort, this);
+    box.setInformativeText(
+        tr("Do you wish to save active settings to drive now? You may also choose Abort to go back."));
+    const QPushButton *discard = box.addButton(tr("Discard changes"), QMessageBox::DestructiveRole);
+    const QPushButton *save = box.addButton(tr("Save to drive now"), QMessageBox::YesRole);
+    box.setDefaultButton(QMessageBox::Abort);
+    box.exec();
+    qDebug() << "choice" << box.clickedButton()->text();
+    if (box.clickedButton() == discard) {
+        qDebug() << "dontsave";
+        clearChangesPending(); // not the unsaved state: the next close asks again
+        return false;
+    }
+    if (box.clickedButton() == save) {
+        on_saveToFlash_clicked();
+        qDebug() << "save";
+        return false;
+    }
+    qDebug() << "abort";
+    return true;
+}
+
+void MW::on_save_settings_to_file_clicked()
+{
+    commitEditedField();
+    const QString file = askFile(QFileDialog::AcceptSave, tr("Save settings to file"),
+                                 m_lastDirectory + QLatin1String("/settings.drc"), tr("Drive settings (*.drc)"));
+    if (file.isEmpty())
+        return;
+    m_lastDirectory = file.section(QLatin1Char('/'), 0, -2);
+    setParams();
+    m_connection.setParams(m_params);
+    m_connection.setSettingsFileName(file);
+    m_connection.command(Connection::TaskSaveSettingsFile);
+}
+
+void MW::on_load_settings_from_file_clicked()
+{
+    const QString file =
+        askFile(QFileDialog::AcceptOpen, tr("Open settings file"), m_lastDirectory, tr("Drive settings (*.drc)"));
+    if (file.isEmpty())
+        return;
+    m_lastDirectory = file.section(QLatin1Char('/'), 0, -2);
+    m_connection.setSettingsFileName(file);
+    m_connection.command(Connection::TaskLoadSettingsFile);
+}
+
+QString MW::askFile(int mode, const QString &title, QString start, const QString &filters)
+{
+    if (start.startsWith(QLatin1Char('~')))
+        start.replace(0, 1, QDir::homePath());
+    // The toolkit's own dialog, never the desktop's: Esc has to reach the drive from here as well.
+    const auto options = QFileDialog::DontUseNativeDialog;
+    if (mode == QFileDialog::AcceptSave)
+        return QFileDialog::getSaveFileName(this, title, start, filters, nullptr, options);
+    return QFileDialog::getOpenFileName(this, title, start, filters, nullptr, options);
+}

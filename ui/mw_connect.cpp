@@ -1,0 +1,177 @@
+// Connect page: choosing a port, searching the bus, choosing a drive, and what changes with the connection.
+#include "firmwaredialog.h"
+#include "makerlinks.h"
+#include "mw.h"
+#include "mwforms.h"
+#include "portlist.h"
+#include "ui_selectbusnode.h"
+
+#include <QCheckBox>
+#include <QDebug>
+
+void MW::populateConnectionPortList()
+{
+    const QList<SerialPort> ports = serialPortsOfThisMachine();
+    qDebug() << "List of ports:";
+    for (const SerialPort &port : ports) {
+        qDebug() << "port name:" << port.portName;
+        qDebug() << "friendly name:" << port.description;
+        qDebug() << "physical name:" << port.systemLocation;
+        qDebug() << "enumerator name:" << port.manufacturer;
+        qDebug() << "vendor ID:" << port.vendorId;
+        qDebug() << "product ID:" << port.productId;
+        qDebug() << "===================================";
+    }
+    PortList list = portListOf(ports);
+    if (!m_options.virtualPort.isEmpty())
+        addVirtualDrive(list, m_options.virtualPort);
+    if (!m_options.port.isEmpty())
+        preselectPort(list, m_options.port);
+    m_form->communicationInterface->clear();
+    m_form->communicationInterface->addItems(list.items);
+    m_form->communicationInterface->setCurrentIndex(list.current);
+}
+
+QString MW::chosenPort() const
+{
+    // The adapter's name behind the first blank is for the reader; a port typed by hand stands alone.
+    return m_form->communicationInterface->currentText().trimmed().section(QLatin1Char(' '), 0, 0);
+}
+
+void MW::on_connect_button_clicked()
+{
+    if (!m_form->connect_button->isEnabled())
+        return;
+    qDebug() << "attempt connecting";
+    stopStimulus();
+    m_connection.command(Connection::TaskDisconnect);
+    m_connection.getListOfBusNodes(chosenPort());
+    m_form->connect_button->setText(tr("Searching devices..."));
+}
+
+void MW::on_disconnect_button_clicked()
+{
+    if (!m_form->disconnect_button->isEnabled())
+        return;
+    if (checkIfParamsChangedAndAskUser(AskWithAbort) || checkIfParamsSavedAndAskUser())
+        return;
+    stopStimulus();
+    m_connection.command(Connection::TaskDisconnect);
+}
+
+void MW::availableBusNodesListReceived(QList<NodeType> list)
+{
+    m_form->connect_button->setText(tr("Connect to drive"));
+    m_reconnectAfterUpgrade = false;
+    // Two quick presses bring two answers: only the newest one is worth choosing from.
+    m_foundNodes = list;
+    if (m_nodeDialog)
+        m_nodeDialog->reject();
+    if (!m_nodeQuestionWaits) {
+        m_nodeQuestionWaits = true;
+        askWhenFree([this] { chooseNode(); });
+    }
+}
+
+void MW::chooseNode()
+{
+    m_nodeQuestionWaits = false;
+    const QList<NodeType> nodes = m_foundNodes;
+    QDialog dialog;
+    Ui_selectBusNode form;
+    form.setupUi(&dialog);
+    form.label_2->setText(
+        form.label_2->text().replace(QLatin1String("https://wiki.tarnwell.example"), makerWikiBase()));
+    for (const NodeType &node : nodes) {
+        const QString model = Connection::deviceModelName(node.deviceType, true);
+        form.nodeList->addItem(node.firmwareUpgradeMode
+                                   ? tr("%1 at bus address %2 in firmware upgrade mode").arg(model).arg(node.address)
+                                   : tr("%1 at bus address %2").arg(model).arg(node.address));
+    }
+    connect(form.buttonBox, &QDialogButtonBox::accepted, &dialog, &QDialog::accept);
+    connect(form.buttonBox, &QDialogButtonBox::rejected, &dialog, &QDialog::reject);
+    connect(form.nodeList, &QListWidget::itemDoubleClicked, &dialog, &QDialog::accept);
+    // With one drive on the bus there is nothing to choose between.
+    if (nodes.size() == 1)
+        form.nodeList->setCurrentRow(0);
+    form.nodeList->setFocus();
+    m_nodeDialog = &dialog;
+    const bool accepted = dialog.exec() == QDialog::Accepted;
+    m_nodeDialog = nullptr;
+    const int row = form.nodeList->currentRow();
+    if (accepted && row >= 0 && row < nodes.size())
+        connectToNode(nodes[row].address);
+}
+
+void MW::connectToNode(int address)
+{
+    FWUpgrade_close_clicked();
+    m_connection.connectDevice(chosenPort(), address);
+    m_connection.getParams();
+    areParamsChanged();
+    clearChangesPending();
+    m_connection.checkErrors();
+    updateUnitLabels();
+}
+
+void MW::connectionStatusChanged(bool connected, QString text)
+{
+    m_connectionStatusLabel->setText(text);
+    m_valuesArrived = false;
+
+    QWidget *const needDrive[] = {m_form->driveControlsGroup,
+                                  m_form->disconnect_button,
+                                  m_form->apply_button,
+                                  m_form->start_homing,
+                                  m_form->abort_homing,
+                                  m_form->ScopeCaptureNow,
+                                  m_form->setAbs1,
+                                  m_form->setAbs2,
+                                  m_form->setInc1,
+                                  m_form->setInc2,
+                                  m_form->clear_faults_2,
+                                  m_form->measureRLbutton};
+    for (QWidget *widget : needDrive)
+        widget->setEnabled(connected);
+    m_form->connect_button->setEnabled(!connected);
+    m_form->communicationInterface->setEnabled(!connected);
+    m_form->refreshPorts->setEnabled(!connected);
+    // A search that could not open the port has no answer of its own.
+    if (!connected && text == QLatin1String("Connect failed"))
+        m_form->connect_button->setText(tr("Connect to drive"));
+
+    m_form->restartToDFUMode->setVisible(m_connection.deviceHasCapability(Connection::CapRestartToDFU));
+    m_form->measureRLbutton->setVisible(m_connection.deviceHasCapability(Connection::CapMeasureRL));
+    m_firmwareDialog->form.resetToFactoryState->setVisible(
+        m_connection.deviceHasCapability(Connection::CapResetToFactory));
+
+    if (connected)
+        showMaximumSampleRate();
+    else
+        showNoDevice();
+    updateUnitLabels();
+    updateAllRules();
+}
+
+void MW::showMaximumSampleRate()
+{
+    const double rate = m_connection.maxScopeSampleRate();
+    qDebug() << "max rate" << rate;
+    // The first item stands for "as fast as the drive can".
+    m_form->ScopeSampleRate->setItemText(0, tr("%1 Hz").arg(QString::number(rate)));
+}
+
+void MW::showNoDevice()
+{
+    for (QLabel *label :
+         {m_form->HWMODEL, m_form->HWVER, m_form->HWSERIAL, m_form->TCFWVER, m_form->FWVER, m_form->BUILDREVISION})
+        label->clear();
+    // Whatever ended the connection, the next drive must not start moving because of a tick that was left behind.
+    if (m_form->stimulusEnabled->isChecked())
+        stopStimulus();
+}
+
+QString MW::giveDeviceVersion(int hwtypeid)
+{
+    return QString::number(hwtypeid / 10 * 10); // the last digit is a revision that is not shown
+}

@@ -1,0 +1,97 @@
+// The firmware dialog, and restarting the drive with or without it.
+#include "errorwindow.h"
+#include "firmwaredialog.h"
+#include "mw.h"
+#include "mwforms.h"
+
+#include <QDebug>
+#include <QDir>
+#include <QFileDialog>
+#include <QMessageBox>
+
+void MW::firmwareUpgradeMsg(QString msg, bool done, bool failed)
+{
+    m_firmwareDialog->begin();
+    m_firmwareDialog->appendMessage(msg);
+    if (!done)
+        return;
+    m_firmwareDialog->setFinished();
+    m_connection.command(Connection::TaskDisconnect);
+    if (!failed) {
+        // The drive is at its one-time address now: let the user find it there.
+        m_connection.command(Connection::TaskScanBus);
+        m_reconnectAfterUpgrade = true;
+    }
+}
+
+void MW::FWUpgrade_openFile_clicked()
+{
+    qDebug() << "open FW";
+    const QString file =
+        askFile(QFileDialog::AcceptOpen, tr("Open firmware file"), m_lastFirmwareFolder, tr("Firmware file (*.tdf)"));
+    if (file.isEmpty())
+        return;
+    m_lastFirmwareFolder = file.section(QLatin1Char('/'), 0, -2);
+    m_connection.setFirmwareFileName(file, m_firmwareDialog->form.resetToFactoryState->isChecked());
+    m_connection.command(Connection::TaskFlashFirmware);
+    m_reconnectAfterUpgrade = false;
+    m_firmwareDialog->setRunning();
+}
+
+void MW::FWUpgrade_close_clicked()
+{
+    m_firmwareDialog->finish();
+    // Leaving without a successful upgrade drops the connection to a drive in upgrade mode.
+    if (!m_reconnectAfterUpgrade)
+        m_connection.command(Connection::TaskDisconnect);
+}
+
+void MW::restartAndReconnect(Connection::Task restartTask)
+{
+    if (checkIfParamsChangedAndAskUser(AskWithAbort) || checkIfParamsSavedAndAskUser())
+        return;
+    connectionStatusChanged(false, tr("Restarting device"));
+    m_connection.command(restartTask);
+    m_connection.command(Connection::TaskDisconnect);
+    on_connect_button_clicked();
+}
+
+void MW::on_restartDrive_clicked()
+{
+    restartAndReconnect(Connection::TaskRestartDrive);
+}
+
+void MW::on_restartToDFUMode_clicked()
+{
+    restartAndReconnect(Connection::TaskRestartToDFU);
+}
+
+void MW::suggestDeviceRestart()
+{
+    askWhenFree([this] {
+        if (!m_connection.isConnected())
+            return;
+        QMessageBox box(QMessageBox::Question, tr("Velbrin"),
+                        tr("Some recently changed parameters or faults require drive restart (Permanent stop state is "
+                           "on). If this repeats, check parameters and device status page."),
+                        QMessageBox::NoButton, this);
+        box.setInformativeText(tr("Do you wish to restart device now?"));
+        QAbstractButton *stay = box.addButton(tr("Don't restart"), QMessageBox::NoRole);
+        QPushButton *restart = box.addButton(tr("Restart drive now"), QMessageBox::YesRole);
+        box.setDefaultButton(restart);
+        box.setEscapeButton(stay);
+        box.exec();
+        if (box.clickedButton() != restart)
+            return;
+        qDebug() << "restart";
+        on_restartDrive_clicked();
+    });
+}
+
+void MW::handleUpdateCheckerMessage(QString html, bool mustDisconnect)
+{
+    m_errorWindow->showMessage(html);
+    qDebug() << "mustdisconnect" << (mustDisconnect ? "true" : "false");
+    if (mustDisconnect)
+        m_connection.command(Connection::TaskDisconnect);
+}

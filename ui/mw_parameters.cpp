@@ -1,0 +1,319 @@
+// Parameters into controls and back, units beside them, and the rules between controls.
+#include "bitfields.h"
+#include "errorwindow.h"
+#include "makerlinks.h"
+#include "mw.h"
+#include "mwforms.h"
+#include "sanitychecks.h"
+#include "unitconversion.h"
+#include "visibility.h"
+
+#include <QDebug>
+#include <QMessageBox>
+#include <cmath>
+
+void MW::paramsRetreived(Parameters params, bool loadedFromFile)
+{
+    const bool bareCatalogue = !m_anySetArrived && loadedFromFile;
+    m_anySetArrived = true;
+    m_params = params;
+    const double frequency = params.getParam(QStringLiteral("PIF")).value;
+    if (frequency > 0)
+        m_loopFrequency = frequency;
+    fillControls(bareCatalogue);
+    if (!loadedFromFile)
+        m_valuesArrived = m_connection.isConnected();
+
+    setParams(); // what a control clamped counts as held
+    if (loadedFromFile && !bareCatalogue)
+        m_pending.fileLoaded();
+    else
+        m_pending.settle(m_params);
+    updateUnitLabels();
+    updateAllRules();
+    updateApplyButtonState();
+}
+
+void MW::fillControls(bool bareCatalogue)
+{
+    const int typeId = int(m_params.getParam(QStringLiteral("HWTYPE")).value);
+    const QString model = deviceModelName(typeId, false);
+    showDeviceType(typeId);
+    for (int i = 0; i < m_params.getParamCount(); ++i) {
+        const SingleParam p = m_params.getParam(i);
+        const bool supported = p.supportedInDevice(model);
+        if (QWidget *group = p.group.isEmpty() ? nullptr : findChild<QWidget *>(p.group))
+            group->setVisible(supported);
+        if (!p.auxFlag && bitFieldControls(p.name).isEmpty())
+            continue;
+        // Zeros that nobody read stay out of the controls; labels say that nothing was read yet.
+        if (bareCatalogue && !p.readonly)
+            continue;
+        if (!m_binding.fill(p) && p.name != QLatin1String("HWTYPE") && p.name != QLatin1String("UID"))
+            qDebug().noquote() << p.name + QLatin1String(" NOT FOUND");
+        // Without a drive there is no model to lack anything: a file can be looked through and edited.
+        m_binding.setSupported(p.name, supported || typeId <= 0);
+    }
+}
+
+void MW::showDeviceType(int typeId)
+{
+    const QString unread = infoLabelText(QStringLiteral("HWSERIAL"), 0);
+    m_form->HWMODEL->setText(typeId > 0 ? deviceModelName(typeId, true) : unread);
+    m_form->HWVER->setText(typeId > 0 ? giveDeviceVersion(typeId) : unread);
+}
+
+void MW::setParams()
+{
+    for (int i = 0; i < m_params.getParamCount(); ++i) {
+        SingleParam p = m_params.getParam(i);
+        p.value = m_binding.collect(p);
+        m_params.replaceParam(p, i);
+    }
+    m_changesPending = m_pending.isPending(m_params);
+}
+
+// --- Units beside the controls -----------------------------------------------------------------------------------
+
+UnitConversion MW::unitConversion() const
+{
+    UnitConversion units;
+    units.pif = m_loopFrequency;
+    units.fbr = m_form->FBR->value();
+    units.axs = m_form->AXS->value();
+    units.mul = m_form->MUL->value();
+    units.div = m_form->DIV->value();
+    units.unit = axisUnits(m_form->AXT->currentIndex()).plural;
+    return units;
+}
+
+double MW::convertHWtoMachineVelocityUnits(double hwunits, bool isSetpoint, bool rawHWscale)
+{
+    return unitConversion().velocity(hwunits, isSetpoint, rawHWscale);
+}
+
+QString MW::convertHWtoMachineVelocityUnitsLabel(double hwunits, bool isSetpoint, bool rawHWscale)
+{
+    return unitConversion().velocityLabel(hwunits, isSetpoint, rawHWscale);
+}
+
+QString MW::convertHWtoMachinePositionUnitsLabel(double hwunits, bool rawHWscale)
+{
+    return unitConversion().positionLabel(hwunits, rawHWscale);
+}
+
+QString MW::convertHWtoMachineAccelerationUnitsLabel(double hwunits)
+{
+    return unitConversion().accelerationLabel(hwunits);
+}
+
+QString MW::convertHWtoMachineUnitsLabel(double hwunits, QString labelname)
+{
+    return unitConversion().labelBySuffix(hwunits, labelname);
+}
+
+QString MW::convertHWrefToUnitsLabel(double ref)
+{
+    ActiveScale active;
+    active.controlMode = int(std::lround(m_connection.getActiveParamValue(QStringLiteral("CM"))));
+    active.cvl = m_connection.getActiveParamValue(QStringLiteral("CVL"));
+    active.mmc = m_connection.getActiveParamValue(QStringLiteral("MMC"));
+    return unitConversion().setpointLabel(ref, active);
+}
+
+void MW::connectDynamicSpinboxLabels()
+{
+    m_unitLabels.clear();
+    const auto labels = findChildren<QLabel *>();
+    for (QLabel *label : labels) {
+        if (!isUnitLabelName(label->objectName()))
+            continue;
+        const QString name = controlOfUnitLabel(label->objectName());
+        if (auto *box = findChild<QSpinBox *>(name))
+            connect(box, QOverload<int>::of(&QSpinBox::valueChanged), this, &MW::updateUnitLabels);
+        else if (auto *doubleBox = findChild<QDoubleSpinBox *>(name))
+            connect(doubleBox, QOverload<double>::of(&QDoubleSpinBox::valueChanged), this, &MW::updateUnitLabels);
+        m_unitLabels.append(label);
+    }
+}
+
+void MW::updateUnitLabels()
+{
+    const UnitConversion units = unitConversion();
+    for (QLabel *label : qAsConst(m_unitLabels)) {
+        const QString name = controlOfUnitLabel(label->objectName());
+        if (const auto *box = findChild<QSpinBox *>(name))
+            label->setText(units.labelBySuffix(box->value(), label->objectName()));
+        else if (const auto *doubleBox = findChild<QDoubleSpinBox *>(name))
+            label->setText(units.labelBySuffix(doubleBox->value(), label->objectName()));
+        else
+            qDebug().noquote() << "spinbox named " + name + " not found!";
+    }
+    on_stimulusTarget1_valueChanged(m_form->stimulusTarget1->value());
+    on_stimulusTarget2_valueChanged(m_form->stimulusTarget2->value());
+    m_form->SCALINGr->setText(units.scalingText());
+}
+
+// --- Rules between controls --------------------------------------------------------------------------------------
+
+void MW::on_MPC_editingFinished()
+{
+    m_form->MPC->setValue(evenPoleCount(m_form->MPC->value()));
+}
+
+void MW::on_MCC_editingFinished()
+{
+    m_form->MMC->setValue(orderedAfterLow(m_form->MCC->value(), m_form->MMC->value()).second);
+}
+
+void MW::on_MMC_editingFinished()
+{
+    m_form->MCC->setValue(orderedAfterHigh(m_form->MCC->value(), m_form->MMC->value()).first);
+}
+
+void MW::on_HLL_editingFinished()
+{
+    m_form->HHL->setValue(orderedAfterLow(m_form->HLL->value(), m_form->HHL->value()).second);
+}
+
+void MW::on_HHL_editingFinished()
+{
+    m_form->HLL->setValue(orderedAfterHigh(m_form->HLL->value(), m_form->HHL->value()).first);
+}
+
+void MW::on_MT_currentIndexChanged(int)
+{
+    updateControlVisibility();
+}
+
+void MW::on_CM_currentIndexChanged(int)
+{
+    updateControlVisibility();
+}
+
+void MW::on_HME_currentIndexChanged(int)
+{
+    updateControlVisibility();
+}
+
+void MW::on_FB2D_currentIndexChanged(int)
+{
+    updateControlVisibility();
+}
+
+void MW::on_CRI_currentIndexChanged(int index)
+{
+    updateControlVisibility();
+    if (!hasSetpointOffset(index))
+        m_form->CAO->setValue(0.0);
+}
+
+void MW::on_AXT_currentIndexChanged(int index)
+{
+    const QString unit = axisUnits(index).plural;
+    m_form->AXSr->setText(tr("%1 per motor revolution").arg(unit));
+    // These two turn into converted values as soon as the unit labels are next computed.
+    m_form->CVLrvel->setText(tr("%1/s").arg(unit));
+    m_form->CALracc->setText(tr("%1/s²").arg(unit));
+}
+
+void MW::on_FBD_currentIndexChanged(QString arg1)
+{
+    const auto guide = [](const char *path, const QString &text) {
+        return tr("See guide <a href=\"%1\">%2</a>").arg(makerWikiPage(QLatin1String(path)), text);
+    };
+    QString help;
+    if (arg1.contains(QLatin1String("SinCos")))
+        help = guide("/wiki/Using_SinCos_encoder", tr("Using SinCos encoder"));
+    else if (arg1.contains(QLatin1String("Resolver")))
+        help = guide("/wiki/Using_resolver_feedback_device", tr("Using resolver"));
+    m_form->FBDhelp->setText(help);
+}
+
+void MW::on_FUV_valueChanged(double arg1)
+{
+    const SupplyWarning warning = underVoltageWarning(m_form->HWMODEL->text(), arg1);
+    if (!warning.text.isEmpty())
+        m_form->FUVwarning->setText(warning.text);
+    m_form->FUVwarning->setVisible(warning.visible);
+}
+
+void MW::on_showAdvancedSettings_clicked()
+{
+    m_showAdvanced = !m_showAdvanced;
+    m_form->showAdvancedSettings->setText(m_showAdvanced ? tr("Hide advanced settings") : tr("Show advanced settings"));
+    updateControlVisibility();
+}
+
+void MW::updateControlVisibility()
+{
+    VisibilityInputs in;
+    in.motorType = m_form->MT->currentIndex();
+    in.controlMode = m_form->CM->currentIndex();
+    in.homing = m_form->HME->currentIndex();
+    in.setpointInput = m_form->CRI->currentIndex();
+    in.velocityFeedback = m_form->FB2D->currentIndex();
+    in.showAdvanced = m_showAdvanced;
+    in.isKetaPro = m_connection.isKetaPro();
+    applyVisibility(this, in);
+}
+
+void MW::updateAllRules()
+{
+    updateControlVisibility();
+    on_FBD_currentIndexChanged(m_form->FBD->currentText());
+    on_FUV_valueChanged(m_form->FUV->value());
+}
+
+void MW::doParamSanityChecks()
+{
+    const UnitConversion units = unitConversion();
+    SanityInputs in;
+    in.homing = m_form->HME->currentIndex();
+    in.homingThreshold = m_form->HMH->value();
+    in.trackingThreshold = m_form->FPT->value();
+    in.controlMode = m_form->CM->currentIndex();
+    in.limitVelocity = units.velocity(m_form->CVL->value());
+    in.faultVelocity = units.velocity(m_form->FEV->value(), false, true);
+    m_errorWindow->showMessage(sanityWarnings(in));
+}
+
+// --- The drive changed its control mode --------------------------------------------------------------------------
+
+void MW::deviceControlModeChanged(int newmode)
+{
+    if (!m_connection.deviceHasCapability(Connection::CapControlModeChange))
+        return;
+    if (m_resetChoice == ResetChoice::Always) {
+        m_connection.command(Connection::TaskSetZero);
+        return; // answered for good: a second reset through the question would add nothing
+    }
+    const int oneRevolution = 4 * m_form->FBR->value();
+    if (m_resetChoice == ResetChoice::Ask && newmode == 0 && std::abs(m_connection.positionFeedback()) > oneRevolution)
+        askWhenFree([this] { askToResetPosition(); });
+}
+
+void MW::askToResetPosition()
+{
+    if (!m_connection.isConnected())
+        return;
+    QMessageBox box(QMessageBox::Question, tr("Velbrin"), tr("Drive control mode changed to position control "),
+                    QMessageBox::NoButton, this);
+    box.setInformativeText(tr("Current position is %1, thus using setpoint commands may cause unexpected motion. Do "
+                              "you want to reset position feedback and setpoint values to zero?")
+                               .arg(QString::number(double(m_connection.positionFeedback()))));
+    QPushButton *keep = box.addButton(tr("Don't reset"), QMessageBox::RejectRole);
+    const QPushButton *reset = box.addButton(tr("Reset"), QMessageBox::AcceptRole);
+    const QPushButton *never = box.addButton(tr("Never reset"), QMessageBox::RejectRole);
+    const QPushButton *always = box.addButton(tr("Always reset"), QMessageBox::AcceptRole);
+    box.setDefaultButton(keep);
+    box.setEscapeButton(keep);
+    box.exec();
+    qDebug() << "choice" << box.clickedButton()->text();
+    if (box.clickedButton() == never)
+        m_resetChoice = ResetChoice::Never;
+    if (box.clickedButton() == always)
+        m_resetChoice = ResetChoice::Always;
+    if (box.clickedButton() == reset || box.clickedButton() == always)
+        m_connection.command(Connection::TaskSetZero);
+}

@@ -1,0 +1,69 @@
+#include "programoptions.h"
+
+#include "driveprofile.h"
+#include "version.h"
+
+#include <QCommandLineParser>
+#include <QCoreApplication>
+#include <QRegularExpression>
+
+namespace {
+
+QString tr(const char *text)
+{
+    return QCoreApplication::translate("main", text);
+}
+
+QStringList knownProfiles()
+{
+    QStringList names;
+    for (const sim::DriveProfile &profile : sim::driveProfiles())
+        names.append(QLatin1String(profile.name));
+    return names;
+}
+
+} // namespace
+
+ProgramOptions parseProgramOptions(QStringList arguments)
+{
+    const QStringList profiles = knownProfiles();
+    // The parser knows no optional values: without one the first model is meant.
+    arguments.replaceInStrings(QRegularExpression(QStringLiteral("^--virtual-drive$")),
+                               QLatin1String("--virtual-drive=") + profiles.first());
+    const QCommandLineOption virtualDrive(
+        QStringLiteral("virtual-drive"),
+        tr("Brings virtual drives up inside the program, on port COM1. Models, separated by commas: %1.")
+            .arg(profiles.join(QLatin1String(", "))),
+        QStringLiteral("models"));
+    const QCommandLineOption port(QStringLiteral("port"), tr("Chooses this serial port at first."),
+                                  QStringLiteral("name"));
+    const QCommandLineOption debugValues(QStringLiteral("debug-values"),
+                                         tr("Shows the drive's debug values under the fault register."));
+    const QCommandLineOption help({QStringLiteral("h"), QStringLiteral("help")}, tr("Shows this text."));
+    const QCommandLineOption version({QStringLiteral("v"), QStringLiteral("version")}, tr("Shows the version."));
+    QCommandLineParser parser;
+    parser.setApplicationDescription(tr("Configures, tunes and starts up Tarnwell servo drives."));
+    parser.addOptions({virtualDrive, port, debugValues, help, version});
+
+    ProgramOptions options;
+    if (!parser.parse(arguments)) {
+        options.error = parser.errorText();
+        return options;
+    }
+    if (parser.isSet(help))
+        options.text = parser.helpText();
+    else if (parser.isSet(version))
+        options.text = QStringLiteral("velbrin %1\n").arg(QLatin1String(VELBRIN_VERSION));
+    if (!parser.positionalArguments().isEmpty())
+        options.error = tr("Unexpected argument: %1").arg(parser.positionalArguments().first());
+    options.port = parser.value(port);
+    options.debugValues = parser.isSet(debugValues);
+    if (parser.isSet(virtualDrive))
+        options.virtualDrives = parser.value(virtualDrive).split(QLatin1Char(','));
+    for (const QString &profile : qAsConst(options.virtualDrives)) {
+        if (!profiles.contains(profile))
+            options.error = tr("No virtual drive is called \"%1\". There are: %2.")
+                                .arg(profile, profiles.join(QLatin1String(", ")));
+    }
+    return options;
+}

@@ -1,0 +1,21 @@
+/// \file
+/// The program's command line.
+#ifndef PROGRAMOPTIONS_H
+#define PROGRAMOPTIONS_H
+
+#include <QString>
+#include <QStringList>
+
+struct ProgramOptions
+{
+    QString port;              ///< port to choose at first
+    QStringList virtualDrives; ///< models of the built-in virtual drives, at bus addresses 5, 6, ...; empty: none
+    bool debugValues = false;
+    QString error; ///< what is wrong with the command line, empty when nothing is
+    QString text;  ///< what to print instead of starting (help, version), empty otherwise
+};
+
+/// `arguments` begins with the program's name. Needs the application object for its name.
+ProgramOptions parseProgramOptions(QStringList arguments);
+
+#endif

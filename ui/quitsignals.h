@@ -1,0 +1,21 @@
+/// \file
+/// SIGTERM and SIGINT end the program as a closed window would: the drive is left properly, links are removed.
+#ifndef QUITSIGNALS_H
+#define QUITSIGNALS_H
+
+#include <QObject>
+
+/// Turns the signals into QCoreApplication::quit(). One at a time; the application must exist.
+class QuitSignals : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit QuitSignals(QObject *parent = nullptr);
+    ~QuitSignals() override;
+
+private:
+    int m_pipe[2] = {-1, -1};
+};
+
+#endif
