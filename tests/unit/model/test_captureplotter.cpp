@@ -1,0 +1,138 @@
+#include "captureplotter.h"
+
+#include <gtest/gtest.h>
+
+#include <QDateTime>
+#include <QFile>
+#include <QLocale>
+#include <QTemporaryDir>
+
+#include <cstring>
+
+namespace {
+
+CaptureData channel(const char *name, const char *key, const char *group, QList<double> values)
+{
+    CaptureData c;
+    c.name = QString::fromLatin1(name);
+    c.key = QString::fromLatin1(key);
+    c.group = QString::fromLatin1(group);
+    c.enabled = true;
+    for (int i = 0; i < values.size(); ++i)
+        c.samples.append({i * 2 / 17500.0, values.at(i)});
+    return c;
+}
+
+/// Two torque channels around a disabled one, velocity, then torque again, which has one sample less.
+QList<CaptureData> recurring()
+{
+    QList<CaptureData> captures = {
+        channel("Torque setpoint [A]", "torqueref", "Torque", {0.00001, -1 / 560.0, 7}),
+        channel("Torque achieved [A]", "torquemeas", "Torque", {1, 2, 3}),
+        channel("Velocity achieved", "velmeas", "Velocity", {1234567, -0.5, 7}),
+        channel("Flux current", "fluxcurrent", "Torque", {655.35, 0}),
+        channel("Debug 1", "debug", "Debug", {1}),
+    };
+    captures[1].enabled = captures[4].enabled = false;
+    return captures;
+}
+
+/// A locale that writes a decimal comma, for as long as this lives.
+struct DecimalComma
+{
+    DecimalComma() { QLocale::setDefault(QLocale(QLocale::German)); }
+    ~DecimalComma() { QLocale::setDefault(QLocale::c()); }
+};
+
+QByteArray contentOf(const QString &path)
+{
+    QFile file(path);
+    file.open(QIODevice::ReadOnly);
+    return file.readAll();
+}
+
+} // namespace
+
+TEST(CapturePlotter, WritesTheScriptOfAGroup)
+{
+    const CapturePlotter plotter;
+    EXPECT_EQ(plotter.getPlotPlaceholderString("Torque"),
+              "<div id=\"Torque\" style=\"width:100%;height:400px;\"></div>\n");
+    const QString script = plotter.getPlottingScript(recurring(), "Torque");
+    const QString series = "[{ data: torqueref, label: \"Torque setpoint [A]\"} , "
+                           "{ data: fluxcurrent, label: \"Flux current\"} ]";
+    EXPECT_TRUE(script.startsWith("var Torque=$.plot($(\"#Torque\")," + series +
+                                  ", options);\n"
+                                  "$(\"#Torque\").bind(\"plotselected\", function (event, ranges) {\n"));
+    EXPECT_TRUE(script.contains("    Torque = $.plot($(\"#Torque\"), " + series + ",\n"));
+}
+
+TEST(CapturePlotter, PageRepeatsTheScriptOfAGroupThatRecurs)
+{
+    const DecimalComma locale;
+    const QString page = CapturePlotter().generatePlotPage(recurring(), "<h2>Parameters</h2> %1", "KETA 5% %2");
+    const char *const parts[] = {
+        "<!DOCTYPE HTML PUBLIC",
+        "<link href=\"../css/plotlayout.css\"",
+        "\"../excanvas.min.js\"",
+        "\"../jquery.js\"",
+        "\"../jquery.flot.js\"",
+        "\"../jquery.flot.selection.js\"",
+        "\"../jquery.flot.resize.js\"",
+        "<h1>Velbrin servo scope</h1>\nKETA 5% %2&nbsp;&nbsp;|&nbsp;&nbsp;",
+        "<a href=\"tdext://exportpdf\">Save as file</a>&nbsp;&nbsp;|&nbsp;&nbsp;<a "
+        "href=\"tdext://reloadplots\">Restore "
+        "zoom</a>&nbsp;&nbsp;|&nbsp;&nbsp;<a href=\"tdext://showhelp\">Switch to help "
+        "browser</a>&nbsp;&nbsp;|&nbsp;&nbsp;Click and drag on graph to zoom</p>\n<div id=\"Torque\" "
+        "style=\"width:100%;height:400px;\"></div>\n<div id=\"Velocity\" style=\"width:100%;height:400px;\"></div>\n"
+        "<script type=\"text/javascript\">\n$(function () {\n    var options = {",
+        "\nvar torqueref=[[0,1e-05],[0.000114286,-0.00178571]];\n"
+        "var velmeas=[[0,1.23457e+06],[0.000114286,-0.5]];\n"
+        "var fluxcurrent=[[0,655.35],[0.000114286,0]];\n"
+        "var Torque=$.plot($(\"#Torque\"),",
+        "var Velocity=$.plot($(\"#Velocity\"),",
+        "var Torque=$.plot($(\"#Torque\"),",
+        "\t\n});\n</script>\n<h2>Parameters</h2> %1\n</body>\n</html>\n",
+    };
+    int from = 0;
+    for (const char *part : parts) {
+        const int at = page.indexOf(part, from);
+        ASSERT_GE(at, from) << part;
+        from = at + static_cast<int>(strlen(part));
+    }
+    EXPECT_EQ(from, page.size());
+    EXPECT_EQ(page.count("$.plot($(\"#"), 6) << "three scripts, each of which plots again when zoomed";
+    EXPECT_FALSE(page.contains("torquemeas") || page.contains("%D"));
+}
+
+TEST(CapturePlotter, PageShowsWhenItWasMade)
+{
+    const DecimalComma locale;
+    const QDateTime before = QDateTime::currentDateTime();
+    const QString page = CapturePlotter().generatePlotPage({}, "", "KETA");
+    const int at = page.indexOf("KETA&nbsp;&nbsp;|&nbsp;&nbsp;") + 29;
+    const QDateTime shown = QDateTime::fromString(page.mid(at, 19), "dd.MM.yyyy hh:mm:ss");
+    EXPECT_LE(qAbs(before.secsTo(shown)), 60);
+    EXPECT_FALSE(page.contains("<div") || page.contains("$.plot($")) << "no channel, no chart";
+}
+
+TEST(CapturePlotter, CsvHasAsManyRowsAsTheShortestChannel)
+{
+    const DecimalComma locale;
+    const QTemporaryDir folder;
+    const QString path = folder.filePath("capture.csv");
+    ASSERT_TRUE(CapturePlotter().saveCaptureDataCSV(recurring(), path));
+    EXPECT_EQ(contentOf(path), "Time;Torque setpoint [A];Velocity achieved;Flux current\n"
+                               "0;1e-05;1.23457e+06;655.35\n"
+                               "0.000114286;-0.00178571;-0.5;0\n");
+    ASSERT_TRUE(CapturePlotter().saveCaptureDataCSV({}, path));
+    EXPECT_EQ(contentOf(path), "Time\n");
+}
+
+TEST(CapturePlotter, CsvThatCannotBeWrittenIsReported)
+{
+    const QTemporaryDir folder;
+    EXPECT_FALSE(CapturePlotter().saveCaptureDataCSV(recurring(), folder.path()));
+    EXPECT_FALSE(CapturePlotter().saveCaptureDataCSV(recurring(), folder.filePath("gone/capture.csv")));
+    EXPECT_FALSE(CapturePlotter().saveCaptureDataCSV(recurring(), "/dev/full"));
+}
