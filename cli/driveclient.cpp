@@ -118,10 +118,13 @@ int DriveClient::deviceType() const
     return m_connection->deviceType();
 }
 
-std::optional<Parameters> DriveClient::waitForRead(const QString &what)
+std::optional<Parameters> DriveClient::readBack(const QString &what)
 {
     // A read that broke off still hands over its list, and the error comes after it. A poll that follows the list
     // proves that the connection has survived.
+    m_list.reset();
+    m_connection->getParams();
+    m_connection->command(Connection::TaskUpdateStatus);
     const auto done = [this] { return (m_list && m_polls > 0) || m_link == Link::Lost; };
     const bool arrived = waitFor(what, done, transferLimitMs);
     return arrived && m_link == Link::Up ? m_list : std::nullopt;
@@ -131,20 +134,16 @@ std::optional<Parameters> DriveClient::read()
 {
     if (m_link != Link::Up)
         return std::nullopt;
-    m_list.reset();
-    m_connection->getParams();
-    return waitForRead(tr("Reading the drive's settings"));
+    return readBack(tr("Reading the drive's settings"));
 }
 
 std::optional<Parameters> DriveClient::write(const Parameters &list)
 {
     if (m_link != Link::Up)
         return std::nullopt;
-    m_list.reset();
     m_connection->setParams(list);
     m_connection->command(Connection::TaskSetParams);
-    m_connection->getParams();
-    return waitForRead(tr("Writing the drive's settings"));
+    return readBack(tr("Writing the drive's settings"));
 }
 
 bool DriveClient::saveToFlash()
@@ -152,10 +151,8 @@ bool DriveClient::saveToFlash()
     if (m_link != Link::Up)
         return false;
     // Saving has no answer of its own: the read behind it tells that it was carried out.
-    m_list.reset();
     m_connection->command(Connection::TaskSaveToFlash);
-    m_connection->getParams();
-    return waitForRead(tr("Saving to the drive's flash")).has_value();
+    return readBack(tr("Saving to the drive's flash")).has_value();
 }
 
 std::optional<LiveState> DriveClient::liveState()

@@ -61,7 +61,8 @@ private:
     void watchConnection();
     void say(const QString &text);
     bool waitFor(const QString &what, const std::function<bool()> &done, int limitMs);
-    std::optional<Parameters> waitForRead(const QString &what);
+    /// Reads all settings, behind whatever has been queued before.
+    std::optional<Parameters> readBack(const QString &what);
 
     enum class Link { None, Up, Lost };
 

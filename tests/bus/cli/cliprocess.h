@@ -1,0 +1,55 @@
+/// \file
+/// The real velbrin-cli, run against the virtual bus of the test.
+#ifndef CLIPROCESS_H
+#define CLIPROCESS_H
+
+#include "virtualbusfixture.h"
+
+#include "printqt.h"
+
+#include <QJsonDocument>
+#include <QProcess>
+#include <QStringList>
+#include <gmock/gmock.h>
+
+/// What a run came to. `status` is -1 when it crashed or did not end.
+struct Ran
+{
+    int status = -1;
+    QString out;
+    QString err;
+
+    QStringList lines() const { return out.split(QLatin1Char('\n'), Qt::SkipEmptyParts); }
+    QJsonDocument json() const { return QJsonDocument::fromJson(out.toUtf8()); }
+};
+
+inline Ran finish(QProcess &process)
+{
+    Ran ran;
+    if (process.waitForFinished(60000) && process.exitStatus() == QProcess::NormalExit)
+        ran.status = process.exitCode();
+    ran.out = QString::fromUtf8(process.readAllStandardOutput());
+    ran.err = QString::fromUtf8(process.readAllStandardError());
+    return ran;
+}
+
+inline void start(QProcess &process, const QStringList &arguments)
+{
+    process.start(QStringLiteral(VELBRIN_BINARY_DIR "/bin/velbrin-cli"), arguments);
+    ASSERT_TRUE(process.waitForStarted()) << qPrintable(process.errorString());
+}
+
+inline Ran run(const QStringList &arguments)
+{
+    QProcess process;
+    start(process, arguments);
+    return finish(process);
+}
+
+/// With the fixture's bus and its drive.
+inline Ran onDrive(QStringList arguments)
+{
+    return run(QStringList{"--port", VirtualBusFixture::port(), "--node", "5"} + arguments);
+}
+
+#endif

@@ -1,0 +1,218 @@
+#include "cliprocess.h"
+
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonObject>
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+
+namespace {
+
+constexpr int KVP = 202;
+constexpr int KPP = 201;
+
+class Cli : public VirtualBusFixture
+{
+};
+
+class CliTwoDrives : public VirtualBusFixture
+{
+    sim::BusOptions busOptions() const override
+    {
+        sim::BusOptions options;
+        options.drives = {{"keta", 3, false}, {"torva", 7, false}};
+        return options;
+    }
+};
+
+} // namespace
+
+TEST_F(CliTwoDrives, ScanPrintsOneLineADrive)
+{
+    const Ran ran = run({"--port", port(), "scan"});
+    EXPECT_EQ(ran.status, 0);
+    EXPECT_THAT(ran.lines(), ElementsAre(QString("3\tKETA\t11000\tnormal"), QString("7\tTORVA\t4000\tnormal")));
+    EXPECT_EQ(ran.err, "");
+}
+
+TEST_F(CliTwoDrives, WithoutANodeSaysWhichDrivesThereAre)
+{
+    const Ran ran = run({"--port", port(), "read", "KVP"});
+    EXPECT_EQ(ran.status, 1);
+    EXPECT_EQ(ran.out, "");
+    EXPECT_EQ(ran.err, "There are several drives; choose one with --node:\n3\tKETA\n7\tTORVA\n");
+}
+
+TEST_F(Cli, TheOnlyDriveNeedsNoNode)
+{
+    const Ran ran = run({"--port", port(), "--json", "read", "KPP", "AXS"});
+    EXPECT_EQ(ran.status, 0) << ran.err.toStdString();
+    const QJsonArray rows = ran.json().array();
+    ASSERT_EQ(rows.size(), 2);
+    EXPECT_EQ(rows[0].toObject(), (QJsonObject{{"name", "KPP"}, {"value", 120}, {"minimum", 0}, {"maximum", 32767}}));
+    EXPECT_EQ(rows[1].toObject(),
+              (QJsonObject{{"name", "AXS"}, {"value", 1}, {"minimum", 0.00001}, {"maximum", 5000}}));
+}
+
+TEST_F(Cli, ReadPrintsAllSettingsInCatalogueOrderOrThoseNamedInTheirs)
+{
+    const QStringList all = onDrive({"read"}).lines();
+    ASSERT_EQ(all.size(), 70);
+    EXPECT_EQ(all.first(), "TCFWVER\t1078\t0\t536870911");
+    EXPECT_EQ(all.last(), "BDD\t0\t0\t10000");
+    // 800 drive units at 50/3 a unit.
+    EXPECT_THAT(onDrive({"read", "KVP", "FOC", "CM"}).lines(),
+                ElementsAre(QString("KVP\t360\t0\t32767"), QString("FOC\t48\t0.6\t57.6"), QString("CM\t0\t0\t2")));
+}
+
+TEST_F(Cli, WriteAppliesAndShowsWhatTheDriveHoldsThen)
+{
+    const Ran ran = onDrive({"write", "KVP=400.4", "KPP=99"});
+    EXPECT_EQ(ran.status, 0) << ran.err.toStdString();
+    EXPECT_THAT(ran.lines(), ElementsAre(QString("KVP\t400\t0\t32767"), QString("KPP\t99\t0\t32767")));
+    EXPECT_EQ(bus().read(DriveAddress, KVP), 400);
+    EXPECT_EQ(bus().read(DriveAddress, KPP), 99);
+    bus().powerCycle();
+    EXPECT_EQ(bus().read(DriveAddress, KVP), 360) << "saved to flash without having been asked to";
+}
+
+TEST_F(Cli, ToFlashKeepsWhatWasApplied)
+{
+    const Ran ran = onDrive({"--json", "write", "KVP=400", "--to-flash"});
+    EXPECT_EQ(ran.status, 0) << ran.err.toStdString();
+    EXPECT_EQ(ran.json().object()["savedToFlash"], true);
+    bus().powerCycle();
+    EXPECT_EQ(bus().read(DriveAddress, KVP), 400);
+}
+
+TEST_F(Cli, AValueThatTheDriveDoesNotTakeIsReportedAndNothingGoesToFlash)
+{
+    bus().withDrive(DriveAddress, [](sim::VirtualDrive &drive) { drive.refuseWrites(KVP); });
+    const Ran ran = onDrive({"write", "KVP=400", "KPP=99", "--to-flash"});
+    EXPECT_EQ(ran.status, 1);
+    EXPECT_THAT(ran.lines(), ElementsAre(QString("KVP\t360\t0\t32767"), QString("KPP\t99\t0\t32767")));
+    EXPECT_THAT(ran.err.toStdString(), HasSubstr("KVP: 400 was not taken, the drive has 360."));
+    EXPECT_THAT(ran.err.toStdString(), HasSubstr("nothing was saved to flash"));
+    bus().powerCycle();
+    EXPECT_EQ(bus().read(DriveAddress, KPP), 120);
+}
+
+TEST_F(Cli, RefusesBeforeAnythingIsWritten)
+{
+    const struct
+    {
+        const char *assignment;
+        const char *reason;
+    } refused[] = {
+        {"KPP=32768", "KPP=32768 is outside the drive's limits, 0 to 32767."},
+        {"KPP=-1", "KPP=-1 is outside the drive's limits, 0 to 32767."},
+        {"HWTYPE=4000", "HWTYPE is read-only."},
+        {"TRF1=2", "TRF1 is not on this model (KETA)."},
+    };
+    for (const auto &each : refused) {
+        bus().clearReceived();
+        const Ran ran = onDrive({"write", "KVP=400", each.assignment});
+        EXPECT_EQ(ran.status, 1);
+        EXPECT_EQ(ran.out, "");
+        EXPECT_EQ(ran.err, QString(each.reason) + "\nNothing was written.\n");
+        for (const sim::ReceivedRequest &request : receivedAt(DriveAddress)) {
+            // The first request of every write: select register 10, write 3.
+            EXPECT_NE(request.packet.payload, (sim::Bytes{0x80, 0x0a, 0x00, 0x00, 0x00, 0x03})) << each.assignment;
+        }
+        EXPECT_EQ(bus().read(DriveAddress, KVP), 360) << each.assignment;
+    }
+}
+
+TEST_F(Cli, FileGoesOutAndComesBack)
+{
+    Ran ran = onDrive({"save", "axis.drc"});
+    EXPECT_EQ(ran.status, 0) << ran.err.toStdString();
+    EXPECT_EQ(ran.out, "");
+    ran = onDrive({"compare", "axis.drc"});
+    EXPECT_EQ(ran.status, 0) << ran.err.toStdString();
+    EXPECT_EQ(ran.out, "");
+
+    bus().set(DriveAddress, KVP, 400);
+    ran = onDrive({"compare", "axis.drc"});
+    EXPECT_EQ(ran.status, 3);
+    EXPECT_EQ(ran.out, "KVP\t400\t360\n");
+
+    ran = onDrive({"load", "axis.drc"});
+    EXPECT_EQ(ran.status, 0) << ran.err.toStdString();
+    EXPECT_EQ(ran.out, "KVP\t360\t0\t32767\n");
+    EXPECT_EQ(bus().read(DriveAddress, KVP), 360);
+    EXPECT_EQ(onDrive({"compare", "axis.drc"}).status, 0);
+}
+
+TEST_F(Cli, FileOfAModelThatLacksASettingLeavesTheDriveItsOwn)
+{
+    sim::BusOptions options;
+    options.drives = {{"torva", DriveAddress, false}};
+    startBus(options);
+    ASSERT_EQ(onDrive({"save", "torva.drc"}).status, 0);
+    options.drives = {{"keta", DriveAddress, false}};
+    startBus(options);
+    constexpr int inputLogic = 573; // CEI, not on Torva: -1 in the file
+    bus().set(DriveAddress, inputLogic, 1);
+    const Ran ran = onDrive({"compare", "torva.drc"});
+    EXPECT_EQ(ran.status, 3);
+    EXPECT_FALSE(ran.out.contains("CEI")) << ran.out.toStdString();
+    EXPECT_THAT(ran.err.toStdString(), HasSubstr("Warning: the loaded file is saved on different device type TORVA"));
+    EXPECT_THAT(ran.err.toStdString(), HasSubstr("The file has no value for CEI"));
+    onDrive({"load", "torva.drc"});
+    EXPECT_EQ(bus().read(DriveAddress, inputLogic), 1);
+}
+
+TEST_F(Cli, BadFileIsRefusedAndNothingIsWritten)
+{
+    QFile noise("noise.drc");
+    ASSERT_TRUE(noise.open(QIODevice::WriteOnly));
+    noise.write(QByteArray(100000, '\x5a'));
+    noise.close();
+    for (const char *file : {"noise.drc", "missing.drc", "."}) {
+        const Ran ran = onDrive({"load", file});
+        EXPECT_EQ(ran.status, 1) << file;
+        EXPECT_THAT(ran.err.toStdString(), testing::EndsWith("Nothing was written.\n"));
+    }
+    EXPECT_EQ(onDrive({"compare", "noise.drc"}).status, 1);
+    EXPECT_EQ(onDrive({"save", "/nowhere/axis.drc"}).err, "Error writing settings to file /nowhere/axis.drc\n");
+}
+
+TEST_F(Cli, StatusTellsIdentityAndRegistersInWords)
+{
+    const Ran ran = onDrive({"status"});
+    EXPECT_EQ(ran.status, 0) << ran.err.toStdString();
+    for (const char *line :
+         {"Connection\tConnected", "Port\tCOM1", "Address\t5", "Mode\tnormal", "Model\tTarnwell Devices KETA",
+          "HW type ID\t11000", "Serial number\t240117", "TarnwellCore firmware version\t1078",
+          "Firmware revision ID\t1A4C7E2", "HV bus voltage  48.0 VDC"})
+        EXPECT_TRUE(ran.lines().contains(line)) << line << "\nin\n" << ran.out.toStdString();
+    EXPECT_FALSE(ran.out.contains('<')) << ran.out.toStdString();
+
+    const QJsonObject json = onDrive({"--json", "status"}).json().object();
+    EXPECT_EQ(json["model"], "Tarnwell Devices KETA");
+    EXPECT_EQ(json["typeId"], 11000);
+    EXPECT_TRUE(json["faults"].toArray().contains("○  Over current"));
+}
+
+TEST_F(Cli, JsonIsOneDocumentForEveryCommand)
+{
+    EXPECT_EQ(onDrive({"--json", "save", "axis.drc"}).json().object()["parameters"], 70);
+    bus().set(DriveAddress, KVP, 400);
+    EXPECT_EQ(onDrive({"--json", "compare", "axis.drc"}).json().array(),
+              (QJsonArray{QJsonObject{{"name", "KVP"}, {"drive", 400}, {"file", 360}}}));
+    const QJsonObject loaded = onDrive({"--json", "load", "axis.drc"}).json().object();
+    EXPECT_EQ(loaded["parameters"].toArray().size(), 1);
+    EXPECT_EQ(loaded["notTaken"].toArray(), QJsonArray());
+    EXPECT_EQ(loaded["savedToFlash"], false);
+}
+
+TEST(CliVirtualDrive, BringsItsOwnBusAndKeepsTheCallersFolder)
+{
+    PrivateFolder folder;
+    const Ran ran = run({"--virtual-drive=torva,keta", "--node", "6", "save", "mine.drc"});
+    EXPECT_EQ(ran.status, 0) << ran.err.toStdString();
+    EXPECT_TRUE(QFile::exists("mine.drc"));
+    EXPECT_EQ(run({"--virtual-drive", "--node", "5", "compare", "mine.drc"}).status, 0);
+}

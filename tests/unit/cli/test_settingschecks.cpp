@@ -1,0 +1,68 @@
+#include "settingschecks.h"
+
+#include "catalogue.h"
+#include "printqt.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+const QString keta = QStringLiteral("KETA");
+
+/// The catalogue with one setting as a drive has it.
+Parameters withSetting(const char *name, double value, double min, double max)
+{
+    Parameters list = driveParameterCatalogue();
+    SingleParam param = list.getParam(QLatin1String(name));
+    param.value = value;
+    param.min = min;
+    param.max = max;
+    list.replaceParam(param);
+    return list;
+}
+
+} // namespace
+
+TEST(SettingsChecks, LimitsCountAsTheyGoOverTheBus)
+{
+    // 960 drive units at 50/3 a unit: 57.6, which no double is exactly.
+    const Parameters drive = withSetting("FOC", 48, 10 / (50 / 3.0), 960 / (50 / 3.0));
+    EXPECT_EQ(refusal(drive, {"FOC", 57.6}, keta), "");
+    EXPECT_EQ(refusal(drive, {"FOC", 57.62}, keta), "") << "the same number for the drive";
+    EXPECT_NE(refusal(drive, {"FOC", 57.7}, keta), "");
+    EXPECT_NE(refusal(drive, {"FOC", 0.5}, keta), "");
+}
+
+TEST(SettingsChecks, DifferencesIgnoreRoundingReadOnlyAndWhatTheModelLacks)
+{
+    const Parameters first = withSetting("AXS", 2.500001, 0, 5000); // scaled by 100000: 250000 either way
+    EXPECT_TRUE(differences(first, withSetting("AXS", 2.5, 0, 5000), keta).isEmpty());
+    EXPECT_TRUE(differences(driveParameterCatalogue(), withSetting("HWSERIAL", 17, 0, 99), keta).isEmpty());
+    EXPECT_TRUE(differences(driveParameterCatalogue(), withSetting("TRF1", 3, 0, 25), keta).isEmpty());
+
+    const QList<Difference> found = differences(first, withSetting("AXS", 2.50001, 0, 5000), keta);
+    ASSERT_EQ(found.size(), 1);
+    EXPECT_EQ(found.first().name, "AXS");
+    EXPECT_EQ(found.first().second, 2.50001);
+}
+
+TEST(SettingsChecks, MarkOfASettingThatWasNeverReadGivesWayToTheDrives)
+{
+    const Parameters drive = withSetting("KVP", 360, 0, 32767);
+    for (const double mark : {0.0, -1.0}) {
+        Parameters loaded = withSetting("KVP", mark, 0, 0);
+        EXPECT_EQ(keepWhereFileHasNone(loaded, drive, keta), QStringList("KVP"));
+        EXPECT_EQ(loaded.getParam("KVP").value, 360);
+    }
+    Parameters zero = withSetting("KVP", 0, 0, 32767);
+    EXPECT_TRUE(keepWhereFileHasNone(zero, drive, keta).isEmpty()) << "a gain of zero is a value";
+    EXPECT_EQ(zero.getParam("KVP").value, 0);
+}
+
+TEST(SettingsChecks, AssignmentsAreNamesAndFiniteNumbers)
+{
+    EXPECT_EQ(parseAssignment("HMV=-2000")->value, -2000);
+    EXPECT_EQ(parseAssignment("AXS=2.5e-1")->value, 0.25);
+    for (const char *text : {"", "=", "=5", "KVP", "KVP=", "KVP=1,5", "KVP=1 2", "KVP=inf", "KVP=0x10"})
+        EXPECT_FALSE(parseAssignment(text)) << text;
+}
