@@ -5,6 +5,7 @@
 #include "mw.h"
 #include "programoptions.h"
 #include "quitsignals.h"
+#include "tour.h"
 
 #include <QApplication>
 #include <QDebug>
@@ -88,8 +89,12 @@ int main(int argc, char **argv)
         window.virtualPort = VirtualDriveFolder::portName();
     }
 
+    Tour tour(options.tourFolder);
+    if (!options.tourFolder.isEmpty())
+        tour.start(); // before the window, whose disclaimer is its first stop
     MW mainWindow(window);
     setStyle();
     mainWindow.show();
-    return QApplication::exec();
+    const int status = QApplication::exec();
+    return tour.failed() ? EXIT_FAILURE : status;
 }

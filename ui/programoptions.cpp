@@ -5,6 +5,7 @@
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
+#include <QDir>
 #include <QRegularExpression>
 
 namespace {
@@ -39,11 +40,16 @@ ProgramOptions parseProgramOptions(QStringList arguments)
                                   QStringLiteral("name"));
     const QCommandLineOption debugValues(QStringLiteral("debug-values"),
                                          tr("Shows the drive's debug values under the fault register."));
+    const QCommandLineOption tour(
+        QStringLiteral("tour"),
+        tr("Walks through the window by itself, with a test move of the virtual drive, and leaves screenshots in this "
+           "folder."),
+        QStringLiteral("folder"));
     const QCommandLineOption help({QStringLiteral("h"), QStringLiteral("help")}, tr("Shows this text."));
     const QCommandLineOption version({QStringLiteral("v"), QStringLiteral("version")}, tr("Shows the version."));
     QCommandLineParser parser;
     parser.setApplicationDescription(tr("Configures, tunes and starts up Tarnwell servo drives."));
-    parser.addOptions({virtualDrive, port, debugValues, help, version});
+    parser.addOptions({virtualDrive, port, debugValues, tour, help, version});
 
     ProgramOptions options;
     if (!parser.parse(arguments)) {
@@ -58,6 +64,8 @@ ProgramOptions parseProgramOptions(QStringList arguments)
         options.error = tr("Unexpected argument: %1").arg(parser.positionalArguments().first());
     options.port = parser.value(port);
     options.debugValues = parser.isSet(debugValues);
+    if (parser.isSet(tour))
+        options.tourFolder = QDir::current().absoluteFilePath(parser.value(tour));
     if (parser.isSet(virtualDrive))
         options.virtualDrives = parser.value(virtualDrive).split(QLatin1Char(','));
     for (const QString &profile : qAsConst(options.virtualDrives)) {
@@ -65,5 +73,8 @@ ProgramOptions parseProgramOptions(QStringList arguments)
             options.error = tr("No virtual drive is called \"%1\". There are: %2.")
                                 .arg(profile, profiles.join(QLatin1String(", ")));
     }
+    // The tour enables the drive and moves the axis: never a real one.
+    if (!options.tourFolder.isEmpty() && (options.virtualDrives.isEmpty() || !options.port.isEmpty()))
+        options.error = tr("--tour goes with --virtual-drive, and not with --port.");
     return options;
 }
