@@ -106,6 +106,7 @@ void VirtualDrive::powerUp(const Flash &flash)
     m_flash = flash;
     m_registers.apply(m_registers.factorySettings());
     m_registers.apply(m_flash.settings);
+    m_addressOffset = m_registers.value(reg::AddressOffset);
     m_axis.configure(m_registers);
     m_axis.powerUp();
     m_recorder = Recorder();

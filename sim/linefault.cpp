@@ -59,23 +59,27 @@ std::string lineFaultHelp()
     return help;
 }
 
-void LineDamage::setFault(const LineFault &fault)
+void LineDamage::setFaults(const std::vector<LineFault> &faults)
 {
-    m_fault = fault;
+    m_faults.assign(faults.begin(), faults.end());
     m_random.seed(1);
 }
 
 LineFault::Kind LineDamage::nextExchange()
 {
-    if (m_fault.kind == LineFault::None || m_fault.count == 0)
+    while (!m_faults.empty() && m_faults.front().count == 0)
+        m_faults.pop_front();
+    if (m_faults.empty())
         return LineFault::None;
-    if (m_fault.skip > 0) {
-        --m_fault.skip;
+    LineFault &fault = m_faults.front();
+    if (fault.skip > 0) {
+        --fault.skip;
         return LineFault::None;
     }
-    if (m_fault.count > 0)
-        --m_fault.count;
-    return m_fault.kind;
+    if (fault.count > 0)
+        --fault.count;
+    m_at = fault.at;
+    return fault.kind;
 }
 
 Bytes LineDamage::damaged(Bytes reply, LineFault::Kind kind)
@@ -105,7 +109,7 @@ Bytes LineDamage::damaged(Bytes reply, LineFault::Kind kind)
 
 std::chrono::milliseconds LineDamage::lateness() const
 {
-    return std::chrono::milliseconds(m_fault.at == LineFault::AnyByte ? DefaultLateness : m_fault.at);
+    return std::chrono::milliseconds(m_at == LineFault::AnyByte ? DefaultLateness : m_at);
 }
 
 Bytes LineDamage::noise(std::size_t count)
@@ -118,8 +122,8 @@ Bytes LineDamage::noise(std::size_t count)
 
 std::size_t LineDamage::pick(std::size_t size)
 {
-    if (m_fault.at != LineFault::AnyByte)
-        return static_cast<std::size_t>(m_fault.at);
+    if (m_at != LineFault::AnyByte)
+        return static_cast<std::size_t>(m_at);
     return size == 0 ? 0 : m_random() % size;
 }
 

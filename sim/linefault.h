@@ -6,6 +6,7 @@
 #include "drivepacket.h"
 
 #include <chrono>
+#include <deque>
 #include <random>
 #include <string>
 
@@ -40,12 +41,12 @@ std::string parseLineFault(const std::string &text, LineFault &fault);
 /// One line a kind, for --help.
 std::string lineFaultHelp();
 
-/// Applies one fault to a stream of replies. Deterministic: the same fault on the same replies does the same.
+/// Applies faults to a stream of replies, one after the other: the next one begins when the one before has hit its
+/// count. Deterministic: the same faults on the same replies do the same.
 class LineDamage
 {
 public:
-    void setFault(const LineFault &fault);
-    const LineFault &fault() const { return m_fault; }
+    void setFaults(const std::vector<LineFault> &faults);
 
     /// Whether the next exchange is hit, and counts it.
     LineFault::Kind nextExchange();
@@ -58,7 +59,8 @@ public:
 private:
     std::size_t pick(std::size_t size);
 
-    LineFault m_fault;
+    std::deque<LineFault> m_faults;
+    int m_at = LineFault::AnyByte; ///< of the fault that hits the present exchange
     std::minstd_rand m_random{1};
 };
 

@@ -1,96 +1,228 @@
 #include "servoaxis.h"
 
-#include "registerfile.h"
-#include "registers.h"
+#include <algorithm>
+#include <cmath>
 
 namespace sim {
 
-ServoAxis::ServoAxis(const DriveProfile &profile) : m_profile(profile)
+namespace {
+
+constexpr double CurrentScale = 560.0; ///< counts per ampere
+constexpr double FullScale = 16384.0;  ///< setpoint of full velocity or torque
+constexpr int SmoothingCycles = 8;
+constexpr double MillivoltsFullScale = 10000.0;
+
+} // namespace
+
+ServoAxis::ServoAxis(const DriveProfile &profile, const RegisterFile &registers)
+    : m_ticksPerCycle(profile.recorderRate / CycleRate), m_tickSeconds(1.0 / profile.recorderRate),
+      m_settings(registers), m_motor(profile.winding)
 {
     m_inputs.supplyCentivolts = profile.winding.busCentivolts;
+    updateSignals();
 }
 
 void ServoAxis::configure(const RegisterFile &registers)
 {
-    m_flags = registers.value(reg::Flags);
-    m_peak = registers.value(reg::PeakCurrent);
+    m_settings = AxisSettings(registers);
 }
 
 void ServoAxis::powerUp()
 {
-    m_softEnable = false;
-    m_forced = false;
-    m_permanentStop = false;
+    m_softEnable = m_forced = m_permanentStop = m_wasRunning = m_homed = m_recovering = false;
     m_faults = 0;
-    m_setpoint = 0;
+    m_faultLocation = 0;
+    m_limitReason = LimitReason::None;
+    m_homing.end(m_motor);
+    m_brake.reset();
+    m_limit.reset();
+    m_loop.reset();
+    m_motor.switchOff();
+    m_nextCurrent = 0.0;
+    m_trackingCycles = 0;
+    m_velocity = 0;
+    m_lastEncoder = m_motor.counts();
+    zero();
 }
 
 void ServoAxis::tick()
 {
-    m_signals.setpoint = m_setpoint;
-    m_signals.faults = m_faults;
-    m_signals.busVoltage = m_inputs.supplyCentivolts;
+    if (m_tick == 0)
+        cycle();
+    m_tick = (m_tick + 1) % m_ticksPerCycle;
+
+    MotorModel::Load load;
+    load.torque = m_inputs.loadTorque;
+    load.locked = m_inputs.locked || m_brake.isClosed();
+    load.commutation = commutation();
+    m_motor.step(m_tickSeconds, load);
+    updateSignals();
+    checkOverCurrent();
 }
 
-void ServoAxis::setSoftEnable(bool enable)
+/// Everything that happens once in 0.4 ms.
+void ServoAxis::cycle()
 {
-    m_softEnable = enable;
-    if (!enable)
-        m_forced = false;
+    readAnalogSetpoint();
+    measure();
+    m_limit.advance(m_settings, m_motor.amperes());
+    checkSupply();
+    m_brake.advance(m_settings, mayRun(), m_faults != 0 || m_inputs.safeTorqueOff || m_permanentStop);
+    const bool isRunning = m_brake.isPowered();
+    if (isRunning && !m_wasRunning)
+        begin();
+    m_wasRunning = isRunning;
+    if (!isRunning) {
+        m_homing.end(m_motor);
+        m_recovering = false;
+        m_nextCurrent = 0.0;
+        m_loop.reset();
+        m_motor.switchOff();
+        m_positionError = 0.0;
+        return;
+    }
+    // What was commanded in the last cycle acts in this one.
+    m_motor.drive(m_nextCurrent / CurrentScale * axisSign(), m_settings.torqueBandwidth, m_supplyVolts);
+    control();
+    checkMotion();
 }
 
-void ServoAxis::forceEnable()
+/// The motor has just been powered: start from where it is.
+void ServoAxis::begin()
 {
-    m_softEnable = true;
-    m_forced = true;
+    checkSettings();
+    m_loop.reset(static_cast<double>(m_velocity));
+    m_followed = static_cast<double>(m_position);
+    m_recovering = m_settings.mode == AxisSettings::Position && setpointInCounts() != m_position;
+    m_trackingCycles = 0;
+    m_limitReason = LimitReason::None;
+    m_commutationFrom = m_motor.angle();
+    if ((m_settings.homingBits & Homing::AtPowerOn) && !m_homed)
+        startHoming();
 }
 
-void ServoAxis::zero()
+/// Position feedback: what the encoder moved since the last cycle, with the signs that the settings give it.
+void ServoAxis::measure()
 {
+    const std::int64_t encoder = m_motor.counts();
+    m_velocity = (encoder - m_lastEncoder) * feedbackSign();
+    m_lastEncoder = encoder;
+    m_position += m_velocity;
+}
+
+void ServoAxis::control()
+{
+    const double limit = currentLimitAmperes();
+    if (m_settings.mode == AxisSettings::Torque && m_brake.isFree()) {
+        const double wanted = torqueSetpoint();
+        m_loop.reset(static_cast<double>(m_velocity));
+        m_nextCurrent = std::clamp(wanted, -limit, limit) * CurrentScale;
+        noteLimit(std::abs(wanted) > limit);
+        return;
+    }
+    const double free = wantedVelocity();
+    const double wanted = blockedBySwitches(free);
+    m_isBlocked = wanted != free;
+    const bool isStop = m_brake.isStopping() || m_isBlocked;
+    m_nextCurrent = m_loop.velocityControl(m_settings, wanted, static_cast<double>(m_velocity),
+                                           m_recovering ? m_settings.recoveryVelocity : m_settings.velocityLimit,
+                                           isStop ? m_settings.stopDeceleration : m_settings.accelerationLimit,
+                                           limit * CurrentScale);
+    noteLimit(m_loop.isHeld());
+}
+
+double ServoAxis::wantedVelocity()
+{
+    m_positionError = 0.0;
+    if (m_brake.isStopping())
+        return 0.0;
+    if (m_settings.mode == AxisSettings::Velocity)
+        return m_setpoint / FullScale * m_settings.velocityLimit * m_settings.countsPerUnit;
+    double error = 0.0, change = 0.0;
+    followSetpoint(error, change);
+    return m_loop.positionControl(m_settings, error, change);
+}
+
+/// Moves the setpoint that the position loop follows, and tells its distance and its change in this cycle.
+void ServoAxis::followSetpoint(double &error, double &change)
+{
+    const double before = m_followed;
+    const double arrived = static_cast<double>(setpointInCounts());
+    if (m_homing.isActive()) {
+        runHoming();
+    } else if (m_recovering) {
+        const double step = m_settings.recoveryVelocity;
+        m_followed += std::clamp(arrived - m_followed, -step, step);
+        m_recovering = m_followed != arrived;
+    } else if (m_brake.isFree()) {
+        m_followed =
+            m_settings.flags & FlagSmoothSetpoint ? m_followed + (arrived - m_followed) / SmoothingCycles : arrived;
+    }
+    const double position = static_cast<double>(m_position);
+    const bool ownPath = m_homing.isActive() || m_recovering || !m_brake.isFree();
+    m_positionError = (ownPath ? m_followed : arrived) - position;
+    error = m_followed - position;
+    // The jump to zero at the end of homing is none of the axis.
+    change = m_justZeroed ? 0.0 : m_followed - before;
+    m_justZeroed = false;
+}
+
+void ServoAxis::runHoming()
+{
+    const bool isDone = m_homing.advance(m_settings, m_position, m_motor, controlInputs() & InputHomeSwitch);
+    m_followed = m_homing.target();
+    if (!isDone)
+        return;
+    m_homing.end(m_motor);
+    m_position -= std::llround(m_followed);
+    m_followed = 0.0;
     m_setpoint = 0;
-    m_signals.setpoint = 0;
+    m_homed = true;
+    m_justZeroed = true;
 }
 
-void ServoAxis::raiseFaults(std::int32_t bits)
+/// A feed input without current stops motion in its direction.
+double ServoAxis::blockedBySwitches(double velocity) const
 {
-    m_faults |= bits;
+    if (m_settings.limitSwitches != AxisSettings::StopAndHold || m_homing.isActive())
+        return velocity;
+    if (velocity > 0.0 && !(controlInputs() & InputPositiveFeed))
+        return 0.0;
+    if (velocity < 0.0 && !(controlInputs() & InputNegativeFeed))
+        return 0.0;
+    return velocity;
 }
 
-void ServoAxis::clearFaults()
+double ServoAxis::torqueSetpoint() const
 {
-    m_faults = 0;
+    return m_setpoint / FullScale * m_settings.peakCurrent * m_settings.countsPerUnit;
 }
 
-bool ServoAxis::isEnabled() const
+void ServoAxis::readAnalogSetpoint()
 {
-    const bool softEnabled = m_softEnable || !(m_flags & 1);
-    return softEnabled && (controlInputs() & InputEnable) && !m_inputs.safeTorqueOff;
+    constexpr int FirstAnalog = 3;
+    const int input = m_settings.setpointInput - FirstAnalog;
+    if (input == 0 || input == 1)
+        m_setpoint = static_cast<std::int32_t>(
+            std::lround(m_inputs.analog[input] / MillivoltsFullScale * FullScale + m_settings.setpointOffset));
 }
 
-std::int32_t ServoAxis::status() const
+std::int64_t ServoAxis::setpointInCounts() const
 {
-    std::int32_t bits = StatusInitialized | StatusVoltagesGood;
-    if (isEnabled())
-        bits |= StatusEnabled;
-    if (isEnabled() && !m_faults && !m_permanentStop)
-        bits |= StatusRun | StatusReady | StatusTargetReached;
-    if (m_faults)
-        bits |= StatusFaultStopped;
-    if (m_permanentStop)
-        bits |= StatusPermanentStop;
-    if (m_inputs.safeTorqueOff)
-        bits |= StatusSto;
-    return bits;
+    return static_cast<std::int64_t>(std::floor(m_setpoint * m_settings.countsPerUnit));
 }
 
-std::int32_t ServoAxis::currentLimitMilliamperes() const
+double ServoAxis::currentLimitAmperes() const
 {
-    return m_peak;
+    return m_limit.amperes(m_settings, m_inputs.temperature, m_homing.isActive());
 }
 
-std::int32_t ServoAxis::controlInputs() const
+void ServoAxis::noteLimit(bool isHeld)
 {
-    return m_inputs.controls;
+    if (m_motor.isVoltageLimited())
+        m_limitReason = LimitReason::SupplyVoltage;
+    else if (isHeld)
+        m_limitReason = m_limit.reason(m_settings, m_inputs.temperature);
 }
 
 } // namespace sim

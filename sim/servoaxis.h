@@ -6,93 +6,23 @@
 #ifndef SIM_SERVOAXIS_H
 #define SIM_SERVOAXIS_H
 
+#include "axissettings.h"
+#include "axisstate.h"
+#include "controlloop.h"
+#include "currentlimit.h"
 #include "driveprofile.h"
+#include "holdingbrake.h"
+#include "homing.h"
+#include "motormodel.h"
 
 namespace sim {
 
 class RegisterFile;
 
-enum FaultBit : std::int32_t {
-    FaultTracking = 2,
-    FaultOverCurrent = 4,
-    FaultBus = 8,
-    FaultFeedback = 16,
-    FaultOverTemperature = 32,
-    FaultUnderVoltage = 64,
-    FaultOverVoltage = 128,
-    FaultFirmware = 256,
-    FaultHardware = 512,
-    FaultOverVelocity = 1024,
-    FaultInit = 2048,
-    FaultMotion = 4096,
-    FaultMotionRange = 8192,
-    FaultPowerStageOff = 16384,
-    FaultInternalComm = 32768,
-};
-
-enum StatusBit : std::int32_t {
-    StatusTargetReached = 2,
-    StatusRecovering = 4,
-    StatusRun = 8,
-    StatusEnabled = 16,
-    StatusFaultStopped = 32,
-    StatusTrackingWarning = 64,
-    StatusSto = 128,
-    StatusReady = 256,
-    StatusBraking = 1024,
-    StatusHoming = 2048,
-    StatusInitialized = 4096,
-    StatusVoltagesGood = 8192,
-    StatusPermanentStop = 32768,
-};
-
-/// What is wired to the drive. Live registers held from outside end up here.
-struct AxisInputs
-{
-    std::int32_t supplyCentivolts = 0; ///< nominal bus voltage, 0.01 V
-    std::int32_t temperature = 34;     ///< degrees Celsius
-    std::int32_t controls = 7;         ///< bits of register 963, true while current flows in the input
-    std::int32_t analog[2] = {0, 0};   ///< millivolts
-    bool safeTorqueOff = false;
-    double loadTorque = 0.0; ///< Nm against the positive direction
-    bool locked = false;     ///< the shaft is held
-};
-
-enum ControlInput : std::int32_t {
-    InputEnable = 1,
-    InputPositiveFeed = 2,
-    InputNegativeFeed = 4,
-    InputHomeSwitch = 8,
-    InputClearFaults = 16,
-};
-
-/// What the recorder and the live registers see. Currents in 1/560 A, voltages as 16383 = the whole bus voltage.
-struct AxisSignals
-{
-    std::int32_t setpoint = 0; ///< in use, setpoint units
-    std::int32_t faults = 0;
-    std::int32_t torqueSetpoint = 0, torque = 0;
-    std::int32_t velocitySetpoint = 0, velocity = 0;
-    std::int32_t positionSetpoint = 0, position = 0, trackingError = 0;
-    std::int32_t outputVoltage = 0, busVoltage = 0; ///< bus voltage in 0.01 V
-    std::int32_t pwm1 = 0, pwm2 = 0, pwm3 = 0;      ///< 16384 = 100 %
-    std::int32_t debug1 = 0, debug2 = 0;
-    std::int32_t fluxCurrent = 0, fluxVoltage = 0;
-};
-
-enum class LimitReason : std::int32_t {
-    None = 0,
-    PeakCurrent = 1,
-    ContinuousCurrent = 2,
-    ThermalModel = 3,
-    Temperature = 4,
-    SupplyVoltage = 5,
-};
-
 class ServoAxis
 {
 public:
-    explicit ServoAxis(const DriveProfile &profile);
+    ServoAxis(const DriveProfile &profile, const RegisterFile &registers);
 
     /// Takes over settings. They act from the next control cycle on.
     void configure(const RegisterFile &registers);
@@ -104,7 +34,7 @@ public:
     /// One base period.
     void tick();
     /// Base periods in a control cycle.
-    int ticksPerCycle() const { return m_profile.recorderRate / CycleRate; }
+    int ticksPerCycle() const { return m_ticksPerCycle; }
 
     // --- Commands ---------------------------------------------------------------------------------------------
 
@@ -116,7 +46,11 @@ public:
     std::int32_t setpoint() const { return m_setpoint; }
     /// Position feedback and setpoint to zero, where the axis stands.
     void zero();
-    void raiseFaults(std::int32_t bits);
+    /// False when the motor does not run in position control, or homing is switched off in the settings.
+    bool startHoming();
+    void abortHoming();
+    /// Stops the motor. `location` goes to the fault location register.
+    void raiseFaults(std::int32_t bits, int location = 0);
     void clearFaults();
     /// A setting changed that only a restart makes safe again.
     void stopPermanently() { m_permanentStop = true; }
@@ -124,6 +58,7 @@ public:
     // --- State ------------------------------------------------------------------------------------------------
 
     std::int32_t faults() const { return m_faults; }
+    std::int32_t faultLocation() const { return m_faultLocation; }
     std::int32_t status() const;
     /// All enable conditions are met; the motor may still be stopped by a fault.
     bool isEnabled() const;
@@ -131,21 +66,79 @@ public:
     std::int32_t currentLimitMilliamperes() const;
     LimitReason limitReason() const { return m_limitReason; }
     std::int32_t controlInputs() const;
-    std::int32_t digitalInputs() const { return 0; }
-    std::int32_t faultLocation() const { return 0; }
+    std::int32_t digitalInputs() const;
+    const MotorModel &motor() const { return m_motor; }
+    bool isHomed() const { return m_homed; }
 
 private:
-    DriveProfile m_profile;
+    // servoaxis.cpp: one control cycle
+    void cycle();
+    void begin();
+    void measure();
+    void control();
+    double wantedVelocity();
+    void followSetpoint(double &error, double &change);
+    void runHoming();
+    double blockedBySwitches(double velocity) const;
+    double torqueSetpoint() const;
+    void readAnalogSetpoint();
+    std::int64_t setpointInCounts() const;
+    double currentLimitAmperes() const;
+    void noteLimit(bool isHeld);
+
+    // axiscommands.cpp
+    bool mayRun() const;
+    bool isTargetReached() const;
+    double supplyVolts() const;
+    void updateSignals();
+
+    // axisfaults.cpp
+    int axisSign() const;
+    int feedbackSign() const;
+    double commutation() const;
+    bool voltagesGood() const;
+    double velocityError() const;
+    bool isTrackingNearFault() const;
+    void checkSupply();
+    void checkSettings();
+    void checkOverCurrent();
+    void checkMotion();
+    void checkTracking();
+
+    int m_ticksPerCycle;
+    double m_tickSeconds;
+    AxisSettings m_settings;
     AxisInputs m_inputs;
     AxisSignals m_signals;
+    MotorModel m_motor;
+    ControlLoop m_loop;
+    CurrentLimit m_limit;
+    HoldingBrake m_brake;
+    Homing m_homing;
+
     bool m_softEnable = false;
     bool m_forced = false;
     bool m_permanentStop = false;
-    std::int32_t m_setpoint = 0;
+    bool m_wasRunning = false;
+    bool m_homed = false;
+    bool m_recovering = false; ///< on the way to the setpoint at recovery velocity
+    bool m_isBlocked = false;  ///< by a limit switch
+    bool m_justZeroed = false;
     std::int32_t m_faults = 0;
+    int m_faultLocation = 0;
     LimitReason m_limitReason = LimitReason::None;
-    std::int32_t m_flags = 1;
-    std::int32_t m_peak = 0;
+
+    std::int32_t m_setpoint = 0;  ///< setpoint units
+    double m_followed = 0.0;      ///< setpoint that the loops follow, counts
+    double m_positionError = 0.0; ///< of the setpoint as it arrives, counts
+    std::int64_t m_position = 0;  ///< as fed back
+    std::int64_t m_lastEncoder = 0;
+    std::int64_t m_velocity = 0;    ///< counts moved in the last cycle
+    double m_nextCurrent = 0.0;     ///< commanded in this cycle, acts from the next one on, 1/560 A
+    double m_supplyVolts = 0.0;     ///< in this cycle
+    double m_commutationFrom = 0.0; ///< where the rotor angle was known
+    int m_trackingCycles = 0;
+    int m_tick = 0; ///< base periods into the cycle
 };
 
 } // namespace sim

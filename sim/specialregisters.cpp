@@ -56,7 +56,11 @@ const SpecialRegister *SpecialRegister::find(int address, bool upgradeMode)
         {reg::ForceEnable, Any[0], Any[1], [](const Drive &, const C &) { return 0; },
          [](Drive &d, C &, std::int32_t v) { return v == 7 && (d.axis().forceEnable(), true); }},
         {reg::HomingCommand, Any[0], Any[1], [](const Drive &, const C &) { return 0; },
-         [](Drive &, C &, std::int32_t v) { return v == 0 || v == 1; }},
+         [](Drive &d, C &, std::int32_t v) {
+             if (v == 0)
+                 d.axis().abortHoming();
+             return v == 0 || (v == 1 && d.axis().startHoming());
+         }},
         {reg::MeasureResult, 0, RegisterMaximum, [](const Drive &d, const C &) { return d.m_measureResult; }, nullptr},
 
         // Recorder

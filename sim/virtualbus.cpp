@@ -46,10 +46,10 @@ std::string VirtualBus::portName() const
     return m_worker->port.name();
 }
 
-void VirtualBus::setFault(const LineFault &fault)
+void VirtualBus::setFaults(const std::vector<LineFault> &faults)
 {
     std::lock_guard lock(m_worker->mutex);
-    m_worker->damage.setFault(fault);
+    m_worker->damage.setFaults(faults);
     m_worker->isNoisy = false;
 }
 

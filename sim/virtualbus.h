@@ -62,9 +62,10 @@ public:
 
     // --- The line -----------------------------------------------------------------------------------------------
 
-    /// One fault at a time; replaces the one before.
-    void setFault(const LineFault &fault);
-    void clearFault() { setFault({}); }
+    /// Replaces all faults before. Several happen one after the other, see LineDamage.
+    void setFault(const LineFault &fault) { setFaults({fault}); }
+    void setFaults(const std::vector<LineFault> &faults);
+    void clearFaults() { setFaults({}); }
     /// Pulls the adapter out: the port is gone when this returns.
     void unplug();
     /// A new port, linked again under the same path; the drives have lived on.

@@ -16,7 +16,7 @@ constexpr int ClockUnitsPerCycle = ClockRate / CycleRate;
 } // namespace
 
 VirtualDrive::VirtualDrive(const DriveProfile &profile, int address)
-    : m_profile(profile), m_ownAddress(address), m_registers(profile), m_axis(profile),
+    : m_profile(profile), m_ownAddress(address), m_registers(profile), m_axis(profile, m_registers),
       m_bootloader(profile.hasIoProcessor)
 {
     powerUp({m_registers.factorySettings(), true});
@@ -28,9 +28,7 @@ int VirtualDrive::address() const
         return UpgradeAddress;
     if (m_oneTimeAddress)
         return OneTimeAddress;
-    // An address offset counts from the next restart on, so it is the one in flash that holds.
-    const auto offset = m_flash.settings.find(reg::AddressOffset);
-    return m_ownAddress + (offset == m_flash.settings.end() ? 0 : offset->second);
+    return m_ownAddress + m_addressOffset;
 }
 
 std::optional<Packet> VirtualDrive::answer(const Packet &request)

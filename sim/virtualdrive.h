@@ -158,6 +158,7 @@ private:
 
     bool m_upgradeMode = false;
     bool m_oneTimeAddress = false;
+    int m_addressOffset = 0; ///< as it was at power-up: a change counts from the next restart on
     enum class Restart { None, Normal, Upgrade, Started } m_restartAfterAnswer = Restart::None;
     std::chrono::nanoseconds m_restartTime = std::chrono::milliseconds(1500);
     std::chrono::nanoseconds m_silence{0};
