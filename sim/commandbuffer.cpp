@@ -21,10 +21,8 @@ Item CommandBuffer::take()
 
 void CommandBuffer::advance(int units)
 {
-    m_wait -= units;
-    // A remainder is carried over while setpoints keep coming, so that the mean rate is exact; a pause is not.
-    if (m_wait < 0 && m_items.empty())
-        m_wait = 0;
+    // A remainder is carried over while setpoints keep coming, so that their mean rate is exact; a pause is not.
+    m_wait = m_wait > 0 ? m_wait - units : 0;
 }
 
 void CommandBuffer::addReturn(const Bytes &value)

@@ -11,22 +11,250 @@ namespace {
 
 // Read of register 6020 at address 5: select 10, write 0, select 9, write 6020; the CRC's low byte first.
 const Bytes ReadType = {0x24, 0x0A, 0x05, 0x80, 0x0A, 0x40, 0x00, 0x00, 0x80, 0x09, 0x40, 0x17, 0x84, 0x09, 0x4D};
-// Register 0 three times (the selector still stands on it), then 11000, all in four bytes.
-const Bytes TypeReply = {0x25, 0x10, 0x05, 0x00, 0x00, 0x00, 0x00, 0x00, 0x00, 0x00, 0x00,
-                         0x00, 0x00, 0x00, 0x00, 0x00, 0x00, 0x2A, 0xF8, 0x4E, 0x7D};
+// On a fresh drive: register 0 three times (the selector still stands on it), then 11000, all in four bytes.
+const Bytes FirstReply = {0x25, 0x10, 0x05, 0x00, 0x00, 0x00, 0x00, 0x00, 0x00, 0x00, 0x00,
+                          0x00, 0x00, 0x00, 0x00, 0x00, 0x00, 0x2A, 0xF8, 0x4E, 0x7D};
+// From the second time on the selector stands on 6020 from the start.
+const Bytes TypeReply = {0x25, 0x10, 0x05, 0x00, 0x00, 0x2A, 0xF8, 0x00, 0x00, 0x2A, 0xF8,
+                         0x00, 0x00, 0x2A, 0xF8, 0x00, 0x00, 0x2A, 0xF8, 0xDE, 0xBE};
+
+/// The fixture's drive, read once.
+class Line : public VirtualBusFixture
+{
+protected:
+    void SetUp() override
+    {
+        VirtualBusFixture::SetUp();
+        TestLine line(port());
+        ASSERT_EQ(line.exchange(ReadType, FirstReply.size()), FirstReply);
+        bus().clearReceived();
+    }
+};
 
 } // namespace
 
-TEST_F(VirtualBusFixture, OffersItsPortAsLink)
+TEST_F(Line, OffersItsPortAsLink)
 {
     EXPECT_TRUE(TestLine(port()).isOpen());
     EXPECT_EQ(std::filesystem::read_symlink(port()).string(), bus().portName());
 }
 
-TEST_F(VirtualBusFixture, AnswersAReadByteForByte)
+TEST_F(Line, AnswersAReadByteForByte)
 {
     TestLine line(port());
     EXPECT_EQ(line.exchange(ReadType, TypeReply.size()), TypeReply);
     ASSERT_TRUE(waitForRequests(1));
     EXPECT_EQ(bus().received()[0].bytes, ReadType);
+}
+
+TEST_F(Line, OtherAddressesAndBadChecksumsAreHeardButNotAnswered)
+{
+    TestLine line(port());
+    line.send({0x50, 0x06, 0xBC, 0x02}); // clock of address 6
+    ASSERT_TRUE(waitForRequests(1));
+    Bytes spoilt = ReadType;
+    spoilt.back() ^= 1;
+    line.send(spoilt);
+    EXPECT_EQ(line.exchange(ReadType, 100, 200ms), TypeReply) << "one reply, to the good request";
+    EXPECT_EQ(bus().received().size(), 2u) << "what fails its checksum is no packet";
+}
+
+TEST_F(Line, HalfAPacketIsForgottenAfterSilence)
+{
+    TestLine line(port());
+    line.send({0x24, 0x0A, 0x05, 0x80});
+    EXPECT_EQ(line.receive(1, 100ms), Bytes{});
+    EXPECT_EQ(line.exchange(ReadType, TypeReply.size()), TypeReply);
+}
+
+TEST_F(Line, EachKindOfDamageHitsTheReplyAsDescribed)
+{
+    TestLine line(port());
+    const std::size_t whole = TypeReply.size();
+    const auto reply = [&](sim::LineFault fault, std::size_t atMost) {
+        bus().setFault(fault);
+        return line.exchange(ReadType, atMost, 300ms);
+    };
+    Bytes expected = TypeReply;
+    expected.erase(expected.begin() + 18);
+    EXPECT_EQ(reply({sim::LineFault::Drop, 18}, whole), expected);
+    expected = TypeReply;
+    expected.insert(expected.begin() + 18, 0x2A);
+    EXPECT_EQ(reply({sim::LineFault::Double, 17}, whole + 1), expected);
+    EXPECT_EQ(reply({sim::LineFault::Cut, 4}, whole), (Bytes{0x25, 0x10, 0x05, 0x00}));
+    EXPECT_EQ(reply({sim::LineFault::Missing}, 1), Bytes{});
+    EXPECT_EQ(reply({sim::LineFault::Deaf}, 1), Bytes{});
+
+    const Bytes flipped = reply({sim::LineFault::Flip, 0}, whole);
+    ASSERT_EQ(flipped.size(), whole);
+    EXPECT_EQ(__builtin_popcount(flipped[0] ^ TypeReply[0]), 1);
+    EXPECT_EQ(Bytes(flipped.begin() + 1, flipped.end()), Bytes(TypeReply.begin() + 1, TypeReply.end()));
+    bus().clearFaults();
+    EXPECT_EQ(line.exchange(ReadType, whole), TypeReply);
+}
+
+TEST_F(Line, MissingReplyWasExecutedAndDeafOneWasNot)
+{
+    TestLine line(port());
+    const Bytes enable{0x24, 0x06, 0x05, 0x89, 0xE5, 0x00, 0x00, 0x00, 0x01, 0xED, 0x64}; // 2533 := 1
+    bus().setFault({sim::LineFault::Deaf});
+    line.send(enable);
+    ASSERT_TRUE(waitForRequests(1));
+    EXPECT_EQ(bus().read(5, 2533), 0);
+    bus().setFault({sim::LineFault::Missing});
+    line.send(enable);
+    EXPECT_TRUE(bus().waitForRegister(5, 2533, 1));
+}
+
+TEST_F(Line, FaultsFollowEachOtherAfterTheirCounts)
+{
+    TestLine line(port());
+    bus().setFaults({{sim::LineFault::Cut, 3, 1, 1}, {sim::LineFault::Cut, 5, 0, 1}});
+    const std::size_t lengths[] = {TypeReply.size(), 3, 5, TypeReply.size()};
+    for (const std::size_t length : lengths)
+        EXPECT_EQ(line.exchange(ReadType, TypeReply.size(), 300ms).size(), length);
+}
+
+TEST_F(Line, LateReplyAnswersTheNextRequest)
+{
+    TestLine line(port());
+    bus().setFault({sim::LineFault::Late, 150, 0, 1});
+    const auto begin = std::chrono::steady_clock::now();
+    EXPECT_EQ(line.exchange(ReadType, TypeReply.size()), TypeReply);
+    EXPECT_GE(std::chrono::steady_clock::now() - begin, 149ms);
+}
+
+TEST_F(Line, NoiseGoesOnUntilCleared)
+{
+    TestLine line(port());
+    bus().setFault({sim::LineFault::Noise});
+    line.send(ReadType);
+    EXPECT_EQ(line.receive(20000).size(), 20000u);
+    bus().clearFaults();
+    while (!line.receive(4096, 100ms).empty())
+        continue;
+    EXPECT_EQ(line.exchange(ReadType, TypeReply.size()), TypeReply);
+}
+
+TEST_F(Line, PacedRepliesTakeTheirTimeOnTheLine)
+{
+    TestLine line(port());
+    bus().setLineRate(true);
+    bus().setTurnAround(300us);
+    const auto begin = std::chrono::steady_clock::now();
+    constexpr int Exchanges = 50;
+    for (int i = 0; i < Exchanges; ++i)
+        ASSERT_EQ(line.exchange(ReadType, TypeReply.size()), TypeReply);
+    const auto each = (std::chrono::steady_clock::now() - begin) / Exchanges;
+    // 15 bytes out and 21 back at 10 bits are 781 us, and the turn-around.
+    EXPECT_GE(each, 1081us);
+    EXPECT_LT(each, 20ms);
+}
+
+TEST_F(Line, UnpluggedPortEndsForItsUserAndComesBackUnderTheSameName)
+{
+    TestLine line(port());
+    bus().set(5, 202, 123);
+    bus().unplug();
+    EXPECT_FALSE(bus().isPluggedIn());
+    EXPECT_EQ(line.receive(1), Bytes{});
+    EXPECT_FALSE(TestLine(port()).isOpen());
+    ASSERT_EQ(bus().plugIn(), "");
+    TestLine again(port());
+    EXPECT_EQ(again.exchange(ReadType, TypeReply.size()), TypeReply);
+    EXPECT_EQ(bus().read(5, 202), 123) << "the drive has lived on";
+}
+
+TEST_F(Line, UnpluggedFaultPullsTheAdapterInsteadOfTheReply)
+{
+    TestLine line(port());
+    bus().setFault({sim::LineFault::Unplugged, sim::LineFault::AnyByte, 2});
+    for (int i = 0; i < 2; ++i)
+        EXPECT_EQ(line.exchange(ReadType, TypeReply.size()), TypeReply);
+    EXPECT_EQ(line.exchange(ReadType, 1), Bytes{});
+    EXPECT_FALSE(bus().isPluggedIn());
+}
+
+TEST_F(Line, TimeFollowsTheWallClockOnAnIdleBus)
+{
+    bus().set(5, 2533, 1);
+    ASSERT_TRUE(bus().waitForRegister(5, 553, [](std::int32_t status) { return status & 8; }));
+    bus().set(5, 551, 1000);
+    EXPECT_TRUE(bus().waitForRegister(5, 956, 1000));
+}
+
+TEST_F(Line, RestartIsSilentForAWhile)
+{
+    TestLine line(port());
+    const Bytes restart{0x24, 0x06, 0x05, 0x82, 0x2A, 0x00, 0x00, 0x00, 0x02, 0xF8, 0x0E}; // 554 := 2
+    EXPECT_EQ(line.exchange(restart, 13).size(), 13u) << "answered first";
+    Bytes reply;
+    while (reply.empty())
+        reply = line.exchange(ReadType, FirstReply.size(), 50ms);
+    EXPECT_EQ(reply, FirstReply);
+}
+
+namespace {
+
+class TwoDrives : public VirtualBusFixture
+{
+protected:
+    sim::BusOptions busOptions() const override
+    {
+        sim::BusOptions options;
+        options.drives = {{"keta", 3}, {"torva", 7}};
+        return options;
+    }
+};
+
+} // namespace
+
+TEST_F(TwoDrives, AnswerEachForItself)
+{
+    EXPECT_EQ(bus().read(3, 6020), 11000);
+    EXPECT_EQ(bus().read(7, 6020), 4000);
+    TestLine line(port());
+    EXPECT_EQ(line.exchange({0x50, 0x03, 0x7C, 0x01}, 6)[1], 3);
+    EXPECT_EQ(line.exchange({0x50, 0x07, 0x7D, 0xC2}, 6)[1], 7);
+}
+
+TEST(VirtualBus, RefusesWhatCannotBe)
+{
+    PrivateFolder folder;
+    const auto error = [](std::vector<sim::DriveOptions> drives, std::string link = {}, std::string state = {}) {
+        sim::BusOptions options;
+        options.drives = std::move(drives);
+        options.linkPath = link;
+        options.stateFile = state;
+        return sim::VirtualBus(options).start();
+    };
+    EXPECT_THAT(error({{"keta", 5}, {"torva", 5}}), testing::HasSubstr("two drives at address 5"));
+    EXPECT_THAT(error({{"toaster", 5}}), testing::HasSubstr("toaster"));
+    EXPECT_THAT(error({{"keta", 0}}), testing::HasSubstr("address 0"));
+    EXPECT_THAT(error({{"keta", 5}}, "/nowhere/COM1"), testing::HasSubstr("/nowhere/COM1"));
+    std::filesystem::create_directory("COM1");
+    EXPECT_THAT(error({{"keta", 5}}, "COM1"), testing::HasSubstr("not a link"));
+    EXPECT_THAT(error({{"keta", 5}}, "", "COM1"), testing::HasSubstr("not a file"));
+}
+
+TEST(VirtualBus, StopsAndStartsAgain)
+{
+    sim::VirtualBus bus;
+    for (int i = 0; i < 3; ++i) {
+        ASSERT_EQ(bus.start(), "");
+        EXPECT_TRUE(TestLine(bus.portName().c_str()).isOpen());
+        bus.stop();
+    }
+}
+
+TEST_F(Line, KeepsFlashInItsStateFile)
+{
+    sim::BusOptions options;
+    options.stateFile = "drives.state";
+    startBus(options);
+    bus().set(5, 202, 404);
+    TestLine(port()).exchange({0x24, 0x06, 0x05, 0x82, 0x2A, 0x00, 0x00, 0x00, 0x01, 0xB8, 0x0F}, 13); // 554 := 1
+    EXPECT_EQ(bus().stateError(), "");
+    startBus(options);
+    EXPECT_EQ(bus().read(5, 202), 404);
 }

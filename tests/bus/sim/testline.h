@@ -5,6 +5,7 @@
 
 #include "drivepacket.h"
 
+#include <algorithm>
 #include <chrono>
 #include <fcntl.h>
 #include <poll.h>
@@ -41,10 +42,11 @@ public:
         return bytes;
     }
 
-    sim::Bytes exchange(const sim::Bytes &request, std::size_t replyBytes)
+    sim::Bytes exchange(const sim::Bytes &request, std::size_t replyBytes,
+                        std::chrono::milliseconds limit = std::chrono::seconds(10))
     {
         send(request);
-        return receive(replyBytes);
+        return receive(replyBytes, limit);
     }
 
 private:

@@ -1,0 +1,171 @@
+// velbrin-sim as a user starts it: a process of its own.
+#include "testline.h"
+#include "virtualbusfixture.h"
+
+#include <csignal>
+#include <cstring>
+#include <fstream>
+#include <gmock/gmock.h>
+#include <iterator>
+#include <string>
+#include <sys/wait.h>
+
+using namespace std::chrono_literals;
+using sim::Bytes;
+using testing::HasSubstr;
+
+namespace {
+
+/// The program, with its output to read. Killed at the end if it still runs.
+class Program
+{
+public:
+    explicit Program(std::vector<std::string> arguments)
+    {
+        int output[2];
+        EXPECT_EQ(pipe(output), 0);
+        m_process = fork();
+        if (m_process == 0) {
+            dup2(output[1], STDOUT_FILENO);
+            dup2(output[1], STDERR_FILENO);
+            ::close(output[0]);
+            ::close(output[1]);
+            arguments.insert(arguments.begin(), VELBRIN_BINARY_DIR "/sim/velbrin-sim");
+            std::vector<char *> pointers;
+            for (std::string &argument : arguments)
+                pointers.push_back(argument.data());
+            pointers.push_back(nullptr);
+            execv(pointers[0], pointers.data());
+            _exit(127);
+        }
+        ::close(output[1]);
+        m_output = fdopen(output[0], "r");
+    }
+    ~Program()
+    {
+        if (m_process > 0)
+            end(SIGKILL);
+        fclose(m_output);
+    }
+    Program(const Program &) = delete;
+    Program &operator=(const Program &) = delete;
+
+    std::string line()
+    {
+        char text[1024] = "";
+        return fgets(text, sizeof text, m_output) ? std::string(text, strcspn(text, "\n")) : std::string();
+    }
+    std::string all()
+    {
+        std::string text, next;
+        while (!(next = line()).empty())
+            text += next + "\n";
+        return text;
+    }
+    /// Exit status, 128 + signal when a signal ended it.
+    int end(int signal = 0)
+    {
+        if (signal)
+            kill(m_process, signal);
+        int status = 0;
+        waitpid(m_process, &status, 0);
+        m_process = -1;
+        return WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status);
+    }
+
+private:
+    pid_t m_process = -1;
+    FILE *m_output = nullptr;
+};
+
+class VelbrinSim : public testing::Test
+{
+protected:
+    PrivateFolder m_folder;
+};
+
+} // namespace
+
+TEST_F(VelbrinSim, PrintsItsPortServesItAndRemovesItsLink)
+{
+    for (const int signal : {SIGINT, SIGTERM}) {
+        Program program({"--link", "COM1", "--drive", "torva@7", "--set", "6010=1077"});
+        const std::string port = program.line();
+        EXPECT_EQ(std::filesystem::read_symlink("COM1").string(), port);
+        TestLine line("COM1");
+        // Read of 6010 at address 7, in four bytes.
+        const Bytes reply = line.exchange(
+            {0x24, 0x0A, 0x07, 0x80, 0x0A, 0x40, 0x00, 0x00, 0x80, 0x09, 0x40, 0x17, 0x7A, 0xFF, 0xFF}, 21, 100ms);
+        EXPECT_EQ(reply, Bytes{}) << "wrong checksum";
+        const Bytes good = line.exchange(
+            {0x24, 0x0A, 0x07, 0x80, 0x0A, 0x40, 0x00, 0x00, 0x80, 0x09, 0x40, 0x17, 0x7A, 0x83, 0x75}, 21);
+        ASSERT_EQ(good.size(), 21u);
+        EXPECT_EQ(Bytes(good.begin() + 15, good.begin() + 19), (Bytes{0x00, 0x00, 0x04, 0x35}));
+        EXPECT_EQ(program.end(signal), 0);
+        EXPECT_FALSE(std::filesystem::is_symlink("COM1"));
+    }
+}
+
+TEST_F(VelbrinSim, WrongUsageEndsWithStatusTwoAndAWord)
+{
+    Program program({"--drive", "toaster"});
+    EXPECT_THAT(program.line(), HasSubstr("toaster"));
+    EXPECT_EQ(program.end(), 2);
+    Program help({"--help"});
+    const std::string text = help.all();
+    EXPECT_EQ(help.end(), 0);
+    EXPECT_THAT(text, HasSubstr("Usage"));
+}
+
+TEST_F(VelbrinSim, DamagedStateFileOrImpossibleRegisterIsTold)
+{
+    std::ofstream("broken.state") << "no state\n";
+    Program program({"--state", "broken.state"});
+    EXPECT_THAT(program.line(), HasSubstr("broken.state"));
+    EXPECT_EQ(program.end(), 1);
+    Program preset({"--set", "9999=1"});
+    EXPECT_THAT(preset.line(), HasSubstr("9999"));
+    EXPECT_EQ(preset.end(), 1);
+}
+
+TEST_F(VelbrinSim, KilledHalfWayThroughAnUpgradeItComesUpInUpgradeMode)
+{
+    const Bytes erase{0x24, 0x06, 0xFF, 0x80, 0xBF, 0x00, 0x00, 0x00, 0x01, 0xEF, 0xFF}; // 191 := 1 at 255
+    const Bytes readFaults{0x24, 0x0A, 0xFF, 0x80, 0x0A, 0x40, 0x00, 0x00, 0x80, 0x09, 0x40, 0x02, 0x28, 0x25, 0x7B};
+    {
+        Program program({"--link", "COM1", "--state", "drive.state", "--upgrade-mode"});
+        program.line();
+        EXPECT_EQ(TestLine("COM1").exchange(erase, 13).size(), 13u);
+        EXPECT_EQ(program.end(SIGKILL), 128 + SIGKILL);
+    }
+    Program program({"--link", "COM1", "--state", "drive.state"}); // over the dead link, too
+    program.line();
+    const Bytes reply = TestLine("COM1").exchange(readFaults, 21);
+    ASSERT_EQ(reply.size(), 21u);
+    EXPECT_EQ(Bytes(reply.begin() + 15, reply.begin() + 19), (Bytes{0x00, 0x00, 0x01, 0x20}));
+}
+
+TEST_F(VelbrinSim, WritesAFirmwareFileForEachProfile)
+{
+    for (const std::string profile : {"keta", "keta-pro", "keta-hc", "torva"}) {
+        Program program({"--drive", profile, "--write-firmware", profile + ".tdf"});
+        EXPECT_EQ(program.end(), 0);
+        std::ifstream file(profile + ".tdf", std::ios::binary);
+        const Bytes bytes{std::istreambuf_iterator<char>(file), {}};
+        ASSERT_GT(bytes.size(), 20u);
+        const auto number = [&](std::size_t at) {
+            return bytes[at] | bytes[at + 1] << 8 | bytes[at + 2] << 16 | std::uint32_t(bytes[at + 3]) << 24;
+        };
+        EXPECT_EQ(std::string(bytes.begin(), bytes.begin() + 4), "TDFW");
+        EXPECT_EQ(bytes.size(), 16 + number(8) + number(12) + 4);
+        EXPECT_GT(number(8), 0u);
+        EXPECT_EQ(number(12) > 0, profile == "torva") << "a core image for two processors only";
+        std::uint32_t sum = 0;
+        for (std::size_t i = 0; i + 4 < bytes.size(); ++i)
+            sum += bytes[i];
+        EXPECT_EQ(number(bytes.size() - 4), sum);
+    }
+    Program program({"--write-firmware", "/nowhere/x.tdf"});
+    EXPECT_THAT(program.line(), HasSubstr("/nowhere/x.tdf"));
+    EXPECT_EQ(program.end(), 1);
+}
