@@ -54,40 +54,40 @@ bool Recorder::arm(std::int32_t trigger, const AxisSignals &now)
     return true;
 }
 
-void Recorder::tick(const AxisSignals &signals)
+void Recorder::tick(const AxisSignals &readings)
 {
     if (m_state == Off)
         return;
     if (!m_recording)
-        m_recording = triggered(signals);
-    m_lastSetpoint = signals.setpoint;
-    m_lastFaults = signals.faults;
+        m_recording = triggered(readings);
+    m_lastSetpoint = readings.setpoint;
+    m_lastFaults = readings.faults;
     if (!m_recording || m_periodsToSample-- > 0)
         return;
     m_periodsToSample = m_divider;
-    store(signals);
+    store(readings);
 }
 
-bool Recorder::triggered(const AxisSignals &signals) const
+bool Recorder::triggered(const AxisSignals &readings) const
 {
     if (m_state == AtOnce)
         return true;
     switch (m_state) {
     case SetpointRises:
-        return signals.setpoint > m_lastSetpoint;
+        return readings.setpoint > m_lastSetpoint;
     case SetpointChanges:
-        return signals.setpoint != m_lastSetpoint;
+        return readings.setpoint != m_lastSetpoint;
     default:
-        return (signals.faults & ~m_lastFaults) != 0;
+        return (readings.faults & ~m_lastFaults) != 0;
     }
 }
 
-void Recorder::store(const AxisSignals &signals)
+void Recorder::store(const AxisSignals &readings)
 {
     for (const Source &source : Sources) {
         if (!(m_sources & source.bit))
             continue;
-        m_words[static_cast<std::size_t>(m_stored)] = toWord(signals.*source.signal, source.isUnsigned);
+        m_words[static_cast<std::size_t>(m_stored)] = toWord(readings.*source.signal, source.isUnsigned);
         if (++m_stored == Words) {
             m_state = Off;
             return;

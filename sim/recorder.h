@@ -29,7 +29,7 @@ public:
     std::int32_t state() const { return m_state; }
 
     /// One base period has passed.
-    void tick(const AxisSignals &signals);
+    void tick(const AxisSignals &readings);
 
     void setReadAddress(int address) { m_readAddress = address; }
     int readAddress() const { return m_readAddress; }
@@ -37,8 +37,8 @@ public:
     std::int32_t word() const { return m_words[static_cast<std::size_t>(m_readAddress)]; }
 
 private:
-    bool triggered(const AxisSignals &signals) const;
-    void store(const AxisSignals &signals);
+    bool triggered(const AxisSignals &readings) const;
+    void store(const AxisSignals &readings);
 
     std::int32_t m_nextSources = 0;
     std::int32_t m_nextDivider = 0;

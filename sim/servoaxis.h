@@ -62,7 +62,7 @@ public:
     std::int32_t status() const;
     /// All enable conditions are met; the motor may still be stopped by a fault.
     bool isEnabled() const;
-    const AxisSignals &signals() const { return m_signals; }
+    const AxisSignals &readings() const { return m_signals; }
     std::int32_t currentLimitMilliamperes() const;
     LimitReason limitReason() const { return m_limitReason; }
     std::int32_t controlInputs() const;

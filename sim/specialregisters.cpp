@@ -69,7 +69,7 @@ const SpecialRegister *SpecialRegister::find(int address, bool upgradeMode)
         {reg::RecorderDivider, 0, 65535, [](const Drive &d, const C &) { return d.recorder().divider(); },
          [](Drive &d, C &, std::int32_t v) { return d.recorder().setDivider(v), true; }},
         {reg::RecorderState, Any[0], Any[1], [](const Drive &d, const C &) { return d.recorder().state(); },
-         [](Drive &d, C &, std::int32_t v) { return d.recorder().arm(v, d.axis().signals()); }},
+         [](Drive &d, C &, std::int32_t v) { return d.recorder().arm(v, d.axis().readings()); }},
         {reg::RecorderAddress, 0, Recorder::Words - 1,
          [](const Drive &d, const C &) { return d.recorder().readAddress(); },
          [](Drive &d, C &, std::int32_t v) { return d.recorder().setReadAddress(v), true; }},

@@ -119,7 +119,7 @@ void VirtualDrive::tick()
     if (m_ticks++ % m_axis.ticksPerCycle() == 0)
         runBuffer();
     m_axis.tick();
-    m_recorder.tick(m_axis.signals());
+    m_recorder.tick(m_axis.readings());
 }
 
 /// One control cycle's worth of the command buffer.

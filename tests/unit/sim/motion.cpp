@@ -86,7 +86,7 @@ double torqueUnrest(VirtualDrive &drive)
     int last = 0;
     for (int cycle = 0; cycle < 250; ++cycle) {
         drive.advanceCycles(1);
-        const int torque = drive.axis().signals().torqueSetpoint;
+        const int torque = drive.axis().readings().torqueSetpoint;
         sum += std::abs(torque - last) / 560.0;
         last = torque;
     }
@@ -117,7 +117,7 @@ int rampError(VirtualDrive &drive)
         setpoint += velocity;
         drive.write(reg::SetpointAbsolute, static_cast<std::int32_t>(setpoint));
         drive.advanceCycles(1);
-        largest = std::max(largest, std::abs(drive.axis().signals().trackingError));
+        largest = std::max(largest, std::abs(drive.axis().readings().trackingError));
     }
     return largest;
 }
