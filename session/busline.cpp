@@ -16,7 +16,8 @@ bool BusLine::open(const QString &portName, int timeoutMs)
     close();
     m_status = 0;
     m_appended = 0;
-    m_failures = 0;
+    m_lastFailed = false;
+    startTask();
     zbSetTimeout(static_cast<std::uint16_t>(timeoutMs));
     m_handle = zbOpenBus(portName.toLocal8Bit().constData());
     if (isOpen())
@@ -79,12 +80,18 @@ ZbStatus BusLine::exchange(ZbStatus (*roundTrip)(ZbHandle, std::uint8_t))
         zbResetZB485variables(m_handle);
         return record(isFailure(appended) ? appended : ZB_ERR_COMMUNICATION);
     }
-    zbDiscardInput(m_handle);
+    if (m_lastFailed)
+        zbDiscardInput(m_handle);
     const ZbStatus status = record(roundTrip(m_handle, m_node));
-    m_failures = isFailure(status) ? m_failures + 1 : 0;
-    // A failed send leaves its items queued; they would go out in front of the next batch.
-    if (isFailure(status))
+    m_lastFailed = isFailure(status);
+    if (m_lastFailed) {
+        ++m_failures;
+        ++m_failuresInARow;
+        // A failed send leaves its items queued; they would go out in front of the next batch.
         zbResetZB485variables(m_handle);
+    } else {
+        m_failuresInARow = 0;
+    }
     return status;
 }
 
@@ -106,7 +113,10 @@ ZbStatus BusLine::fetchWrite()
 
 ZbStatus BusLine::finishReply()
 {
-    return record(bytesLeft() > 0 ? ZB_ERR_LENGTH : ZB_OK);
+    if (bytesLeft() <= 0)
+        return record(ZB_OK);
+    m_lastFailed = true;
+    return record(ZB_ERR_LENGTH);
 }
 
 int BusLine::bytesLeft() const

@@ -28,11 +28,11 @@ public:
     void clearStatus() { m_status = 0; }
 
     /// Forgets the exchanges that went unanswered.
-    void startTask() { m_failures = 0; }
-    /// Three exchanges in a row without a good reply. From then on nothing is sent until the next task: 57 writes to a
-    /// dead line would take a minute.
-    bool isDead() const { return m_failures >= maxFailures; }
-    bool lastExchangeFailed() const { return m_failures > 0; }
+    void startTask() { m_failuresInARow = m_failures = 0; }
+    /// Three exchanges in a row without a good reply, or four in one task. From then on nothing is sent until the next
+    /// task: 57 writes to a dead line would take a minute.
+    bool isDead() const { return m_failuresInARow >= 3 || m_failures >= 4; }
+    bool lastExchangeFailed() const { return m_lastFailed; }
 
     /// Each returns its own status. An item that does not fit, or a register or value with more bits than a write item
     /// carries, spoils the whole batch: `execute` then sends nothing and reports it.
@@ -40,8 +40,8 @@ public:
     ZbStatus appendRead(int address);
     ZbStatus appendWrite(int address, long value);
 
-    /// Sends the batch and receives its reply. What is left on the line is dropped first: a late reply must not answer
-    /// the next request.
+    /// Sends the batch and receives its reply. After a failure what is left on the line is dropped first: a late reply
+    /// must not answer the next request.
     ZbStatus execute();
     /// The same for timed execution from the drive's command buffer.
     ZbStatus upload();
@@ -57,8 +57,6 @@ public:
     ZbStatus readBufferClock();
 
 private:
-    static constexpr int maxFailures = 3;
-
     ZbStatus record(ZbStatus status);
     ZbStatus recordAppend(ZbStatus status);
     ZbStatus exchange(ZbStatus (*roundTrip)(ZbHandle, std::uint8_t));
@@ -67,7 +65,9 @@ private:
     std::uint8_t m_node = 0;
     ZbStatus m_status = 0;
     ZbStatus m_appended = 0; ///< OR of the appends of the batch that is being built
-    int m_failures = 0;
+    int m_failuresInARow = 0;
+    int m_failures = 0; ///< in this task
+    bool m_lastFailed = false;
 };
 
 #endif

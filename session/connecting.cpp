@@ -5,12 +5,10 @@
 #include <QElapsedTimer>
 
 namespace {
-constexpr int driveTimeoutMs = 1000;
 constexpr int scanTimeoutMs = 100; // what a silent address costs
 constexpr int lastScannedNode = 20;
 constexpr int firstUpgradeNode = 251;
 constexpr int lastNode = 255;
-constexpr int upgradeNode = 255; // a drive in firmware-upgrade mode, whatever its own address is
 
 /// Bus addresses in the order of the scan.
 QList<int> scanAddresses()
@@ -38,12 +36,13 @@ bool SessionWorker::openLine(const QString &portName, int timeoutMs)
 void SessionWorker::resetDriveState()
 {
     m_deviceErrors = 0;
+    m_communicationReported = false;
     m_state = DriveState();
     m_polled = false;
     m_permanentStop = false;
     m_setpointAnnounced = false;
     m_capturePending = false;
-    m_streamStarted = false;
+    m_streamStarted = m_streaming = false;
     m_data.positionFeedback = 0;
     std::lock_guard<std::mutex> lock(m_data.mutex);
     m_data.stimulus.stop();
@@ -57,7 +56,7 @@ void SessionWorker::connectDrive(const TaskRequest &request)
         disconnectDrive(request);
     qCDebug(sessionLog) << "connecting" << request.portName;
     resetDriveState();
-    if (!openLine(request.portName, driveTimeoutMs))
+    if (!openLine(request.portName, m_data.replyTimeoutMs))
         return;
     qCDebug(sessionLog) << "connected" << m_line.handle();
     m_line.setNodeAddress(request.nodeAddress);
@@ -115,8 +114,13 @@ void SessionWorker::disconnectDrive(const TaskRequest &)
     const bool skipFarewell = m_queue.isClosing() && m_line.lastExchangeFailed();
     m_line.startTask();
     // Not by setParameter: the end of a connection is no place for another error text.
-    if (!inFirmwareUpgradeMode() && !skipFarewell)
+    if (!inFirmwareUpgradeMode() && !skipFarewell) {
+        if (m_streaming)
+            writeAndFetch(reg::SystemCommand, reg::CommandStopStream);
         writeAndFetch(reg::BusWatchdog, 0);
+    }
+    if (m_capturePending)
+        emit m_session.updateCaptureButtonText(Connection::tr("Start capture"));
     qCDebug(sessionLog) << "disconnecting" << m_line.handle();
     m_line.close();
     m_line.clearStatus();

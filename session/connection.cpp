@@ -242,6 +242,11 @@ void Connection::setPauseScale(double scale)
     d->data.pauseScale = scale;
 }
 
+void Connection::setReplyTimeout(int milliseconds)
+{
+    d->data.replyTimeoutMs = milliseconds;
+}
+
 int Connection::generateDividerValue(int resolution, int speed)
 {
     return dividerValue(resolution, speed);

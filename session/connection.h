@@ -134,6 +134,8 @@ public:
 
     /// Multiplies every pause of the worker (restart 3.5 s, measurement 8 s, ...): tests shorten them. Default 1.
     void setPauseScale(double scale);
+    /// Read time-out of connections made from now on, ms, in steps of 100: tests shorten it. Default 1000.
+    void setReplyTimeout(int milliseconds);
 
     /// Divider of velocities and accelerations that suits a feedback resolution (lines) and a speed (rpm).
     static int generateDividerValue(int resolution, int speed);
@@ -149,6 +151,8 @@ signals:
     void faultRegisterUpdated(QString html);
     void availableBusNodes(QList<NodeType> nodes);
     void firmwareUpgradeMsg(QString html, bool done, bool failed);
+    /// Bytes of the images uploaded so far, and in all.
+    void firmwareUploadProgress(int sentBytes, int totalBytes);
     void suggestDeviceRestart();
     void setpointChanged(double setpoint);
     void busy(bool busy, bool nonBlocking);

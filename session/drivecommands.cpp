@@ -20,12 +20,16 @@ void SessionWorker::applyEnableState(const TaskRequest &request)
     writeAndFetch(reg::SoftEnable, request.enable ? 1 : 0);
     if (request.forceEnable)
         writeAndFetch(reg::ForceEnable, reg::ForceEnableKey);
-    if (!request.enable) {
-        emit m_session.disableAnswered(!m_line.lastExchangeFailed());
-        // Whoever pressed it wants to see soon whether it took effect.
-        if (!m_queue.contains(Connection::TaskUpdateStatus))
-            m_queue.push(Connection::TaskUpdateStatus);
-    }
+    if (!request.enable)
+        announceDisable();
+}
+
+void SessionWorker::announceDisable()
+{
+    emit m_session.disableAnswered(!m_line.lastExchangeFailed());
+    // Whoever pressed it wants to see soon whether it took effect.
+    if (!m_queue.contains(Connection::TaskUpdateStatus))
+        m_queue.push(Connection::TaskUpdateStatus);
 }
 
 void SessionWorker::saveToFlash(const TaskRequest &)
@@ -46,6 +50,7 @@ void SessionWorker::abortHoming(const TaskRequest &)
 void SessionWorker::stopStimulus(const TaskRequest &)
 {
     writeAndFetch(reg::SystemCommand, reg::CommandStopStream);
+    m_streaming = false;
 }
 
 void SessionWorker::setAbsoluteSetpoint(const TaskRequest &request)
@@ -70,7 +75,8 @@ void SessionWorker::restartDrive(const TaskRequest &)
 {
     emit m_session.busy(true, true);
     writeAndFetch(reg::SystemCommand, reg::CommandRestart);
-    pause(restartPauseMs);
+    m_streaming = m_streamStarted = false; // the drive forgets its buffer and what was selected for it
+    pause(restartPauseMs, Drive::Restarts);
     emit m_session.busy(false, true);
 }
 
@@ -82,7 +88,12 @@ void SessionWorker::restartToDFU(const TaskRequest &)
 void SessionWorker::restartToDFUMode()
 {
     writeAndFetch(reg::SystemCommand, reg::CommandRestartToDFU);
-    pause(restartPauseMs);
+    if (isConnected() && statusIsClean()) {
+        // From here on a bootloader answers, at its own address; it neither moves nor knows the watchdog.
+        m_data.firmwareUpgradeMode = true;
+        m_line.setNodeAddress(firmwareUpgradeNode);
+    }
+    pause(restartPauseMs, Drive::Restarts);
 }
 
 void SessionWorker::measure(const TaskRequest &)

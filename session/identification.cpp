@@ -4,14 +4,10 @@
 #include "sessionworker.h"
 #include "versioncheck.h"
 
-namespace {
-constexpr int upgradeNode = 255; // a drive in firmware-upgrade mode, whatever its own address is
-}
-
 bool SessionWorker::identify(int nodeAddress)
 {
     long mode = 0;
-    if (nodeAddress != upgradeNode) {
+    if (nodeAddress != firmwareUpgradeNode) {
         readParameters(reg::OperatingMode, mode);
         if (refuseUncleanLine())
             return false;

@@ -13,6 +13,9 @@
 /// The session's marker lines. Off unless asked for: QT_LOGGING_RULES="velbrin.session.debug=true".
 Q_DECLARE_LOGGING_CATEGORY(sessionLog)
 
+/// Bus address of a drive in firmware-upgrade mode, whatever its own address is.
+constexpr int firmwareUpgradeNode = 255;
+
 struct SessionData
 {
     /// Guards the plain members below it. Held to copy something in or out, never across bus traffic or a file.
@@ -29,6 +32,7 @@ struct SessionData
     std::atomic<int> positionFeedback{0};
     std::atomic<float> baseFrequency{17500.0F}; ///< Hz; a drive of an unknown family inherits the last one's
     std::atomic<double> pauseScale{1.0};
+    std::atomic<int> replyTimeoutMs{1000};
 
     Parameters parameters() const
     {

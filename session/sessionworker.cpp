@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <thread>
 
 Q_LOGGING_CATEGORY(sessionLog, "velbrin.session", QtInfoMsg)
 
@@ -30,13 +31,13 @@ const SessionWorker::TaskRule *SessionWorker::ruleOf(int task)
         {Connection::TaskSetParams, &W::setParams, true, false},
         {Connection::TaskGetParams, &W::getParams, true, true},
         {Connection::TaskUpdateStatus, &W::updateStatus, true, true},
-        {Connection::TaskInitScope, &W::notInThisBuild, true, false},
-        {Connection::TaskDownloadScope, &W::notInThisBuild, true, false},
+        {Connection::TaskInitScope, &W::startCapture, true, false},
+        {Connection::TaskDownloadScope, &W::downloadCapture, true, false},
         {Connection::TaskQuit, &W::quit, false, true},
         {Connection::TaskCheckErrors, &W::checkErrors, true, true},
         {Connection::TaskClearFaults, &W::clearFaults, true, true},
         {Connection::TaskApplyEnableState, &W::applyEnableState, true, false},
-        {Connection::TaskStimulus, &W::notInThisBuild, true, false},
+        {Connection::TaskStimulus, &W::streamStimulus, true, false},
         {13, &W::doNothing, false, true},
         {Connection::TaskSaveToFlash, &W::saveToFlash, true, false},
         {Connection::TaskStartHoming, &W::startHoming, true, false},
@@ -44,7 +45,7 @@ const SessionWorker::TaskRule *SessionWorker::ruleOf(int task)
         {Connection::TaskSaveSettingsFile, &W::saveSettingsFile, false, true},
         {Connection::TaskLoadSettingsFile, &W::loadSettingsFile, false, true},
         {Connection::TaskScanBus, &W::scanBus, false, true},
-        {Connection::TaskFlashFirmware, &W::notInThisBuild, true, true},
+        {Connection::TaskFlashFirmware, &W::flashFirmware, false, true},
         {Connection::TaskRestartDrive, &W::restartDrive, true, true},
         {Connection::TaskStopStimulus, &W::stopStimulus, true, false},
         {Connection::TaskSetAbsoluteSetpoint, &W::setAbsoluteSetpoint, true, false},
@@ -89,7 +90,6 @@ void SessionWorker::perform(const QueuedTask &entry)
     if ((rule->needsDrive && !isConnected()) || (inFirmwareUpgradeMode() && !rule->inFirmwareUpgradeMode))
         return;
     m_line.startTask();
-    m_communicationReported = false;
     (this->*rule->handler)(entry.request);
     finishTask();
 }
@@ -107,17 +107,12 @@ void SessionWorker::connectionUpdate()
     if (!isConnected() || !m_queue.isEmpty())
         return;
     qCDebug(sessionLog, "----------------------------tick------------------------");
-    bool stimulus = false;
-    {
-        std::lock_guard<std::mutex> lock(m_data.mutex);
-        stimulus = m_data.stimulus.isActive();
-    }
-    if (stimulus)
+    if (stimulusActive())
         m_queue.push(Connection::TaskStimulus);
     m_queue.push(Connection::TaskUpdateStatus);
 }
 
-bool SessionWorker::pause(int milliseconds)
+bool SessionWorker::pause(int milliseconds, Drive drive)
 {
     using Clock = std::chrono::steady_clock;
     const auto length = std::chrono::duration<double, std::milli>(milliseconds * m_data.pauseScale);
@@ -127,7 +122,10 @@ bool SessionWorker::pause(int milliseconds)
         case TaskQueue::Wake::TimeOver:
             return true;
         case TaskQueue::Wake::Disable:
-            serveWaitingDisable();
+            if (drive == Drive::Restarts)
+                disableRestartingDrive(deadline);
+            else
+                serveWaitingDisable();
             break;
         case TaskQueue::Wake::Closing:
             return false;
@@ -144,6 +142,25 @@ bool SessionWorker::serveWaitingDisable()
         return false;
     applyEnableState(entry.request);
     return true;
+}
+
+/// A drive that restarts is deaf for a while: it is told again until it answers or the pause is over.
+void SessionWorker::disableRestartingDrive(std::chrono::steady_clock::time_point deadline)
+{
+    QueuedTask entry;
+    if (!m_queue.takeDisable(entry) || !isConnected() || inFirmwareUpgradeMode())
+        return;
+    const bool again = statusIsClean(); // otherwise the restart itself went wrong, which is still to be reported
+    for (;;) {
+        writeAndFetch(reg::SoftEnable, 0);
+        if (!again || statusIsClean() || m_queue.isClosing() || std::chrono::steady_clock::now() >= deadline)
+            break;
+        m_line.startTask();
+        m_line.clearStatus();
+        // A port that has gone fails at once; do not spin on it.
+        std::this_thread::sleep_for(std::chrono::milliseconds(20));
+    }
+    announceDisable();
 }
 
 void SessionWorker::debug() const
@@ -176,7 +193,7 @@ QString SessionWorker::stringifyZBBusErrors(const SingleParam *param)
     m_deviceErrors = 0;
     if (!text.isEmpty()) {
         m_errorLatch = true;
-        m_queue.pushDisconnectAfterError();
+        m_queue.pushDisconnectFirst();
     }
     return text;
 }
@@ -208,9 +225,4 @@ void SessionWorker::quit(const TaskRequest &)
 void SessionWorker::checkErrors(const TaskRequest &)
 {
     checkZBErrors();
-}
-
-void SessionWorker::notInThisBuild(const TaskRequest &)
-{
-    emit m_session.error(Connection::tr("This function is not in this build."));
 }

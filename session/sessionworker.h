@@ -8,8 +8,8 @@
 #include "sessiondata.h"
 
 /// One source file a topic: sessionworker.cpp (loop, errors, pauses), connecting.cpp, identification.cpp, transfer.cpp,
-/// statuspoll.cpp, drivecommands.cpp, settingsfiles.cpp. A new task is a row in the table of sessionworker.cpp.
-/// Signals are Connection's, emitted from here.
+/// statuspoll.cpp, scope.cpp, stimulus.cpp, flashing.cpp, drivecommands.cpp, settingsfiles.cpp. A new task is a row in
+/// the table of sessionworker.cpp. Signals are Connection's, emitted from here.
 class SessionWorker
 {
 public:
@@ -27,8 +27,11 @@ private:
     void perform(const QueuedTask &entry);
     void finishTask();
     void connectionUpdate();
-    bool pause(int milliseconds); ///< false when the session is closing; serves a disable at once
-    bool serveWaitingDisable();   ///< between two exchanges of a long task; true when one was sent
+    enum class Drive { Answers, Restarts };
+    /// Every pause of the worker. False when the session is closing, which cuts it short; serves a disable at once.
+    bool pause(int milliseconds, Drive drive = Drive::Answers);
+    void disableRestartingDrive(std::chrono::steady_clock::time_point deadline);
+    bool serveWaitingDisable(); ///< between two exchanges of a long task; true when one was sent
     void debug() const;
     void checkZBErrors();
     /// Text for what has accumulated, empty when nothing did; ends the connection and clears what it words.
@@ -41,7 +44,6 @@ private:
     void doNothing(const TaskRequest &) {}
     void quit(const TaskRequest &);
     void checkErrors(const TaskRequest &);
-    void notInThisBuild(const TaskRequest &);
 
     // --- Connecting (connecting.cpp) ---
     void connectDrive(const TaskRequest &request);
@@ -87,10 +89,39 @@ private:
     void setAbsoluteSetpoint(const TaskRequest &request);
     void setIncrementalSetpoint(const TaskRequest &request);
     void setZero(const TaskRequest &);
+    void announceDisable();
     void restartDrive(const TaskRequest &);
     void restartToDFU(const TaskRequest &);
     void restartToDFUMode();
     void measure(const TaskRequest &);
+
+    // --- Scope (scope.cpp) ---
+    void startCapture(const TaskRequest &request);
+    void downloadCapture(const TaskRequest &);
+    void initScope();
+    bool selectScopeMemory();
+    bool downloadScope(int words);
+    bool downloadScopeWords(int first, int count);
+
+    // --- Test stimulus (stimulus.cpp) ---
+    void streamStimulus(const TaskRequest &);
+    bool stimulusActive() const;
+    void uploadStreamChunk();
+    QueueItem nextStreamItem();
+
+    // --- Firmware upgrade (flashing.cpp) ---
+    void flashFirmware(const TaskRequest &request);
+    bool flash(const TaskRequest &request);
+    bool hasIOSide() const;
+    void flashProgress(const QString &text);
+    bool flashFailed(const QString &text);
+    bool flashStepIsClean();
+    bool flashFirmwareIOSide(const QList<quint16> &image, bool resetToFactory);
+    bool verifyIOSide();
+    bool flashFirmwareTCSide(const QList<quint16> &image);
+    static int wordsToUpload(const QList<quint16> &image);
+    bool uploadImage(const QList<quint16> &image, bool programChunks);
+    bool uploadChunk(const QList<quint16> &image, int first, bool program);
 
     // --- Settings files (settingsfiles.cpp) ---
     void saveSettingsFile(const TaskRequest &request);
@@ -103,7 +134,7 @@ private:
 
     bool m_quit = false;
     bool m_errorLatch = false;            ///< set by every error text: from then on each write is checked
-    bool m_communicationReported = false; ///< in this task: one text about the line is enough
+    bool m_communicationReported = false; ///< since connecting: one text about the line is enough
     quint32 m_deviceErrors = 0;           ///< register 13 as last queried
 
     int m_firmwareVersion = 0; ///< the bootloader's in firmware-upgrade mode
@@ -115,8 +146,18 @@ private:
     bool m_permanentStop = false;     ///< in the last poll
     bool m_setpointAnnounced = false; ///< since connecting
     qint32 m_announcedSetpoint = 0;
+
+    CaptureRequest m_capture;    ///< as armed
+    double m_samplePeriod = 0.0; ///< s, of the armed capture
     bool m_capturePending = false;
-    bool m_streamStarted = false;
+
+    bool m_streamStarted = false; ///< set-up items and the first setpoint were sent in this connection
+    bool m_streaming = false;     ///< setpoints were sent since the stream was last stopped
+    int m_streamStep = 0;         ///< items sent since the stream started
+    int m_streamInitialFree = 0;  ///< bytes free in the drive's buffer then
+
+    int m_uploadedWords = 0; ///< of the images of an upgrade, for its progress
+    int m_uploadWords = 0;
 };
 
 #endif

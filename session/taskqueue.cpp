@@ -1,6 +1,7 @@
 #include "taskqueue.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -38,6 +39,15 @@ bool isRestart(const QueuedTask &entry)
 template <typename Entries, typename Condition> void removeIf(Entries &entries, Condition condition)
 {
     entries.erase(std::remove_if(entries.begin(), entries.end(), condition), entries.end());
+}
+
+/// Leaves one stream stop, the first; there is never more than one disable.
+template <typename Entries> void removeRepeatedStops(Entries &entries)
+{
+    bool found = false;
+    removeIf(entries, [&found](const QueuedTask &entry) {
+        return entry.task == Connection::TaskStopStimulus && std::exchange(found, true);
+    });
 }
 
 } // namespace
@@ -78,11 +88,12 @@ void TaskQueue::insert(QueuedTask entry)
     m_entries.push_back(std::move(entry));
 }
 
-void TaskQueue::pushDisconnectAfterError()
+void TaskQueue::pushDisconnectFirst()
 {
     {
         std::lock_guard<std::mutex> lock(m_mutex);
         // Even on a bad line a waiting stop is tried before the port is given up.
+        removeRepeatedStops(m_entries); // each may cost a time-out
         const auto rest = std::stable_partition(m_entries.begin(), m_entries.end(), isStop);
         if (rest == m_entries.end() || rest->task != Connection::TaskDisconnect) {
             QueuedTask disconnect;

@@ -59,8 +59,9 @@ public:
     /// - anything else is appended.
     void push(QueuedTask entry);
     void push(Connection::Task task);
-    /// Queues the disconnect after an error: at the head, behind waiting disables and stream stops; once.
-    void pushDisconnectAfterError();
+    /// Queues the disconnect after an error (or when the drive has gone): at the head, behind waiting disables and
+    /// stream stops; once.
+    void pushDisconnectFirst();
     /// Queues a disconnect and the quit task, and ends every pause from now on.
     void close();
 

@@ -103,10 +103,10 @@ TEST(TaskQueue, ADisconnectWaitsBehindARestart)
 TEST(TaskQueue, TheDisconnectAfterAnErrorGoesAheadOfAllButStops)
 {
     TaskQueue queue;
-    pushAll(queue, {3, 26, 4});
+    pushAll(queue, {3, 26, 4, 26});
     queue.push(enableTask(false));
-    queue.pushDisconnectAfterError();
-    queue.pushDisconnectAfterError();
+    queue.pushDisconnectFirst();
+    queue.pushDisconnectFirst();
     EXPECT_THAT(queue.codes(), ElementsAre(11, 26, 2, 3, 4));
 }
 

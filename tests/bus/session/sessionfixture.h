@@ -1,0 +1,205 @@
+/// \file
+/// A session on the virtual bus: a Connection, everything it has signalled, and words for the wire.
+#ifndef SESSIONFIXTURE_H
+#define SESSIONFIXTURE_H
+
+// Before Qt, which makes a keyword of a name that the virtual drive uses.
+#include "virtualbusfixture.h"
+
+#include "connection.h"
+#include "printqt.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QElapsedTimer>
+#include <QFileInfo>
+#include <QObject>
+#include <QStringList>
+#include <functional>
+#include <gmock/gmock.h>
+
+/// What a Connection has signalled, in order, as the user interface's thread receives it.
+struct SessionLog : QObject
+{
+    struct Status
+    {
+        bool connected;
+        QString text;
+    };
+    struct UpgradeMessage
+    {
+        QString text;
+        bool done, failed;
+    };
+
+    explicit SessionLog(Connection &session);
+
+    QList<Status> statuses;
+    QStringList errors;
+    QList<Parameters> read;
+    QList<Parameters> loaded;
+    QList<QList<NodeType>> nodes;
+    QStringList captureButton;
+    QList<QList<CaptureData>> plots;
+    QStringList statusPanels, faultPanels, inputPanels;
+    QList<UpgradeMessage> upgrade;
+    QList<double> setpoints;
+    QList<int> controlModes;
+    QList<bool> busy;
+    QList<bool> disables;
+    QList<bool> enabled;
+    int restartSuggestions = 0;
+    int unsaved = 0;
+};
+
+inline SessionLog::SessionLog(Connection &s)
+{
+    const auto queued = Qt::QueuedConnection;
+    using C = Connection;
+    connect(
+        &s, &C::statusChanged, this,
+        [this](bool on, QString t) {
+            statuses << Status{on, t};
+        },
+        queued);
+    connect(
+        &s, &C::error, this, [this](QString t) { errors << t; }, queued);
+    connect(
+        &s, &C::parametersRetreived, this, [this](Parameters p, bool file) { (file ? loaded : read) << p; }, queued);
+    connect(
+        &s, &C::availableBusNodes, this, [this](QList<NodeType> n) { nodes << n; }, queued);
+    connect(
+        &s, &C::updateCaptureButtonText, this, [this](QString t) { captureButton << t; }, queued);
+    connect(
+        &s, &C::plotReady, this, [this](QList<CaptureData> c) { plots << c; }, queued);
+    connect(
+        &s, &C::statusRegisterUpdated, this, [this](QString t) { statusPanels << t; }, queued);
+    connect(
+        &s, &C::faultRegisterUpdated, this, [this](QString t) { faultPanels << t; }, queued);
+    connect(
+        &s, &C::physInputsUpdated, this, [this](QString t) { inputPanels << t; }, queued);
+    connect(
+        &s, &C::firmwareUpgradeMsg, this,
+        [this](QString t, bool done, bool failed) {
+            upgrade << UpgradeMessage{t, done, failed};
+        },
+        queued);
+    connect(
+        &s, &C::setpointChanged, this, [this](double v) { setpoints << v; }, queued);
+    connect(
+        &s, &C::controlModeChanged, this, [this](int m) { controlModes << m; }, queued);
+    connect(
+        &s, &C::busy, this, [this](bool on, bool) { busy << on; }, queued);
+    connect(
+        &s, &C::disableAnswered, this, [this](bool ok) { disables << ok; }, queued);
+    connect(
+        &s, &C::enableStatePolled, this, [this](bool on) { enabled << on; }, queued);
+    connect(
+        &s, &C::suggestDeviceRestart, this, [this] { ++restartSuggestions; }, queued);
+    connect(
+        &s, &C::setUnsavedState, this, [this] { ++unsaved; }, queued);
+}
+
+/// Runs the event loop until the condition holds; false when it did not within the limit.
+inline bool waitUntil(const std::function<bool()> &condition, int limitMs = 30000)
+{
+    QElapsedTimer timer;
+    timer.start();
+    for (;;) {
+        const bool holds = condition();
+        QCoreApplication::processEvents();
+        if (holds || timer.elapsed() > limitMs)
+            return holds;
+        QThread::msleep(1); // not every condition comes with an event of ours
+    }
+}
+
+/// Payload in hexadecimal, e.g. "800f00000000" for register 15 := 0.
+inline std::string hex(const sim::Bytes &bytes)
+{
+    std::string text;
+    for (std::uint8_t byte : bytes) {
+        text += "0123456789abcdef"[byte >> 4];
+        text += "0123456789abcdef"[byte & 15];
+    }
+    return text;
+}
+
+/// "800a 400000" without the blanks that make it readable.
+inline std::string wire(std::string text)
+{
+    text.erase(std::remove(text.begin(), text.end(), ' '), text.end());
+    return text;
+}
+
+class SessionFixture : public VirtualBusFixture
+{
+protected:
+    void SetUp() override
+    {
+        VirtualBusFixture::SetUp();
+        newSession();
+    }
+    void TearDown() override
+    {
+        m_log.reset();
+        m_session.reset();
+        VirtualBusFixture::TearDown();
+    }
+
+    void newSession()
+    {
+        m_log.reset();
+        m_session = std::make_unique<Connection>();
+        m_session->setPauseScale(0.05);
+        m_log = std::make_unique<SessionLog>(*m_session);
+    }
+    Connection &session() { return *m_session; }
+    SessionLog &log() { return *m_log; }
+
+    /// Connects and waits for the outcome; true when connected.
+    bool connectTo(int address = DriveAddress)
+    {
+        const int before = log().statuses.size();
+        session().connectDevice(port(), address);
+        return waitUntil([&] { return log().statuses.size() > before; }) && log().statuses.last().connected;
+    }
+    bool waitForDisconnect()
+    {
+        return waitUntil([&] { return !log().statuses.isEmpty() && !log().statuses.last().connected; });
+    }
+    bool readAll()
+    {
+        const int before = log().read.size();
+        session().getParams();
+        return waitUntil([&] { return log().read.size() > before; });
+    }
+    /// Waits until what was queued before has run and its signals have arrived.
+    bool waitUntilIdle()
+    {
+        // A task that leaves a trace, wherever the session stands: saving the settings.
+        const QString mark = QStringLiteral("%1/idle%2.drc").arg(QDir::currentPath()).arg(++m_marks);
+        session().setSettingsFileName(mark);
+        session().command(Connection::TaskSaveSettingsFile);
+        return waitUntil([&] { return QFileInfo::exists(mark); });
+    }
+
+    /// Payloads that arrived, without those of the periodic poll.
+    std::vector<std::string> payloads()
+    {
+        std::vector<std::string> result;
+        for (const sim::ReceivedRequest &request : bus().received()) {
+            const std::string payload = hex(request.packet.payload);
+            if (payload.rfind("800a400000800940", 0) != 0 || payload.size() <= 60)
+                result.push_back(payload);
+        }
+        return result;
+    }
+
+private:
+    std::unique_ptr<Connection> m_session;
+    std::unique_ptr<SessionLog> m_log;
+    int m_marks = 0;
+};
+
+#endif

@@ -1,0 +1,162 @@
+// Every way for a line to go bad, at every moment: one clear message, disconnected within a few time-outs, and the next
+// connection works.
+#include "sessionfixture.h"
+
+#include <map>
+
+using testing::HasSubstr;
+using testing::SizeIs;
+using Fault = sim::LineFault;
+
+namespace {
+
+struct Moment
+{
+    const char *name;
+    int repliesThatPass;
+    void (*begin)(Connection &);
+};
+
+void PrintTo(const Moment &moment, std::ostream *out)
+{
+    *out << moment.name;
+}
+
+const Moment transferMoments[] = {
+    {"IdlePoll", 0, [](Connection &) {}},
+    {"FullRead", 20, [](Connection &session) { session.getParams(); }},
+    {"FullWrite", 20, [](Connection &session) { session.command(Connection::TaskSetParams); }},
+};
+
+const Moment testingMoments[] = {
+    {"Capture", 1,
+     [](Connection &session) {
+         session.setupCapture(20000, 3, {true, true, true});
+         session.command(Connection::TaskInitScope);
+     }},
+    {"Download", 30,
+     [](Connection &session) {
+         session.setupCapture(20000, 3, {true, true, true});
+         session.command(Connection::TaskInitScope);
+         session.command(Connection::TaskDownloadScope);
+     }},
+    {"Stream", 4, [](Connection &session) { session.setStimulus(100, 0.1, -100, 0.1, true); }},
+    {"Measuring", 1, [](Connection &session) { session.command(Connection::TaskMeasure); }},
+};
+
+const Fault::Kind kinds[] = {Fault::Drop,    Fault::Flip, Fault::Cut,   Fault::Late,
+                             Fault::Missing, Fault::Deaf, Fault::Noise, Fault::Unplugged};
+
+std::string nameOf(const testing::TestParamInfo<std::tuple<Moment, Fault::Kind>> &info)
+{
+    static const std::map<Fault::Kind, const char *> names = {
+        {Fault::Drop, "Drop"}, {Fault::Flip, "Flip"},       {Fault::Cut, "Cut"},     {Fault::Late, "Late"},
+        {Fault::Deaf, "Deaf"}, {Fault::Missing, "Missing"}, {Fault::Noise, "Noise"}, {Fault::Unplugged, "Unplugged"}};
+    return std::string(std::get<0>(info.param).name) + names.at(std::get<1>(info.param));
+}
+
+class BadLine : public SessionFixture, public testing::WithParamInterface<std::tuple<Moment, Fault::Kind>>
+{
+protected:
+    void repair()
+    {
+        bus().clearFaults();
+        if (!bus().isPluggedIn()) {
+            ASSERT_EQ(bus().plugIn(), "");
+        }
+    }
+};
+
+class BadConnect : public SessionFixture, public testing::WithParamInterface<Fault::Kind>
+{
+};
+
+} // namespace
+
+TEST_P(BadLine, EndsInOneMessageAndTheNextConnectionWorks)
+{
+    const auto [moment, kind] = GetParam();
+    session().setReplyTimeout(100);
+    for (int attempt = 0; !session().isConnected() && attempt < 5; ++attempt)
+        connectTo(); // more than one where the machine is busy: the time-out is short
+    ASSERT_TRUE(readAll());
+    ASSERT_TRUE(session().isConnected());
+    log().statuses.clear();
+    log().errors.clear();
+    session().setReplyTimeout(1000);
+
+    Fault fault;
+    fault.kind = kind;
+    fault.at = kind == Fault::Late ? 350 : 4;
+    fault.skip = moment.repliesThatPass;
+    bus().setFault(fault);
+    QElapsedTimer timer;
+    timer.start();
+    moment.begin(session());
+    ASSERT_TRUE(waitForDisconnect());
+    EXPECT_LT(timer.elapsed(), 10000);
+    ASSERT_TRUE(waitUntil([this] { return !log().errors.isEmpty(); }));
+    EXPECT_THAT(log().errors, SizeIs(1));
+    EXPECT_THAT(log().errors.first().toStdString(), HasSubstr("Communication error flags:"));
+    EXPECT_THAT(log().statuses, SizeIs(1));
+    EXPECT_EQ(log().statuses.last().text, "Disconnected");
+    EXPECT_EQ(log().captureButton.last(), "Start capture");
+    EXPECT_TRUE(log().plots.isEmpty()) << "no picture of invented data";
+
+    repair();
+    // Replies that are still under way may answer the first attempt.
+    EXPECT_TRUE(connectTo() || (kind == Fault::Late && connectTo()));
+    EXPECT_TRUE(readAll());
+    EXPECT_TRUE(kind == Fault::Late || log().errors.size() == 1);
+}
+
+INSTANTIATE_TEST_SUITE_P(Transfer, BadLine,
+                         testing::Combine(testing::ValuesIn(transferMoments), testing::ValuesIn(kinds)), nameOf);
+
+INSTANTIATE_TEST_SUITE_P(Testing, BadLine,
+                         testing::Combine(testing::ValuesIn(testingMoments),
+                                          testing::Values(Fault::Drop, Fault::Flip, Fault::Late, Fault::Missing,
+                                                          Fault::Unplugged)),
+                         nameOf);
+
+TEST_P(BadConnect, AReplyDamagedAtAnyByteIsAFailedConnectAndTheNextOneWorks)
+{
+    constexpr int replyBytes = 21; // of the first read: id, size, address, four values of 4 bytes, checksum
+    session().setReplyTimeout(100);
+    for (int at = 0; at < replyBytes; ++at) {
+        Fault fault;
+        fault.kind = GetParam();
+        fault.at = at;
+        bus().setFault(fault);
+        log().errors.clear();
+        log().statuses.clear();
+        EXPECT_FALSE(connectTo()) << at;
+        ASSERT_TRUE(waitUntil([this] { return !log().errors.isEmpty(); }));
+        EXPECT_THAT(log().errors, SizeIs(1)) << at;
+        EXPECT_THAT(log().errors.first().toStdString(), HasSubstr("Communication error flags:"));
+        ASSERT_THAT(log().statuses, SizeIs(1)) << at;
+        EXPECT_EQ(log().statuses.first().text, "Connect failed");
+    }
+    bus().clearFaults();
+    session().setReplyTimeout(1000);
+    EXPECT_TRUE(connectTo());
+    EXPECT_TRUE(readAll());
+}
+
+INSTANTIATE_TEST_SUITE_P(Any, BadConnect, testing::Values(Fault::Cut, Fault::Flip),
+                         [](const auto &info) { return info.param == Fault::Cut ? "CutShort" : "Flipped"; });
+
+TEST_F(SessionFixture, ABabblingLineEndsAScanWithinSeconds)
+{
+    Fault noise;
+    noise.kind = Fault::Noise;
+    bus().setFault(noise);
+    session().getListOfBusNodes(port());
+    ASSERT_TRUE(waitUntil([this] { return !log().errors.isEmpty(); }));
+    EXPECT_THAT(log().errors.first().toStdString(), HasSubstr("The bus is never quiet"));
+    ASSERT_THAT(log().statuses, SizeIs(1));
+    EXPECT_EQ(log().statuses.first().text, "Connect failed");
+    EXPECT_EQ(log().busy.last(), false);
+    bus().clearFaults();
+    EXPECT_TRUE(connectTo());
+}

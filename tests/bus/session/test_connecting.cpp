@@ -1,0 +1,276 @@
+// Finding drives, connecting to them, being refused, and leaving: what is said to the user and on the wire.
+#include "sessionfixture.h"
+
+#include <fcntl.h>
+#include <sys/file.h>
+#include <unistd.h>
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::SizeIs;
+
+namespace {
+
+const QString cannotOpen = "Unable to connect. Possibly incompatible COM adapter selected or device is already used by "
+                           "another application";
+
+class Connecting : public SessionFixture
+{
+protected:
+    bool scan()
+    {
+        session().getListOfBusNodes(port());
+        return waitUntil([this] { return !log().nodes.isEmpty(); });
+    }
+    void expectRefused(const char *status, const char *error)
+    {
+        EXPECT_FALSE(connectTo());
+        ASSERT_TRUE(waitUntil([this] { return !log().errors.isEmpty(); }));
+        EXPECT_THAT(log().statuses, SizeIs(1));
+        EXPECT_EQ(log().statuses.last().text, status);
+        EXPECT_THAT(log().errors, SizeIs(1));
+        EXPECT_THAT(log().errors.last().toStdString(), HasSubstr(error));
+        EXPECT_EQ(session().deviceType(), 0);
+        EXPECT_FALSE(session().deviceHasCapability(Connection::CapMeasureRL));
+    }
+};
+
+class TwoDrives : public Connecting
+{
+    sim::BusOptions busOptions() const override
+    {
+        sim::BusOptions options;
+        options.drives = {{"keta", 3}, {"torva", 7}};
+        return options;
+    }
+};
+
+class InUpgradeMode : public Connecting
+{
+    sim::BusOptions busOptions() const override
+    {
+        sim::BusOptions options;
+        options.drives = {{"keta", 5, true}};
+        return options;
+    }
+};
+
+class OtherDrive : public Connecting, public testing::WithParamInterface<const char *>
+{
+    sim::BusOptions busOptions() const override
+    {
+        sim::BusOptions options;
+        options.drives = {{GetParam(), 5}};
+        return options;
+    }
+};
+
+} // namespace
+
+TEST_F(TwoDrives, AScanAsksThe25AddressesInOrderAndListsWhatAnswers)
+{
+    ASSERT_TRUE(scan());
+    std::vector<int> asked;
+    for (const sim::ReceivedRequest &request : bus().received())
+        asked.push_back(request.packet.address);
+    EXPECT_THAT(asked, ElementsAre(1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 16, 17, 18, 19, 20, 251, 252, 253,
+                                   254, 255));
+    // Registers 6020 and 2.
+    EXPECT_EQ(hex(bus().received().front().packet.payload), wire("800a 400000 8009 401784 800a 400000 8009 400002"));
+
+    const QList<NodeType> nodes = log().nodes.last();
+    ASSERT_EQ(nodes.size(), 2);
+    EXPECT_EQ(nodes[0].address, 3);
+    EXPECT_EQ(nodes[0].deviceType, 11000);
+    EXPECT_FALSE(nodes[0].firmwareUpgradeMode);
+    EXPECT_EQ(nodes[1].address, 7);
+    EXPECT_EQ(nodes[1].deviceType, 4000);
+    EXPECT_THAT(log().busy, ElementsAre(true, false));
+    EXPECT_TRUE(log().errors.isEmpty());
+}
+
+TEST_F(InUpgradeMode, ADriveInUpgradeModeIsFoundAndWelcomed)
+{
+    bus().withDrive(5, [](sim::VirtualDrive &drive) {
+        sim::Flash cutOff = drive.flash();
+        cutOff.firmwareIntact = false;
+        drive.powerUp(cutOff);
+    });
+    ASSERT_TRUE(scan());
+    ASSERT_EQ(log().nodes.last().size(), 1);
+    EXPECT_EQ(log().nodes.last().first().address, 255);
+    EXPECT_TRUE(log().nodes.last().first().firmwareUpgradeMode);
+
+    bus().clearReceived();
+    ASSERT_TRUE(connectTo(255));
+    ASSERT_TRUE(waitUntil([this] { return log().upgrade.size() == 2; }));
+    EXPECT_TRUE(log().upgrade[0].text.startsWith(
+        "Connected to device in firmware upgrade mode (bootloader version 1260). To begin upgrading, select file"));
+    EXPECT_THAT(log().upgrade[1].text.toStdString(),
+                HasSubstr("fault bits active (120 hex = chip firmware memory checksum mismatch). This could mean"));
+    EXPECT_FALSE(log().upgrade[1].done || log().upgrade[1].failed);
+    EXPECT_TRUE(session().isInFirmwareUpgradeMode());
+
+    // What moves or writes settings does nothing, and the poll reads the fault register alone.
+    session().setDriveEnableStatus(true);
+    for (Connection::Task task : {Connection::TaskSetParams, Connection::TaskApplyEnableState,
+                                  Connection::TaskStartHoming, Connection::TaskSetAbsoluteSetpoint})
+        session().command(task);
+    session().command(Connection::TaskUpdateStatus);
+    ASSERT_TRUE(waitUntilIdle());
+    session().command(Connection::TaskDisconnect);
+    ASSERT_TRUE(waitForDisconnect());
+    std::vector<std::string> afterIdentification;
+    for (const sim::ReceivedRequest &request : bus().received())
+        afterIdentification.push_back(hex(request.packet.payload));
+    ASSERT_GE(afterIdentification.size(), 3u);
+    EXPECT_EQ(afterIdentification[0], wire("800a 400000 8009 401784 800a 400000 8009 40177a 800a 400000 8009 40177b"));
+    EXPECT_EQ(afterIdentification[1], wire("800a 400000 8009 400003 800a 400000 8009 400004"));
+    EXPECT_EQ(afterIdentification[2], wire("800a 400000 8009 400228"));
+    for (std::size_t i = 3; i < afterIdentification.size(); ++i)
+        EXPECT_EQ(afterIdentification[i], wire("800a 400000 8009 400228"));
+    EXPECT_FALSE(session().isInFirmwareUpgradeMode());
+}
+
+TEST_F(Connecting, IdentifiesTheDriveAndSwitchesTheWatchdogOff)
+{
+    ASSERT_TRUE(connectTo());
+    EXPECT_EQ(log().statuses.last().text, "Connected");
+    ASSERT_TRUE(waitForRequests(5));
+    const std::vector<std::string> sent = payloads();
+    ASSERT_GE(sent.size(), 5u);
+    EXPECT_EQ(sent[0], wire("800a 400000 8009 400002"));
+    EXPECT_EQ(sent[1], wire("800a 400000 8009 401784 800a 400000 8009 40177a 800a 400000 8009 40177b"));
+    EXPECT_EQ(sent[2], wire("800a 400000 8009 400003 800a 400000 8009 400004"));
+    EXPECT_EQ(sent[3], wire("800a 400000 8009 40177e 800a 400000 8009 40177f"));
+    EXPECT_EQ(sent[4], wire("800f 00000000"));
+    EXPECT_TRUE(session().isConnected());
+    EXPECT_EQ(session().deviceType(), 11000);
+    EXPECT_TRUE(session().deviceHasCapability(Connection::CapMeasureRL));
+    EXPECT_EQ(session().maxScopeSampleRate(), 20000.0);
+    EXPECT_THAT(log().captureButton, ElementsAre(QString("Start capture")));
+}
+
+TEST_F(Connecting, LeavingSwitchesTheWatchdogOffAndForgetsTheDrive)
+{
+    ASSERT_TRUE(connectTo());
+    ASSERT_TRUE(readAll());
+    EXPECT_EQ(session().getActiveParamValue("HWTYPE"), 11000.0);
+    bus().clearReceived();
+    session().command(Connection::TaskDisconnect);
+    ASSERT_TRUE(waitForDisconnect());
+    EXPECT_EQ(payloads().back(), wire("800f 00000000"));
+    EXPECT_EQ(log().statuses.last().text, "Disconnected");
+    EXPECT_EQ(session().deviceType(), 0);
+    EXPECT_EQ(session().getActiveParamValue("HWTYPE"), 0.0);
+    EXPECT_FALSE(session().deviceHasCapability(Connection::CapRestartToDFU));
+
+    // The record keeps its address, or the type could not be read any more.
+    ASSERT_TRUE(connectTo());
+    ASSERT_TRUE(readAll());
+    EXPECT_EQ(session().getActiveParamValue("HWTYPE"), 11000.0);
+    EXPECT_TRUE(log().errors.isEmpty());
+}
+
+TEST_F(Connecting, TasksWithoutADriveAreQuiet)
+{
+    for (int task = 3; task <= 31; ++task) {
+        if (task != Connection::TaskQuit && !(task >= 17 && task <= 24))
+            session().command(static_cast<Connection::Task>(task));
+    }
+    ASSERT_TRUE(connectTo());
+    EXPECT_EQ(payloads().front(), wire("800a 400000 8009 400002"));
+    EXPECT_TRUE(log().errors.isEmpty());
+    EXPECT_TRUE(log().read.isEmpty());
+    EXPECT_TRUE(log().busy.isEmpty());
+
+    session().command(static_cast<Connection::Task>(17));
+    ASSERT_TRUE(waitUntil([this] { return !log().errors.isEmpty(); }));
+    EXPECT_EQ(log().errors.last(), "Invalid comm task");
+}
+
+TEST_F(Connecting, APortThatCannotBeOpenedIsSaidOnce)
+{
+    const int other = open(port(), O_RDWR | O_NOCTTY);
+    ASSERT_GE(other, 0);
+    ASSERT_EQ(flock(other, LOCK_EX | LOCK_NB), 0);
+    for (const char *name : {"/dev/ttyNotThere", "notAPort", port()}) {
+        newSession();
+        session().connectDevice(name, 5);
+        session().getParams();
+        session().checkErrors();
+        ASSERT_TRUE(waitUntil([this] { return !log().errors.isEmpty(); })) << name;
+        EXPECT_THAT(log().errors, ElementsAre(cannotOpen));
+        session().getListOfBusNodes(name);
+        ASSERT_TRUE(waitUntil([this] { return log().errors.size() == 2; })) << name;
+        EXPECT_EQ(log().errors.last(), cannotOpen);
+        ASSERT_THAT(log().statuses, SizeIs(2));
+        EXPECT_EQ(log().statuses.last().text, "Connect failed");
+        EXPECT_TRUE(log().read.isEmpty() && log().nodes.isEmpty());
+    }
+    close(other);
+    EXPECT_TRUE(connectTo());
+}
+
+TEST_F(Connecting, RefusesAModelWithoutARecord)
+{
+    bus().set(5, 6020, 9000);
+    expectRefused(
+        "Unsupported device connected, try upgrading Velbrin",
+        "Unsupported device model connected. Try upgrading Velbrin to latest version. Connected device ID 9000");
+}
+
+TEST_F(Connecting, RefusesTooNewFirmwareButTakesACompatibleOne)
+{
+    bus().set(5, 6010, 1079);
+    bus().set(5, 6011, 1079);
+    expectRefused("Connect failed", "Device firmware version too new");
+    bus().set(5, 6011, 1078);
+    EXPECT_TRUE(connectTo());
+}
+
+TEST_F(Connecting, RestartsATooOldKetaIntoUpgradeModeAndCanConnectThen)
+{
+    bus().set(5, 6014, 1077);
+    bus().set(5, 6015, 1077);
+    expectRefused("Connect failed", "Device now has been restarted in firmware upgrade mode");
+    EXPECT_THAT(log().errors.last().toStdString(), HasSubstr("the olders supported TC FW version is 1078."));
+    // The pause is shortened here; the drive's own restart is not.
+    ASSERT_TRUE(waitUntil([this] { return bus().read(5, 2) == 0; }));
+    EXPECT_EQ(payloads().back(), wire("822a 00000040"));
+    EXPECT_TRUE(connectTo(255));
+}
+
+TEST_P(OtherDrive, IsAccepted)
+{
+    EXPECT_TRUE(connectTo());
+    EXPECT_TRUE(log().errors.isEmpty());
+}
+INSTANTIATE_TEST_SUITE_P(EveryProfile, OtherDrive, testing::Values("keta", "keta-pro", "keta-hc", "torva"));
+
+TEST_F(Connecting, NoiseDuringIdentificationNeverRestartsTheDrive)
+{
+    // What is left of the replies would make this drive look too old.
+    bus().set(5, 6014, 1077);
+    bus().set(5, 6015, 1077);
+    session().setReplyTimeout(100);
+    using F = sim::LineFault;
+    for (F::Kind kind : {F::Drop, F::Flip, F::Double, F::Cut, F::Missing, F::Deaf, F::Late}) {
+        for (int exchange = 0; exchange < 4; ++exchange) {
+            F fault;
+            fault.kind = kind;
+            fault.at = kind == F::Late ? 300 : 9;
+            fault.skip = exchange;
+            fault.count = 1;
+            bus().setFault(fault);
+            log().errors.clear();
+            EXPECT_FALSE(connectTo());
+            ASSERT_TRUE(waitUntil([this] { return !log().errors.isEmpty(); }));
+            EXPECT_THAT(log().errors, SizeIs(1));
+            EXPECT_THAT(log().errors.last().toStdString(), HasSubstr("Communication error flags:"));
+        }
+    }
+    for (const std::string &payload : payloads())
+        EXPECT_EQ(payload.find("822a"), std::string::npos) << "register 554 was written";
+    EXPECT_NE(bus().read(5, 2), 0);
+}

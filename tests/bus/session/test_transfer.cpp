@@ -1,0 +1,267 @@
+// The full read, the full write, single commands and settings files: what goes over the wire, and what is kept.
+#include "sessionfixture.h"
+
+#include <QDir>
+
+using testing::Contains;
+using testing::ElementsAre;
+using testing::ElementsAreArray;
+using testing::HasSubstr;
+using testing::SizeIs;
+
+namespace {
+
+/// Registers of the catalogue in its order, without those that a Keta which is not a Pro lacks.
+const std::vector<int> ketaRegisters = {6014, 6020, 6002, 6016, 573,  6003, 14,   565,  493,  494,  490,  202, 200,
+                                        201,  220,  221,  222,  559,  558,  230,  567,  411,  410,  421,  569, 570,
+                                        555,  556,  496,  568,  498,  491,  492,  495,  562,  561,  6055, 560, 800,
+                                        801,  802,  557,  405,  406,  430,  566,  572,  563,  806,  804,  803, 808,
+                                        415,  835,  836,  823,  8120, 8121, 8122, 8125, 8126, 8127, 911,  910, 912};
+
+const std::vector<int> readOnlyRegisters = {6014, 6020, 6002, 6016, 6003, 6055};
+
+class Transfer : public SessionFixture
+{
+protected:
+    void SetUp() override
+    {
+        SessionFixture::SetUp();
+        ASSERT_TRUE(connectTo());
+        ASSERT_TRUE(readAll());
+        ASSERT_TRUE(waitUntilIdle());
+        bus().clearReceived();
+    }
+    Parameters held() { return log().read.last(); }
+
+    Parameters with(const char *name, double value)
+    {
+        Parameters list = held();
+        SingleParam param = list.getParam(name);
+        param.value = value;
+        list.replaceParam(param);
+        return list;
+    }
+    void apply(const Parameters &list)
+    {
+        session().setParams(list);
+        session().command(Connection::TaskSetParams);
+        ASSERT_TRUE(waitUntilIdle());
+    }
+    std::vector<std::string> sentBy(Connection::Task task)
+    {
+        bus().clearReceived();
+        session().command(task);
+        EXPECT_TRUE(waitUntilIdle());
+        return payloads();
+    }
+};
+
+class TorvaTransfer : public Transfer
+{
+    sim::BusOptions busOptions() const override
+    {
+        sim::BusOptions options;
+        options.drives = {{"torva", 5}};
+        return options;
+    }
+};
+
+std::string fourHexDigits(int value)
+{
+    return hex({std::uint8_t(value >> 8), std::uint8_t(value & 0xff)});
+}
+
+} // namespace
+
+TEST_F(Transfer, AFullReadIsOneExchangeARecordInCatalogueOrder)
+{
+    ASSERT_TRUE(readAll());
+    std::vector<std::string> expected;
+    for (int address : ketaRegisters) {
+        // Value, minimum (+ 0x4000) and maximum (+ 0x8000, which is negative in its 16 bits and so in the item).
+        expected.push_back(wire("800a 400000 8009 40" + fourHexDigits(address) + "800a 400000 8009 40" +
+                                fourHexDigits(address + 0x4000) + "800a 400000 8009 7f" +
+                                fourHexDigits(address + 0x8000)));
+    }
+    EXPECT_THAT(payloads(), ElementsAreArray(expected));
+    ASSERT_EQ(held().getParamCount(), 70);
+    EXPECT_EQ(held().getParam("FBR").value, bus().read(5, 565));
+    EXPECT_EQ(held().getParam("CM").value, bus().read(5, 559) - 1);
+    EXPECT_EQ(held().getParam("TRF1").value, -1.0) << "a Pro's";
+}
+
+TEST_F(TorvaTransfer, ParametersThatATorvaLacksReadAsMinusOneAndAreNotWritten)
+{
+    for (const char *name : {"BUILDREVISION", "CEI", "UID", "ZBO", "TRF1", "TRF2", "TRA1", "TRA2"})
+        EXPECT_EQ(held().getParam(name).value, -1.0) << name;
+    EXPECT_EQ(held().getParam("FWVER").value, 1090.0);
+    apply(held());
+    for (const std::string &payload : payloads())
+        EXPECT_NE(payload.substr(0, 4), "823d") << "CEI, register 573";
+    EXPECT_TRUE(log().errors.isEmpty());
+}
+
+TEST_F(Transfer, AFullWriteBeginsWithTheLengthControlThenOneExchangeAWritableRecord)
+{
+    apply(with("KVP", 321));
+    std::vector<std::string> expected = {wire("800a 00000003")};
+    for (int address : ketaRegisters) {
+        if (std::find(readOnlyRegisters.begin(), readOnlyRegisters.end(), address) != readOnlyRegisters.end())
+            continue;
+        const int value = bus().read(5, address); // it holds what has just been written
+        expected.push_back(fourHexDigits(address | 0x8000) + fourHexDigits((value >> 16) & 0x3fff) +
+                           fourHexDigits(value & 0xffff));
+    }
+    EXPECT_THAT(payloads(), ElementsAreArray(expected));
+    EXPECT_THAT(payloads(), Contains(wire("80ca 00000141"))) << "KVP is register 202";
+    EXPECT_EQ(bus().read(5, 202), 321);
+    EXPECT_TRUE(log().errors.isEmpty());
+    EXPECT_TRUE(log().controlModes.isEmpty());
+}
+
+TEST_F(Transfer, OverrideSlotsFollowTheRecords)
+{
+    Parameters list = with("overrideAddr1", 202);
+    SingleParam value = list.getParam("overrideVal1");
+    value.value = 77;
+    list.replaceParam(value);
+    apply(list);
+    EXPECT_EQ(payloads().back(), wire("80ca 0000004d"));
+    EXPECT_EQ(bus().read(5, 202), 77);
+}
+
+TEST_F(Transfer, AChangedControlModeIsAnnouncedOnceBeforeItIsWritten)
+{
+    const int other = held().getParam("CM").value == 1.0 ? 2 : 1;
+    apply(with("CM", other));
+    apply(with("CM", other));
+    EXPECT_THAT(log().controlModes, ElementsAre(other));
+}
+
+TEST_F(Transfer, ASetHandedOverDuringAReadIsNotOverwrittenByIt)
+{
+    bus().setTurnAround(std::chrono::milliseconds(2));
+    bus().clearReceived();
+    session().getParams();
+    ASSERT_TRUE(waitForRequests(10));
+    session().setParams(with("KVP", 999));
+    const int before = log().read.size();
+    ASSERT_TRUE(waitUntil([&] { return log().read.size() > before; }));
+    EXPECT_EQ(session().getActiveParamValue("KVP"), 999.0);
+    EXPECT_EQ(log().read.last().getParam("KVP").value, bus().read(5, 202)) << "what was read is the drive's";
+}
+
+TEST_F(Transfer, AValueThatTheBusCannotCarryIsNotSentAsAnotherOne)
+{
+    const int before = bus().read(5, 202);
+    apply(with("KVP", 1e15));
+    ASSERT_TRUE(waitForDisconnect());
+    EXPECT_EQ(bus().read(5, 202), before);
+    ASSERT_THAT(log().errors, SizeIs(1));
+    EXPECT_THAT(log().errors.first().toStdString(), HasSubstr("InvalidParameter"));
+}
+
+TEST_F(Transfer, ARefusedWriteIsToldWithItsRecordOnceErrorsAreLookedFor)
+{
+    apply(with("KVP", 500000000)); // far above the maximum, and nobody asks the drive for errors yet
+    EXPECT_TRUE(log().errors.isEmpty());
+    session().checkErrors();
+    ASSERT_TRUE(waitForDisconnect());
+    EXPECT_THAT(log().errors, ElementsAre(QString("Communication error, disconnected.<br>Device errors: <br>"
+                                                  "* Value too high<br>")));
+
+    // From the first error on every write is followed by the question.
+    ASSERT_TRUE(connectTo());
+    apply(with("KVP", 500000000));
+    ASSERT_TRUE(waitForDisconnect());
+    ASSERT_THAT(log().errors, SizeIs(2));
+    EXPECT_THAT(log().errors.last().toStdString(),
+                HasSubstr("* Value too high<br>Occurred while setting parameter: name=KVP, addr=202, GUI value=5e+08"));
+    EXPECT_THAT(payloads(), Contains(wire("800a 400000 8009 40000d 800d 00000000")));
+}
+
+TEST_F(Transfer, CommandsAreTheWritesTheyStandFor)
+{
+    EXPECT_THAT(sentBy(Connection::TaskSetZero).front(), wire("822a 00000200"));
+    EXPECT_THAT(sentBy(Connection::TaskSaveToFlash), ElementsAre(wire("822a 00000001")));
+    EXPECT_THAT(sentBy(Connection::TaskStartHoming), ElementsAre(wire("9d6c 00000001")));
+    EXPECT_THAT(sentBy(Connection::TaskAbortHoming), ElementsAre(wire("9d6c 00000000")));
+    EXPECT_THAT(sentBy(Connection::TaskClearFaults), ElementsAre(wire("8228 00000000")));
+    session().setTargetSetpoint(-5);
+    EXPECT_THAT(sentBy(Connection::TaskSetAbsoluteSetpoint), ElementsAre(wire("8227 3ffffffb")));
+    EXPECT_THAT(sentBy(Connection::TaskSetIncrementalSetpoint), ElementsAre(wire("8226 3ffffffb")));
+    EXPECT_THAT(log().errors, testing::IsEmpty());
+}
+
+TEST_F(Transfer, ForceEnableIsUsedOnceAndNeverByADisable)
+{
+    session().setDriveEnableStatus(true);
+    session().setDriveForceEnableStatus(true);
+    EXPECT_THAT(sentBy(Connection::TaskApplyEnableState), ElementsAre(wire("89e5 00000001"), wire("89e6 00000007")));
+    EXPECT_THAT(sentBy(Connection::TaskApplyEnableState), ElementsAre(wire("89e5 00000001")));
+    session().setDriveForceEnableStatus(true);
+    session().setDriveEnableStatus(false);
+    EXPECT_THAT(sentBy(Connection::TaskApplyEnableState), ElementsAre(wire("89e5 00000000")));
+    EXPECT_THAT(log().disables, ElementsAre(true));
+}
+
+TEST_F(Transfer, AForceEnableIsForTheDriveItWasAskedFor)
+{
+    session().setDriveForceEnableStatus(true);
+    session().command(Connection::TaskDisconnect);
+    ASSERT_TRUE(waitForDisconnect());
+    ASSERT_TRUE(connectTo());
+    session().setDriveEnableStatus(true);
+    EXPECT_THAT(sentBy(Connection::TaskApplyEnableState), ElementsAre(wire("89e5 00000001")));
+}
+
+TEST_F(Transfer, TwoQuickSetpointsAreTwoDifferentOnes)
+{
+    bus().clearReceived();
+    for (int target : {100, 200}) {
+        session().setTargetSetpoint(target);
+        session().command(Connection::TaskSetAbsoluteSetpoint);
+    }
+    session().setTargetSetpoint(300);
+    ASSERT_TRUE(waitUntilIdle());
+    EXPECT_THAT(payloads(), ElementsAre(wire("8227 00000064"), wire("8227 000000c8")));
+}
+
+TEST_F(Transfer, MeasuringReadsEverythingAgain)
+{
+    session().command(Connection::TaskMeasure);
+    ASSERT_TRUE(waitUntil([this] { return log().read.size() == 2; }));
+    EXPECT_EQ(payloads().front(), wire("822a 00000100"));
+    EXPECT_THAT(log().busy, ElementsAre(true, false));
+    EXPECT_EQ(log().unsaved, 1);
+    EXPECT_TRUE(log().errors.isEmpty());
+}
+
+TEST_F(TorvaTransfer, OnlyAKetaMeasures)
+{
+    session().command(Connection::TaskMeasure);
+    ASSERT_TRUE(waitUntilIdle());
+    EXPECT_THAT(log().errors, ElementsAre(QString("Measure function is available only in KETA drive models")));
+    EXPECT_TRUE(payloads().empty());
+}
+
+TEST_F(Transfer, SettingsTravelThroughAFile)
+{
+    session().setParams(with("KVP", 123));
+    session().setSettingsFileName("saved.drc");
+    session().command(Connection::TaskSaveSettingsFile);
+    session().setParams(with("KVP", 456)); // after the save was asked for
+    session().command(Connection::TaskLoadSettingsFile);
+    ASSERT_TRUE(waitUntil([this] { return !log().loaded.isEmpty(); }));
+    EXPECT_EQ(log().loaded.last().getParam("KVP").value, 123.0);
+    EXPECT_EQ(session().getActiveParamValue("KVP"), 123.0);
+    EXPECT_TRUE(log().errors.isEmpty());
+
+    session().setSettingsFileName(QDir::currentPath()); // a folder
+    session().command(Connection::TaskLoadSettingsFile);
+    session().command(Connection::TaskSaveSettingsFile);
+    ASSERT_TRUE(waitUntil([this] { return log().errors.size() == 2; }));
+    EXPECT_THAT(log().loaded, SizeIs(1));
+    EXPECT_EQ(session().getActiveParamValue("KVP"), 123.0);
+    EXPECT_TRUE(session().isConnected());
+}

@@ -1,0 +1,261 @@
+// The worker thread: nobody waits for it, a stop gets through whatever it is doing, and it ends when told to.
+#include "sessionfixture.h"
+
+using testing::Contains;
+using testing::HasSubstr;
+using testing::Not;
+
+namespace {
+
+const std::string disableWrite = "89e500000000"; // register 2533 := 0
+const std::string enableWrite = "89e500000001";
+
+class Worker : public SessionFixture
+{
+protected:
+    void disable()
+    {
+        session().setDriveEnableStatus(false);
+        session().setDriveForceEnableStatus(false);
+        session().command(Connection::TaskApplyEnableState);
+    }
+    /// Requests between the moment of asking and the disable on the line.
+    int requestsBeforeDisable(std::size_t asked)
+    {
+        EXPECT_TRUE(waitUntil([this] { return !log().disables.isEmpty(); }));
+        const std::vector<std::string> sent = allPayloads();
+        const auto found = std::find(sent.begin(), sent.end(), disableWrite);
+        EXPECT_NE(found, sent.end());
+        return static_cast<int>(found - sent.begin()) - static_cast<int>(asked);
+    }
+    std::vector<std::string> allPayloads()
+    {
+        std::vector<std::string> result;
+        for (const sim::ReceivedRequest &request : bus().received())
+            result.push_back(hex(request.packet.payload));
+        return result;
+    }
+};
+
+struct LongTask
+{
+    const char *name;
+    void (*begin)(Connection &);
+};
+
+const LongTask longTasks[] = {
+    {"FullRead", [](Connection &session) { session.getParams(); }},
+    {"FullWrite", [](Connection &session) { session.command(Connection::TaskSetParams); }},
+    {"Download",
+     [](Connection &session) {
+         session.setupCapture(20000, 3, {true});
+         session.command(Connection::TaskInitScope);
+         session.command(Connection::TaskDownloadScope);
+     }},
+    {"Stream", [](Connection &session) { session.setStimulus(100, 0.1, -100, 0.1, true); }},
+};
+
+const LongTask waitingTasks[] = {
+    {"Idle", [](Connection &) {}},
+    {"Measuring", [](Connection &session) { session.command(Connection::TaskMeasure); }},
+    {"Restarting", [](Connection &session) { session.command(Connection::TaskRestartDrive); }},
+    {"Scanning",
+     [](Connection &session) {
+         session.command(Connection::TaskDisconnect);
+         session.getListOfBusNodes("COM1");
+     }},
+};
+
+std::string nameOf(const testing::TestParamInfo<LongTask> &info)
+{
+    return info.param.name;
+}
+
+class DuringATask : public Worker, public testing::WithParamInterface<LongTask>
+{
+};
+
+class EndingATask : public Worker, public testing::WithParamInterface<LongTask>
+{
+};
+
+} // namespace
+
+TEST_F(Worker, SettersAndCommandsReturnAtOnceWhileTheDriveAnswersNothing)
+{
+    ASSERT_TRUE(connectTo());
+    sim::LineFault deaf;
+    deaf.kind = sim::LineFault::Deaf;
+    bus().setFault(deaf);
+    bus().clearReceived();
+    session().getParams();
+    ASSERT_TRUE(waitForRequests(1)); // the worker now waits a second for a reply
+    QElapsedTimer timer;
+    timer.start();
+    for (int i = 0; i < 200; ++i) {
+        session().setParams(Parameters());
+        session().setTargetSetpoint(i);
+        session().setStimulus(1, 1, 2, 1, i % 2);
+        session().setupCapture(1000, 0, {true});
+        session().setDriveEnableStatus(false);
+        session().command(Connection::TaskApplyEnableState, true);
+        session().command(Connection::TaskSetIncrementalSetpoint, true);
+        session().checkErrors();
+        session().getActiveParamValue("KVP");
+        session().getStimulus();
+    }
+    EXPECT_LT(timer.elapsed(), 500);
+    ASSERT_TRUE(waitForDisconnect());
+    EXPECT_EQ(log().errors.size(), 1);
+}
+
+TEST_P(DuringATask, ADisableIsTheNextThingOnTheLine)
+{
+    ASSERT_TRUE(connectTo());
+    ASSERT_TRUE(readAll());
+    bus().setTurnAround(std::chrono::milliseconds(3));
+    bus().clearReceived();
+    GetParam().begin(session());
+    ASSERT_TRUE(waitForRequests(6));
+    disable();
+    const std::size_t asked = bus().received().size();
+    // What was on its way when it was asked for, and with a time-out's luck one more.
+    EXPECT_LE(requestsBeforeDisable(asked), 2);
+    EXPECT_TRUE(log().disables.first());
+    ASSERT_TRUE(waitUntil([this] { return !log().enabled.isEmpty() && !log().enabled.last(); }));
+    EXPECT_TRUE(log().errors.isEmpty());
+}
+INSTANTIATE_TEST_SUITE_P(Any, DuringATask, testing::ValuesIn(longTasks), nameOf);
+
+TEST_F(Worker, ADisableOvertakesWhatWaitsAndDropsWhatWouldMove)
+{
+    ASSERT_TRUE(connectTo());
+    bus().setTurnAround(std::chrono::milliseconds(5));
+    bus().clearReceived();
+    session().getParams(); // busy with this while the rest is queued
+    ASSERT_TRUE(waitForRequests(1));
+    session().setTargetSetpoint(1000);
+    session().command(Connection::TaskSetAbsoluteSetpoint);
+    session().command(Connection::TaskStartHoming);
+    session().setDriveEnableStatus(true);
+    session().command(Connection::TaskApplyEnableState);
+    session().command(Connection::TaskSaveToFlash);
+    disable();
+    ASSERT_TRUE(waitUntilIdle());
+    const std::vector<std::string> sent = allPayloads();
+    EXPECT_THAT(sent, Contains(disableWrite));
+    EXPECT_THAT(sent, Contains(wire("822a 00000001"))) << "saving moves nothing";
+    for (const std::string &moving : {enableWrite, wire("8227 000003e8"), wire("9d6c 00000001")})
+        EXPECT_THAT(sent, Not(Contains(moving)));
+}
+
+TEST_F(Worker, ADisableIsServedInsideAPause)
+{
+    ASSERT_TRUE(connectTo());
+    session().setPauseScale(1); // eight seconds of measuring
+    session().command(Connection::TaskMeasure);
+    ASSERT_TRUE(waitUntil([this] { return log().busy.size() == 1; }));
+    disable();
+    ASSERT_TRUE(waitUntil([this] { return !log().disables.isEmpty(); }, 4000));
+    EXPECT_EQ(log().busy.size(), 1) << "still measuring";
+}
+
+TEST_F(Worker, ARestartingDriveIsToldToDisableUntilItHearsIt)
+{
+    startBus([] {
+        sim::BusOptions options;
+        options.restartTime = std::chrono::milliseconds(400);
+        return options;
+    }());
+    session().setReplyTimeout(100);
+    ASSERT_TRUE(connectTo());
+    session().setPauseScale(0.4); // 1.4 s
+    session().command(Connection::TaskRestartDrive);
+    ASSERT_TRUE(waitUntil([this] { return log().busy.size() == 1; }));
+    disable();
+    ASSERT_TRUE(waitUntil([this] { return log().busy.size() == 2; }));
+    EXPECT_THAT(log().disables, testing::ElementsAre(true));
+    EXPECT_TRUE(log().errors.isEmpty());
+    EXPECT_TRUE(session().isConnected());
+}
+
+TEST_F(Worker, PollsAnIdleDriveAndSaysWhatHasChanged)
+{
+    bus().set(5, 553, 32768 + 4096); // permanent stop
+    bus().set(5, 957, 50);
+    ASSERT_TRUE(connectTo());
+    ASSERT_TRUE(waitUntil([this] { return log().statusPanels.size() >= 3; }));
+    EXPECT_EQ(log().restartSuggestions, 1);
+    EXPECT_THAT(log().setpoints, testing::ElementsAre(50.0));
+    EXPECT_THAT(log().statusPanels.last().toStdString(), HasSubstr("&#9679;&nbsp;&nbsp;Permanent stop"));
+    EXPECT_EQ(log().inputPanels.size(), log().statusPanels.size());
+
+    bus().set(5, 553, 4096);
+    bus().set(5, 957, -7);
+    session().setWatchedParameter(202);
+    ASSERT_TRUE(waitUntil([this] { return log().setpoints.size() == 2; }));
+    EXPECT_EQ(log().setpoints.last(), -7.0);
+    const std::string watched = "Param 202&nbsp;&nbsp;" + std::to_string(bus().read(5, 202)) + "<br>";
+    ASSERT_TRUE(waitUntil([&] { return log().faultPanels.last().contains(QString::fromStdString(watched)); }));
+    bus().set(5, 553, 32768);
+    ASSERT_TRUE(waitUntil([this] { return log().restartSuggestions == 2; }));
+}
+
+TEST_F(Worker, OnePollIsOneExchange)
+{
+    ASSERT_TRUE(connectTo());
+    ASSERT_TRUE(waitUntilIdle());
+    bus().clearReceived();
+    session().setDebugValuesShown(true);
+    session().setWatchedParameter(202);
+    session().command(Connection::TaskUpdateStatus);
+    ASSERT_TRUE(waitForRequests(1));
+    const sim::Bytes payload = bus().received().front().packet.payload;
+    EXPECT_EQ(payload.size(), 88u) << "27 registers and the three items in front: a full reply";
+    EXPECT_EQ(hex(payload).substr(0, 14), wire("800a 400000 8009"));
+    EXPECT_TRUE(waitUntil([this] { return !log().faultPanels.isEmpty(); }));
+    EXPECT_TRUE(log().errors.isEmpty());
+}
+
+TEST_P(EndingATask, ComesBeforeTheThreadWouldBeTerminated)
+{
+    for (bool answers : {true, false}) {
+        newSession();
+        bus().clearFaults();
+        ASSERT_TRUE(connectTo());
+        session().setPauseScale(1);
+        if (!answers) {
+            sim::LineFault deaf;
+            deaf.kind = sim::LineFault::Deaf;
+            bus().setFault(deaf);
+        }
+        bus().clearReceived();
+        GetParam().begin(session());
+        ASSERT_TRUE(waitForRequests(1));
+        QElapsedTimer timer;
+        timer.start();
+        newSession(); // destroys the one before
+        EXPECT_LT(timer.elapsed(), 4500) << "it would be terminated after 5 s";
+        bus().powerCycle();
+    }
+}
+INSTANTIATE_TEST_SUITE_P(Any, EndingATask, testing::ValuesIn(longTasks), nameOf);
+INSTANTIATE_TEST_SUITE_P(Waiting, EndingATask, testing::ValuesIn(waitingTasks), nameOf);
+
+TEST_F(Worker, LeavingCarriesOutWhatWasChosenOnTheWayOut)
+{
+    ASSERT_TRUE(connectTo());
+    ASSERT_TRUE(readAll());
+    Parameters list = log().read.last();
+    SingleParam gain = list.getParam("KVP");
+    gain.value = 432;
+    list.replaceParam(gain);
+    session().setParams(list);
+    session().getParams();
+    session().command(Connection::TaskSetParams);
+    session().command(Connection::TaskSaveToFlash);
+    newSession();
+    EXPECT_EQ(bus().read(5, 202), 432);
+    EXPECT_THAT(payloads(), Contains(wire("822a 00000001")));
+    EXPECT_EQ(payloads().back(), wire("800f 00000000"));
+}
