@@ -13,7 +13,7 @@ constexpr int scanLimitMs = 120000;
 constexpr int connectLimitMs = 60000;
 constexpr int transferLimitMs = 180000;
 constexpr int pollLimitMs = 30000;
-constexpr int closeLimitMs = 30000;
+constexpr std::chrono::seconds closeLimit(30);
 
 } // namespace
 
@@ -58,7 +58,8 @@ void DriveClient::watchConnection()
     on(&Connection::error, [this](const QString &html) { say(plainText(html)); });
     on(&Connection::suggestDeviceRestart,
        [this] { say(tr("The drive is in permanent stop: save what it should keep, then restart it.")); });
-    connect(m_connection.get(), &Connection::finished, &m_loop, &QEventLoop::quit);
+    connect(
+        m_connection.get(), &Connection::finished, this, [this] { m_ended.set_value(); }, Qt::DirectConnection);
 }
 
 void DriveClient::say(const QString &text)
@@ -169,12 +170,11 @@ std::optional<LiveState> DriveClient::liveState()
 
 void DriveClient::close()
 {
-    m_interrupted = false; // an interrupted conversation is closed like any other
     m_connection->command(Connection::TaskDisconnect);
     m_connection->command(Connection::TaskQuit);
-    waitFor(
-        tr("Disconnecting"), [this] { return m_connection->isFinished(); }, closeLimitMs);
-    // The thread's end is seen before its last signals are delivered.
+    if (m_ended.get_future().wait_for(closeLimit) == std::future_status::timeout)
+        say(tr("The drive session did not end."));
+    // The last signals of the session are still on their way.
     QCoreApplication::sendPostedEvents(this);
 }
 

@@ -9,6 +9,7 @@
 #include <QEventLoop>
 #include <QStringList>
 #include <functional>
+#include <future>
 #include <memory>
 #include <optional>
 
@@ -81,6 +82,7 @@ private:
     int m_polls = 0; ///< status polls since the last list
     LiveState m_live;
 
+    std::promise<void> m_ended;               ///< the worker's last word
     std::unique_ptr<Connection> m_connection; ///< last: its thread must end before the rest goes
 };
 

@@ -6,7 +6,6 @@
 namespace {
 
 int pipeEnds[2] = {-1, -1};
-std::function<void()> stopHandler;
 
 constexpr int stopSignals[] = {SIGINT, SIGTERM, SIGHUP};
 
@@ -24,25 +23,27 @@ Interruption::Interruption()
     std::signal(SIGPIPE, SIG_IGN);
     if (pipe(pipeEnds) != 0)
         return;
+    for (const int signal : stopSignals)
+        std::signal(signal, wakeMainThread);
     m_notifier = std::make_unique<QSocketNotifier>(pipeEnds[0], QSocketNotifier::Read);
-    QObject::connect(m_notifier.get(), &QSocketNotifier::activated, [] {
-        char byte = 0;
-        if (read(pipeEnds[0], &byte, 1) == 1 && stopHandler)
-            stopHandler();
-    });
 }
 
 Interruption::~Interruption()
 {
-    connectTo(nullptr);
+    for (const int signal : stopSignals)
+        std::signal(signal, SIG_DFL);
     m_notifier.reset();
     close(pipeEnds[0]);
     close(pipeEnds[1]);
 }
 
-void Interruption::connectTo(std::function<void()> handler)
+void Interruption::callWhenAsked(const std::function<void()> &stop)
 {
-    stopHandler = std::move(handler);
-    for (const int signal : stopSignals)
-        std::signal(signal, stopHandler ? wakeMainThread : SIG_DFL);
+    if (!m_notifier)
+        return;
+    QObject::connect(m_notifier.get(), &QSocketNotifier::activated, [stop] {
+        char byte = 0;
+        if (read(pipeEnds[0], &byte, 1) == 1)
+            stop();
+    });
 }

@@ -7,16 +7,16 @@
 #include <functional>
 #include <memory>
 
-/// Exists once, after the QCoreApplication. A write to a drive is then finished and the line closed before the program
-/// ends, instead of being cut in the middle of a packet. Ignores SIGPIPE: a closed pipe is a write that fails.
+/// Exists once, after the QCoreApplication. SIGINT, SIGTERM and SIGHUP wait while it lives, until an event loop runs: a
+/// write to a drive is finished, the line closed and the virtual drive's folder removed, instead of being cut in the
+/// middle of a packet. SIGPIPE is ignored: a closed pipe is a write that fails.
 class Interruption
 {
 public:
     Interruption();
     ~Interruption();
 
-    /// What SIGINT, SIGTERM and SIGHUP call; with none the program ends at once.
-    static void connectTo(std::function<void()> handler);
+    void callWhenAsked(const std::function<void()> &stop);
 
 private:
     std::unique_ptr<QSocketNotifier> m_notifier;

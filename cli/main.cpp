@@ -24,13 +24,12 @@ bool print(const QByteArray &text)
     return std::fwrite(text.constData(), 1, text.size(), stdout) == size_t(text.size()) && std::fflush(stdout) == 0;
 }
 
-Outcome runCommand(const CommandLine &line, const QString &port)
+Outcome runCommand(const CommandLine &line, Interruption &interruption)
 {
-    DriveClient client(port);
-    Interruption::connectTo([&client] { client.interrupt(); });
+    DriveClient client(line.port);
+    interruption.callWhenAsked([&client] { client.interrupt(); });
     Outcome outcome = findCommand(line.command)->run(client, line);
     client.close();
-    Interruption::connectTo(nullptr);
     outcome.messages = client.messages() + outcome.messages;
     return outcome;
 }
@@ -62,7 +61,7 @@ int main(int argc, char **argv)
         line.port = VirtualPort::portName();
     }
 
-    const Outcome outcome = runCommand(line, line.port);
+    const Outcome outcome = runCommand(line, interruption);
     complain(outcome.messages);
     if (!print(printed(outcome.results, line.json))) {
         complain({QCoreApplication::translate("main", "The results could not be written.")});
