@@ -1,7 +1,6 @@
-// Before Qt, whose keywords are ordinary words there.
-#include "virtualbus.h"
-
 #include "virtualport.h"
+
+#include "virtualbus.h"
 
 #include <QDir>
 #include <QStringList>
