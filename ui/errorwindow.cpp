@@ -25,6 +25,7 @@ QString firstLine(const QString &html)
 
 ErrorWindow::ErrorWindow(QWidget *parent) : QErrorMessage(parent), m_again(findChild<QCheckBox *>())
 {
+    setObjectName(QStringLiteral("errorWindow"));
     setWindowTitle(tr("Velbrin"));
     setMinimumSize(460, 340);
 }

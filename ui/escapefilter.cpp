@@ -16,10 +16,14 @@ void EscapeFilter::shortcutActivated()
 bool EscapeFilter::eventFilter(QObject *watched, QEvent *event)
 {
     // Qt offers every key as a ShortcutOverride first, before a dialog, a popup or a web page can keep it.
-    if (event->type() == QEvent::ShortcutOverride) {
+    if (event->type() == QEvent::ShortcutOverride || event->type() == QEvent::KeyRelease) {
         const auto *key = static_cast<QKeyEvent *>(event);
-        if (key->key() == Qt::Key_Escape && !key->isAutoRepeat())
-            report();
+        if (key->key() == Qt::Key_Escape && !key->isAutoRepeat()) {
+            if (event->type() == QEvent::ShortcutOverride)
+                report();
+            else
+                m_reported = false;
+        }
     }
     return QObject::eventFilter(watched, event);
 }

@@ -69,6 +69,7 @@ MW::MW(const Options &options, QWidget *parent)
     populateConnectionPortList();
     restoreLayout();
 
+    m_connection.setPauseScale(m_options.pauseScale);
     m_connection.setDebugValuesShown(m_options.debugValues);
     m_connection.emitParameters();
     connectionStatusChanged(false, tr("Not connected"));
@@ -143,6 +144,7 @@ void MW::buildHelpAndStatus()
     connect(m_errorWindow, &ErrorWindow::vitalMessage, this,
             [this](const QString &line) { statusBar()->showMessage(line); });
     m_connectionStatusLabel = new QLabel(tr("Not connected"));
+    m_connectionStatusLabel->setObjectName(QStringLiteral("connectionStatus"));
     m_connectionStatusLabel->setMargin(2);
     statusBar()->addPermanentWidget(m_connectionStatusLabel);
     statusBar()->showMessage(tr("Program started"));

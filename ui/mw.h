@@ -41,6 +41,7 @@ public:
         QString port;             ///< port to choose at first; empty: the last recognised adapter
         QString virtualPort;      ///< port of the built-in virtual drive, empty when there is none
         bool debugValues = false; ///< show the drive's debug values in the fault panel
+        double pauseScale = 1.0;  ///< factor on every pause of the session (restart, measurement, ...); for tests
     };
 
     /// When checkIfParamsChangedAndAskUser asks, and how.

@@ -80,6 +80,7 @@ void MW::chooseNode()
     QDialog dialog;
     Ui_selectBusNode form;
     form.setupUi(&dialog);
+    dialog.setWindowIcon(windowIcon());
     form.label_2->setText(
         form.label_2->text().replace(QLatin1String("https://wiki.tarnwell.example"), makerWikiBase()));
     for (const NodeType &node : nodes) {
@@ -98,9 +99,10 @@ void MW::chooseNode()
     m_nodeDialog = &dialog;
     const bool accepted = dialog.exec() == QDialog::Accepted;
     m_nodeDialog = nullptr;
-    const int row = form.nodeList->currentRow();
-    if (accepted && row >= 0 && row < nodes.size())
-        connectToNode(nodes[row].address);
+    // The row with the keyboard focus is not yet a chosen one.
+    const auto chosen = form.nodeList->selectedItems();
+    if (accepted && !chosen.isEmpty())
+        connectToNode(nodes[form.nodeList->row(chosen.first())].address);
 }
 
 void MW::connectToNode(int address)

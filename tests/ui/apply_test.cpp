@@ -1,0 +1,238 @@
+// Editing, applying, saving to the drive and to a file, and the questions before something would be lost.
+#include "windowfixture.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDir>
+#include <QSpinBox>
+#include <QStatusBar>
+
+namespace {
+
+constexpr int KVP = 202;
+constexpr int LAST_RECORD = 912; // BDD
+constexpr int SYSTEM_COMMAND = 554;
+constexpr int HOMING_COMMAND = 7532;
+
+class Apply : public WindowFixture
+{
+protected:
+    QSpinBox *kvp() const { return control<QSpinBox>("KVP"); }
+    /// Two more polls: everything that was asked for before has been done.
+    bool waitForIdlePoll()
+    {
+        const auto count = bus().received().size();
+        return waitFor([&] { return bus().received().size() >= count + 2; });
+    }
+};
+
+} // namespace
+
+TEST_F(Apply, EditIsMarkedWithinASecondAndUndoingItTakesTheMarkBack)
+{
+    openConnectedWindow();
+    goTo(4);
+    const int before = kvp()->value();
+    kvp()->setValue(before + 1);
+    EXPECT_TRUE(waitForPending(true));
+    EXPECT_TRUE(button("apply_button")->isDefault());
+    kvp()->setValue(before);
+    EXPECT_TRUE(waitForPending(false));
+    EXPECT_FALSE(button("apply_button")->isDefault());
+}
+
+TEST_F(Apply, WritesWhatWasEditedAndNothingElseChanges)
+{
+    openConnectedWindow();
+    std::map<int, int> before;
+    for (int reg = 0; reg < 950; ++reg)
+        before[reg] = bus().read(DriveAddress, reg);
+    kvp()->setValue(777);
+    click("apply_button");
+    ASSERT_TRUE(driveHas(KVP, 777));
+    EXPECT_EQ(applyText(), "Apply settings [Alt+A]");
+    before[KVP] = 777;
+    ASSERT_TRUE(waitForWrite(LAST_RECORD, before[LAST_RECORD]));
+    for (const auto &[reg, value] : before) {
+        const bool changesByItself = reg <= 15 || reg == 553; // protocol registers, status
+        EXPECT_TRUE(changesByItself || bus().read(DriveAddress, reg) == value) << reg;
+    }
+    EXPECT_EQ(connectionText(), "Connected");
+}
+
+TEST_F(Apply, ShortcutCommitsTheFieldThatIsBeingTypedIn)
+{
+    openConnectedWindow();
+    goTo(3);
+    auto *poles = control<QSpinBox>("MPC");
+    control<QComboBox>("MT")->setCurrentIndex(3);
+    bringToFront();
+    poles->setFocus();
+    ASSERT_TRUE(poles->hasFocus());
+    poles->selectAll();
+    QTest::keyClicks(poles, "7");
+    press(Qt::Key_A, Qt::AltModifier);
+    EXPECT_EQ(poles->value(), 6);  // poles come in pairs
+    EXPECT_TRUE(driveHas(566, 3)); // the drive counts pairs
+}
+
+TEST_F(Apply, IsRefusedBeforeTheValuesOfThisConnectionHaveArrived)
+{
+    openWindow();
+    bus().setTurnAround(std::chrono::milliseconds(15));
+    startConnecting();
+    ASSERT_TRUE(waitFor([this] { return connectionText() == "Connected"; }));
+    bus().setTurnAround(std::chrono::milliseconds(30));
+    click("apply_button");
+    EXPECT_TRUE(m_window->statusBar()->currentMessage().startsWith("Nothing applied"));
+    click("saveToFlash");
+    EXPECT_TRUE(m_window->statusBar()->currentMessage().startsWith("Nothing saved"));
+    bus().setTurnAround(std::chrono::milliseconds(0));
+    ASSERT_TRUE(waitFor([this] { return label("HWMODEL")->text().startsWith("Tarnwell"); }));
+    EXPECT_EQ(bus().read(DriveAddress, KVP), 360);
+    kvp()->setValue(361);
+    click("apply_button");
+    EXPECT_TRUE(driveHas(KVP, 361));
+}
+
+TEST_F(Apply, SavingToTheDriveSurvivesAPowerCycle)
+{
+    openConnectedWindow();
+    kvp()->setValue(500);
+    click("apply_button");
+    click("saveToFlash");
+    ASSERT_TRUE(driveHas(KVP, 500));
+    ASSERT_TRUE(waitForWrite(SYSTEM_COMMAND, 1));
+    ASSERT_TRUE(waitForIdlePoll());
+    bus().powerCycle();
+    EXPECT_EQ(bus().read(DriveAddress, KVP), 500);
+}
+
+TEST_F(Apply, FileThatWasSavedLoadsAndIsPendingUntilApplied)
+{
+    openConnectedWindow();
+    const QString file = QDir::current().filePath("mine.drc");
+    kvp()->setValue(400);
+    m_answers.chooseFile(file);
+    press(Qt::Key_S, Qt::ControlModifier);
+    ASSERT_TRUE(waitFor([&] { return QFile::exists(file); }));
+    kvp()->setValue(900);
+    click("apply_button");
+    ASSERT_TRUE(driveHas(KVP, 900));
+    m_answers.chooseFile(file);
+    press(Qt::Key_O, Qt::ControlModifier);
+    ASSERT_TRUE(waitFor([this] { return kvp()->value() == 400; }));
+    EXPECT_TRUE(waitForPending(true));
+    EXPECT_EQ(bus().read(DriveAddress, KVP), 900); // nothing reaches the drive before it is asked for
+    click("apply_button");
+    EXPECT_TRUE(driveHas(KVP, 400));
+    EXPECT_EQ(connectionText(), "Connected");
+}
+
+TEST_F(Apply, FileLoadedWithoutADriveFillsTheControls)
+{
+    openConnectedWindow();
+    const QString file = QDir::current().filePath("mine.drc");
+    kvp()->setValue(432);
+    m_answers.chooseFile(file);
+    click("save_settings_to_file");
+    ASSERT_TRUE(waitFor([&] { return QFile::exists(file); }));
+    m_answers.press("Continue without applying");
+    m_window->close();
+    m_window.reset();
+
+    openWindow();
+    m_answers.chooseFile(file);
+    click("load_settings_from_file");
+    ASSERT_TRUE(waitFor([this] { return kvp()->value() == 432; }));
+    EXPECT_TRUE(waitForPending(true));
+    EXPECT_EQ(label("HWMODEL")->text(), "This info updated only after Connect");
+    EXPECT_EQ(label("HWSERIAL")->text(), "This info updated only after Connect");
+    m_window->close(); // no drive, no question
+    EXPECT_FALSE(m_window->isVisible());
+}
+
+TEST_F(Apply, ClosingAsksFirstForEditsThenForTheDrivesMemory)
+{
+    openConnectedWindow();
+    kvp()->setValue(410);
+    m_answers.press("Abort");
+    EXPECT_FALSE(m_window->close());
+    EXPECT_TRUE(waitForPending(true));
+
+    m_answers.press("Apply settings");
+    m_answers.press("Abort");
+    EXPECT_FALSE(m_window->close());
+    EXPECT_TRUE(driveHas(KVP, 410));
+
+    // Discarding leaves the memory unsaved, so the next close asks again.
+    m_answers.press("Discard changes");
+    click("disconnect_button");
+    ASSERT_TRUE(waitFor([this] { return connectionText() == "Disconnected"; }));
+    connectToDrive();
+    m_answers.press("Save to drive now");
+    EXPECT_TRUE(m_window->close());
+    EXPECT_EQ(m_answers.texts.filter("since last Apply").size(), 2);
+    EXPECT_EQ(m_answers.texts.filter("since last Save to drive").size(), 3);
+}
+
+TEST_F(Apply, GoingOnWithoutApplyingLeavesTheDriveAsItWas)
+{
+    openConnectedWindow();
+    kvp()->setValue(410);
+    m_answers.press("Continue without applying");
+    EXPECT_TRUE(m_window->close());
+    m_window.reset();
+    EXPECT_EQ(bus().read(DriveAddress, KVP), 360);
+}
+
+TEST_F(Apply, EnteringTheTestingPageOffersToApplyOnceAndCannotBeAborted)
+{
+    openConnectedWindow();
+    kvp()->setValue(410);
+    m_answers.press("No");
+    goTo(6);
+    EXPECT_TRUE(m_answers.isDone());
+    goTo(4);
+    m_answers.press("Yes");
+    goTo(6);
+    EXPECT_TRUE(driveHas(KVP, 410));
+}
+
+TEST_F(Apply, HomingIsNotStartedWhenItsQuestionIsAborted)
+{
+    openConnectedWindow();
+    control<QComboBox>("HME")->setCurrentIndex(1);
+    bus().clearReceived();
+    m_answers.press("Abort");
+    click("start_homing");
+    click("abort_homing"); // sent, so that the wait below has an end
+    ASSERT_TRUE(waitForWrite(HOMING_COMMAND, 0));
+    EXPECT_EQ(timesWritten(HOMING_COMMAND, 1), 0);
+    EXPECT_TRUE(waitForPending(true));
+}
+
+TEST_F(Apply, WheelChangesNoControlThatWasNotClicked)
+{
+    openConnectedWindow();
+    goTo(4);
+    QWheelEvent wheel(QPointF(5, 5), kvp()->mapToGlobal(QPoint(5, 5)), QPoint(), QPoint(0, 120), Qt::NoButton,
+                      Qt::NoModifier, Qt::NoScrollPhase, false);
+    const int before = kvp()->value();
+    control<QListWidget>("pageSelector")->setFocus();
+    QApplication::sendEvent(kvp(), &wheel);
+    EXPECT_EQ(kvp()->value(), before);
+    bringToFront();
+    kvp()->setFocus();
+    QApplication::sendEvent(kvp(), &wheel);
+    EXPECT_GT(kvp()->value(), before);
+}
+
+TEST_F(Apply, SanityWarningsDoNotStopAnApply)
+{
+    openConnectedWindow();
+    control<QSpinBox>("FEV")->setValue(1);
+    click("apply_button");
+    EXPECT_TRUE(shownMessage(m_window.get()).contains("Over speed fault threshold [FEV]"));
+    EXPECT_TRUE(driveHas(496, 1));
+}

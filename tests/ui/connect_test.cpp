@@ -1,0 +1,175 @@
+// From the port to the filled pages, and back to disconnected.
+#include "windowfixture.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QSpinBox>
+
+namespace {
+
+constexpr int FEEDBACK_DEVICE = 493;
+
+class ConnectPage : public WindowFixture
+{
+};
+
+class TwoFamilies : public WindowFixture
+{
+    sim::BusOptions busOptions() const override
+    {
+        sim::BusOptions options;
+        options.drives = {{"keta", 5}, {"torva", 7}};
+        return options;
+    }
+};
+
+} // namespace
+
+TEST_F(TwoFamilies, SearchListsBothDrivesAndOpensTheChosenOne)
+{
+    openWindow();
+    goTo(1);
+    QStringList rows;
+    m_answers.expect([&rows](QWidget *dialog) {
+        EXPECT_EQ(dialog->windowTitle(), "Connect device");
+        auto *nodes = dialog->findChild<QListWidget *>("nodeList");
+        for (int i = 0; i < nodes->count(); ++i)
+            rows << nodes->item(i)->text();
+        nodes->setCurrentRow(1);
+        dialog->findChild<QDialogButtonBox *>("buttonBox")->button(QDialogButtonBox::Open)->click();
+        return true;
+    });
+    press(Qt::Key_O, Qt::AltModifier);
+    EXPECT_EQ(button("connect_button")->text(), "Searching devices...");
+    ASSERT_TRUE(waitFor([this] { return connectionText() == "Connected"; }));
+    EXPECT_EQ(rows, QStringList({"Tarnwell Devices KETA at bus address 5", "Tarnwell Devices TORVA at bus address 7"}));
+    EXPECT_EQ(button("connect_button")->text(), "Connect to drive");
+    ASSERT_TRUE(waitFor([this] { return label("HWMODEL")->text() == "Tarnwell Devices TORVA"; }));
+    EXPECT_EQ(label("HWVER")->text(), "4000");
+}
+
+TEST_F(ConnectPage, FillsThePagesWithTheDrivesValuesAndLimits)
+{
+    bus().set(DriveAddress, 202, 1234); // KVP
+    openWindow();
+    connectToDrive();
+    EXPECT_EQ(label("HWMODEL")->text(), "Tarnwell Devices KETA");
+    EXPECT_EQ(label("HWVER")->text(), "11000");
+    EXPECT_EQ(label("TCFWVER")->text(), "1078");
+    EXPECT_EQ(control<QSpinBox>("KVP")->value(), 1234);
+    EXPECT_EQ(control<QSpinBox>("KVP")->maximum(), 32767);
+    EXPECT_EQ(control<QDoubleSpinBox>("FOV")->value(), 58.0);
+    EXPECT_EQ(control<QComboBox>("CM")->currentText(), "Position control");
+    EXPECT_EQ(label("CVLrvel")->text(), "= 50 revolutions/s");
+    EXPECT_EQ(control<QComboBox>("ScopeSampleRate")->itemText(0), "20000 Hz");
+    for (const char *name : {"apply_button", "disconnect_button", "setAbs1", "ScopeCaptureNow", "start_homing"})
+        EXPECT_TRUE(button(name)->isEnabled()) << name;
+    EXPECT_FALSE(button("connect_button")->isEnabled());
+    EXPECT_FALSE(control<QComboBox>("communicationInterface")->isEnabled());
+    EXPECT_TRUE(waitForPending(false));
+
+    control<QCheckBox>("stimulusEnabled")->setChecked(true);
+    EXPECT_FALSE(button("setAbs1")->isEnabled());
+    press(Qt::Key_D, Qt::AltModifier);
+    ASSERT_TRUE(waitFor([this] { return connectionText() == "Disconnected"; }));
+    for (const char *name : {"HWMODEL", "HWVER", "HWSERIAL", "TCFWVER", "FWVER", "BUILDREVISION"})
+        EXPECT_EQ(label(name)->text(), "") << name;
+    EXPECT_FALSE(control<QCheckBox>("stimulusEnabled")->isChecked());
+    EXPECT_FALSE(button("setAbs1")->isEnabled());
+    EXPECT_TRUE(button("connect_button")->isEnabled());
+}
+
+TEST_F(ConnectPage, CancellingTheNodeListLeavesEverythingAsItWas)
+{
+    openWindow();
+    m_answers.expect([](QWidget *dialog) {
+        dialog->findChild<QDialogButtonBox *>("buttonBox")->button(QDialogButtonBox::Cancel)->click();
+        return true;
+    });
+    NodeType node;
+    node.address = DriveAddress;
+    node.deviceType = 11000;
+    button("connect_button")->setText("Searching devices...");
+    QMetaObject::invokeMethod(m_window.get(), "availableBusNodesListReceived", Q_ARG(QList<NodeType>, {node}));
+    EXPECT_EQ(button("connect_button")->text(), "Connect to drive");
+    // Open without a chosen row, and an empty list, connect to nothing either.
+    for (const QList<NodeType> &nodes : {QList<NodeType>{node, node}, QList<NodeType>{}}) {
+        m_answers.expect([](QWidget *dialog) {
+            dialog->findChild<QDialogButtonBox *>("buttonBox")->button(QDialogButtonBox::Open)->click();
+            return true;
+        });
+        QMetaObject::invokeMethod(m_window.get(), "availableBusNodesListReceived", Q_ARG(QList<NodeType>, nodes));
+    }
+    QTest::qWait(100);
+    EXPECT_TRUE(bus().received().empty());
+    EXPECT_EQ(connectionText(), "Not connected");
+}
+
+TEST_F(ConnectPage, PortThatCannotBeOpenedGivesTheButtonItsTextBackAndOneMessage)
+{
+    openWindow();
+    control<QComboBox>("communicationInterface")->setEditText("COM9");
+    click("connect_button");
+    ASSERT_TRUE(waitFor([this] { return connectionText() == "Connect failed"; }));
+    EXPECT_EQ(button("connect_button")->text(), "Connect to drive");
+    ASSERT_TRUE(waitFor([this] { return !shownMessage(m_window.get()).isEmpty(); }));
+    EXPECT_TRUE(shownMessage(m_window.get()).startsWith("Unable to connect."));
+}
+
+TEST_F(TwoFamilies, ModelDecidesWhatIsShownAndWhatCanBeEdited)
+{
+    openWindow();
+    connectToDrive(7, 4000);
+    EXPECT_FALSE(control<QSpinBox>("ZBO")->isEnabled());
+    EXPECT_TRUE(control<QSpinBox>("ZBO")->toolTip().contains("not on this model"));
+    EXPECT_TRUE(control<QWidget>("BUILDREVGROUP")->isHidden());
+    EXPECT_FALSE(control<QWidget>("IOFWVERGROUP")->isHidden());
+    EXPECT_TRUE(control<QWidget>("ELMODE")->isHidden());
+    EXPECT_TRUE(button("restartToDFUMode")->isHidden());
+    EXPECT_TRUE(button("measureRLbutton")->isHidden());
+    EXPECT_EQ(control<QComboBox>("ScopeSampleRate")->itemText(0), "17500 Hz");
+    control<QDoubleSpinBox>("FUV")->setValue(69.9);
+    EXPECT_FALSE(label("FUVwarning")->isHidden());
+    EXPECT_TRUE(label("FUVwarning")->text().contains("70 VDC"));
+    EXPECT_TRUE(waitForPending(true));
+
+    m_answers.press("Continue without applying");
+    click("disconnect_button");
+    ASSERT_TRUE(waitFor([this] { return connectionText() == "Disconnected"; }));
+    EXPECT_TRUE(label("FUVwarning")->isHidden());
+    connectToDrive();
+    EXPECT_TRUE(control<QSpinBox>("ZBO")->isEnabled());
+    EXPECT_FALSE(control<QSpinBox>("ZBO")->toolTip().contains("not on this model"));
+    EXPECT_FALSE(control<QWidget>("BUILDREVGROUP")->isHidden());
+    EXPECT_TRUE(control<QWidget>("IOFWVERGROUP")->isHidden());
+    EXPECT_FALSE(button("restartToDFUMode")->isHidden());
+    EXPECT_FALSE(button("measureRLbutton")->isHidden());
+    click("showAdvancedSettings");
+    EXPECT_FALSE(control<QSpinBox>("VFF")->isHidden());
+    EXPECT_TRUE(control<QWidget>("torqueCompensationGroup")->isHidden()); // only a Pro compensates cogging
+}
+
+TEST_F(ConnectPage, ValueWithoutAnItemIsShownAndWrittenBackAsItIs)
+{
+    bus().set(DriveAddress, FEEDBACK_DEVICE, 9); // the program knows fewer
+    openWindow();
+    connectToDrive();
+    EXPECT_EQ(control<QComboBox>("FBD")->currentText(), "Value 9");
+    EXPECT_TRUE(waitForPending(false));
+    click("apply_button");
+    EXPECT_TRUE(waitForWrite(FEEDBACK_DEVICE, 9));
+    EXPECT_EQ(bus().read(DriveAddress, FEEDBACK_DEVICE), 9);
+}
+
+TEST_F(ConnectPage, RestartingDisconnectsAndSearchesAgain)
+{
+    openWindow();
+    connectToDrive();
+    bus().clearReceived();
+    m_answers.chooseNode(0);
+    click("restartDrive");
+    EXPECT_EQ(connectionText(), "Restarting device");
+    EXPECT_FALSE(button("apply_button")->isEnabled());
+    EXPECT_EQ(button("connect_button")->text(), "Searching devices...");
+    EXPECT_TRUE(waitFor([this] { return connectionText() == "Connected"; }));
+}

@@ -1,0 +1,135 @@
+// Help from the maker's wiki, its offline copy, and the plot that shares their view.
+#include "windowfixture.h"
+
+#include "helpview.h"
+
+#include <QDir>
+#include <QWebFrame>
+
+namespace {
+
+class Help : public WindowFixture
+{
+protected:
+    HelpView *view() const { return control<HelpView>("helpView"); }
+    QString shownText() const { return view()->page()->mainFrame()->toPlainText(); }
+    void writeOfflinePages()
+    {
+        QDir().mkpath("help");
+        for (const char *name : {"Velbrin", "Connect tab", "Goals tab", "Testing tab"}) {
+            QFile page(QString("help/%1.htm").arg(name));
+            page.open(QIODevice::WriteOnly);
+            page.write(QByteArray("<html><body>offline ") + name + "</body></html>");
+        }
+    }
+    void plot() { QMetaObject::invokeMethod(m_window.get(), "plotCapture", Q_ARG(QList<CaptureData>, {})); }
+    void clickLink(const char *url)
+    {
+        QMetaObject::invokeMethod(m_window.get(), "browserLinkClicked", Q_ARG(QUrl, QUrl(url)));
+    }
+};
+
+} // namespace
+
+TEST_F(Help, FollowsThePageListOnline)
+{
+    openWindow();
+    ASSERT_TRUE(waitFor([this] { return shownText() == "online /wiki/Velbrin_user_guide"; }));
+    goTo(5);
+    ASSERT_TRUE(waitFor([this] { return shownText() == "online /wiki/Velbrin_user_guide/Fault_limits"; }));
+    EXPECT_TRUE(label("offlineHelpNotification")->isHidden());
+    // Quick changes replace loads that have not ended; none of them may be taken for a missing network.
+    for (int page = 0; page < 7; ++page)
+        goTo(page);
+    ASSERT_TRUE(waitFor([this] { return shownText() == "online /wiki/Velbrin_user_guide/Testing"; }));
+    EXPECT_TRUE(label("offlineHelpNotification")->isHidden());
+    EXPECT_EQ(shownMessage(m_window.get()), QString());
+}
+
+TEST_F(Help, WithoutANetworkTheOfflineCopyIsShownAndSaidOnce)
+{
+    writeOfflinePages();
+    qputenv("VELBRIN_WIKI", "http://wiki.tarnwell.example");
+    openWindow();
+    ASSERT_TRUE(waitFor([this] { return shownText() == "offline Velbrin"; }));
+    EXPECT_FALSE(label("offlineHelpNotification")->isHidden());
+    ASSERT_TRUE(waitFor([this] { return !shownMessage(m_window.get()).isEmpty(); }));
+    EXPECT_TRUE(shownMessage(m_window.get()).startsWith("Loading of online documentation Wiki failed"));
+    EXPECT_TRUE(shownMessage(m_window.get()).contains("http://wiki.tarnwell.example"));
+    control<QDialog>("errorWindow")->close();
+    goTo(2);
+    ASSERT_TRUE(waitFor([this] { return shownText() == "offline Goals tab"; }));
+    EXPECT_FALSE(label("offlineHelpNotification")->isHidden());
+    EXPECT_EQ(shownMessage(m_window.get()), QString());
+    EXPECT_TRUE(m_wiki.paths.isEmpty());
+}
+
+TEST_F(Help, PlotOrPageDuringAPendingLoadIsNotTakenForOffline)
+{
+    writeOfflinePages();
+    m_wiki.silent = true;
+    openWindow();
+    ASSERT_TRUE(waitFor([this] { return m_wiki.paths.size() == 1; }));
+    plot();
+    ASSERT_TRUE(waitFor([this] { return !view()->page()->mainFrame()->toHtml().contains("offline"); }));
+    EXPECT_TRUE(label("offlineHelpNotification")->isHidden());
+    goTo(1); // the plot stays, and no help is asked for
+    QTest::qWait(50);
+    EXPECT_EQ(m_wiki.paths.size(), 1);
+
+    clickLink("tdext://showhelp");
+    ASSERT_TRUE(waitFor([this] { return m_wiki.paths.size() == 2; }));
+    clickLink("http://127.0.0.1:1/nobody-listens-here");
+    QTest::qWait(200);
+    EXPECT_TRUE(label("offlineHelpNotification")->isHidden());
+    m_wiki.silent = false;
+    goTo(2);
+    ASSERT_TRUE(waitFor([this] { return shownText() == "online /wiki/Velbrin_user_guide/Goals"; }));
+    EXPECT_EQ(shownMessage(m_window.get()), QString());
+}
+
+TEST_F(Help, PendingLoadThatTakesTooLongEndsOffline)
+{
+    writeOfflinePages();
+    m_wiki.silent = true;
+    openWindow();
+    ASSERT_TRUE(waitFor([this] { return m_wiki.paths.size() == 1; }));
+    QTimer *timeOut = nullptr;
+    const auto timers = m_window->findChildren<QTimer *>(QString(), Qt::FindDirectChildrenOnly);
+    for (QTimer *timer : timers) {
+        if (timer->interval() == 60000 && timer->isSingleShot())
+            timeOut = timer;
+    }
+    ASSERT_NE(timeOut, nullptr);
+    EXPECT_TRUE(timeOut->isActive());
+    QMetaObject::invokeMethod(m_window.get(), "helpLoadingTimeouted");
+    EXPECT_TRUE(waitFor([this] { return shownText() == "offline Velbrin"; }));
+    EXPECT_FALSE(timeOut->isActive());
+}
+
+TEST_F(Help, PlotIsSavedAsPictureOrAsTextByItsEnding)
+{
+    openWindow();
+    CaptureData channel;
+    channel.name = "Torque setpoint [A]";
+    channel.key = "torqueref";
+    channel.group = "Torque";
+    channel.enabled = true;
+    channel.samples = {{0.0, 1.0}, {0.5, 2.0}};
+    QMetaObject::invokeMethod(m_window.get(), "plotCapture", Q_ARG(QList<CaptureData>, {channel}));
+    for (const char *name : {"plot.PNG", "plot.csv", "plot.txt"}) {
+        m_answers.chooseFile(QDir::current().filePath(name));
+        clickLink("tdext://exportpdf");
+    }
+    const QImage image("plot.PNG");
+    EXPECT_FALSE(image.isNull());
+    EXPECT_LE(image.width(), 1100);
+    QFile csv("plot.csv");
+    ASSERT_TRUE(csv.open(QIODevice::ReadOnly));
+    EXPECT_TRUE(csv.readAll().contains("Torque setpoint [A]"));
+    EXPECT_FALSE(QFile::exists("plot.txt"));
+
+    m_answers.chooseFile("/proc/plot.png");
+    clickLink("tdext://exportpdf");
+    EXPECT_TRUE(shownMessage(m_window.get()).startsWith("Error writing graphs to file"));
+}

@@ -1,0 +1,154 @@
+// Opening the window: disclaimer, pages, names.
+#include "windowfixture.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QSettings>
+#include <QSpinBox>
+#include <QStackedWidget>
+#include <QStatusBar>
+
+namespace {
+
+QStringList warnings;
+
+void keepWarnings(QtMsgType type, const QMessageLogContext &, const QString &text)
+{
+    if (type == QtWarningMsg)
+        warnings << text;
+}
+
+class Startup : public WindowFixture
+{
+};
+
+} // namespace
+
+TEST_F(Startup, AgreeingOpensTheWindowOnTheWelcomePage)
+{
+    openWindow();
+    EXPECT_TRUE(m_answers.texts.value(0).contains("Important safety information"));
+    EXPECT_EQ(m_window->windowTitle(), "Velbrin");
+    EXPECT_FALSE(m_window->windowIcon().isNull());
+    EXPECT_EQ(m_window->size(), QSize(1300, 730));
+    EXPECT_EQ(m_window->statusBar()->currentMessage(), "Program started");
+    EXPECT_EQ(connectionText(), "Not connected");
+    EXPECT_TRUE(label("wellcomeText")->text().contains("1.9.0"));
+    EXPECT_FALSE(label("wellcomeText")->text().contains("%VELBRIN_VERSION"));
+    EXPECT_EQ(control<QStackedWidget>("pages")->currentIndex(), 0);
+    QStringList pages;
+    const auto *selector = control<QListWidget>("pageSelector");
+    for (int i = 0; i < selector->count(); ++i) {
+        pages << selector->item(i)->text();
+        EXPECT_FALSE(selector->item(i)->icon().isNull()) << i;
+        EXPECT_EQ(selector->item(i)->sizeHint(), QSize(79, 96));
+    }
+    EXPECT_EQ(pages, QStringList({"Welcome!", "Connect", "Goals", "Machine", "Tuning", "Fault limits", "Testing"}));
+}
+
+TEST_F(Startup, DisagreeingSaysSoAndClosesTheWindow)
+{
+    for (const bool byEscape : {false, true}) {
+        if (byEscape)
+            m_answers.expect([](QWidget *box) {
+                QTest::keyClick(box, Qt::Key_Escape);
+                return true;
+            });
+        else
+            m_answers.press("Disagree");
+        m_answers.press("Quit");
+        MW window;
+        window.show();
+        EXPECT_TRUE(waitFor([&] { return !window.isVisible(); })) << byEscape;
+        EXPECT_TRUE(m_answers.texts.last().startsWith("This software will exit"));
+    }
+}
+
+TEST_F(Startup, EverySlotFindsItsControlAndNoTwoControlsShareAName)
+{
+    warnings.clear();
+    const auto before = qInstallMessageHandler(keepWarnings);
+    openWindow();
+    qInstallMessageHandler(before);
+    for (const QString &warning : qAsConst(warnings))
+        EXPECT_FALSE(warning.contains("No matching signal")) << qPrintable(warning);
+
+    QMap<QString, int> names;
+    const auto widgets = m_window->findChildren<QWidget *>();
+    for (const QWidget *widget : widgets) {
+        // Parts that the toolkit makes itself repeat their names in every control.
+        if (!widget->objectName().isEmpty() && !widget->objectName().startsWith("qt_"))
+            ++names[widget->objectName()];
+    }
+    EXPECT_GT(names.size(), 200);
+    for (auto name = names.begin(); name != names.end(); ++name) {
+        const auto found = m_window->findChildren<QWidget *>(name.key());
+        const bool toolkitPart = qobject_cast<QAbstractItemView *>(found.first()->parentWidget()) ||
+                                 name.key().startsWith("ScrollBar") || name.key() == "buttonBox";
+        EXPECT_TRUE(*name == 1 || toolkitPart) << qPrintable(name.key());
+    }
+}
+
+TEST_F(Startup, WithoutADriveNothingIsPendingAndNothingCanBeSent)
+{
+    openWindow();
+    goTo(2);
+    QTest::qWait(0);
+    EXPECT_EQ(applyText(), "Apply settings [Alt+A]");
+    EXPECT_FALSE(button("apply_button")->isEnabled());
+    EXPECT_TRUE(button("apply_button")->isVisible());
+    for (const char *name : {"disconnect_button", "start_homing", "abort_homing", "ScopeCaptureNow", "setAbs1",
+                             "setInc2", "clear_faults_2", "enable_drive"})
+        EXPECT_FALSE(button(name)->isEnabled()) << name;
+    for (const char *name : {"connect_button", "setZero", "save_settings_to_file", "load_settings_from_file",
+                             "copyDeviceStateToClipboard"})
+        EXPECT_TRUE(button(name)->isEnabled()) << name;
+    // Shortcuts reach their slots all the same; the guards keep them from the bus.
+    for (Qt::Key key : {Qt::Key_1, Qt::Key_2, Qt::Key_3, Qt::Key_4, Qt::Key_0, Qt::Key_R, Qt::Key_S, Qt::Key_A})
+        press(key, Qt::AltModifier);
+    press(Qt::Key_Escape);
+    QTest::qWait(400); // one idle pass of the worker
+    EXPECT_TRUE(bus().received().empty());
+    EXPECT_EQ(shownMessage(m_window.get()), QString());
+}
+
+TEST_F(Startup, HiddenControlsStayHiddenOnTheirPages)
+{
+    openWindow();
+    for (int page = 0; page < 7; ++page) {
+        goTo(page);
+        for (const char *name : {"CSD", "AD", "stimuluspresets", "dualfbgroup", "ScopeDebug", "scopePWM3", "menuBar",
+                                 "mainToolBar", "offlineHelpNotification", "FUVwarning", "restartToDFUMode"})
+            EXPECT_FALSE(control<QWidget>(name)->isVisible()) << name << " on page " << page;
+    }
+    EXPECT_EQ(control<QComboBox>("TRF1")->count(), 26);
+    EXPECT_EQ(control<QComboBox>("TRF2")->itemText(2), "Sin(1x)");
+    EXPECT_EQ(control<QComboBox>("TRF2")->itemText(25), "Cos(12x)");
+}
+
+TEST_F(Startup, CtrlClickCannotLeaveThePageListWithoutASelection)
+{
+    openWindow();
+    goTo(3);
+    auto *selector = control<QListWidget>("pageSelector");
+    const QPoint middle = selector->visualItemRect(selector->item(3)).center();
+    QTest::mouseClick(selector->viewport(), Qt::LeftButton, Qt::ControlModifier, middle);
+    ASSERT_EQ(selector->selectedItems().size(), 1);
+    EXPECT_EQ(selector->row(selector->selectedItems().first()), 3);
+    EXPECT_EQ(control<QStackedWidget>("pages")->currentIndex(), 3);
+}
+
+TEST_F(Startup, WindowLayoutIsRememberedAndAnUnreadableOneIsIgnored)
+{
+    openWindow();
+    m_window->resize(1111, 700);
+    m_window->close();
+    m_window.reset();
+    openWindow();
+    EXPECT_EQ(m_window->size(), QSize(1111, 700));
+    m_window.reset();
+    QSettings("Tarnwell Devices", "Velbrin").setValue("geometry", QByteArray("nonsense"));
+    openWindow();
+    EXPECT_EQ(m_window->size(), QSize(1300, 730));
+    QSettings("Tarnwell Devices", "Velbrin").clear();
+}

@@ -1,0 +1,270 @@
+/// \file
+/// The real window with a virtual drive to connect to, a wiki on the loopback address, and somebody who answers boxes.
+#ifndef WINDOWFIXTURE_H
+#define WINDOWFIXTURE_H
+
+#include "itemcodec.h"
+#include "virtualbusfixture.h" // before Qt, whose keywords it uses as names
+
+#include "mw.h"
+#include "printqt.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QDialogButtonBox>
+#include <QFileDialog>
+#include <QLabel>
+#include <QListWidget>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QTcpServer>
+#include <QTcpSocket>
+#include <QTest>
+#include <QTextEdit>
+#include <QTimer>
+
+/// Waits for a condition while the window lives on. False when the (generous) limit passed.
+inline bool waitFor(const std::function<bool()> &condition, int limitMs = 10000)
+{
+    return QTest::qWaitFor(condition, limitMs);
+}
+
+/// Answers every request with a small page that names its path, or with nothing at all while silent.
+class LoopbackWiki : public QTcpServer
+{
+public:
+    LoopbackWiki()
+    {
+        listen(QHostAddress::LocalHost);
+        connect(this, &QTcpServer::newConnection, this, [this] { accept(nextPendingConnection()); });
+    }
+    QString address() const { return QStringLiteral("http://127.0.0.1:%1").arg(serverPort()); }
+
+    QStringList paths; ///< of all requests
+    bool silent = false;
+
+private:
+    void accept(QTcpSocket *socket)
+    {
+        connect(socket, &QTcpSocket::disconnected, socket, &QObject::deleteLater);
+        connect(socket, &QTcpSocket::readyRead, this, [this, socket] {
+            const QString path = QString::fromLatin1(socket->readLine()).section(' ', 1, 1);
+            socket->readAll();
+            paths << path;
+            if (silent)
+                return;
+            const QByteArray body = "<html><body>online " + path.toLatin1() + "</body></html>";
+            socket->write("HTTP/1.0 200 OK\r\nContent-Type: text/html\r\nContent-Length: " +
+                          QByteArray::number(body.size()) + "\r\n\r\n" + body);
+            socket->disconnectFromHost();
+        });
+    }
+};
+
+/// Presses the buttons that a test expects to be asked for, in order; any other modal box fails the test.
+class Answerer : public QObject
+{
+public:
+    Answerer()
+    {
+        connect(&m_timer, &QTimer::timeout, this, &Answerer::look);
+        m_timer.start(5);
+    }
+
+    /// The next message box gets this button pressed.
+    void press(const QString &buttonText)
+    {
+        expect([buttonText](QWidget *box) {
+            const auto buttons = box->findChildren<QAbstractButton *>();
+            for (QAbstractButton *button : buttons) {
+                if (button->text().remove('&') != buttonText)
+                    continue;
+                button->click();
+                return true;
+            }
+            return false;
+        });
+    }
+    /// The next node dialog gets this row chosen and opened.
+    void chooseNode(int row)
+    {
+        expect([row](QWidget *dialog) {
+            auto *nodes = dialog->findChild<QListWidget *>("nodeList");
+            if (!nodes || row >= nodes->count())
+                return false;
+            nodes->setCurrentRow(row);
+            dialog->findChild<QDialogButtonBox *>("buttonBox")->button(QDialogButtonBox::Open)->click();
+            return true;
+        });
+    }
+    /// The next file dialog gets this name.
+    void chooseFile(const QString &file)
+    {
+        expect([file](QWidget *widget) {
+            auto *dialog = qobject_cast<QFileDialog *>(widget);
+            if (!dialog)
+                return false;
+            dialog->selectFile(file);
+            return QMetaObject::invokeMethod(dialog, "accept");
+        });
+    }
+    /// Whatever is open is handed to `action`.
+    void expect(const std::function<bool(QWidget *)> &action) { m_expected << action; }
+
+    bool isDone() const { return m_expected.isEmpty(); }
+    QStringList texts; ///< of all message boxes that were open, in order
+
+private:
+    void look()
+    {
+        QWidget *open = QApplication::activeModalWidget();
+        if (!open || open->objectName() == "busyDialog" || m_answering)
+            return;
+        m_answering = true;
+        if (auto *box = qobject_cast<QMessageBox *>(open))
+            texts << box->text();
+        if (m_expected.isEmpty()) {
+            ADD_FAILURE() << "nobody expected " << qPrintable(describe(open));
+            open->close();
+        } else {
+            const auto action = m_expected.takeFirst();
+            if (!action(open)) {
+                ADD_FAILURE() << "cannot answer " << qPrintable(describe(open));
+                open->close();
+            }
+        }
+        m_answering = false;
+    }
+    static QString describe(QWidget *widget)
+    {
+        const auto *box = qobject_cast<QMessageBox *>(widget);
+        return widget->windowTitle() + ": " + (box ? box->text() : widget->objectName());
+    }
+
+    QTimer m_timer;
+    QList<std::function<bool(QWidget *)>> m_expected;
+    bool m_answering = false;
+};
+
+class WindowFixture : public VirtualBusFixture
+{
+protected:
+    void SetUp() override
+    {
+        VirtualBusFixture::SetUp();
+        qputenv("VELBRIN_WIKI", m_wiki.address().toLatin1());
+    }
+    void TearDown() override
+    {
+        EXPECT_TRUE(m_answers.isDone()) << "a box that was expected never came";
+        m_window.reset();
+        VirtualBusFixture::TearDown();
+    }
+
+    /// Opens the window as a technician would, accepting the disclaimer.
+    void openWindow()
+    {
+        m_answers.press("I Agree");
+        MW::Options options;
+        options.virtualPort = port();
+        options.pauseScale = 0.01;
+        m_window = std::make_unique<MW>(options);
+        m_window->show();
+        bringToFront();
+    }
+    /// A closed dialog leaves no window active where there is no window manager.
+    void bringToFront()
+    {
+        m_window->activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(m_window.get()));
+    }
+    /// Chooses the drive at this address as if a bus search (which takes 2.5 s of silence) had found it.
+    void startConnecting(int address = DriveAddress, int deviceType = 11000)
+    {
+        m_answers.chooseNode(0);
+        NodeType node;
+        node.address = address;
+        node.deviceType = deviceType;
+        QMetaObject::invokeMethod(m_window.get(), "availableBusNodesListReceived", Q_ARG(QList<NodeType>, {node}));
+    }
+    void connectToDrive(int address = DriveAddress, int deviceType = 11000)
+    {
+        startConnecting(address, deviceType);
+        ASSERT_TRUE(waitFor([this] { return connectionText() == "Connected"; }));
+        ASSERT_TRUE(waitFor([this] { return label("HWMODEL")->text().startsWith("Tarnwell"); }));
+    }
+    void openConnectedWindow()
+    {
+        openWindow();
+        if (HasFatalFailure())
+            return;
+        connectToDrive();
+    }
+
+    template <typename T> T *control(const char *name) const
+    {
+        T *found = m_window->findChild<T *>(name);
+        EXPECT_NE(found, nullptr) << name;
+        return found;
+    }
+    QPushButton *button(const char *name) const { return control<QPushButton>(name); }
+    QLabel *label(const char *name) const { return control<QLabel>(name); }
+    void click(const char *name) { button(name)->click(); }
+    /// Goes to a page of the page list.
+    void goTo(int page) { control<QListWidget>("pageSelector")->setCurrentRow(page); }
+    /// Presses a key in the window.
+    void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
+    {
+        bringToFront();
+        QWidget *target = QApplication::focusWidget();
+        QTest::keyClick(target ? target : m_window.get(), key, modifiers);
+    }
+    QString connectionText() const { return label("connectionStatus")->text(); }
+    QString applyText() const { return button("apply_button")->text(); }
+    /// Waits until the Apply button says whether something is pending, and for no longer than a technician would.
+    bool waitForPending(bool pending)
+    {
+        const QString text = pending ? "Apply settings (parameters changed)" : "Apply settings [Alt+A]";
+        return waitFor([&] { return applyText() == text; }, 3000);
+    }
+    /// Waits until the drive's register has a value.
+    bool driveHas(int reg, int value)
+    {
+        return waitFor([&] { return bus().read(DriveAddress, reg) == value; });
+    }
+
+    /// How often the drive was told to put a value into a register.
+    int timesWritten(int reg, int value) const
+    {
+        int times = 0;
+        for (const sim::ReceivedRequest &request : receivedAt(DriveAddress)) {
+            int selected = -1;
+            for (const sim::Item &item : sim::decodeItems(request.packet.payload)) {
+                if (item.selectsAddress)
+                    selected = item.value;
+                else if (selected == reg && item.value == value)
+                    ++times;
+            }
+        }
+        return times;
+    }
+    bool waitForWrite(int reg, int value)
+    {
+        return waitFor([&] { return timesWritten(reg, value) > 0; });
+    }
+
+    LoopbackWiki m_wiki;
+    Answerer m_answers;
+    std::unique_ptr<MW> m_window;
+};
+
+/// Texts in the error window, which is not modal and so is nobody's to answer.
+inline QString shownMessage(const MW *window)
+{
+    const auto *errors = window->findChild<QDialog *>("errorWindow");
+    const auto *text = errors ? errors->findChild<QTextEdit *>() : nullptr;
+    return errors && errors->isVisible() && text ? text->toPlainText() : QString();
+}
+
+#endif
