@@ -31,7 +31,7 @@ AxisSettings::AxisSettings(const RegisterFile &registers)
     mode = value(reg::ControlMode);
     setpointInput = value(reg::SetpointInput);
     setpointOffset = value(reg::SetpointOffset);
-    countsPerUnit = value(reg::Multiplier) / divider;
+    countsPerUnit = std::max(value(reg::Multiplier), 1) / divider;
 
     positionGain = value(reg::PositionP) / 4096.0;
     velocityGain = value(reg::VelocityP);

@@ -1,11 +1,8 @@
 #include "busworker.h"
 
 #include <algorithm>
-#include <cerrno>
-#include <cstring>
 #include <poll.h>
 #include <sys/eventfd.h>
-#include <sys/stat.h>
 #include <unistd.h>
 
 namespace sim {
@@ -26,7 +23,7 @@ constexpr auto NoiseStep = 2ms;
 
 } // namespace
 
-VirtualBus::Worker::Worker(BusOptions given) : options(std::move(given)) {}
+VirtualBus::Worker::Worker(BusOptions given) : options(std::move(given)), m_link(options.linkPath) {}
 
 VirtualBus::Worker::~Worker()
 {
@@ -35,7 +32,7 @@ VirtualBus::Worker::~Worker()
 
 std::string VirtualBus::Worker::start()
 {
-    std::unique_lock lock(mutex);
+    const std::lock_guard lock(mutex);
     if (m_running)
         return {};
     std::string error = checkDrives(options.drives);
@@ -47,7 +44,7 @@ std::string VirtualBus::Worker::start()
     if (!options.stateFile.empty())
         error = loadState(options.stateFile, drives);
     if (error.empty())
-        error = plugIn(lock);
+        error = plugIn();
     if (!error.empty())
         return error;
     m_savedGenerations.clear();
@@ -77,7 +74,7 @@ void VirtualBus::Worker::stop()
     m_thread.join();
     std::lock_guard lock(mutex);
     port.close();
-    removeLink();
+    m_link.remove();
     ::close(m_wakeEvent);
     m_wakeEvent = -1;
     m_running = false;
@@ -99,17 +96,17 @@ VirtualDrive *VirtualBus::Worker::find(int address)
     return nullptr;
 }
 
-std::string VirtualBus::Worker::plugIn(std::unique_lock<std::mutex> &)
+std::string VirtualBus::Worker::plugIn()
 {
     if (port.isOpen())
         return {};
     std::string error = port.open();
     if (error.empty())
-        error = makeLink();
+        error = m_link.make(port.name());
     if (!error.empty())
         port.close();
     m_parser.reset();
-    m_pending.clear();
+    m_replies.clear();
     isNoisy = false;
     m_unplugging = false;
     if (m_running)
@@ -127,31 +124,6 @@ void VirtualBus::Worker::unplug(std::unique_lock<std::mutex> &lock)
     changed.wait(lock, [this] { return !port.isOpen() || !m_running; });
 }
 
-std::string VirtualBus::Worker::makeLink()
-{
-    if (options.linkPath.empty())
-        return {};
-    const char *path = options.linkPath.c_str();
-    struct stat info
-    {
-    };
-    // A link is ours or a left-over of a run that was killed; anything else belongs to somebody.
-    if (lstat(path, &info) == 0 && !S_ISLNK(info.st_mode))
-        return options.linkPath + ": already there, and not a link";
-    unlink(path);
-    if (symlink(port.name().c_str(), path) != 0)
-        return options.linkPath + ": " + std::strerror(errno);
-    m_linked = true;
-    return {};
-}
-
-void VirtualBus::Worker::removeLink()
-{
-    if (m_linked)
-        unlink(options.linkPath.c_str());
-    m_linked = false;
-}
-
 void VirtualBus::Worker::run()
 {
     for (;;) {
@@ -163,7 +135,7 @@ void VirtualBus::Worker::run()
                 return;
             serve();
             descriptor = port.descriptor();
-            until = nextWakeUp();
+            until = m_replies.nextDue(Clock::now() + (isNoisy ? NoiseStep : IdleStep));
         }
         waitForWork(descriptor, until);
     }
@@ -179,14 +151,6 @@ void VirtualBus::Worker::waitForWork(int descriptor, Clock::time_point until)
     [[maybe_unused]] const ssize_t count = ::read(m_wakeEvent, &wakeUps, sizeof wakeUps);
 }
 
-VirtualBus::Worker::Clock::time_point VirtualBus::Worker::nextWakeUp() const
-{
-    Clock::time_point next = Clock::now() + (isNoisy ? NoiseStep : IdleStep);
-    for (const Pending &pending : m_pending)
-        next = std::min(next, pending.due);
-    return next;
-}
-
 void VirtualBus::Worker::serve()
 {
     advanceDrives();
@@ -197,7 +161,7 @@ void VirtualBus::Worker::serve()
     const Bytes bytes = port.read();
     if (!bytes.empty())
         take(bytes);
-    sendDue();
+    port.write(m_replies.takeDue(Clock::now()));
     if (isNoisy)
         makeNoise();
 }
@@ -254,20 +218,7 @@ void VirtualBus::Worker::reply(const Packet &request, const Packet &answer, Line
         due += ByteTime * static_cast<std::int64_t>(frame(request).size() + bytes.size());
     if (fault == LineFault::Late)
         due += damage.lateness();
-    m_pending.push_back({due, bytes});
-}
-
-void VirtualBus::Worker::sendDue()
-{
-    const Clock::time_point now = Clock::now();
-    for (auto pending = m_pending.begin(); pending != m_pending.end();) {
-        if (pending->due > now) {
-            ++pending;
-            continue;
-        }
-        port.write(pending->bytes);
-        pending = m_pending.erase(pending);
-    }
+    m_replies.add(due, bytes);
 }
 
 void VirtualBus::Worker::makeNoise()
@@ -282,7 +233,7 @@ void VirtualBus::Worker::pullPlug()
 {
     port.close();
     m_unplugging = false;
-    m_pending.clear();
+    m_replies.clear();
     isNoisy = false;
     changed.notify_all();
 }

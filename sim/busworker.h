@@ -4,11 +4,12 @@
 #ifndef SIM_BUSWORKER_H
 #define SIM_BUSWORKER_H
 
+#include "portlink.h"
 #include "pseudoterminal.h"
+#include "replyqueue.h"
 #include "virtualbus.h"
 
 #include <condition_variable>
-#include <deque>
 #include <mutex>
 #include <thread>
 
@@ -23,7 +24,8 @@ struct VirtualBus::Worker
 
     std::string start();
     void stop();
-    std::string plugIn(std::unique_lock<std::mutex> &lock);
+    /// With the lock held.
+    std::string plugIn();
     /// Asks the thread to let go of the port and waits until it has.
     void unplug(std::unique_lock<std::mutex> &lock);
     VirtualDrive *find(int address);
@@ -43,38 +45,28 @@ struct VirtualBus::Worker
     std::string stateError;
 
 private:
-    struct Pending
-    {
-        Clock::time_point due;
-        Bytes bytes;
-    };
-
     void run();
     void waitForWork(int descriptor, Clock::time_point until);
     void serve();
     void take(const Bytes &bytes);
     void handle(const Packet &request);
     void reply(const Packet &request, const Packet &answer, LineFault::Kind fault);
-    void sendDue();
     void makeNoise();
     void pullPlug();
     void advanceDrives();
     void saveIfChanged();
-    std::string makeLink();
-    void removeLink();
-    Clock::time_point nextWakeUp() const;
 
     std::thread m_thread;
     int m_wakeEvent = -1;
     bool m_running = false;
     bool m_stopping = false;
     bool m_unplugging = false;
-    bool m_linked = false;
     RequestParser m_parser;
     Clock::time_point m_lastByte;
     Clock::time_point m_lastAdvance;
     Clock::time_point m_lastNoise;
-    std::deque<Pending> m_pending;
+    ReplyQueue m_replies;
+    PortLink m_link;
     std::vector<unsigned> m_savedGenerations;
 };
 

@@ -115,6 +115,8 @@ void ServoAxis::control()
     const double limit = currentLimitAmperes();
     if (m_settings.mode == AxisSettings::Torque && m_brake.isFree()) {
         const double wanted = torqueSetpoint();
+        m_followed = static_cast<double>(m_position);
+        m_positionError = 0.0;
         m_loop.reset(static_cast<double>(m_velocity));
         m_nextCurrent = std::clamp(wanted, -limit, limit) * CurrentScale;
         noteLimit(std::abs(wanted) > limit);
@@ -134,6 +136,8 @@ void ServoAxis::control()
 double ServoAxis::wantedVelocity()
 {
     m_positionError = 0.0;
+    if (m_settings.mode != AxisSettings::Position || m_brake.isStopping())
+        m_followed = static_cast<double>(m_position);
     if (m_brake.isStopping())
         return 0.0;
     if (m_settings.mode == AxisSettings::Velocity)

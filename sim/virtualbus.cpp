@@ -61,8 +61,8 @@ void VirtualBus::unplug()
 
 std::string VirtualBus::plugIn()
 {
-    std::unique_lock lock(m_worker->mutex);
-    return m_worker->plugIn(lock);
+    std::lock_guard lock(m_worker->mutex);
+    return m_worker->plugIn();
 }
 
 bool VirtualBus::isPluggedIn() const

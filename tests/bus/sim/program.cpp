@@ -30,7 +30,7 @@ public:
             dup2(output[1], STDERR_FILENO);
             ::close(output[0]);
             ::close(output[1]);
-            arguments.insert(arguments.begin(), VELBRIN_BINARY_DIR "/sim/velbrin-sim");
+            arguments.insert(arguments.begin(), VELBRIN_BINARY_DIR "/bin/velbrin-sim");
             std::vector<char *> pointers;
             for (std::string &argument : arguments)
                 pointers.push_back(argument.data());

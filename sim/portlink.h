@@ -1,0 +1,31 @@
+/// \file
+/// A symbolic link to the bus's port, under a name that a program is willing to open.
+#ifndef SIM_PORTLINK_H
+#define SIM_PORTLINK_H
+
+#include <string>
+
+namespace sim {
+
+class PortLink
+{
+public:
+    /// An empty path makes no link.
+    explicit PortLink(std::string path) : m_path(std::move(path)) {}
+    ~PortLink() { remove(); }
+    PortLink(const PortLink &) = delete;
+    PortLink &operator=(const PortLink &) = delete;
+
+    /// Points the link at a port, in place of any link before. Empty on success, else what is in the way.
+    std::string make(const std::string &port);
+    /// Takes away what make() made.
+    void remove();
+
+private:
+    std::string m_path;
+    bool m_made = false;
+};
+
+} // namespace sim
+
+#endif
