@@ -37,11 +37,14 @@ Connection::~Connection()
         terminate();
         wait();
     }
+    // wait() has ordered the worker's last words before what follows, but out of the thread sanitizer's sight.
+    d->data.workerEnded.load();
 }
 
 void Connection::run()
 {
     d->worker.run();
+    d->data.workerEnded = true;
 }
 
 // --- Asking for work ----------------------------------------------------------------------------------------------

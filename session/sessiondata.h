@@ -26,6 +26,7 @@ struct SessionData
     int watchedParameter = 0;
     bool debugValuesShown = false;
 
+    std::atomic<bool> workerEnded{false};
     std::atomic<bool> connected{false};
     std::atomic<bool> firmwareUpgradeMode{false};
     std::atomic<int> deviceType{0};

@@ -211,6 +211,7 @@ TEST_F(Transfer, AForceEnableIsForTheDriveItWasAskedFor)
     session().command(Connection::TaskDisconnect);
     ASSERT_TRUE(waitForDisconnect());
     ASSERT_TRUE(connectTo());
+    ASSERT_TRUE(waitUntilIdle());
     session().setDriveEnableStatus(true);
     EXPECT_THAT(sentBy(Connection::TaskApplyEnableState), ElementsAre(wire("89e5 00000001")));
 }

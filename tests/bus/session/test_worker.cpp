@@ -43,6 +43,11 @@ struct LongTask
     void (*begin)(Connection &);
 };
 
+void PrintTo(const LongTask &task, std::ostream *out)
+{
+    *out << task.name;
+}
+
 const LongTask longTasks[] = {
     {"FullRead", [](Connection &session) { session.getParams(); }},
     {"FullWrite", [](Connection &session) { session.command(Connection::TaskSetParams); }},
