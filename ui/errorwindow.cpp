@@ -14,11 +14,11 @@ constexpr int RETRY_MS = 100;
 const char *const VITAL_TEXTS[] = {"Communication error", "Unable to connect", "never quiet",
                                    "did not take",        "not confirmed",     "not answer"};
 
-QString firstLine(const QString &html)
+QString oneLine(const QString &html)
 {
     QTextDocument document;
     document.setHtml(html);
-    return document.toPlainText().section(QLatin1Char('\n'), 0, 0, QString::SectionSkipEmpty).trimmed();
+    return document.toPlainText().simplified();
 }
 
 } // namespace
@@ -41,7 +41,7 @@ void ErrorWindow::showMessage(const QString &text)
     if (text.isEmpty())
         return;
     if (isVital(text))
-        emit vitalMessage(firstLine(text));
+        emit vitalMessage(oneLine(text));
     if (text == m_shown || m_waiting.contains(text))
         return;
     m_waiting.enqueue(text);

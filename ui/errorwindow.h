@@ -27,7 +27,7 @@ public slots:
     void showMessage(const QString &text);
 
 signals:
-    /// The first line of a vital message as plain text, for the status bar.
+    /// A vital message as one line of plain text, for the status bar.
     void vitalMessage(const QString &line);
 
 public:

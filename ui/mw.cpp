@@ -2,6 +2,7 @@
 #include "mw.h"
 
 #include "busydialog.h"
+#include "disablewatch.h"
 #include "errorwindow.h"
 #include "escapefilter.h"
 #include "firmwaredialog.h"
@@ -186,6 +187,12 @@ void MW::connectSession()
     connect(&m_connection, &Connection::busy, this, &MW::setBusy, type);
     connect(&m_connection, &Connection::setUnsavedState, this, &MW::setUnsavedStatus, type);
     connect(&m_connection, &Connection::controlModeChanged, this, &MW::deviceControlModeChanged, type);
+
+    m_disableWatch = new DisableWatch(this);
+    connect(m_disableWatch, &DisableWatch::report, this,
+            [this](const QString &text) { statusBar()->showMessage(text); });
+    connect(m_disableWatch, &DisableWatch::unconfirmed, m_errorWindow, &ErrorWindow::showMessage);
+    connect(&m_connection, &Connection::enableStatePolled, m_disableWatch, &DisableWatch::enableStatePolled, type);
 
     const auto changed = QOverload<int>::of(&QSpinBox::valueChanged);
     connect(m_form->MUL, changed, this, &MW::updateUnitLabels);

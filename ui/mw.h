@@ -17,6 +17,7 @@
 #include <memory>
 
 class BusyDialog;
+class DisableWatch;
 class ErrorWindow;
 class EscapeFilter;
 class FirmwareDialog;
@@ -197,6 +198,7 @@ private:
     QPushButton *m_saveAsPdfButton = nullptr;
     ErrorWindow *m_errorWindow = nullptr;
     EscapeFilter *m_escapeFilter = nullptr;
+    DisableWatch *m_disableWatch = nullptr;
     QLabel *m_connectionStatusLabel = nullptr;
     QTimer *m_applyTimer = nullptr;
     QTimer *m_helpTimer = nullptr;

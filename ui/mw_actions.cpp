@@ -1,4 +1,5 @@
 // Buttons and shortcuts that act on the connected drive at once.
+#include "disablewatch.h"
 #include "mw.h"
 #include "mwforms.h"
 
@@ -26,6 +27,7 @@ void MW::on_disable_drive_clicked()
     m_connection.setDriveForceEnableStatus(false);
     stopStimulus();
     m_connection.command(Connection::TaskApplyEnableState);
+    m_disableWatch->disableAsked(m_connection.isConnected() && !m_connection.isInFirmwareUpgradeMode());
 }
 
 void MW::on_clear_faults_clicked()

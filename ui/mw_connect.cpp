@@ -1,4 +1,5 @@
 // Connect page: choosing a port, searching the bus, choosing a drive, and what changes with the connection.
+#include "disablewatch.h"
 #include "firmwaredialog.h"
 #include "makerlinks.h"
 #include "mw.h"
@@ -8,6 +9,7 @@
 
 #include <QCheckBox>
 #include <QDebug>
+#include <QStatusBar>
 
 void MW::populateConnectionPortList()
 {
@@ -147,10 +149,13 @@ void MW::connectionStatusChanged(bool connected, QString text)
     m_firmwareDialog->form.resetToFactoryState->setVisible(
         m_connection.deviceHasCapability(Connection::CapResetToFactory));
 
-    if (connected)
+    if (connected) {
+        statusBar()->clearMessage(); // what was wrong before is over
         showMaximumSampleRate();
-    else
+    } else {
         showNoDevice();
+        m_disableWatch->connectionLost();
+    }
     updateUnitLabels();
     updateAllRules();
 }

@@ -7,6 +7,7 @@
 #include <QMenu>
 #include <QShortcut>
 #include <QSpinBox>
+#include <QStatusBar>
 
 namespace {
 
@@ -128,6 +129,28 @@ TEST_F(Escape, StopsTheStimulusAndIsNoToggle)
     EXPECT_FALSE(control<QCheckBox>("stimulusEnabled")->isChecked());
     expectDisable("once more", m_window.get());
     EXPECT_EQ(timesWritten(SOFT_ENABLE, 1), 0);
+}
+
+TEST_F(Escape, TellsWhenAPollShowsTheDriveDisabled)
+{
+    bus().set(DriveAddress, SOFT_ENABLE, 1);
+    press(Qt::Key_Escape);
+    ASSERT_TRUE(waitFor([this] { return m_window->statusBar()->currentMessage().startsWith("Disabled after "); }));
+    EXPECT_EQ(shownMessage(m_window.get()), QString());
+}
+
+TEST_F(Escape, TellsWhenNothingConfirmsTheDisable)
+{
+    sim::LineFault silence;
+    silence.kind = sim::LineFault::Deaf;
+    bus().setFault(silence);
+    press(Qt::Key_Escape);
+    ASSERT_TRUE(waitFor([this] { return shownMessage(m_window.get()).startsWith("The disable is not confirmed"); }));
+    EXPECT_TRUE(m_window->statusBar()->currentMessage().contains("hardware stop"));
+    ASSERT_TRUE(waitFor([this] { return connectionText() == "Disconnected"; }));
+    control<QDialog>("errorWindow")->close();
+    press(Qt::Key_Escape);
+    EXPECT_TRUE(m_window->statusBar()->currentMessage().startsWith("No drive is connected"));
 }
 
 TEST_F(Escape, SetpointShortcutsCrossAsTheHintsSay)
