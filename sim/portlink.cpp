@@ -20,15 +20,20 @@ std::string PortLink::make(const std::string &port)
     unlink(m_path.c_str());
     if (symlink(port.c_str(), m_path.c_str()) != 0)
         return m_path + ": " + std::strerror(errno);
-    m_made = true;
+    m_made = port;
     return {};
 }
 
 void PortLink::remove()
 {
-    if (m_made)
+    if (m_made.empty())
+        return;
+    // Another bus may have taken the name over since.
+    char target[256];
+    const ssize_t length = readlink(m_path.c_str(), target, sizeof target);
+    if (length > 0 && m_made == std::string(target, static_cast<std::size_t>(length)))
         unlink(m_path.c_str());
-    m_made = false;
+    m_made.clear();
 }
 
 } // namespace sim

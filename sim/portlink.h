@@ -18,12 +18,12 @@ public:
 
     /// Points the link at a port, in place of any link before. Empty on success, else what is in the way.
     std::string make(const std::string &port);
-    /// Takes away what make() made.
+    /// Takes away what make() made, if it is still that.
     void remove();
 
 private:
     std::string m_path;
-    bool m_made = false;
+    std::string m_made; ///< what the link points at; empty when there is none of ours
 };
 
 } // namespace sim

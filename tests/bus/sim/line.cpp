@@ -237,6 +237,18 @@ TEST(VirtualBus, RefusesWhatCannotBe)
     EXPECT_THAT(error({{"keta", 5}}, "", "COM1"), testing::HasSubstr("not a file"));
 }
 
+TEST(VirtualBus, LeavesALinkAloneThatAnotherBusTookOver)
+{
+    PrivateFolder folder;
+    sim::BusOptions options;
+    options.linkPath = "COM1";
+    sim::VirtualBus first(options), second(options);
+    ASSERT_EQ(first.start(), "");
+    ASSERT_EQ(second.start(), "");
+    first.stop();
+    EXPECT_EQ(std::filesystem::read_symlink("COM1").string(), second.portName());
+}
+
 TEST(VirtualBus, StopsAndStartsAgain)
 {
     sim::VirtualBus bus;

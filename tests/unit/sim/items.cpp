@@ -3,7 +3,9 @@
 
 #include "drivepacket.h"
 
+#include <cmath>
 #include <gmock/gmock.h>
+#include <random>
 
 using sim::Bytes;
 using testing::ElementsAre;
@@ -110,4 +112,29 @@ TEST(Packets, RequestIsTakenOnlyWithTheRightChecksum)
 TEST(Packets, EmptyVariablePacketGoesStraightToTheChecksum)
 {
     EXPECT_THAT(sim::frame({0x25, 0x05, {}}), ElementsAre(0x25, 0x00, 0x05, 0xD1, 0xC8));
+}
+
+TEST(Endurance, RandomRequestsNeverHurtARunningDrive)
+{
+    std::minstd_rand random(7);
+    for (const char *profile : {"keta", "torva"}) {
+        sim::VirtualDrive drive(*sim::findProfile(profile), 5);
+        drive.setRestartTime(std::chrono::milliseconds(1));
+        for (int request = 0; request < 5000; ++request) {
+            drive.set(sim::reg::SoftEnable, 1);
+            // A real register now and then, so that more than refusals happen.
+            const int registers[] = {200, 202, 411, 490, 551, 554, 555, 559, 560, 561, 802, 804, 806, 5011, 5020, 7532};
+            const int address = registers[random() % 16];
+            Bytes payload{std::uint8_t(0x80 | address >> 8), std::uint8_t(address)};
+            const std::size_t size = 2 + random() % 40;
+            while (payload.size() < size)
+                payload.push_back(std::uint8_t(random() >> 8));
+            const std::uint8_t id = random() % 3 ? sim::InstantCommand : sim::BufferedCommand;
+            drive.answer({id, std::uint8_t(drive.address()), payload});
+            drive.advanceCycles(3);
+            ASSERT_LT(std::abs(drive.axis().motor().velocity()), 1000.0) << "request " << request;
+            if (drive.isInUpgradeMode() || request % 500 == 0)
+                drive.powerUp({});
+        }
+    }
 }
