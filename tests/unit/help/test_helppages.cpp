@@ -1,0 +1,217 @@
+// The help pages against what they explain: links, the catalogue, the window's controls, the drive's limits and panels.
+#include "../../../ui/pagetable.h"
+
+#include "catalogue.h"
+#include "driveprofile.h"
+#include "helppages.h"
+#include "printqt.h"
+#include "statustexts.h"
+
+#include <QFileInfo>
+#include <QRegularExpression>
+#include <gtest/gtest.h>
+
+namespace {
+
+constexpr int shortestExplanation = 40; // characters
+
+const char *const bitFieldNames[] = {"CEN", "CED", "FBI", "AXI", "CEP", "CIS",
+                                     "FBH", "BAP", "HME", "HMS", "HMI", "HFO"};
+
+/// A value as people write it: no exponent, no zeros at the end.
+QString plain(double value)
+{
+    QString text = QString::number(value, 'f', 5);
+    text.remove(QRegularExpression(QStringLiteral("\\.?0+$")));
+    return text == QLatin1String("-0") ? QStringLiteral("0") : text;
+}
+
+struct Limits
+{
+    bool exists = false;
+    QString range, initial;
+};
+
+/// As the virtual drive of this model has them.
+Limits limitsOf(const SingleParam &p, const char *profile, const QString &unit)
+{
+    for (const sim::RegisterSpec &spec : sim::registersOf(*sim::findProfile(profile))) {
+        if (spec.address == p.addr)
+            return {true,
+                    plain(p.convertToGUIScale(spec.minimum)) + " to " + plain(p.convertToGUIScale(spec.maximum)) + unit,
+                    "default " + plain(p.convertToGUIScale(spec.initial)) + unit};
+    }
+    return {};
+}
+
+QString expectedRange(const SingleParam &p, const QString &unit)
+{
+    const Limits keta = limitsOf(p, "keta-pro", unit);
+    const Limits torva = limitsOf(p, "torva", unit);
+    QStringList differences;
+    if (torva.exists && torva.range != keta.range)
+        differences << torva.range;
+    if (torva.exists && torva.initial != keta.initial)
+        differences << torva.initial;
+    QString text = keta.range + ", " + keta.initial;
+    if (!differences.isEmpty())
+        text += ". Torva: " + differences.join(", ");
+    return text + '.';
+}
+
+/// The labels of a panel's lines, in order; `isSet` asks for those of flags that are on.
+QStringList labelsOf(const QString &panel, bool isSet)
+{
+    const QString circle = isSet ? QStringLiteral("&#9679;") : QStringLiteral("&#9675;");
+    QStringList labels;
+    const QStringList lines = panel.split(QStringLiteral("<br>"));
+    for (QString line : lines) {
+        if (line.startsWith(circle))
+            labels << line.mid(circle.size()).remove("&nbsp;").remove(QRegularExpression("<.*")).trimmed();
+    }
+    return labels;
+}
+
+using Panel = QString (*)(const DriveState &, bool &);
+
+QString panelText(Panel panel, const DriveState &state)
+{
+    bool inactivityReason = false;
+    return panel(state, inactivityReason);
+}
+
+/// Every flag of a register has a definition with its name and bit; gives the number of flags.
+int expectFlagsExplained(Panel panel, qint32 DriveState::*reg, const QString &prefix)
+{
+    int flags = 0;
+    for (int bit = 1; bit < 65536; bit *= 2) {
+        DriveState state;
+        state.*reg = bit;
+        const QStringList set = labelsOf(panelText(panel, state), true);
+        if (set.isEmpty())
+            continue;
+        ++flags;
+        const Definition definition = definitionOf(prefix + QString::number(bit));
+        EXPECT_EQ(definition.term, set.first() + " bit value " + QString::number(bit));
+        EXPECT_GE(definition.text.size(), shortestExplanation) << qPrintable(definition.term);
+    }
+    return flags;
+}
+
+} // namespace
+
+TEST(HelpPages, EveryLinkPictureAndAnchorExists)
+{
+    int followed = 0;
+    for (auto page = helpPages().begin(); page != helpPages().end(); ++page) {
+        EXPECT_EQ(page->repeatedAnchors, QStringList()) << qPrintable(page.key());
+        for (const QString &reference : page->references) {
+            const QString file = reference.section('#', 0, 0);
+            const QString anchor = reference.section('#', 1);
+            const QString where = page.key() + " -> " + reference;
+            EXPECT_FALSE(reference.contains(':')) << "leaves the help: " << qPrintable(where);
+            if (!file.isEmpty()) {
+                EXPECT_TRUE(QFileInfo(helpFolder() + file).isFile()) << qPrintable(where);
+            }
+            if (!anchor.isEmpty()) {
+                EXPECT_TRUE(helpPages().value(file.isEmpty() ? page.key() : file).anchors.contains(anchor))
+                    << qPrintable(where);
+            }
+            ++followed;
+        }
+    }
+    EXPECT_GT(followed, 300);
+}
+
+TEST(HelpPages, AllAreReachedFromTheFirstAndLeadBackToIt)
+{
+    const QString start = QStringLiteral("Velbrin.htm");
+    QStringList reached{start};
+    for (int i = 0; i < reached.size(); ++i) {
+        for (const QString &reference : helpPages().value(reached[i]).references) {
+            const QString file = reference.section('#', 0, 0);
+            if (file.endsWith(".htm") && !reached.contains(file))
+                reached.append(file);
+        }
+    }
+    for (auto page = helpPages().begin(); page != helpPages().end(); ++page) {
+        EXPECT_TRUE(reached.contains(page.key())) << qPrintable(page.key());
+        EXPECT_TRUE(page.key() == start || page->references.contains(start)) << qPrintable(page.key());
+    }
+}
+
+TEST(HelpPages, TheWindowsPagesAndTheMakersWikiPagesHaveACopy)
+{
+    for (const PageInfo &page : pageTable)
+        EXPECT_TRUE(helpPages().contains(QString(page.helpFile).section('/', -1))) << page.helpFile;
+    for (const char *wikiPage : {"Using_SinCos_encoder", "Using_resolver_feedback_device", "Fault_location",
+                                 "Device_connection_troubleshooting", "Firmware"})
+        EXPECT_TRUE(helpPages().contains(QString(wikiPage) + ".htm")) << wikiPage;
+}
+
+TEST(HelpPages, EverySettingIsExplainedOnce)
+{
+    QStringList names;
+    for (const char *name : bitFieldNames)
+        names << name;
+    const Parameters catalogue = driveParameterCatalogue();
+    for (int i = 0; i < catalogue.getParamCount(); ++i)
+        names << catalogue.getParam(i).name;
+    for (const QString &name : names) {
+        const Definition definition = definitionOf(name);
+        EXPECT_GE(definition.text.size() - definition.range.size(), shortestExplanation) << qPrintable(name);
+    }
+}
+
+TEST(HelpPages, ControlsAreNamedAsInTheWindowWithAllTheirChoices)
+{
+    ASSERT_GT(formControls().size(), 60);
+    for (auto control = formControls().begin(); control != formControls().end(); ++control) {
+        const Definition definition = definitionOf(control.key());
+        EXPECT_EQ(definition.term, control->label);
+        for (const QString &choice : control->choices)
+            EXPECT_TRUE(definition.range.contains(choice)) << qPrintable(control.key() + ": " + choice);
+    }
+}
+
+TEST(HelpPages, RangesAndDefaultsAreThoseOfTheDrive)
+{
+    int compared = 0;
+    const Parameters catalogue = driveParameterCatalogue();
+    for (int i = 0; i < catalogue.getParamCount(); ++i) {
+        const SingleParam p = catalogue.getParam(i);
+        const FormControl control = formControls().value(p.name);
+        const QString range = definitionOf(p.name).range;
+        if (control.kind == QLatin1String("QComboBox")) {
+            for (const sim::RegisterSpec &spec : sim::registersOf(*sim::findProfile("keta-pro"))) {
+                if (spec.address == p.addr) {
+                    const int index = static_cast<int>(p.convertToGUIScale(spec.initial));
+                    EXPECT_TRUE(range.endsWith("Default: " + control.choices.value(index) + '.'))
+                        << qPrintable(p.name + ": " + range);
+                }
+            }
+        } else if (control.kind == QLatin1String("QSpinBox") || control.kind == QLatin1String("QDoubleSpinBox")) {
+            EXPECT_EQ(range, expectedRange(p, control.unit.isEmpty() ? QString() : ' ' + control.unit))
+                << qPrintable(p.name);
+            ++compared;
+        }
+    }
+    EXPECT_GT(compared, 35);
+}
+
+TEST(HelpPages, EveryFaultAndStatusBitIsExplained)
+{
+    EXPECT_EQ(expectFlagsExplained(getFaultRegString, &DriveState::faultRegister, "fault-"), 15);
+    EXPECT_EQ(expectFlagsExplained(getStatusRegString, &DriveState::statusRegister, "status-"), 13);
+}
+
+TEST(HelpPages, EveryInputLineIsExplained)
+{
+    QStringList terms;
+    for (const Definition &definition : helpPages().value("Testing tab.htm").definitions)
+        terms << definition.term.split(", ");
+    const QStringList labels = labelsOf(panelText(getDigitalInsString, DriveState()), false);
+    EXPECT_EQ(labels.size(), 23);
+    for (const QString &label : labels)
+        EXPECT_TRUE(terms.contains(label)) << qPrintable(label);
+}
