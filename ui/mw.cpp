@@ -188,6 +188,7 @@ void MW::connectSession()
     connect(&m_connection, &Connection::setUnsavedState, this, &MW::setUnsavedStatus, type);
     connect(&m_connection, &Connection::controlModeChanged, this, &MW::deviceControlModeChanged, type);
 
+    connect(&m_updateChecker, &UpdateChecker::showMessage, this, &MW::handleUpdateCheckerMessage);
     m_disableWatch = new DisableWatch(this);
     connect(m_disableWatch, &DisableWatch::report, this,
             [this](const QString &text) { statusBar()->showMessage(text); });

@@ -8,6 +8,7 @@
 #include "connection.h"
 #include "controlbinding.h"
 #include "pendingchanges.h"
+#include "updatechecker.h"
 
 #include <QDialog>
 #include <QMainWindow>
@@ -155,6 +156,7 @@ private:
 
     // Parameter pages
     void setParams();
+    void sendUpdateQuery();
     void fillControls(bool bareCatalogue);
     void showDeviceType(int typeId);
     void connectDynamicSpinboxLabels();
@@ -210,6 +212,7 @@ private:
     PendingChanges m_pending;
     QList<QLabel *> m_unitLabels; ///< labels that show their control in machine units
     CapturePlotter m_plotter;
+    UpdateChecker m_updateChecker;
     QList<CaptureData> m_captures; ///< the last capture, kept for plotting it again
     QString m_lastDirectory = QStringLiteral("~");
     QString m_lastFirmwareFolder = QStringLiteral("~");

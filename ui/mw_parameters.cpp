@@ -6,6 +6,7 @@
 #include "mwforms.h"
 #include "sanitychecks.h"
 #include "unitconversion.h"
+#include "version.h"
 #include "visibility.h"
 
 #include <QDebug>
@@ -20,6 +21,8 @@ void MW::paramsRetreived(Parameters params, bool loadedFromFile)
     const double frequency = params.getParam(QStringLiteral("PIF")).value;
     if (frequency > 0)
         m_loopFrequency = frequency;
+    if (params.getParam(QStringLiteral("TCFWVER")).value > 0) // a drive was read
+        sendUpdateQuery();
     fillControls(bareCatalogue);
     if (!loadedFromFile)
         m_valuesArrived = m_connection.isConnected();
@@ -32,6 +35,13 @@ void MW::paramsRetreived(Parameters params, bool loadedFromFile)
     updateUnitLabels();
     updateAllRules();
     updateApplyButtonState();
+}
+
+void MW::sendUpdateQuery()
+{
+    const auto value = [this](const char *name) { return int(m_params.getParam(QLatin1String(name)).value); };
+    m_updateChecker.sendCheckRequest(QLatin1String(VELBRIN_VERSION), value("HWTYPE"), value("HWSERIAL"), value("FWVER"),
+                                     value("TCFWVER"), value("UID"));
 }
 
 void MW::fillControls(bool bareCatalogue)

@@ -6,6 +6,7 @@
 #include "itemcodec.h"
 #include "virtualbusfixture.h" // before Qt, whose keywords it uses as names
 
+#include "loopbackhttpserver.h"
 #include "mw.h"
 #include "printqt.h"
 
@@ -18,8 +19,6 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QSignalSpy>
-#include <QTcpServer>
-#include <QTcpSocket>
 #include <QTest>
 #include <QTextEdit>
 #include <QTimer>
@@ -31,35 +30,25 @@ inline bool waitFor(const std::function<bool()> &condition, int limitMs = 10000)
 }
 
 /// Answers every request with a small page that names its path, or with nothing at all while silent.
-class LoopbackWiki : public QTcpServer
+class LoopbackWiki : public LoopbackHttpServer
 {
 public:
     LoopbackWiki()
     {
-        listen(QHostAddress::LocalHost);
-        connect(this, &QTcpServer::newConnection, this, [this] { accept(nextPendingConnection()); });
-    }
-    QString address() const { return QStringLiteral("http://127.0.0.1:%1").arg(serverPort()); }
-
-    QStringList paths; ///< of all requests
-    bool silent = false;
-
-private:
-    void accept(QTcpSocket *socket)
-    {
-        connect(socket, &QTcpSocket::disconnected, socket, &QObject::deleteLater);
-        connect(socket, &QTcpSocket::readyRead, this, [this, socket] {
-            const QString path = QString::fromLatin1(socket->readLine()).section(' ', 1, 1);
-            socket->readAll();
+        handler = [this](QTcpSocket *socket) {
+            const QByteArray path = requests.last().split(' ').value(1);
             paths << path;
             if (silent)
                 return;
-            const QByteArray body = "<html><body>online " + path.toLatin1() + "</body></html>";
-            socket->write("HTTP/1.0 200 OK\r\nContent-Type: text/html\r\nContent-Length: " +
+            const QByteArray body = "<html><body>online " + path + "</body></html>";
+            socket->write("HTTP/1.1 200 OK\r\nContent-Type: text/html\r\nConnection: close\r\nContent-Length: " +
                           QByteArray::number(body.size()) + "\r\n\r\n" + body);
             socket->disconnectFromHost();
-        });
+        };
     }
+
+    QStringList paths; ///< of all requests
+    bool silent = false;
 };
 
 /// Presses the buttons that a test expects to be asked for, in order; any other modal box fails the test.
@@ -154,6 +143,8 @@ protected:
     {
         VirtualBusFixture::SetUp();
         qputenv("VELBRIN_WIKI", m_wiki.address().toLatin1());
+        qputenv("VELBRIN_UPDATE_SERVER", m_updates.address().toLatin1());
+        m_updates.answer("VELBRINREPLY NOMESSAGE");
     }
     void TearDown() override
     {
@@ -255,6 +246,7 @@ protected:
     }
 
     LoopbackWiki m_wiki;
+    LoopbackHttpServer m_updates;
     Answerer m_answers;
     std::unique_ptr<MW> m_window;
 };
