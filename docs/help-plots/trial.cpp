@@ -32,13 +32,13 @@ std::vector<sim::AxisSignals> run(const Trial &trial)
     for (int i = 0; i < SettleCycles; ++i)
         cycle(axis);
 
-    std::vector<sim::AxisSignals> signals = {axis.signals()};
+    std::vector<sim::AxisSignals> signals = {axis.readings()};
     for (int i = 0; i < trial.cycles; ++i) {
         axis.setSetpoint(trial.setpoint(i));
         if (trial.load)
             axis.inputs().loadTorque = trial.load(i);
         cycle(axis);
-        signals.push_back(axis.signals());
+        signals.push_back(axis.readings());
     }
     return signals;
 }
