@@ -1,0 +1,126 @@
+// The test stimulus: what is streamed, when, and how it ends.
+#include "sessionfixture.h"
+
+using testing::SizeIs;
+
+namespace {
+
+const std::string readFree = wire("800a 400000 8009 400006");
+
+class Stimulus : public SessionFixture
+{
+protected:
+    void SetUp() override
+    {
+        SessionFixture::SetUp();
+        ASSERT_TRUE(connectTo());
+        ASSERT_TRUE(waitUntilIdle());
+        bus().clearReceived();
+    }
+    void start() { session().setStimulus(100, 0.11, -3.7, 10, true); }
+    void stop() { session().setStimulus(100, 0.11, -3.7, 10, false); }
+    std::vector<std::string> uploads()
+    {
+        std::vector<std::string> result;
+        for (const sim::ReceivedRequest &request : bus().received()) {
+            if (request.packet.id == 52)
+                result.push_back(hex(request.packet.payload));
+        }
+        return result;
+    }
+    bool waitForUploads(int count)
+    {
+        return waitUntil([this, count] { return int(uploads().size()) >= count; });
+    }
+    bool waitForClock()
+    {
+        return bus().waitForReceived(
+            [](const sim::ReceivedRequests &all) { return !all.empty() && all.back().packet.id == 80; });
+    }
+};
+
+} // namespace
+
+TEST_F(Stimulus, BeginsWithThePeriodTheSetUpAndNineChunks)
+{
+    start();
+    ASSERT_TRUE(waitForClock());
+    EXPECT_EQ(payloads().front(), wire("8008 000000c8") + readFree) << "200 times 0.1 ms";
+    const std::vector<std::string> chunks = uploads();
+    ASSERT_THAT(chunks, SizeIs(9));
+    std::string first = wire("8009 400006 800a 400002 8227"); // five items, then 25 setpoints
+    for (int i = 0; i < 5; ++i)
+        first += "400064";
+    for (int i = 0; i < 20; ++i)
+        first += "7ffffd"; // -3.7 is cut to -3
+    EXPECT_EQ(chunks[0], first);
+    for (std::size_t i = 1; i < chunks.size(); ++i)
+        EXPECT_EQ(chunks[i].size(), 2u * 3 * 30);
+    EXPECT_TRUE(log().errors.isEmpty());
+}
+
+TEST_F(Stimulus, StoppedAndStartedAgainItGoesOnWithoutSetUp)
+{
+    start();
+    ASSERT_TRUE(waitForClock());
+    stop();
+    ASSERT_TRUE(waitUntilIdle());
+    EXPECT_EQ(payloads().back(), wire("822a 00000004"));
+    ASSERT_TRUE(bus().waitForRegister(5, 6, 2048)) << "the buffer is empty";
+
+    bus().clearReceived();
+    start();
+    ASSERT_TRUE(waitForClock());
+    EXPECT_EQ(payloads().front(), readFree);
+    ASSERT_THAT(uploads(), SizeIs(9));
+    EXPECT_EQ(uploads().front().substr(0, 36), wire("400064 400064 400064 400064 400064 7ffffd"));
+    EXPECT_TRUE(log().errors.isEmpty());
+}
+
+TEST_F(Stimulus, ANewConnectionBeginsAnewAndDoesNotMoveByItself)
+{
+    start();
+    ASSERT_TRUE(waitForClock());
+    bus().clearReceived();
+    session().command(Connection::TaskDisconnect);
+    ASSERT_TRUE(waitForDisconnect());
+    const std::vector<std::string> sent = payloads();
+    ASSERT_GE(sent.size(), 2u);
+    EXPECT_EQ(sent[sent.size() - 2], wire("822a 00000004")) << "the stream is stopped first";
+    EXPECT_EQ(sent.back(), wire("800f 00000000"));
+
+    ASSERT_TRUE(connectTo());
+    const int before = log().statusPanels.size();
+    ASSERT_TRUE(waitUntil([&] { return log().statusPanels.size() > before + 1; }));
+    EXPECT_THAT(uploads(), SizeIs(0));
+    bus().clearReceived();
+    start();
+    ASSERT_TRUE(waitForClock());
+    EXPECT_EQ(payloads().front(), wire("8008 000000c8") + readFree);
+}
+
+TEST_F(Stimulus, NeverRunsDryBesidePollsAndACapture)
+{
+    session().setDriveEnableStatus(true);
+    session().command(Connection::TaskApplyEnableState);
+    session().setStimulus(100, 0.5, -100, 0.5, true);
+    ASSERT_TRUE(waitForClock());
+    session().setupCapture(20000, 3, {true, true, true});
+    session().command(Connection::TaskInitScope);
+    int most = 0;
+    bool up = false, down = false;
+    // Longer than the five seconds that the buffer holds.
+    waitUntil(
+        [&] {
+            most = std::max(most, bus().read(5, 6));
+            up |= bus().read(5, 957) == 100;
+            down |= bus().read(5, 957) == -100;
+            return false;
+        },
+        6500);
+    EXPECT_LT(most, 2048 - 50 * 4) << "always more than a second of setpoints left";
+    EXPECT_TRUE(up && down) << "the setpoint in use follows the square wave";
+    EXPECT_THAT(log().plots, SizeIs(1));
+    EXPECT_GE(log().statusPanels.size(), 8);
+    EXPECT_TRUE(log().errors.isEmpty());
+}
