@@ -1,0 +1,361 @@
+// The firmware upgrade: what reaches the flash, what is told, and that every failure is told exactly once.
+#include "sessionfixture.h"
+
+#include <QFile>
+
+using testing::Contains;
+using testing::ElementsAre;
+using testing::ElementsAreArray;
+using testing::HasSubstr;
+using testing::Not;
+using testing::SizeIs;
+using Fault = sim::LineFault;
+
+namespace {
+
+using Words = std::vector<std::uint16_t>;
+
+Words numberedWords(int count)
+{
+    Words words;
+    for (int i = 0; i < count; ++i)
+        words.push_back(static_cast<std::uint16_t>(0xA000 + i));
+    return words;
+}
+
+/// A firmware file: magic, version 300, type, lengths, I/O image, core image, sum of all bytes.
+QString writeFirmware(int type, const Words &io, const Words &core = {})
+{
+    QByteArray data("TDFW");
+    const auto put = [&data](quint32 value, int bytes) {
+        for (int i = 0; i < bytes; ++i)
+            data.append(static_cast<char>(value >> (8 * i)));
+    };
+    put(300, 2);
+    put(type, 2);
+    put(2 * io.size(), 4);
+    put(2 * core.size(), 4);
+    for (std::uint16_t word : io)
+        put(word, 2);
+    for (std::uint16_t word : core)
+        put(word, 2);
+    quint32 sum = 0;
+    for (char byte : data)
+        sum += static_cast<quint8>(byte);
+    put(sum, 4);
+    QFile file(QDir::currentPath() + "/firmware.tdf");
+    EXPECT_TRUE(file.open(QIODevice::WriteOnly) && file.write(data) == data.size());
+    return file.fileName();
+}
+
+class Flashing : public SessionFixture
+{
+protected:
+    sim::BusOptions busOptions() const override { return upgradeModeOf("keta"); }
+    static sim::BusOptions upgradeModeOf(const char *profile)
+    {
+        sim::BusOptions options;
+        options.drives = {{profile, 5, true}};
+        return options;
+    }
+    void SetUp() override
+    {
+        SessionFixture::SetUp();
+        session().setPauseScale(0.001);
+    }
+    bool connectToBootloader()
+    {
+        const bool connected = connectTo(255);
+        waitUntilIdle();
+        bus().clearReceived();
+        log().upgrade.clear();
+        return connected;
+    }
+    /// Flashes and waits for the final message.
+    bool flash(const QString &file, bool resetToFactory = false)
+    {
+        session().setFirmwareFileName(file, resetToFactory);
+        session().command(Connection::TaskFlashFirmware);
+        return waitUntil([this] { return !log().upgrade.isEmpty() && log().upgrade.last().done; });
+    }
+    std::vector<std::string> told()
+    {
+        std::vector<std::string> texts;
+        for (const SessionLog::UpgradeMessage &message : log().upgrade)
+            texts.push_back(message.text.toStdString());
+        return texts;
+    }
+    int finalMessages()
+    {
+        return std::count_if(log().upgrade.begin(), log().upgrade.end(),
+                             [](const auto &message) { return message.done; });
+    }
+    Words programmed()
+    {
+        Words words;
+        bus().withDrive(5, [&words](sim::VirtualDrive &drive) { words = drive.bootloader().programmedWords(); });
+        return words;
+    }
+};
+
+class FlashingTorva : public Flashing
+{
+    sim::BusOptions busOptions() const override { return upgradeModeOf("torva"); }
+};
+
+struct Failure
+{
+    const char *name;
+    const char *profile;
+    void (*prepare)(sim::VirtualBus &);
+    const char *reason; ///< in the log before the final message
+    const char *final;
+};
+
+void PrintTo(const Failure &failure, std::ostream *out)
+{
+    *out << failure.name;
+}
+
+template <int register_, int value, int after = 0> void refuse(sim::VirtualBus &bus)
+{
+    bus.withDrive(5, [](sim::VirtualDrive &drive) {
+        drive.refuseWrites(register_, value < 0 ? std::nullopt : std::optional<std::int32_t>(value), after);
+    });
+}
+
+template <Fault::Kind kind, int skip> void damage(sim::VirtualBus &bus)
+{
+    Fault fault;
+    fault.kind = kind;
+    fault.skip = skip;
+    bus.setFault(fault);
+}
+
+const char *const ketaFailed = "Flashing firmware failed. Power off, reconnect and try again.";
+const char *const coreFailed = "Flashing TarnwellCore firmware failed. Power off, reconnect and try again.";
+
+// The upgrade's exchanges: erase 0, query 1, length control 2, chunks 3 to 12 (of 320 words), verify 13.
+const Failure failures[] = {
+    {"EraseRefused", "keta", refuse<191, 1>, "Errors occurred: ", ketaFailed},
+    {"UploadedWordRefused", "keta", refuse<192, -1, 100>, "* Command fail (NACK)", ketaFailed},
+    {"EraseUnanswered", "keta", damage<Fault::Missing, 0>, "Communication error flags:", ketaFailed},
+    {"LineLostAtTheFirstChunk", "keta", damage<Fault::Unplugged, 3>, "Communication error flags:", ketaFailed},
+    {"LineLostAtAMiddleChunk", "keta", damage<Fault::Missing, 7>, "Communication error flags:", ketaFailed},
+    {"LineLostAtTheLastChunk", "keta", damage<Fault::Unplugged, 12>, "Communication error flags:", ketaFailed},
+    {"VerificationUnanswered", "keta", damage<Fault::Missing, 14>, "Communication error flags:", ketaFailed},
+    {"VerificationFailed", "keta",
+     [](sim::VirtualBus &bus) {
+         bus.withDrive(5, [](sim::VirtualDrive &drive) { drive.bootloader().setVerificationFails(true); });
+     },
+     "did not pass device's verification", ketaFailed},
+    {"CoreRefused", "torva", refuse<191, 5>, "Errors occurred: ", coreFailed},
+    {"LineLostInTheCore", "torva", damage<Fault::Unplugged, 18>, "Communication error flags:", coreFailed},
+};
+
+class FailedUpgrade : public Flashing, public testing::WithParamInterface<Failure>
+{
+    sim::BusOptions busOptions() const override { return upgradeModeOf(GetParam().profile); }
+};
+
+} // namespace
+
+TEST_F(Flashing, ThirtyThreeWordsAreTwoChunksFilledUp)
+{
+    ASSERT_TRUE(connectToBootloader());
+    const Words image = numberedWords(33);
+    const QString file = writeFirmware(11000, image);
+    ASSERT_TRUE(flash(file));
+    EXPECT_THAT(told(), ElementsAre((file + " firmware file loaded successfully").toStdString(),
+                                    "<b>Uploading firmware</b>", "Erasing existing firmware on device...",
+                                    "Done. Uploading new firmware...", "Uploaded bytes: 128", "Done!",
+                                    "Write protecting flash.", "Device memory contents verified and passed",
+                                    HasSubstr("<b>All done with success!</b> Drive has been started")));
+    EXPECT_FALSE(log().upgrade.last().failed);
+
+    std::string firstChunk = "80c0", secondChunk = "80c0 40a020"; // register 192
+    for (int i = 0; i < 32; ++i)
+        firstChunk += "40" + hex({0xa0, std::uint8_t(i)});
+    for (int i = 0; i < 31; ++i)
+        secondChunk += "40eeee";
+    const std::string program = "80bf 400002"; // register 191
+    ASSERT_TRUE(waitForDisconnect());
+    EXPECT_THAT(payloads(),
+                ElementsAre(wire("80bf 00000001"), wire("800a 400000 8009 40000d 800d 00000000"), wire("800a 00000003"),
+                            wire(firstChunk + program), wire(secondChunk + program), wire("80bf 00000003"),
+                            wire("800a 400000 8009 400228"), wire("80bf 00000007"), wire("80bf 00000004")));
+    Words expected = image;
+    expected.resize(64, 0xEEEE);
+    EXPECT_THAT(programmed(), ElementsAreArray(expected));
+    EXPECT_TRUE(log().errors.isEmpty());
+
+    session().setPauseScale(1);
+    EXPECT_TRUE(connectTo(16)) << "the one-time address of the new firmware";
+}
+
+TEST_F(Flashing, AFullProgressLineIsToldTwice)
+{
+    ASSERT_TRUE(connectToBootloader());
+    ASSERT_TRUE(flash(writeFirmware(11000, numberedWords(1024))));
+    const std::vector<std::string> texts = told();
+    EXPECT_EQ(std::count(texts.begin(), texts.end(), "Uploaded bytes: 2048"), 2);
+}
+
+TEST_F(Flashing, ABootloaderIsOnlyAskedForWhatItKnows)
+{
+    struct Version
+    {
+        int version;
+        bool verifies, protects;
+    };
+    for (const Version &bootloader :
+         {Version{1209, false, false}, {1210, true, false}, {1259, true, false}, {1260, true, true}}) {
+        SCOPED_TRACE(bootloader.version);
+        startBus(busOptions());
+        bus().withDrive(5, [&](sim::VirtualDrive &drive) { drive.bootloader().setVersion(bootloader.version); });
+        newSession();
+        session().setPauseScale(0.001);
+        ASSERT_TRUE(connectToBootloader());
+        ASSERT_TRUE(flash(writeFirmware(11000, numberedWords(32))));
+        EXPECT_FALSE(log().upgrade.last().failed);
+        const std::vector<std::string> sent = payloads();
+        EXPECT_EQ(std::count(sent.begin(), sent.end(), wire("80bf 00000003")), bootloader.verifies);
+        EXPECT_EQ(std::count(sent.begin(), sent.end(), wire("80bf 00000007")), bootloader.protects);
+        const std::vector<std::string> texts = told();
+        EXPECT_EQ(std::count(texts.begin(), texts.end(), "Device memory contents verified and passed"),
+                  bootloader.verifies);
+    }
+}
+
+TEST_F(Flashing, AKetaResetsItsSettingsWithTheErase)
+{
+    ASSERT_TRUE(connectToBootloader());
+    ASSERT_TRUE(flash(writeFirmware(11000, numberedWords(32)), true));
+    EXPECT_EQ(payloads().front(), wire("80bf 0000000b"));
+}
+
+TEST_F(FlashingTorva, WritesBothProcessors)
+{
+    ASSERT_TRUE(connectToBootloader());
+    const Words io = numberedWords(64), core = numberedWords(96);
+    ASSERT_TRUE(flash(writeFirmware(4000, io, core), true));
+    EXPECT_EQ(payloads().front(), wire("80bf 00000001")) << "the reset is a Keta's";
+    EXPECT_THAT(told(), Contains("<b>STEP1: I/O side firmware</b>"));
+    EXPECT_THAT(told(), Contains("I/O side flash contents verified and passed"));
+    EXPECT_THAT(told(), Contains("<b>STEP2: TarnwellCore firmware</b>"));
+    EXPECT_THAT(told(), Contains("TarnwellCore flash contents verified and passed"));
+    EXPECT_FALSE(log().upgrade.last().failed);
+    EXPECT_THAT(programmed(), ElementsAreArray(io));
+    bus().withDrive(
+        5, [&](sim::VirtualDrive &drive) { EXPECT_THAT(drive.bootloader().coreWords(), ElementsAreArray(core)); });
+    int chunks = 0, programCommands = 0;
+    for (const std::string &payload : payloads()) {
+        chunks += payload.rfind("80c0", 0) == 0;
+        programCommands += payload.find("80bf400002") != std::string::npos;
+    }
+    EXPECT_EQ(chunks, 2 + 3);
+    EXPECT_EQ(programCommands, 2) << "none in the core step";
+}
+
+TEST_F(FlashingTorva, WithoutACoreImageTheCoreStaysAsItIs)
+{
+    ASSERT_TRUE(connectToBootloader());
+    ASSERT_TRUE(flash(writeFirmware(4000, numberedWords(32))));
+    EXPECT_THAT(told(),
+                Contains("The FW file does not contain TarnwellCore firmware, previously installed TarnwellCore "
+                         "FW will remain intact"));
+    EXPECT_FALSE(log().upgrade.last().failed);
+    EXPECT_THAT(payloads(), Not(Contains(wire("80bf 00000005"))));
+}
+
+TEST_F(Flashing, AFileThatIsNotForThisDriveErasesNothing)
+{
+    struct BadFile
+    {
+        QString name;
+        const char *message;
+    };
+    const auto fresh = [](int type, const Words &io, const char *name) {
+        QFile::copy(writeFirmware(type, io), name);
+        return QString(name);
+    };
+    const QList<BadFile> files = {
+        {"missing.tdf", "Error: Can't open file"},
+        {fresh(4000, numberedWords(32), "torva.tdf"),
+         "Error: Selected firmware file not meant for the connected device type"},
+        {fresh(11000, {}, "empty.tdf"), "Error: The file does not contain a firmware"},
+    };
+    for (const BadFile &file : files) {
+        newSession();
+        ASSERT_TRUE(connectToBootloader());
+        ASSERT_TRUE(flash(file.name));
+        EXPECT_THAT(told(), ElementsAre(file.message));
+        EXPECT_TRUE(log().upgrade.last().failed);
+        ASSERT_TRUE(waitUntilIdle());
+        EXPECT_THAT(payloads(), Not(Contains(HasSubstr("80bf"))));
+        EXPECT_TRUE(session().isConnected());
+    }
+}
+
+TEST_F(Flashing, NeedsADriveInUpgradeMode)
+{
+    ASSERT_TRUE(flash(writeFirmware(11000, numberedWords(32))));
+    EXPECT_THAT(told(), ElementsAre("Error: No device in firmware upgrade mode is connected"));
+    EXPECT_TRUE(log().upgrade.last().failed);
+}
+
+TEST_P(FailedUpgrade, IsToldOnceAndCanBeRepeated)
+{
+    const bool torva = std::string(GetParam().profile) == "torva";
+    session().setReplyTimeout(100);
+    ASSERT_TRUE(connectToBootloader() || connectToBootloader()); // the time-out is short for a busy machine
+    GetParam().prepare(bus());
+    const QString file =
+        torva ? writeFirmware(4000, numberedWords(320), numberedWords(320)) : writeFirmware(11000, numberedWords(320));
+    ASSERT_TRUE(flash(file));
+    session().command(Connection::TaskDisconnect);
+    ASSERT_TRUE(waitForDisconnect());
+    ASSERT_TRUE(waitUntilIdle());
+    EXPECT_EQ(finalMessages(), 1);
+    EXPECT_TRUE(log().upgrade.last().failed);
+    EXPECT_THAT(told().back(), HasSubstr(GetParam().final));
+    EXPECT_THAT(told(), Contains(HasSubstr(GetParam().reason)));
+    EXPECT_TRUE(log().errors.isEmpty()) << "it has been told in the log of the upgrade";
+
+    // Cut off: powered again it comes up in upgrade mode, is found there and takes the upgrade.
+    bus().clearFaults();
+    bus().withDrive(5, [](sim::VirtualDrive &drive) {
+        drive.acceptWrites();
+        drive.bootloader().setVerificationFails(false);
+    });
+    if (!bus().isPluggedIn()) {
+        ASSERT_EQ(bus().plugIn(), "");
+    }
+    bus().powerCycle();
+    if (bus().read(5, 2) != 0) // nothing had been erased
+        bus().withDrive(5, [](sim::VirtualDrive &drive) { drive.powerUpInUpgradeMode(); });
+    session().setReplyTimeout(1000);
+    ASSERT_TRUE(connectToBootloader());
+    ASSERT_TRUE(flash(file));
+    EXPECT_FALSE(log().upgrade.last().failed);
+    EXPECT_THAT(programmed(), SizeIs(320));
+}
+
+INSTANTIATE_TEST_SUITE_P(Any, FailedUpgrade, testing::ValuesIn(failures),
+                         [](const auto &info) { return info.param.name; });
+
+TEST_F(SessionFixture, ADriveRestartedIntoUpgradeModeIsTakenForWhatItIs)
+{
+    ASSERT_TRUE(connectTo());
+    session().setPauseScale(0.1); // longer than the virtual drive restarts
+    session().command(Connection::TaskRestartToDFU);
+    ASSERT_TRUE(waitUntil([this] { return session().isInFirmwareUpgradeMode(); }));
+    session().command(Connection::TaskUpdateStatus);
+    ASSERT_TRUE(waitUntilIdle());
+    EXPECT_TRUE(session().isConnected());
+    bus().clearReceived();
+    session().command(Connection::TaskDisconnect);
+    ASSERT_TRUE(waitForDisconnect());
+    EXPECT_THAT(payloads(), Not(Contains(wire("800f 00000000")))) << "a bootloader has no watchdog";
+    EXPECT_TRUE(log().errors.isEmpty());
+}
