@@ -51,10 +51,11 @@ QString FirmwareFile::loadFile(const QString &fileName, int connectedType)
         return tr("Unsupported FW file version");
     if (deviceType / 1000 != connectedType / 1000)
         return tr("Selected firmware file not meant for the connected device type");
-    if (file.size() > largestFile)
+    const qint64 fileSize = file.size();
+    if (fileSize > largestFile)
         return tr("File corrupted");
 
-    bytes += file.read(largestFile);
+    bytes += file.read(fileSize); // room for no more than there is
     const qint64 tcBegin = headerSize + std::max(ioImageLength / 2, 0) * qint64(2);
     const qint64 tcEnd = tcBegin + std::max(tcImageLength / 2, 0) * qint64(2);
     ioImage += wordsAt(bytes, headerSize, ioImageLength);

@@ -69,10 +69,13 @@ QByteArray settingsText(const QList<SingleParam> &list)
 std::optional<QByteArray> readPlainFile(const QString &fileName)
 {
     QFile file(fileName);
-    if (!QFileInfo(fileName).isFile() || !file.open(QIODevice::ReadOnly) || file.size() > largestFile)
+    if (!QFileInfo(fileName).isFile() || !file.open(QIODevice::ReadOnly))
         return std::nullopt;
-    const QByteArray bytes = file.read(largestFile + 1);
-    if (file.error() != QFileDevice::NoError || bytes.size() > largestFile)
+    const qint64 fileSize = file.size();
+    if (fileSize > largestFile)
+        return std::nullopt;
+    const QByteArray bytes = file.read(fileSize); // room for no more than there is
+    if (file.error() != QFileDevice::NoError)
         return std::nullopt;
     return bytes;
 }
