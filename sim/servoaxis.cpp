@@ -67,6 +67,7 @@ void ServoAxis::cycle()
     measure();
     m_limit.advance(m_settings, m_motor.amperes());
     checkSupply();
+    readClearInput();
     m_brake.advance(m_settings, mayRun(), m_faults != 0 || m_inputs.safeTorqueOff || m_permanentStop);
     const bool isRunning = m_brake.isPowered();
     if (isRunning && !m_wasRunning)
@@ -209,6 +210,15 @@ void ServoAxis::readAnalogSetpoint()
     if (input == 0 || input == 1)
         m_setpoint = static_cast<std::int32_t>(
             std::lround(m_inputs.analog[input] / MillivoltsFullScale * FullScale + m_settings.setpointOffset));
+}
+
+/// Closing the input clears; holding it closed does not keep the axis clear.
+void ServoAxis::readClearInput()
+{
+    const bool isClosed = controlInputs() & InputClearFaults;
+    if (isClosed && !m_clearInputWasClosed)
+        clearFaults();
+    m_clearInputWasClosed = isClosed;
 }
 
 std::int64_t ServoAxis::setpointInCounts() const

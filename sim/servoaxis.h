@@ -82,6 +82,7 @@ private:
     double blockedBySwitches(double velocity) const;
     double torqueSetpoint() const;
     void readAnalogSetpoint();
+    void readClearInput();
     std::int64_t setpointInCounts() const;
     double currentLimitAmperes() const;
     void noteLimit(bool isHeld);
@@ -124,6 +125,7 @@ private:
     bool m_recovering = false; ///< on the way to the setpoint at recovery velocity
     bool m_isBlocked = false;  ///< by a limit switch
     bool m_justZeroed = false;
+    bool m_clearInputWasClosed = false;
     std::int32_t m_faults = 0;
     int m_faultLocation = 0;
     LimitReason m_limitReason = LimitReason::None;

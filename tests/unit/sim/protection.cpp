@@ -113,6 +113,17 @@ TEST_F(Protection, SettingsProvokeEachElectricalFault)
     }
 }
 
+TEST_F(Protection, ClosingTheClearInputClearsOnce)
+{
+    drive.set(reg::Faults, FaultFeedback);
+    drive.set(reg::ControlInputs, InputEnable | InputClearFaults);
+    drive.advanceCycles(2);
+    EXPECT_EQ(faults(), 0);
+    drive.set(reg::Faults, FaultFeedback);
+    drive.advanceCycles(2);
+    EXPECT_EQ(faults(), FaultFeedback);
+}
+
 TEST_F(Protection, LowSupplyIsNoFaultWhileDisabled)
 {
     drive.set(reg::BusVoltage, 1500);
