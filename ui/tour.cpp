@@ -5,6 +5,7 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QComboBox>
 #include <QDialogButtonBox>
 #include <QDir>
 #include <QLabel>
@@ -22,6 +23,8 @@ constexpr int tickMs = 50;
 constexpr int stopLimitMs = 30000;   ///< nothing on the virtual drive takes longer than a few seconds
 constexpr int settleMs = 400;        ///< for the help pane, and for what the next poll changes on a page
 constexpr int testMoveTarget = 1000; ///< setpoint units; half of the virtual drive's tracking error limit
+
+const char *const captureRate = "2500 Hz"; ///< the recorder's memory then holds the whole move
 
 const char *const pageFiles[] = {"welcome", "connect", "goals", "machine", "tuning", "fault-limits", "testing"};
 enum Page { Connect = 1, Tuning = 4, Testing = 6 };
@@ -93,6 +96,11 @@ bool applyButtonSays(const char *text)
 {
     const auto *button = find<QPushButton>("apply_button");
     return button && button->text().contains(QLatin1String(text));
+}
+
+bool captureButtonSays(const char *text)
+{
+    return find<QPushButton>("ScopeCaptureNow")->text() == QLatin1String(text);
 }
 
 } // namespace
@@ -167,6 +175,13 @@ void Tour::planTestMove()
     addPress(tr("enable the drive"), "enable_drive");
     add(tr("see the drive run"), [] { return statusShows("Run", true); });
     addPage(Testing);
+    add(tr("choose a sample rate"), [] {
+        auto *rates = find<QComboBox>("ScopeSampleRate");
+        rates->setCurrentText(QLatin1String(captureRate));
+        return rates->currentText() == QLatin1String(captureRate);
+    });
+    addPress(tr("start a capture"), "ScopeCaptureNow");
+    add(tr("see the capture wait"), [] { return captureButtonSays("Scope waiting.."); });
     add(tr("type a target"), [] {
         find<QSpinBox>("stimulusTarget1")->setValue(testMoveTarget);
         return true;
@@ -174,7 +189,9 @@ void Tour::planTestMove()
     addPress(tr("move to the target"), "setAbs1");
     add(tr("see the setpoint"),
         [] { return find<QLabel>("setpointNow")->text().contains(QString::number(testMoveTarget)); });
-    addScreenshot(QStringLiteral("testing-moved"));
+    add(tr("see the capture done"), [] { return captureButtonSays("Start capture"); });
+    addSettling(tr("let the plot settle"));
+    addScreenshot(QStringLiteral("testing-capture"));
     addPage(Connect);
     addPress(tr("disable the drive"), "disable_drive");
     add(tr("see the drive stopped"), [] { return statusShows("Run", false); });
@@ -204,7 +221,12 @@ void Tour::addPage(int index)
         find<QListWidget>("pageSelector")->setCurrentRow(index);
         return true;
     });
-    add(tr("let page %1 settle").arg(index), [this] { return m_atThisStop.elapsed() > settleMs; });
+    addSettling(tr("let page %1 settle").arg(index));
+}
+
+void Tour::addSettling(const QString &what)
+{
+    add(what, [this] { return m_atThisStop.elapsed() > settleMs; });
 }
 
 void Tour::addScreenshot(const QString &name, const char *dialog)

@@ -46,6 +46,7 @@ private:
     void addPress(const QString &what, const char *button);
     void addScreenshot(const QString &name, const char *dialog = nullptr);
     void addPage(int index);
+    void addSettling(const QString &what);
 
     void step();
     void fail(const QString &reason);
