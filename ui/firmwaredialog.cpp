@@ -6,6 +6,7 @@
 FirmwareDialog::FirmwareDialog(QWidget *parent) : QDialog(parent)
 {
     form.setupUi(this);
+    form.progressBar->hide();
 }
 
 void FirmwareDialog::begin()
@@ -14,6 +15,7 @@ void FirmwareDialog::begin()
     if (isVisible())
         return;
     form.log->clear();
+    form.progressBar->hide();
     form.openFile->setEnabled(true);
     form.close->setEnabled(true);
     form.resetToFactoryState->setEnabled(true);
@@ -24,6 +26,13 @@ void FirmwareDialog::appendMessage(const QString &html)
 {
     form.log->appendHtml(html);
     form.log->verticalScrollBar()->setValue(form.log->verticalScrollBar()->maximum());
+}
+
+void FirmwareDialog::setProgress(int sent, int total)
+{
+    form.progressBar->setMaximum(total);
+    form.progressBar->setValue(sent);
+    form.progressBar->show();
 }
 
 void FirmwareDialog::setRunning()
@@ -42,6 +51,7 @@ void FirmwareDialog::finish()
 {
     hide();
     form.log->clear();
+    form.progressBar->hide();
     form.openFile->setEnabled(true);
     form.close->setEnabled(true);
     form.resetToFactoryState->setEnabled(true);

@@ -18,6 +18,8 @@ public:
     /// Shows the dialog with an empty log, unless it is open already.
     void begin();
     void appendMessage(const QString &html);
+    /// How much of the images has been uploaded, in bytes.
+    void setProgress(int sent, int total);
     /// An upgrade has begun: only its end brings the buttons back.
     void setRunning();
     /// The upgrade ended, well or not: the log can be read and the dialog closed.

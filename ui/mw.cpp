@@ -182,6 +182,7 @@ void MW::connectSession()
     connect(&m_connection, &Connection::faultRegisterUpdated, m_form->faultRegister, &QLabel::setText, type);
     connect(&m_connection, &Connection::availableBusNodes, this, &MW::availableBusNodesListReceived, type);
     connect(&m_connection, &Connection::firmwareUpgradeMsg, this, &MW::firmwareUpgradeMsg, type);
+    connect(&m_connection, &Connection::firmwareUploadProgress, m_firmwareDialog, &FirmwareDialog::setProgress, type);
     connect(&m_connection, &Connection::suggestDeviceRestart, this, &MW::suggestDeviceRestart, type);
     connect(&m_connection, &Connection::setpointChanged, this, &MW::setpointChanged, type);
     connect(&m_connection, &Connection::busy, this, &MW::setBusy, type);
@@ -359,7 +360,7 @@ void MW::runWaitingQuestion()
 void MW::closeEvent(QCloseEvent *event)
 {
     qDebug() << "Close";
-    if (checkIfParamsChangedAndAskUser(AskWithAbort) || checkIfParamsSavedAndAskUser()) {
+    if (askToKeepUpgrading() || checkIfParamsChangedAndAskUser(AskWithAbort) || checkIfParamsSavedAndAskUser()) {
         event->ignore();
         return;
     }

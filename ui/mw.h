@@ -182,6 +182,7 @@ private:
     // Testing, actions, help
     void stopStimulus();
     void sendSetpoint(const QWidget *button, int target, Connection::Task task);
+    bool askToKeepUpgrading();
     void restartAndReconnect(Connection::Task restartTask);
     void loadHelp();
     void showPlotPage();

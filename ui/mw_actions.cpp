@@ -5,16 +5,19 @@
 
 #include <QClipboard>
 #include <QGuiApplication>
+#include <QStatusBar>
 #include <QTextDocument>
 
 void MW::on_enable_drive_clicked()
 {
+    statusBar()->clearMessage(); // "Disabled" would no longer be true
     m_connection.setDriveEnableStatus(true);
     m_connection.command(Connection::TaskApplyEnableState);
 }
 
 void MW::on_force_enable_clicked()
 {
+    statusBar()->clearMessage();
     m_connection.setDriveEnableStatus(true);
     m_connection.setDriveForceEnableStatus(true);
     m_connection.command(Connection::TaskApplyEnableState);
@@ -27,7 +30,8 @@ void MW::on_disable_drive_clicked()
     m_connection.setDriveForceEnableStatus(false);
     stopStimulus();
     m_connection.command(Connection::TaskApplyEnableState);
-    m_disableWatch->disableAsked(m_connection.isConnected() && !m_connection.isInFirmwareUpgradeMode());
+    if (!m_connection.isInFirmwareUpgradeMode()) // a bootloader has no enable to wait for
+        m_disableWatch->disableAsked(m_connection.isConnected());
 }
 
 void MW::on_clear_faults_clicked()

@@ -8,6 +8,7 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QMessageBox>
+#include <QPushButton>
 
 void MW::firmwareUpgradeMsg(QString msg, bool done, bool failed)
 {
@@ -44,6 +45,23 @@ void MW::FWUpgrade_close_clicked()
     // Leaving without a successful upgrade drops the connection to a drive in upgrade mode.
     if (!m_reconnectAfterUpgrade)
         m_connection.command(Connection::TaskDisconnect);
+}
+
+bool MW::askToKeepUpgrading()
+{
+    if (!m_firmwareDialog->isRunning())
+        return false;
+    QMessageBox box(QMessageBox::Warning, tr("Velbrin"), tr("A firmware upgrade is running."), QMessageBox::NoButton,
+                    this);
+    box.setInformativeText(
+        tr("Closing now leaves the drive without working firmware. It then starts in firmware upgrade "
+           "mode, where a new upgrade can rescue it."));
+    QPushButton *keep = box.addButton(tr("Keep upgrading"), QMessageBox::RejectRole);
+    const QPushButton *close = box.addButton(tr("Close anyway"), QMessageBox::DestructiveRole);
+    box.setDefaultButton(keep);
+    box.setEscapeButton(keep);
+    box.exec();
+    return box.clickedButton() != close;
 }
 
 void MW::restartAndReconnect(Connection::Task restartTask)

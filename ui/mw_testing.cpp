@@ -100,6 +100,7 @@ void MW::showPlotPage()
 {
     const QString page = m_plotter.generatePlotPage(m_captures, m_params.getParamsHTMLList(), m_form->HWMODEL->text());
     m_helpTimer->stop(); // a help page that was still loading is given up, which says nothing about the network
+    m_form->offlineHelpNotification->hide();
     m_helpView->showPage(page,
                          QUrl(QLatin1String("file:///") + QDir::currentPath() + QLatin1String("/flot/examples/")));
 }

@@ -87,13 +87,15 @@ public:
             return true;
         });
     }
-    /// The next file dialog gets this name.
+    /// The next file dialog gets this name, or is cancelled.
     void chooseFile(const QString &file)
     {
         expect([file](QWidget *widget) {
             auto *dialog = qobject_cast<QFileDialog *>(widget);
             if (!dialog)
                 return false;
+            if (file.isEmpty())
+                return dialog->close();
             dialog->selectFile(file);
             return QMetaObject::invokeMethod(dialog, "accept");
         });
@@ -108,7 +110,8 @@ private:
     void look()
     {
         QWidget *open = QApplication::activeModalWidget();
-        if (!open || open->objectName() == "busyDialog" || m_answering)
+        // These two are modal, but ask nothing.
+        if (!open || open->objectName() == "busyDialog" || open->objectName() == "firmwareUpgradeDlg" || m_answering)
             return;
         m_answering = true;
         if (auto *box = qobject_cast<QMessageBox *>(open))
