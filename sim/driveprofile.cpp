@@ -21,7 +21,7 @@ constexpr std::int32_t Revision = 0x1A4C7E2;
 constexpr std::int32_t Unique = 0x1C35A90B;
 
 /// Settings of every model: register, value at the factory, minimum, maximum.
-const RegisterSpec CommonSettings[] = {
+const RegisterInfo CommonSettings[] = {
     {565, 2500, 1, 1000000},                     // FBR
     {493, 1, 0, 6},                              // FBD
     {494, 0, 0, 4},                              // FB2D
@@ -81,13 +81,13 @@ const RegisterSpec CommonSettings[] = {
     {912, 0, 0, 10000},                          // BDD
 };
 
-const RegisterSpec KetaSettings[] = {
+const RegisterInfo KetaSettings[] = {
     {573, 0, 0, 1}, // CEI
     {14, 0, 0, 15}, // ZBO
 };
 
 /// Torque ripple compensation.
-const RegisterSpec KetaProSettings[] = {
+const RegisterInfo KetaProSettings[] = {
     {424, 0, 0, 25},       // TRF1
     {426, 0, 0, 25},       // TRF2
     {425, 0, -5000, 5000}, // TRA1
@@ -95,7 +95,7 @@ const RegisterSpec KetaProSettings[] = {
 };
 
 /// The smaller current range of the high-voltage stage, and the motor wound for it.
-const RegisterSpec TorvaDifferences[] = {
+const RegisterInfo TorvaDifferences[] = {
     {reg::PeakCurrent, 8000, 0, 20000},
     {reg::ContinuousCurrent, 3250, 0, 20000},
     {reg::HomingCurrent, 1625, 0, 20000},
@@ -108,7 +108,7 @@ const RegisterSpec TorvaDifferences[] = {
     {reg::VelocityI, 90, 0, 32767},
 };
 
-const RegisterSpec HighCurrentDifferences[] = {
+const RegisterInfo HighCurrentDifferences[] = {
     {reg::PeakCurrent, 32000, 0, 50000},
     {reg::ContinuousCurrent, 13000, 0, 50000},
     {reg::HomingCurrent, 6500, 0, 50000},
@@ -120,23 +120,23 @@ constexpr std::int32_t KetaType = 11000;
 constexpr std::int32_t KetaProType = 11001;
 constexpr std::int32_t KetaHighCurrentType = 11200;
 
-template <std::size_t Count> void append(std::vector<RegisterSpec> &list, const RegisterSpec (&more)[Count])
+template <std::size_t Count> void append(std::vector<RegisterInfo> &list, const RegisterInfo (&more)[Count])
 {
     list.insert(list.end(), std::begin(more), std::end(more));
 }
 
-template <std::size_t Count> void replace(std::vector<RegisterSpec> &list, const RegisterSpec (&changed)[Count])
+template <std::size_t Count> void replace(std::vector<RegisterInfo> &list, const RegisterInfo (&changed)[Count])
 {
-    for (const RegisterSpec &spec : changed) {
-        const auto same = [&](const RegisterSpec &known) { return known.address == spec.address; };
-        *std::find_if(list.begin(), list.end(), same) = spec;
+    for (const RegisterInfo &info : changed) {
+        const auto same = [&](const RegisterInfo &known) { return known.address == info.address; };
+        *std::find_if(list.begin(), list.end(), same) = info;
     }
 }
 
-void appendIdentity(std::vector<RegisterSpec> &list, const DriveProfile &profile)
+void appendIdentity(std::vector<RegisterInfo> &list, const DriveProfile &profile)
 {
     const auto fixed = [&](int address, std::int32_t value) {
-        list.push_back({address, value, 0, RegisterMaximum, RegisterSpec::Fixed});
+        list.push_back({address, value, 0, RegisterMaximum, RegisterInfo::Fixed});
     };
     fixed(reg::ProtocolVersion, ProtocolVersionNow);
     fixed(reg::ProtocolCompanion, ProtocolVersionNow);
@@ -146,7 +146,7 @@ void appendIdentity(std::vector<RegisterSpec> &list, const DriveProfile &profile
     fixed(reg::CoreFirmware, profile.firmware);
     fixed(reg::CoreCompanion, profile.firmware);
     fixed(reg::DeviceType, profile.deviceType);
-    list.push_back({reg::ControlRate, CycleRate, CycleRate, CycleRate, RegisterSpec::Fixed});
+    list.push_back({reg::ControlRate, CycleRate, CycleRate, CycleRate, RegisterInfo::Fixed});
     if (profile.deviceType / 1000 == Keta) {
         fixed(reg::UniqueId, Unique);
         fixed(reg::BuildRevision, Revision);
@@ -175,9 +175,9 @@ const DriveProfile *findProfile(const std::string &name)
     return nullptr;
 }
 
-std::vector<RegisterSpec> registersOf(const DriveProfile &profile)
+std::vector<RegisterInfo> registersOf(const DriveProfile &profile)
 {
-    std::vector<RegisterSpec> list;
+    std::vector<RegisterInfo> list;
     appendIdentity(list, profile);
     append(list, CommonSettings);
     if (profile.deviceType / 1000 == Keta)

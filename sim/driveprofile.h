@@ -37,7 +37,7 @@ struct DriveProfile
 constexpr int CycleRate = 2500;
 
 /// One register that has a plain value.
-struct RegisterSpec
+struct RegisterInfo
 {
     enum Kind {
         Setting, ///< writable; saved to flash
@@ -54,7 +54,7 @@ const std::vector<DriveProfile> &driveProfiles();
 const DriveProfile *findProfile(const std::string &name);
 
 /// Identity and settings of a model, with its own values and limits; what the model lacks is left out.
-std::vector<RegisterSpec> registersOf(const DriveProfile &profile);
+std::vector<RegisterInfo> registersOf(const DriveProfile &profile);
 
 } // namespace sim
 

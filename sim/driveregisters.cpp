@@ -29,7 +29,7 @@ constexpr int NeedRestart[] = {reg::FeedbackDevice, reg::VelocityFeedbackDevice,
 
 } // namespace
 
-const RegisterSpec *VirtualDrive::findPlain(int address) const
+const RegisterInfo *VirtualDrive::findPlain(int address) const
 {
     return m_upgradeMode && !isInUpgradeTable(address) ? nullptr : m_registers.find(address);
 }
@@ -42,7 +42,7 @@ std::int32_t VirtualDrive::returnValue(const CommandContext &context) const
     const bool wantsMinimum = context.returnSelector & MinimumFlag;
     if (const SpecialRegister *special = SpecialRegister::find(address, m_upgradeMode))
         return wantsMinimum ? special->minimum : special->maximum;
-    if (const RegisterSpec *plain = findPlain(address))
+    if (const RegisterInfo *plain = findPlain(address))
         return wantsMinimum ? plain->minimum : plain->maximum;
     if (!m_upgradeMode && LiveRegister::find(address))
         return wantsMinimum ? 0 : RegisterMaximum;
@@ -77,26 +77,26 @@ Outcome VirtualDrive::writeIn(CommandContext &context, int address, std::int32_t
             return refuse(ErrorBelowMinimum);
         return special->write(*this, context, value) ? Outcome::Done : refuse(ErrorValueNotAllowed);
     }
-    if (const RegisterSpec *plain = findPlain(address))
+    if (const RegisterInfo *plain = findPlain(address))
         return writeSetting(*plain, value);
     if (!m_upgradeMode && LiveRegister::find(address))
         return refuse(ErrorReadOnly);
     return refuse(ErrorUnknownRegister);
 }
 
-Outcome VirtualDrive::writeSetting(const RegisterSpec &spec, std::int32_t value)
+Outcome VirtualDrive::writeSetting(const RegisterInfo &info, std::int32_t value)
 {
-    if (spec.kind == RegisterSpec::Fixed)
+    if (info.kind == RegisterInfo::Fixed)
         return refuse(ErrorReadOnly);
-    if (value > spec.maximum)
+    if (value > info.maximum)
         return refuse(ErrorAboveMaximum);
-    if (value < spec.minimum)
+    if (value < info.minimum)
         return refuse(ErrorBelowMinimum);
-    const bool changed = value != m_registers.value(spec.address);
-    m_registers.setValue(spec.address, value);
+    const bool changed = value != m_registers.value(info.address);
+    m_registers.setValue(info.address, value);
     m_axis.configure(m_registers);
     for (int address : NeedRestart) {
-        if (changed && address == spec.address && m_axis.isEnabled())
+        if (changed && address == info.address && m_axis.isEnabled())
             m_axis.stopPermanently();
     }
     return Outcome::Done;

@@ -4,14 +4,14 @@ namespace sim {
 
 RegisterFile::RegisterFile(const DriveProfile &profile)
 {
-    for (const RegisterSpec &spec : registersOf(profile))
-        m_entries[spec.address] = {spec, spec.initial};
+    for (const RegisterInfo &info : registersOf(profile))
+        m_entries[info.address] = {info, info.initial};
 }
 
-const RegisterSpec *RegisterFile::find(int address) const
+const RegisterInfo *RegisterFile::find(int address) const
 {
     const auto found = m_entries.find(address);
-    return found == m_entries.end() ? nullptr : &found->second.spec;
+    return found == m_entries.end() ? nullptr : &found->second.info;
 }
 
 std::int32_t RegisterFile::value(int address) const
@@ -31,7 +31,7 @@ Settings RegisterFile::settings() const
 {
     Settings values;
     for (const auto &[address, entry] : m_entries) {
-        if (entry.spec.kind == RegisterSpec::Setting)
+        if (entry.info.kind == RegisterInfo::Setting)
             values[address] = entry.value;
     }
     return values;
@@ -41,8 +41,8 @@ Settings RegisterFile::factorySettings() const
 {
     Settings values;
     for (const auto &[address, entry] : m_entries) {
-        if (entry.spec.kind == RegisterSpec::Setting)
-            values[address] = entry.spec.initial;
+        if (entry.info.kind == RegisterInfo::Setting)
+            values[address] = entry.info.initial;
     }
     return values;
 }
@@ -51,8 +51,8 @@ int RegisterFile::apply(const Settings &settings)
 {
     int refused = 0;
     for (const auto &[address, value] : settings) {
-        const RegisterSpec *spec = find(address);
-        if (spec && spec->kind == RegisterSpec::Setting && value >= spec->minimum && value <= spec->maximum)
+        const RegisterInfo *info = find(address);
+        if (info && info->kind == RegisterInfo::Setting && value >= info->minimum && value <= info->maximum)
             setValue(address, value);
         else
             ++refused;

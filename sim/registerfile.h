@@ -18,7 +18,7 @@ public:
     explicit RegisterFile(const DriveProfile &profile);
 
     /// Null for a register that is not in the table.
-    const RegisterSpec *find(int address) const;
+    const RegisterInfo *find(int address) const;
     /// 0 for a register that is not in the table.
     std::int32_t value(int address) const;
     /// Without any check: those are the drive's.
@@ -32,7 +32,7 @@ public:
 private:
     struct Entry
     {
-        RegisterSpec spec;
+        RegisterInfo info;
         std::int32_t value;
     };
     std::map<int, Entry> m_entries;

@@ -128,8 +128,8 @@ private:
     std::int32_t returnValue(const CommandContext &context) const;
     std::int32_t readIn(const CommandContext &context, int address) const;
     Outcome writeIn(CommandContext &context, int address, std::int32_t value);
-    Outcome writeSetting(const RegisterSpec &spec, std::int32_t value);
-    const RegisterSpec *findPlain(int address) const;
+    Outcome writeSetting(const RegisterInfo &info, std::int32_t value);
+    const RegisterInfo *findPlain(int address) const;
     Outcome refuse(ErrorBit bit);
     bool isRefused(int address, std::int32_t value);
     bool command(std::int32_t value);
