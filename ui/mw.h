@@ -185,6 +185,8 @@ private:
     bool askToKeepUpgrading();
     void restartAndReconnect(Connection::Task restartTask);
     void loadHelp();
+    /// The page of the same name among the offline pages once help is offline; any other address stays as it is.
+    QUrl offlineCopyOf(const QUrl &url) const;
     void showPlotPage();
     /// Runs a question as soon as no other box, message or popup is open, so that its default button never takes a key
     /// that was meant for the other. Questions wait in order.

@@ -152,7 +152,7 @@ bool MW::checkIfParamsSavedAndAskUser()
     const QPushButton *save = box.addButton(tr("Save to drive now"), QMessageBox::YesRole);
     box.setDefaultButton(QMessageBox::Abort);
     box.exec();
-    qDebug() << "choice" << box.clickedButton()->text();
+    qDebug() << "choice" << (box.clickedButton() ? box.clickedButton()->text() : QString());
     if (box.clickedButton() == discard) {
         qDebug() << "dontsave";
         clearChangesPending(); // not the unsaved state: the next close asks again

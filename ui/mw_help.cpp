@@ -8,6 +8,7 @@
 
 #include <QDebug>
 #include <QDir>
+#include <QFileInfo>
 #include <QSignalBlocker>
 #include <QTimer>
 
@@ -84,6 +85,14 @@ void MW::browserLinkClicked(QUrl url)
         pageChanged();
     } else {
         m_helpTimer->stop(); // the page that was loading is given up, which says nothing about the network
-        m_helpView->loadPage(url);
+        m_helpView->loadPage(offlineCopyOf(url));
     }
+}
+
+QUrl MW::offlineCopyOf(const QUrl &url) const
+{
+    if (!m_offlineHelp || !url.toString().startsWith(makerWikiBase()))
+        return url;
+    const QString copy = QDir::currentPath() + QLatin1String("/help/") + url.fileName() + QLatin1String(".htm");
+    return QFileInfo::exists(copy) ? QUrl::fromLocalFile(copy) : url;
 }

@@ -319,7 +319,7 @@ void MW::askToResetPosition()
     box.setDefaultButton(keep);
     box.setEscapeButton(keep);
     box.exec();
-    qDebug() << "choice" << box.clickedButton()->text();
+    qDebug() << "choice" << (box.clickedButton() ? box.clickedButton()->text() : QString());
     if (box.clickedButton() == never)
         m_resetChoice = ResetChoice::Never;
     if (box.clickedButton() == always)

@@ -16,7 +16,7 @@ protected:
     void writeOfflinePages()
     {
         QDir().mkpath("help");
-        for (const char *name : {"Velbrin", "Connect tab", "Goals tab", "Testing tab"}) {
+        for (const char *name : {"Velbrin", "Connect tab", "Goals tab", "Fault_location"}) {
             QFile page(QString("help/%1.htm").arg(name));
             page.open(QIODevice::WriteOnly);
             page.write(QByteArray("<html><body>offline ") + name + "</body></html>");
@@ -62,6 +62,9 @@ TEST_F(Help, WithoutANetworkTheOfflineCopyIsShownAndSaidOnce)
     EXPECT_FALSE(label("offlineHelpNotification")->isHidden());
     EXPECT_EQ(shownMessage(m_window.get()), QString());
     EXPECT_TRUE(m_wiki.paths.isEmpty());
+    // Links to single wiki pages, such as the "?" of the fault panel, find their offline copies too.
+    emit label("faultRegister")->linkActivated("http://wiki.tarnwell.example/wiki/Fault_location");
+    EXPECT_TRUE(waitFor([this] { return shownText() == "offline Fault_location"; }));
 }
 
 TEST_F(Help, PlotOrPageDuringAPendingLoadIsNotTakenForOffline)

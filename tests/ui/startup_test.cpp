@@ -3,6 +3,8 @@
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QDir>
+#include <QProcess>
 #include <QSettings>
 #include <QSpinBox>
 #include <QStackedWidget>
@@ -151,4 +153,24 @@ TEST_F(Startup, WindowLayoutIsRememberedAndAnUnreadableOneIsIgnored)
     openWindow();
     EXPECT_EQ(m_window->size(), QSize(1300, 730));
     QSettings("Tarnwell Devices", "Velbrin").clear();
+}
+
+TEST(Program, EndsCleanlyOnASignalAndLeavesNothingBehind)
+{
+    PrivateFolder folder;
+    const QDir temporary = QDir::current();
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert("TMPDIR", temporary.path());
+    environment.insert("VELBRIN_WIKI", "http://127.0.0.1:1"); // nobody listens there
+    QProcess program;
+    program.setProcessEnvironment(environment);
+    program.start(VELBRIN_BINARY_DIR "/bin/velbrin", {"--virtual-drive"});
+    const auto privateFolder = [&] { return temporary.entryList({"velbrin-*"}, QDir::Dirs).value(0); };
+    ASSERT_TRUE(waitFor([&] { return QFileInfo(temporary.filePath(privateFolder() + "/COM1")).isSymLink(); }));
+    ASSERT_TRUE(waitFor([&] { return program.readAllStandardError().contains("help load finished"); }));
+    program.terminate();
+    ASSERT_TRUE(program.waitForFinished(10000));
+    EXPECT_EQ(program.exitStatus(), QProcess::NormalExit);
+    EXPECT_EQ(program.exitCode(), 0);
+    EXPECT_EQ(privateFolder(), "");
 }
