@@ -48,6 +48,8 @@ struct RegisterInfo
     Kind kind = Setting;
 };
 
+using RegisterSpec = RegisterInfo; ///< its former name
+
 /// All models, the default one first.
 const std::vector<DriveProfile> &driveProfiles();
 /// Null when there is no such model.
