@@ -76,6 +76,9 @@ void SessionWorker::restartDrive(const TaskRequest &)
     emit m_session.busy(true, true);
     writeAndFetch(reg::SystemCommand, reg::CommandRestart);
     m_streaming = m_streamStarted = false; // the drive forgets its buffer and what was selected for it
+    // Out of firmware-upgrade mode it comes back at an address of its own, which this connection does not know.
+    if (inFirmwareUpgradeMode())
+        m_queue.pushDisconnectFirst();
     pause(restartPauseMs, Drive::Restarts);
     emit m_session.busy(false, true);
 }

@@ -304,6 +304,16 @@ TEST_F(Flashing, NeedsADriveInUpgradeMode)
     EXPECT_TRUE(log().upgrade.last().failed);
 }
 
+TEST_F(Flashing, ARestartOutOfUpgradeModeEndsTheConnectionWithoutAComplaint)
+{
+    ASSERT_TRUE(connectToBootloader());
+    session().setPauseScale(0.1); // longer than the virtual drive restarts
+    session().command(Connection::TaskRestartDrive);
+    ASSERT_TRUE(waitForDisconnect());
+    EXPECT_TRUE(connectTo()) << "back at its own address";
+    EXPECT_TRUE(log().errors.isEmpty());
+}
+
 TEST_P(FailedUpgrade, IsToldOnceAndCanBeRepeated)
 {
     const bool torva = std::string(GetParam().profile) == "torva";
