@@ -144,6 +144,7 @@ private:
     void hideForGood();
     void fillTorqueFunctions();
     void restoreLayout();
+    void saveLayout() const;
     void showDisclaimer();
 
     // Connect page

@@ -1,0 +1,93 @@
+// Boxes of the shell: disclaimer, overrides, busy, questions that wait their turn, and closing.
+#include "busydialog.h"
+#include "errorwindow.h"
+#include "mw.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QDebug>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTimer>
+
+void MW::showDisclaimer()
+{
+    QMessageBox box(this);
+    box.setWindowIcon(windowIcon());
+    box.setIconPixmap(windowIcon().pixmap(64, 64));
+    box.setWindowTitle(tr("Velbrin starting up"));
+    box.setText(tr("Welcome to Velbrin servo drive configuration software!<h3>Important safety information</h3>The "
+                   "most important thing while operating a servo drive is knowing the electrical and mechanical risks "
+                   "and hazards involved. If unsure about the dangers involved, don't use this software or it's "
+                   "associated hardware.<br><br>Only a person with sufficient electrical and machinery safety skills "
+                   "may install the devices configured by this software.<br><br>Tarnwell Devices or its personnell "
+                   "(later Producers) are not responsible of damages caused by inproper usage.<br><h3>Limited warranty "
+                   "and liability</h3>Producer is not liable of damages, losses or other consequences caused directly "
+                   "or indirectly by Tarnwell Devices products (later Products). User's responsibility is to ensure "
+                   "safety of system where Products are being utilized. Producer's warranty is limited to cover "
+                   "Products only and Producers will not cover any of the potential harms that may be caused by "
+                   "Products even in the case of severe Product malfunctioning or defects.<br><br>"));
+    box.setInformativeText(tr("By clicking <i>I Agree</i> you are agreeing these terms and conditions."));
+    QPushButton *disagree = box.addButton(tr("Disagree"), QMessageBox::RejectRole);
+    const QPushButton *agree = box.addButton(tr("I Agree"), QMessageBox::AcceptRole);
+    box.setDefaultButton(disagree);
+    box.exec();
+    if (box.clickedButton() == agree)
+        return;
+
+    QMessageBox farewell(this);
+    farewell.setWindowTitle(tr("Velbrin"));
+    farewell.setText(tr("This software will exit as Disagree button was clicked. You may contact Tarnwell Devices to "
+                        "obtain customized agreement."));
+    farewell.setDefaultButton(farewell.addButton(tr("Quit"), QMessageBox::RejectRole));
+    farewell.exec();
+    QTimer::singleShot(0, this, &QWidget::close);
+    qDebug() << "disagree";
+}
+
+void MW::on_actionRaw_parameters_triggered()
+{
+    m_overridesDialog->show();
+    m_overridesDialog->raise();
+    m_overridesDialog->activateWindow();
+}
+
+void MW::setBusy(bool busy, bool nonBlocking)
+{
+    qDebug() << "BUSY " << (busy ? "true" : "false");
+    if (!busy)
+        m_busyDialog->hide();
+    else if (!nonBlocking)
+        m_busyDialog->show();
+    setCursor(busy ? Qt::BusyCursor : Qt::ArrowCursor);
+}
+
+void MW::askWhenFree(const std::function<void()> &question)
+{
+    m_questions.append(question);
+    m_questionTimer->start();
+    runWaitingQuestion();
+}
+
+void MW::runWaitingQuestion()
+{
+    if (m_questions.isEmpty()) {
+        m_questionTimer->stop();
+        return;
+    }
+    if (!QApplication::activeModalWidget() && !QApplication::activePopupWidget() && !m_errorWindow->isVisible())
+        m_questions.takeFirst()();
+}
+
+void MW::closeEvent(QCloseEvent *event)
+{
+    qDebug() << "Close";
+    if (askToKeepUpgrading() || checkIfParamsChangedAndAskUser(AskWithAbort) || checkIfParamsSavedAndAskUser()) {
+        event->ignore();
+        return;
+    }
+    stopStimulus();
+    m_questions.clear();
+    saveLayout();
+    event->accept();
+}

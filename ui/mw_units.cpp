@@ -1,0 +1,86 @@
+// Values in machine units beside the controls.
+#include "mw.h"
+#include "mwforms.h"
+#include "unitconversion.h"
+
+#include <QDebug>
+#include <cmath>
+
+UnitConversion MW::unitConversion() const
+{
+    UnitConversion units;
+    units.pif = m_loopFrequency;
+    units.fbr = m_form->FBR->value();
+    units.axs = m_form->AXS->value();
+    units.mul = m_form->MUL->value();
+    units.div = m_form->DIV->value();
+    units.unit = axisUnits(m_form->AXT->currentIndex()).plural;
+    return units;
+}
+
+double MW::convertHWtoMachineVelocityUnits(double hwunits, bool isSetpoint, bool rawHWscale)
+{
+    return unitConversion().velocity(hwunits, isSetpoint, rawHWscale);
+}
+
+QString MW::convertHWtoMachineVelocityUnitsLabel(double hwunits, bool isSetpoint, bool rawHWscale)
+{
+    return unitConversion().velocityLabel(hwunits, isSetpoint, rawHWscale);
+}
+
+QString MW::convertHWtoMachinePositionUnitsLabel(double hwunits, bool rawHWscale)
+{
+    return unitConversion().positionLabel(hwunits, rawHWscale);
+}
+
+QString MW::convertHWtoMachineAccelerationUnitsLabel(double hwunits)
+{
+    return unitConversion().accelerationLabel(hwunits);
+}
+
+QString MW::convertHWtoMachineUnitsLabel(double hwunits, QString labelname)
+{
+    return unitConversion().labelBySuffix(hwunits, labelname);
+}
+
+QString MW::convertHWrefToUnitsLabel(double ref)
+{
+    ActiveScale active;
+    active.controlMode = int(std::lround(m_connection.getActiveParamValue(QStringLiteral("CM"))));
+    active.cvl = m_connection.getActiveParamValue(QStringLiteral("CVL"));
+    active.mmc = m_connection.getActiveParamValue(QStringLiteral("MMC"));
+    return unitConversion().setpointLabel(ref, active);
+}
+
+void MW::connectDynamicSpinboxLabels()
+{
+    m_unitLabels.clear();
+    const auto labels = findChildren<QLabel *>();
+    for (QLabel *label : labels) {
+        if (!isUnitLabelName(label->objectName()))
+            continue;
+        const QString name = controlOfUnitLabel(label->objectName());
+        if (auto *box = findChild<QSpinBox *>(name))
+            connect(box, QOverload<int>::of(&QSpinBox::valueChanged), this, &MW::updateUnitLabels);
+        else if (auto *doubleBox = findChild<QDoubleSpinBox *>(name))
+            connect(doubleBox, QOverload<double>::of(&QDoubleSpinBox::valueChanged), this, &MW::updateUnitLabels);
+        m_unitLabels.append(label);
+    }
+}
+
+void MW::updateUnitLabels()
+{
+    const UnitConversion units = unitConversion();
+    for (QLabel *label : qAsConst(m_unitLabels)) {
+        const QString name = controlOfUnitLabel(label->objectName());
+        if (const auto *box = findChild<QSpinBox *>(name))
+            label->setText(units.labelBySuffix(box->value(), label->objectName()));
+        else if (const auto *doubleBox = findChild<QDoubleSpinBox *>(name))
+            label->setText(units.labelBySuffix(doubleBox->value(), label->objectName()));
+        else
+            qDebug().noquote() << "spinbox named " + name + " not found!";
+    }
+    on_stimulusTarget1_valueChanged(m_form->stimulusTarget1->value());
+    on_stimulusTarget2_valueChanged(m_form->stimulusTarget2->value());
+    m_form->SCALINGr->setText(units.scalingText());
+}
