@@ -80,6 +80,12 @@ std::optional<QByteArray> readPlainFile(const QString &fileName)
     return bytes;
 }
 
+/// A piece of the file as it may stand in a message, which is taken for HTML: never markup, never long.
+QString cited(const QString &piece)
+{
+    return piece.left(40).toHtmlEscaped();
+}
+
 /// Fills `p` from one entry. Returns the key whose text is no usable number, or an empty string.
 QString readEntry(const IniValues &ini, const QString &entry, SingleParam *p)
 {
@@ -146,11 +152,11 @@ QString Loader::take(const IniValues &ini, int number)
     if (places.isEmpty() || !ini.contains(nameKey))
         return Parameters::
             tr("Attempt to load a file with unknown parameter %1. Possibly Velbrin version too old, try later version.")
-                .arg(loaded.name);
+                .arg(cited(loaded.name));
     const QString badKey = readEntry(ini, entry, &loaded);
     if (!badKey.isEmpty())
         return Parameters::tr("Attempt to load a file with unusable %1 of parameter %2: \"%3\".")
-            .arg(badKey, loaded.name, ini.value(entry + badKey).left(40).toHtmlEscaped());
+            .arg(badKey, loaded.name, cited(ini.value(entry + badKey)));
     if (std::find(std::begin(identityNames), std::end(identityNames), loaded.name) != std::end(identityNames))
         loaded.value = -1.0;
     for (const int i : places)
@@ -202,7 +208,8 @@ QString Parameters::loadFromFile(const QString &fileName)
     // Looked up with a small v, while saving writes a capital one; both spellings are in use.
     const int version = iniValueIgnoringCase(ini, QStringLiteral("Header/DRCversion")).toInt();
     const QString program = iniValueIgnoringCase(ini, QStringLiteral("Header/VelbrinVersion"));
-    const QString note = program.isEmpty() ? QString() : tr(" File was saved with Velbrin version %1.").arg(program);
+    const QString note =
+        program.isEmpty() ? QString() : tr(" File was saved with Velbrin version %1.").arg(cited(program));
     if (version != fileVersion && version != oldestFileVersion)
         return tr("Unsupported file type or version. Try with later Velbrin version.") + note;
 

@@ -212,6 +212,10 @@ TEST_F(SettingsFile, ThatIsNoneIsRefusedWithNothingTakenOver)
         {header + array + good + entry(2, "BOGUS", "1") + "size=2\n", unknown.arg("BOGUS") + note},
         {header + array + good + "size=1000000000\n", unknown.arg("") + note},
         {QByteArray(9 << 20, '\n'), cannotRead},
+        // What the file says stays text, and short: the message goes into a box that would lay it out as HTML.
+        {header + array + entry(1, "<table>", "1") + "size=1\n", unknown.arg("&lt;table&gt;") + note},
+        {"[Header]\nVelbrinVersion=" + QByteArray(1 << 20, '&') + "\n",
+         unsupported + " File was saved with Velbrin version " + QString("&amp;").repeated(40) + "."},
     };
     for (const auto &f : files) {
         QElapsedTimer time;
