@@ -3,24 +3,30 @@
 #ifndef COMMANDLINE_H
 #define COMMANDLINE_H
 
+#include <QHash>
 #include <QString>
 #include <QStringList>
 
 struct CommandLine
 {
-    QString port;          ///< serial port; empty with a virtual drive
+    QString port;          ///< serial port; empty with a virtual drive, and where the command needs no drive
     QString virtualDrives; ///< profiles, separated by commas; empty without a virtual drive
     int node = 0;          ///< bus address, 0 where none was given
     bool json = false;
-    bool toFlash = false;
+    double pauseScale = 1.0; ///< of the session's pauses, for tests on the virtual drive
     QString command;
-    QStringList arguments; ///< what follows the command
+    QStringList arguments;           ///< what follows the command; file names are absolute
+    QHash<QString, QString> options; ///< the command's own, by name without dashes; a switch has an empty value
+
+    bool has(const char *option) const { return options.contains(QLatin1String(option)); }
+    QString value(const char *option) const { return options.value(QLatin1String(option)); }
 
     QString problem; ///< why it cannot be carried out; empty when it can
     QString answer;  ///< text of --help or --version: print it and do nothing else
 };
 
-/// `arguments` begins with the program's name, as QCoreApplication::arguments() does.
+/// `arguments` begins with the program's name, as QCoreApplication::arguments() does. Options may stand before and
+/// after the command, with "=" or a space before their value; a word that begins like a negative number is none.
 CommandLine parseCommandLine(const QStringList &arguments);
 
 #endif

@@ -17,11 +17,13 @@ constexpr std::chrono::seconds closeLimit(30);
 
 } // namespace
 
-DriveClient::DriveClient(const QString &port) : m_port(port)
+DriveClient::DriveClient(const QString &port, double pauseScale) : m_port(port)
 {
     qRegisterMetaType<Parameters>("Parameters");
     qRegisterMetaType<QList<NodeType>>("QList<NodeType>");
+    qRegisterMetaType<QList<CaptureData>>("QList<CaptureData>");
     m_connection = std::make_unique<Connection>();
+    m_connection->setPauseScale(pauseScale);
     watchConnection();
 }
 
@@ -40,22 +42,38 @@ void DriveClient::watchConnection()
             },
             Qt::QueuedConnection);
     };
-    on(&Connection::statusChanged, [this](bool connected, const QString &) {
-        // The "Disconnected" of a clean end is no loss, but nobody waits for anything then.
-        m_link = connected ? Link::Up : Link::Lost;
+    Received &to = m_received;
+    on(&Connection::statusChanged,
+       [&to](bool connected, const QString &) { to.link = connected ? Received::Link::Up : Received::Link::Lost; });
+    on(&Connection::availableBusNodes, [&to](const QList<NodeType> &nodes) { to.nodes = nodes; });
+    on(&Connection::parametersRetreived, [&to](const Parameters &list, bool) {
+        to.list = list;
+        to.polls = 0;
     });
-    on(&Connection::availableBusNodes, [this](const QList<NodeType> &nodes) { m_nodes = nodes; });
-    on(&Connection::parametersRetreived, [this](const Parameters &list, bool) {
-        m_list = list;
-        m_polls = 0;
+    on(&Connection::physInputsUpdated, [&to](const QString &html) { to.live.inputs = html; });
+    on(&Connection::statusRegisterUpdated, [&to](const QString &html) { to.live.status = html; });
+    on(&Connection::faultRegisterUpdated, [&to](const QString &html) {
+        to.live.faults = html;
+        ++to.polls;
     });
-    on(&Connection::physInputsUpdated, [this](const QString &html) { m_live.inputs = html; });
-    on(&Connection::statusRegisterUpdated, [this](const QString &html) { m_live.status = html; });
-    on(&Connection::faultRegisterUpdated, [this](const QString &html) {
-        m_live.faults = html;
-        ++m_polls;
+    on(&Connection::disableAnswered, [&to](bool acknowledged) {
+        to.disableAnswered = acknowledged;
+        to.polls = 0;
     });
-    on(&Connection::error, [this](const QString &html) { say(plainText(html)); });
+    on(&Connection::updateCaptureButtonText, [&to](const QString &text) { to.captureState = text; });
+    on(&Connection::plotReady, [&to](const QList<CaptureData> &capture) { to.plot = capture; });
+    on(&Connection::firmwareUpgradeMsg, [&to](const QString &html, bool done, bool failed) {
+        if (to.upgradeMessage)
+            to.upgradeMessage(html, done, failed);
+    });
+    on(&Connection::firmwareUploadProgress, [&to](int sentBytes, int totalBytes) {
+        if (to.uploadProgress)
+            to.uploadProgress(sentBytes, totalBytes);
+    });
+    on(&Connection::error, [this](const QString &html) {
+        ++m_received.errors;
+        say(plainText(html));
+    });
     on(&Connection::suggestDeviceRestart,
        [this] { say(tr("The drive is in permanent stop: save what it should keep, then restart it.")); });
     connect(
@@ -68,9 +86,10 @@ void DriveClient::say(const QString &text)
         m_messages.append(text);
 }
 
-bool DriveClient::waitFor(const QString &what, const std::function<bool()> &done, int limitMs)
+bool DriveClient::waitFor(const QString &what, const std::function<bool()> &done, int limitMs, Until until)
 {
-    if (m_interrupted)
+    const auto isBrokenOff = [this, until] { return m_interrupted && until == Until::Interrupted; };
+    if (isBrokenOff())
         return false;
     m_progress.show(what);
     bool timedOut = false;
@@ -82,31 +101,45 @@ bool DriveClient::waitFor(const QString &what, const std::function<bool()> &done
     });
     limit.start(limitMs);
     m_done = done;
-    if (!done())
+    while (!done() && !timedOut && !isBrokenOff())
         m_loop.exec();
     m_done = nullptr;
     m_progress.clear();
-    if (timedOut)
+    return done() && !isBrokenOff();
+}
+
+/// Waits for the session's answer or the loss of the line. What comes is due, so a time-out is worth a message.
+bool DriveClient::waitForSession(const QString &what, const std::function<bool()> &answered, int limitMs)
+{
+    const auto done = [this, &answered] { return isLost() || answered(); };
+    if (!waitFor(what, done, limitMs) && !m_interrupted)
         say(tr("No answer from the drive session within %1 s (%2).").arg(limitMs / 1000).arg(what));
-    return done() && !m_interrupted;
+    return answered() && !isLost() && !m_interrupted;
 }
 
 std::optional<QList<NodeType>> DriveClient::scan()
 {
-    m_nodes.reset();
-    m_link = Link::None;
+    m_received.nodes.reset();
+    m_received.link = Received::Link::None;
     m_connection->getListOfBusNodes(m_port);
-    const auto done = [this] { return m_nodes || m_link == Link::Lost; };
-    return waitFor(tr("Searching drives"), done, scanLimitMs) ? m_nodes : std::nullopt;
+    const auto answered = [this] { return m_received.nodes.has_value(); };
+    return waitForSession(tr("Searching drives"), answered, scanLimitMs) ? m_received.nodes : std::nullopt;
 }
 
 bool DriveClient::connectTo(int address)
 {
     m_address = address;
-    m_link = Link::None;
+    m_received.link = Received::Link::None;
     m_connection->connectDevice(m_port, address);
-    const auto done = [this] { return m_link != Link::None; };
-    return waitFor(tr("Connecting"), done, connectLimitMs) && m_link == Link::Up;
+    return waitForSession(
+        tr("Connecting"), [this] { return isUp(); }, connectLimitMs);
+}
+
+bool DriveClient::disconnectDrive()
+{
+    m_connection->command(Connection::TaskDisconnect);
+    return waitFor(
+        tr("Waiting for the drive"), [this] { return !isUp(); }, transferLimitMs);
 }
 
 bool DriveClient::isInUpgradeMode() const
@@ -123,24 +156,23 @@ std::optional<Parameters> DriveClient::readBack(const QString &what)
 {
     // A read that broke off still hands over its list, and the error comes after it. A poll that follows the list
     // proves that the connection has survived.
-    m_list.reset();
+    m_received.list.reset();
     m_connection->getParams();
     m_connection->command(Connection::TaskUpdateStatus);
-    const auto done = [this] { return (m_list && m_polls > 0) || m_link == Link::Lost; };
-    const bool arrived = waitFor(what, done, transferLimitMs);
-    return arrived && m_link == Link::Up ? m_list : std::nullopt;
+    const auto answered = [this] { return m_received.list && m_received.polls > 0; };
+    return waitForSession(what, answered, transferLimitMs) ? m_received.list : std::nullopt;
 }
 
 std::optional<Parameters> DriveClient::read()
 {
-    if (m_link != Link::Up)
+    if (!isUp())
         return std::nullopt;
     return readBack(tr("Reading the drive's settings"));
 }
 
 std::optional<Parameters> DriveClient::write(const Parameters &list)
 {
-    if (m_link != Link::Up)
+    if (!isUp())
         return std::nullopt;
     m_connection->setParams(list);
     m_connection->command(Connection::TaskSetParams);
@@ -149,7 +181,7 @@ std::optional<Parameters> DriveClient::write(const Parameters &list)
 
 bool DriveClient::saveToFlash()
 {
-    if (m_link != Link::Up)
+    if (!isUp())
         return false;
     // Saving has no answer of its own: the read behind it tells that it was carried out.
     m_connection->command(Connection::TaskSaveToFlash);
@@ -158,29 +190,62 @@ bool DriveClient::saveToFlash()
 
 std::optional<LiveState> DriveClient::liveState()
 {
-    if (m_link != Link::Up)
-        return std::nullopt;
-    m_polls = 0;
     m_connection->command(Connection::TaskUpdateStatus);
-    const auto done = [this] { return m_polls > 0 || m_link == Link::Lost; };
-    if (!waitFor(tr("Reading the drive's state"), done, pollLimitMs) || m_link != Link::Up)
+    return nextLiveState();
+}
+
+std::optional<LiveState> DriveClient::nextLiveState()
+{
+    if (!isUp())
         return std::nullopt;
-    return m_live;
+    m_received.polls = 0;
+    const auto answered = [this] { return m_received.polls > 0; };
+    if (!waitForSession(tr("Reading the drive's state"), answered, pollLimitMs))
+        return std::nullopt;
+    return m_received.live;
+}
+
+bool DriveClient::waitForDrive(const QString &what, const std::function<bool(const DriveReading &)> &shown, int limitMs)
+{
+    m_received.polls = 0;
+    m_connection->command(Connection::TaskUpdateStatus);
+    const auto isShown = [this, &shown] { return m_received.polls > 0 && shown(drive()); };
+    const auto done = [this, &isShown] { return isLost() || isShown(); };
+    return waitFor(what, done, limitMs) && !isLost();
 }
 
 void DriveClient::close()
 {
-    m_connection->command(Connection::TaskDisconnect);
-    m_connection->command(Connection::TaskQuit);
-    if (m_ended.get_future().wait_for(closeLimit) == std::future_status::timeout)
-        say(tr("The drive session did not end."));
+    if (!m_connection)
+        return;
+    if (m_breakOff) {
+        m_connection.reset(); // ends every pause and transfer
+    } else {
+        m_connection->command(Connection::TaskDisconnect);
+        m_connection->command(Connection::TaskQuit);
+        if (m_ended.get_future().wait_for(closeLimit) == std::future_status::timeout)
+            say(tr("The drive session did not end."));
+    }
     // The last signals of the session are still on their way.
     QCoreApplication::sendPostedEvents(this);
 }
 
+void DriveClient::setOnInterrupt(OnInterrupt what, const QString &warning)
+{
+    m_onInterrupt = what;
+    m_warning = warning;
+}
+
 void DriveClient::interrupt()
 {
+    if (m_onInterrupt == OnInterrupt::AskOnceMore && !m_warning.isEmpty()) {
+        m_progress.note(m_warning);
+        m_warning.clear();
+        return;
+    }
     m_interrupted = true;
-    say(tr("Interrupted."));
+    m_breakOff = m_onInterrupt == OnInterrupt::AskOnceMore;
+    if (m_onInterrupt != OnInterrupt::EndQuietly)
+        say(tr("Interrupted."));
     m_loop.quit();
 }

@@ -4,6 +4,7 @@
 #define DRIVECLIENT_H
 
 #include "connection.h"
+#include "drivereading.h"
 #include "progress.h"
 
 #include <QEventLoop>
@@ -13,12 +14,21 @@
 #include <memory>
 #include <optional>
 
-/// The three panels of the drive's live state, as HTML.
-struct LiveState
+/// What the session's signals have brought. A step forgets what it is going to wait for, then asks for it.
+struct Received
 {
-    QString inputs;
-    QString status;
-    QString faults;
+    enum class Link { None, Up, Lost };
+    Link link = Link::None;
+    std::optional<QList<NodeType>> nodes;
+    std::optional<Parameters> list;
+    LiveState live;
+    int polls = 0; ///< of the live state
+    int errors = 0;
+    std::optional<bool> disableAnswered; ///< whether the drive acknowledged; the polls are counted anew from here
+    QString captureState;                ///< what the window's capture button would say
+    std::optional<QList<CaptureData>> plot;
+    std::function<void(const QString &html, bool done, bool failed)> upgradeMessage; ///< called when one arrives
+    std::function<void(int sentBytes, int totalBytes)> uploadProgress;
 };
 
 /// Every step runs the event loop until it is done, and ends within a generous limit whatever the line does. A step
@@ -28,13 +38,18 @@ class DriveClient : public QObject
     Q_OBJECT
 
 public:
-    explicit DriveClient(const QString &port);
+    /// `pauseScale`: see Connection::setPauseScale.
+    explicit DriveClient(const QString &port, double pauseScale = 1.0);
     ~DriveClient() override;
 
-    /// The drives on the bus. Only before connectTo.
+    /// The drives on the bus. Only while none is connected.
     std::optional<QList<NodeType>> scan();
     /// Connects to the drive at a bus address; one in firmware-upgrade mode counts, see isInUpgradeMode.
     bool connectTo(int address);
+    /// Behind everything that was asked before.
+    bool disconnectDrive();
+    bool isUp() const { return m_received.link == Received::Link::Up; }
+    bool isLost() const { return m_received.link == Received::Link::Lost; }
     bool isInUpgradeMode() const;
     /// Type id of the connected drive.
     int deviceType() const;
@@ -47,40 +62,61 @@ public:
     std::optional<Parameters> write(const Parameters &list);
     /// Saves the working memory to the drive's flash.
     bool saveToFlash();
+
+    /// Asks for the live state and waits for it.
     std::optional<LiveState> liveState();
+    /// Waits for the next live state, which comes three times a second.
+    std::optional<LiveState> nextLiveState();
+    /// The state that came last.
+    DriveReading drive() const { return readPanels(m_received.live); }
+    /// Asks for the live state, then looks at every state that comes, until one shows what is waited for.
+    bool waitForDrive(const QString &what, const std::function<bool(const DriveReading &)> &shown, int limitMs);
+
+    // --- What steps are made of: see drivemotion.h, capturecommand.cpp, firmwarecommands.cpp ----------------------
+
+    Connection &session() { return *m_connection; }
+    Received &received() { return m_received; }
+    Progress &progress() { return m_progress; }
+    enum class Until { Interrupted, Done }; ///< whether being interrupted ends the wait; a stop has to be seen through
+    /// Waits until `done`, which is looked at whenever a signal has come. Returns it.
+    bool waitFor(const QString &what, const std::function<bool()> &done, int limitMs, Until until = Until::Interrupted);
+    void say(const QString &text);
 
     /// Ends the connection and the session. messages() is complete only then.
     void close();
     /// What the session and the steps had to say, as plain text.
     QStringList messages() const { return m_messages; }
 
+    // --- Ctrl+C -----------------------------------------------------------------------------------------------------
+
+    enum class OnInterrupt {
+        Fail,        ///< the step that waits and all that follow fail; what has been handed to the drive is finished
+        EndQuietly,  ///< the same, but it is how the command is meant to end
+        AskOnceMore, ///< only `warning` is shown; the second time the work itself is broken off
+    };
+    void setOnInterrupt(OnInterrupt what, const QString &warning = QString());
+    bool wasInterrupted() const { return m_interrupted; }
+
 public slots:
-    /// Ends the step that is waiting, and fails all that follow; what has been handed to the drive is finished.
     void interrupt();
 
 private:
     void watchConnection();
-    void say(const QString &text);
-    bool waitFor(const QString &what, const std::function<bool()> &done, int limitMs);
     /// Reads all settings, behind whatever has been queued before.
     std::optional<Parameters> readBack(const QString &what);
-
-    enum class Link { None, Up, Lost };
+    bool waitForSession(const QString &what, const std::function<bool()> &answered, int limitMs);
 
     QString m_port;
     int m_address = 0;
     Progress m_progress;
     QEventLoop m_loop;
     std::function<bool()> m_done; ///< condition of the step that waits
+    OnInterrupt m_onInterrupt = OnInterrupt::Fail;
+    QString m_warning;
     bool m_interrupted = false;
+    bool m_breakOff = false; ///< do not wait for what the drive has been asked for
     QStringList m_messages;
-
-    // What the signals have brought.
-    Link m_link = Link::None;
-    std::optional<QList<NodeType>> m_nodes;
-    std::optional<Parameters> m_list;
-    int m_polls = 0; ///< status polls since the last list
-    LiveState m_live;
+    Received m_received;
 
     std::promise<void> m_ended;               ///< the worker's last word
     std::unique_ptr<Connection> m_connection; ///< last: its thread must end before the rest goes

@@ -109,9 +109,9 @@ Outcome applySettings(DriveClient &client, const CommandLine &line, const Parame
     bool saved = false;
     if (!notTaken.rows.isEmpty()) {
         outcome.status = ExitFailed;
-        outcome.messages.append(line.toFlash ? tr("The rest was applied; nothing was saved to flash.")
-                                             : tr("The rest was applied."));
-    } else if (line.toFlash) {
+        outcome.messages.append(line.has("to-flash") ? tr("The rest was applied; nothing was saved to flash.")
+                                                     : tr("The rest was applied."));
+    } else if (line.has("to-flash")) {
         saved = client.saveToFlash();
         if (!saved) {
             outcome.status = ExitFailed;

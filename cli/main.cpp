@@ -18,17 +18,14 @@ void complain(const QStringList &messages)
         std::fprintf(stderr, "%s\n", qPrintable(message));
 }
 
-/// False when the results did not get where they were sent (a full disk, a closed pipe).
-bool print(const QByteArray &text)
-{
-    return std::fwrite(text.constData(), 1, text.size(), stdout) == size_t(text.size()) && std::fflush(stdout) == 0;
-}
-
 Outcome runCommand(const CommandLine &line, Interruption &interruption)
 {
-    DriveClient client(line.port);
+    const Command &command = *findCommand(line.command);
+    if (command.run == nullptr)
+        return command.runWithoutDrive(line);
+    DriveClient client(line.port, line.pauseScale);
     interruption.callWhenAsked([&client] { client.interrupt(); });
-    Outcome outcome = findCommand(line.command)->run(client, line);
+    Outcome outcome = command.run(client, line);
     client.close();
     outcome.messages = client.messages() + outcome.messages;
     return outcome;
@@ -45,7 +42,7 @@ int main(int argc, char **argv)
 
     CommandLine line = parseCommandLine(app.arguments());
     if (!line.answer.isEmpty())
-        return print(line.answer.toUtf8()) ? ExitDone : ExitFailed;
+        return writeOut(line.answer.toUtf8()) ? ExitDone : ExitFailed;
     if (!line.problem.isEmpty()) {
         complain({line.problem, QCoreApplication::translate("main", "velbrin-cli --help tells more.")});
         return ExitUsage;
@@ -63,7 +60,7 @@ int main(int argc, char **argv)
 
     const Outcome outcome = runCommand(line, interruption);
     complain(outcome.messages);
-    if (!print(printed(outcome.results, line.json))) {
+    if (!writeOut(printed(outcome.results, line.json))) {
         complain({QCoreApplication::translate("main", "The results could not be written.")});
         return ExitFailed;
     }

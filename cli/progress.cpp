@@ -19,6 +19,28 @@ void Progress::show(const QString &text)
     draw();
 }
 
+void Progress::update(const QString &text)
+{
+    m_text = text;
+    if (m_timer.isActive())
+        draw();
+}
+
+void Progress::aside(const std::function<void()> &write)
+{
+    const bool wasShown = m_shown;
+    if (wasShown)
+        std::fputs("\r\033[K", stderr);
+    write();
+    if (wasShown)
+        draw();
+}
+
+void Progress::note(const QString &text)
+{
+    aside([&text] { std::fprintf(stderr, "%s\n", qPrintable(text)); });
+}
+
 void Progress::clear()
 {
     m_timer.stop();

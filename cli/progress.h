@@ -7,6 +7,8 @@
 #include <QString>
 #include <QTimer>
 
+#include <functional>
+
 /// Writes to standard error, and only when that is a terminal. The line is gone when the work is done.
 class Progress
 {
@@ -17,6 +19,14 @@ public:
     /// Shows `text` with the seconds that it has been there.
     void show(const QString &text);
     void clear();
+    /// Another text behind the same clock.
+    void update(const QString &text);
+    /// From now on shows nothing: somebody else draws on the terminal.
+    void hush() { m_terminal = false; }
+    /// Takes the line away while `write` writes to the terminal.
+    void aside(const std::function<void()> &write);
+    /// A line that stays, terminal or not.
+    void note(const QString &text);
 
 private:
     void draw();

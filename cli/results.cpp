@@ -4,11 +4,18 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
+#include <cstdio>
+
 namespace {
 
 QString asText(const QVariant &value)
 {
     return value.type() == QVariant::Double ? shortNumber(value.toDouble()) : value.toString();
+}
+
+QJsonDocument document(const QJsonValue &value)
+{
+    return value.isArray() ? QJsonDocument(value.toArray()) : QJsonDocument(value.toObject());
 }
 
 } // namespace
@@ -41,7 +48,19 @@ QByteArray printed(const Results &results, bool asJson)
 {
     if (!asJson)
         return results.lines.isEmpty() ? QByteArray() : results.lines.join(QLatin1Char('\n')).toUtf8() + '\n';
-    if (results.json.isArray())
-        return QJsonDocument(results.json.toArray()).toJson();
-    return results.json.isObject() ? QJsonDocument(results.json.toObject()).toJson() : QByteArray();
+    return results.json.isUndefined() ? QByteArray() : document(results.json).toJson();
+}
+
+QByteArray printedBlock(const Results &results, bool asJson)
+{
+    if (asJson)
+        return document(results.json).toJson(QJsonDocument::Compact) + '\n';
+    QStringList lines = results.lines;
+    lines.removeAll(QString());
+    return lines.join(QLatin1Char('\n')).toUtf8() + "\n\n";
+}
+
+bool writeOut(const QByteArray &text)
+{
+    return std::fwrite(text.constData(), 1, text.size(), stdout) == size_t(text.size()) && std::fflush(stdout) == 0;
 }

@@ -41,5 +41,10 @@ inline Results toResults(const Table &table)
 
 /// The bytes for standard output.
 QByteArray printed(const Results &results, bool asJson);
+/// The same on one line of JSON, or without an empty line in it: a block of many.
+QByteArray printedBlock(const Results &results, bool asJson);
+
+/// To standard output, at once. False when it did not get where it was sent (a full disk, a closed pipe).
+bool writeOut(const QByteArray &text);
 
 #endif

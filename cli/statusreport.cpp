@@ -15,14 +15,6 @@ QString tr(const char *text)
     return QCoreApplication::translate("StatusReport", text);
 }
 
-/// A line of the report; `key` is its name in JSON, where it must not be translated.
-struct Line
-{
-    const char *key;
-    QString caption;
-    QVariant value;
-};
-
 struct IdentityRow
 {
     const char *parameter;
@@ -38,9 +30,9 @@ const IdentityRow identityRows[] = {
     {"BUILDREVISION", "revision", QT_TRANSLATE_NOOP("StatusReport", "Firmware revision ID"), 16},
 };
 
-QList<Line> identityLines(const DriveClient &client, const Parameters &list)
+QList<StatusReport::Line> identityLines(const DriveClient &client, const Parameters &list)
 {
-    QList<Line> lines = {
+    QList<StatusReport::Line> lines = {
         {"connection", tr("Connection"), tr("Connected")},
         {"port", tr("Port"), client.port()},
         {"address", tr("Address"), client.address()},
@@ -58,22 +50,32 @@ QList<Line> identityLines(const DriveClient &client, const Parameters &list)
 
 } // namespace
 
-Results statusReport(const DriveClient &client, const Parameters &list, const LiveState &live)
+StatusReport statusReport(const DriveClient &client, const Parameters &list, const LiveState &live)
+{
+    const auto lines = [](const QString &html) { return plainText(html).split(QLatin1Char('\n'), Qt::SkipEmptyParts); };
+    return {identityLines(client, list),
+            {{"inputs", tr("Physical inputs"), lines(live.inputs)},
+             {"status", tr("Status"), lines(live.status)},
+             {"faults", tr("Fault register"), lines(live.faults)}},
+            readPanels(live)};
+}
+
+Results toResults(const StatusReport &report)
 {
     Results results;
-    QJsonObject json;
-    for (const Line &line : identityLines(client, list)) {
+    QJsonObject json{{"running", report.drive.running},
+                     {"setpoint", report.drive.setpoint},
+                     {"position", report.drive.position},
+                     {"activeFaults", QJsonArray::fromStringList(report.drive.faults)},
+                     {"reasons", QJsonArray::fromStringList(report.drive.reasons)}};
+    for (const StatusReport::Line &line : report.identity) {
         results.lines.append(line.caption + QLatin1Char('\t') + line.value.toString());
         json.insert(QLatin1String(line.key), QJsonValue::fromVariant(line.value));
     }
-    const Line panels[] = {{"inputs", tr("Physical inputs"), live.inputs},
-                           {"status", tr("Status"), live.status},
-                           {"faults", tr("Fault register"), live.faults}};
-    for (const Line &panel : panels) {
-        const QStringList lines = plainText(panel.value.toString()).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
-        json.insert(QLatin1String(panel.key), QJsonArray::fromStringList(lines));
-        if (!lines.isEmpty())
-            results.lines += QStringList{QString(), panel.caption} + lines;
+    for (const StatusReport::Panel &panel : report.panels) {
+        json.insert(QLatin1String(panel.key), QJsonArray::fromStringList(panel.lines));
+        if (!panel.lines.isEmpty())
+            results.lines += QStringList{QString(), panel.caption} + panel.lines;
     }
     results.json = json;
     return results;

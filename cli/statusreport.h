@@ -3,12 +3,34 @@
 #ifndef STATUSREPORT_H
 #define STATUSREPORT_H
 
+#include "drivereading.h"
 #include "results.h"
 
 class DriveClient;
 class Parameters;
-struct LiveState;
 
-Results statusReport(const DriveClient &client, const Parameters &list, const LiveState &live);
+struct StatusReport
+{
+    /// A named value; `key` is its name in JSON, where it must not be translated.
+    struct Line
+    {
+        const char *key;
+        QString caption;
+        QVariant value;
+    };
+    struct Panel
+    {
+        const char *key;
+        QString caption;
+        QStringList lines;
+    };
+    QList<Line> identity;
+    QList<Panel> panels; ///< inputs, status, faults
+    DriveReading drive;
+};
+
+StatusReport statusReport(const DriveClient &client, const Parameters &list, const LiveState &live);
+
+Results toResults(const StatusReport &report);
 
 #endif

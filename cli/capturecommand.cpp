@@ -1,0 +1,304 @@
+// Recording what the drive does, and letting it do something while it is recorded.
+#include "commands.h"
+
+#include "captureorder.h"
+#include "captureplotter.h"
+#include "commandline.h"
+#include "driveclient.h"
+#include "outputfile.h"
+#include "plotpage.h"
+
+#include <QCoreApplication>
+#include <QJsonObject>
+#include <QTemporaryFile>
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+constexpr int readyLimitMs = 30000; // after enabling: the way to the setpoint, and homing where it is asked for
+constexpr int downloadLimitMs = 60000;
+constexpr double defaultExtraSeconds = 10.0; // for the trigger to come
+
+QString tr(const char *text)
+{
+    return QCoreApplication::translate("CaptureCommand", text);
+}
+
+struct Capture
+{
+    QList<CaptureData> channels;
+    Parameters settings; ///< for the page; empty without one
+    QString model;
+    double rate = 0.0; ///< Hz
+};
+
+/// Where the capture goes to. Opened before anything moves: a capture that cannot be kept is not worth a motion.
+struct Destination
+{
+    explicit Destination(const CommandLine &line) : csv(line.value("csv")), html(line.value("html")) {}
+
+    OutputFile csv;
+    OutputFile html;
+    QString flotFolder;
+
+    QString open()
+    {
+        if (html.isWanted())
+            flotFolder = findFlotFolder();
+        if (html.isWanted() && flotFolder.isEmpty())
+            return tr("The scripts of the plot page (\"flot\" folder) are not found; set VELBRIN_DATA to the folder "
+                      "that holds them, or leave --html away.");
+        const QString problem = csv.open();
+        return problem.isEmpty() ? html.open() : problem;
+    }
+};
+
+// --- The parts of a capture, in their order -----------------------------------------------------------------------
+
+QString rateProblem(const CaptureOrder &order, double highest)
+{
+    if (order.rate.value_or(0.0) <= highest)
+        return QString();
+    return tr("--rate is at most %1 Hz on this drive.").arg(highest);
+}
+
+/// After --enable: waits until the drive stands at its setpoint.
+bool waitUntilReady(DriveClient &client, QStringList &messages)
+{
+    const auto isReady = [](const DriveReading &drive) { return drive.ready && !drive.recovering; };
+    const auto isDecided = [&isReady](const DriveReading &drive) { return isReady(drive) || !drive.running; };
+    client.waitForDrive(tr("Waiting until the drive is ready"), isDecided, readyLimitMs);
+    if (client.isUp() && !client.wasInterrupted() && isReady(client.drive()))
+        return true;
+    messages +=
+        QStringList{tr("The drive was enabled but did not become ready for use."), inactivityText(client.drive())};
+    return false;
+}
+
+/// An excitation needs a drive that somebody has enabled.
+bool canExcite(const DriveClient &client, const CaptureOrder &order, QStringList &messages)
+{
+    if (!order.excites() || client.drive().running)
+        return true;
+    messages += QStringList{tr("The drive is not enabled, so nothing would move: enable it first, or give --enable."),
+                            inactivityText(client.drive())};
+    return false;
+}
+
+void arm(DriveClient &client, const CaptureOrder &order, double rate)
+{
+    client.received().plot.reset();
+    client.received().captureState.clear();
+    client.session().setupCapture(rate, order.trigger, order.channels);
+    client.session().command(Connection::TaskInitScope);
+}
+
+/// Behind the arming in the session's queue, so that nothing moves where arming failed.
+void step(DriveClient &client, const CaptureOrder &order)
+{
+    client.session().setTargetSetpoint(*order.step);
+    client.session().command(order.isIncremental ? Connection::TaskSetIncrementalSetpoint
+                                                 : Connection::TaskSetAbsoluteSetpoint);
+}
+
+bool waitForRecorder(DriveClient &client, double seconds, QStringList &messages)
+{
+    const QString downloading = Connection::tr("Downloading..");
+    const auto isFull = [&client, &downloading] {
+        return client.received().captureState == downloading || client.received().plot;
+    };
+    const auto done = [&client, &isFull] { return client.isLost() || isFull(); };
+    if (client.waitFor(tr("Scope waiting"), done, int(std::ceil(seconds * 1000.0))) && !client.isLost())
+        return true;
+    if (client.isUp() && !client.wasInterrupted())
+        messages.append(
+            tr("The recorder was not triggered and filled within %1 s. Nothing was captured.").arg(seconds));
+    return false;
+}
+
+std::optional<QList<CaptureData>> download(DriveClient &client)
+{
+    const auto done = [&client] { return client.isLost() || client.received().plot; };
+    client.waitFor(tr("Downloading"), done, downloadLimitMs);
+    return client.wasInterrupted() ? std::nullopt : client.received().plot;
+}
+
+/// Arms, excites, waits and downloads. Whatever was set going is stopped when this returns.
+std::optional<QList<CaptureData>> record(DriveClient &client, const CaptureOrder &order, double rate,
+                                         QStringList &messages)
+{
+    std::optional<DisableAtEnd> disableAtEnd;
+    if (order.enables) {
+        if (!enableDrive(client, messages))
+            return std::nullopt;
+        disableAtEnd.emplace(client);
+        if (!waitUntilReady(client, messages))
+            return std::nullopt;
+    }
+    if (!canExcite(client, order, messages))
+        return std::nullopt;
+    arm(client, order, rate);
+    if (order.step)
+        step(client, order);
+    std::optional<QList<CaptureData>> channels;
+    {
+        std::optional<RunningStimulus> stimulus;
+        if (order.stimulus)
+            stimulus.emplace(client, *order.stimulus);
+        const double seconds =
+            order.timeOut.value_or(recordingTime(order, client.session().maxScopeSampleRate()) + defaultExtraSeconds);
+        if (waitForRecorder(client, seconds, messages))
+            channels = download(client);
+    }
+    if (disableAtEnd && !disableAtEnd->now())
+        messages.append(tr("The drive is not known to be disabled."));
+    return channels;
+}
+
+// --- Results ------------------------------------------------------------------------------------------------------
+
+QByteArray csvOf(const Capture &capture, QString &problem)
+{
+    QTemporaryFile file;
+    if (!file.open() || !CapturePlotter().saveCaptureDataCSV(capture.channels, file.fileName()))
+        problem = tr("Error writing to %1: %2.").arg(file.fileName(), file.errorString());
+    return problem.isEmpty() ? file.readAll() : QByteArray();
+}
+
+QByteArray pageOf(const Capture &capture, const QString &flotFolder, QString &problem)
+{
+    const QString page =
+        CapturePlotter().generatePlotPage(capture.channels, capture.settings.getParamsHTMLList(), capture.model);
+    return standalonePage(page, flotFolder, problem).toUtf8();
+}
+
+QStringList save(const Capture &capture, Destination &to)
+{
+    QStringList problems;
+    const auto write = [&problems](OutputFile &file, const std::function<QByteArray(QString &)> &contents) {
+        if (!file.isWanted())
+            return;
+        QString problem;
+        const QByteArray bytes = contents(problem);
+        problem = problem.isEmpty() ? file.write(bytes) : problem;
+        if (!problem.isEmpty())
+            problems.append(problem);
+    };
+    write(to.csv, [&](QString &problem) { return csvOf(capture, problem); });
+    write(to.html, [&](QString &problem) { return pageOf(capture, to.flotFolder, problem); });
+    return problems;
+}
+
+Results summary(const Capture &capture)
+{
+    Table table{{"key", "unit", "samples", "first", "minimum", "maximum", "last"}, {}};
+    for (const CaptureData &channel : capture.channels) {
+        if (channel.samples.isEmpty())
+            continue;
+        const auto isLess = [](const QPair<double, double> &a, const QPair<double, double> &b) {
+            return a.second < b.second;
+        };
+        const auto range = std::minmax_element(channel.samples.cbegin(), channel.samples.cend(), isLess);
+        table.rows.append({channel.key, channel.unit, channel.samples.size(), channel.samples.first().second,
+                           range.first->second, range.second->second, channel.samples.last().second});
+    }
+    return {tabSeparated(table), QJsonObject{{"sampleRate", capture.rate}, {"channels", toJson(table)}}};
+}
+
+// --- The command --------------------------------------------------------------------------------------------------
+
+Outcome capture(DriveClient &client, const CommandLine &line)
+{
+    QString problem;
+    const CaptureOrder order = captureOrder(line, problem);
+    Destination destination(line);
+    problem = destination.open();
+    if (!problem.isEmpty())
+        return failed({problem});
+    QStringList messages;
+    if (!connectToMove(client, line, messages))
+        return failed(messages);
+    const double base = client.session().maxScopeSampleRate();
+    problem = rateProblem(order, base);
+    if (!problem.isEmpty())
+        return failed({problem});
+
+    Capture capture;
+    capture.model = Connection::deviceModelName(client.deviceType(), true);
+    capture.rate = effectiveRate(order, base);
+    if (destination.html.isWanted()) {
+        const auto list = client.read();
+        if (!list)
+            return failed({tr("The drive's settings could not be read.")});
+        capture.settings = *list;
+    }
+    const auto channels = record(client, order, order.rate.value_or(base), messages);
+    if (!channels)
+        return failed(messages);
+    capture.channels = *channels;
+    const QStringList problems = messages + save(capture, destination);
+    return {problems.isEmpty() ? ExitDone : ExitFailed, summary(capture), problems};
+}
+
+QString checkCapture(const CommandLine &line)
+{
+    QString problem;
+    captureOrder(line, problem);
+    return problem;
+}
+
+} // namespace
+
+QList<Command> captureCommands()
+{
+#define TEXT(text) QT_TRANSLATE_NOOP("CommandHelp", text)
+    return {
+        {"capture",
+         "--channels KEY,... [OPTION...] (--csv FILE | --html FILE)...",
+         TEXT("record the drive's signals, with or without a motion, to CSV and plot page"),
+         TEXT(
+             "Arms the drive's recorder, moves the axis if --step or --stimulus say so, waits until the recorder has\n"
+             "2000 words, which the channels share, and saves them. Time in the files begins at the first sample.\n"
+             "\n"
+             "THE AXIS MOVES with --step, --stimulus and --enable, and not otherwise; the first two need a drive that\n"
+             "is enabled. The drive stays where --step has sent it. A stimulus is stopped at the end and on every\n"
+             "failure; Ctrl+C stops it, too, and disables a drive that --enable has enabled.\n"
+             "\n"
+             "Channels: torqueref, torquemeas, fluxcurrent (A); velreference, velmeas (velocity units); posreference,\n"
+             "posmeas, posferror (counts); outputvolt, fluxvoltage (%); hvbusvolt (V); pwm1, pwm2, pwm3, debug, "
+             "debug2\n"
+             "(no unit).\n"
+             "\n"
+             "Prints one line a channel, tab separated: key, unit, number of samples, first, lowest, highest and last\n"
+             "value."),
+         0,
+         0,
+         capture,
+         {{"channels", "KEY,...", TEXT("What to record, one to sixteen of the channels above.")},
+          {"rate", "HZ",
+           TEXT("Samples a second of each channel; the drive takes the nearest that it has. Its highest if not given: "
+                "20000 (Keta), 17500 (Torva).")},
+          {"trigger", "WHEN",
+           TEXT("What starts the recording: rise (the setpoint rises), change (it changes), fault (a fault comes up), "
+                "now. If not given: change with --step or --stimulus, otherwise now.")},
+          {"step", "SETPOINT", TEXT("When armed, give the drive this setpoint, in setpoint units.")},
+          {"incremental", nullptr, TEXT("--step is added to the setpoint in use.")},
+          {"stimulus", "T1,D1,T2,D2",
+           TEXT("When armed, switch between two setpoints, each held for its time in s, 0.02 to 100.")},
+          {"enable", nullptr, TEXT("Enable the drive before, and disable it at the end, whatever happens in between.")},
+          {"time-out", "S",
+           TEXT("Longest time in seconds from arming until the recorder is full; if not given, 10 s more than the "
+                "recording takes.")},
+          {"csv", "FILE",
+           TEXT("Save the samples, semicolon separated: a line of names, then time in s and a value a channel."), true},
+          {"html", "FILE",
+           TEXT("Save the plot page. Scripts and style are put into the file, which can so be opened in any browser, "
+                "moved and sent; drag in a chart to zoom."),
+           true}},
+         false,
+         checkCapture},
+    };
+#undef TEXT
+}

@@ -1,0 +1,83 @@
+#include "commandhelp.h"
+
+#include <QCoreApplication>
+
+namespace {
+
+constexpr int lineWidth = 98;
+
+QString tr(const char *text)
+{
+    return QCoreApplication::translate("CommandHelp", text);
+}
+
+/// `text` in lines that begin at `column`, the first of them behind `head`.
+QString besideHead(const QString &head, const QString &text, int column)
+{
+    QString line = (QLatin1String("  ") + head).leftJustified(column - 1) + QLatin1Char(' ');
+    QString result;
+    if (line.size() > column) {
+        result = line.trimmed().prepend(QLatin1String("  ")) + QLatin1Char('\n');
+        line = QString(column, QLatin1Char(' '));
+    }
+    bool isEmpty = true;
+    for (const QString &word : text.split(QLatin1Char(' '))) {
+        if (!isEmpty && line.size() + 1 + word.size() > lineWidth) {
+            result += line + QLatin1Char('\n');
+            line = QString(column, QLatin1Char(' '));
+            isEmpty = true;
+        }
+        line += (isEmpty ? QString() : QStringLiteral(" ")) + word;
+        isEmpty = false;
+    }
+    return result + line + QLatin1Char('\n');
+}
+
+QString optionsHelp(const QList<Option> &options)
+{
+    QString text;
+    for (const Option &option : options) {
+        if (option.help == nullptr)
+            continue;
+        const QString value = QLatin1String(option.value);
+        const QString gap = value.isEmpty() || value.startsWith(QLatin1Char('[')) ? QString() : QStringLiteral(" ");
+        text += besideHead(QLatin1String("--") + QLatin1String(option.name) + gap + value, tr(option.help), 28);
+    }
+    return text;
+}
+
+} // namespace
+
+QString commandUsage(const Command &command)
+{
+    return (QLatin1String(command.name) + QLatin1Char(' ') + QLatin1String(command.arguments)).trimmed();
+}
+
+QString programHelp(const QList<Option> &commonOptions)
+{
+    QString text =
+        tr("Usage: velbrin-cli (--port NAME | --virtual-drive[=PROFILES]) [OPTION...] COMMAND\n"
+           "       velbrin-cli COMMAND --help\n"
+           "\n"
+           "Sets up, moves and watches a drive on the Zetabus, for scripts and for benches with many machines.\n"
+           "Values are in display units, as in settings files. Results go to standard output, reasons to\n"
+           "standard error.\n"
+           "\n"
+           "Nothing moves and nothing is written to a drive unless the command says so; but a drive moves\n"
+           "machines, and software is no safety device: keep the machine's own emergency stop within reach.\n"
+           "\n"
+           "Commands:\n");
+    for (const Command &command : commandTable())
+        text += besideHead(QLatin1String(command.name), tr(command.summary), 18);
+    return text + tr("\nOptions:\n") + optionsHelp(commonOptions) +
+           tr("\nExit status: 0 done, 1 refused or failed, 2 wrong usage, 3 \"compare\" found a difference.\n");
+}
+
+QString commandHelp(const Command &command)
+{
+    QString text = tr("Usage: velbrin-cli ... %1").arg(commandUsage(command)) + QLatin1String("\n\n") +
+                   tr(command.details) + QLatin1Char('\n');
+    if (!command.options.isEmpty())
+        text += tr("\nOptions:\n") + optionsHelp(command.options);
+    return text + tr("\nvelbrin-cli --help has the options that all commands take.\n");
+}

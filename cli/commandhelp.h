@@ -1,0 +1,17 @@
+/// \file
+/// The texts of --help: of the program, and of each command.
+#ifndef COMMANDHELP_H
+#define COMMANDHELP_H
+
+#include "commands.h"
+
+#include <QString>
+
+/// What the program is, its common options, one line a command.
+QString programHelp(const QList<Option> &commonOptions);
+/// Everything about one command.
+QString commandHelp(const Command &command);
+/// "NAME ARGUMENTS".
+QString commandUsage(const Command &command);
+
+#endif

@@ -1,0 +1,245 @@
+// Commands that let a drive move, and those that stop it.
+#include "commands.h"
+
+#include "commandline.h"
+#include "driveclient.h"
+#include "drivemotion.h"
+#include "drivesteps.h"
+#include "numbers.h"
+
+#include <QCoreApplication>
+#include <QJsonArray>
+#include <QJsonObject>
+
+namespace {
+
+constexpr int answerLimitMs = 2000; // for a register that the drive has just been told to change
+constexpr double defaultHomingSeconds = 60.0;
+constexpr double longestWaitSeconds = 3600.0;
+
+QString tr(const char *text)
+{
+    return QCoreApplication::translate("MotionCommands", text);
+}
+
+QString stateWord(const DriveReading &drive)
+{
+    if (drive.faultStopped)
+        return QStringLiteral("fault");
+    if (drive.homing)
+        return QStringLiteral("homing");
+    if (drive.running)
+        return QStringLiteral("running");
+    return drive.enabled ? QStringLiteral("waiting") : QStringLiteral("disabled");
+}
+
+Outcome done(const DriveReading &drive)
+{
+    Results results;
+    results.lines.append(QStringLiteral("%1\t%2\t%3").arg(stateWord(drive)).arg(drive.setpoint).arg(drive.position));
+    results.json = QJsonObject{{"state", stateWord(drive)},
+                               {"setpoint", drive.setpoint},
+                               {"position", drive.position},
+                               {"faults", QJsonArray::fromStringList(drive.faults)},
+                               {"reasons", QJsonArray::fromStringList(drive.reasons)}};
+    return {ExitDone, results, {}};
+}
+
+/// Refused, with what keeps the drive from running where that is why.
+Outcome refused(const QString &what, const DriveReading &drive)
+{
+    const QString reason = inactivityText(drive);
+    return failed(reason.isEmpty() ? QStringList(what) : QStringList{what, reason});
+}
+
+QString listed(const QStringList &names)
+{
+    return names.join(QLatin1String(", "));
+}
+
+// --- Commands -----------------------------------------------------------------------------------------------------
+
+Outcome enable(DriveClient &client, const CommandLine &line)
+{
+    QStringList messages;
+    if (!connectToMove(client, line, messages) || !enableDrive(client, messages))
+        return failed(messages);
+    Outcome outcome = done(client.drive());
+    if (client.drive().recovering)
+        outcome.messages.append(tr("The axis is on its way to the setpoint in use."));
+    return outcome;
+}
+
+Outcome disable(DriveClient &client, const CommandLine &line)
+{
+    QStringList messages;
+    // The state is not asked for first: the disable is what matters.
+    if (!connectToDrive(client, line, messages))
+        return failed(messages);
+    if (client.isInUpgradeMode())
+        return failed({tr("The drive is in firmware-upgrade mode and cannot move there.")});
+    return disableDrive(client) ? done(client.drive()) : failed();
+}
+
+Outcome clearFaults(DriveClient &client, const CommandLine &line)
+{
+    QStringList messages;
+    if (!connectToMove(client, line, messages))
+        return failed(messages);
+    client.session().clearDriveFaults();
+    const auto areCleared = [](const DriveReading &drive) { return drive.faults.isEmpty(); };
+    client.waitForDrive(tr("Clearing faults"), areCleared, answerLimitMs);
+    // A cause that is still there raises its fault again at once.
+    if (!client.nextLiveState())
+        return failed();
+    const DriveReading drive = client.drive();
+    if (!drive.faults.isEmpty())
+        return failed({tr("Still active: %1.").arg(listed(drive.faults))});
+    if (drive.permanentStop)
+        return failed({tr("The faults are cleared, but the drive is in permanent stop until its next restart.")});
+    return done(drive);
+}
+
+/// True when the drive has left homing for whatever reason.
+bool abortHoming(DriveClient &client)
+{
+    client.session().command(Connection::TaskAbortHoming);
+    client.session().command(Connection::TaskUpdateStatus);
+    client.received().polls = 0;
+    const auto hasEnded = [&client] { return client.received().polls > 0 && !client.drive().homing; };
+    const auto isDecided = [&client, &hasEnded] { return client.isLost() || hasEnded(); };
+    client.waitFor(tr("Aborting homing"), isDecided, answerLimitMs, DriveClient::Until::Done);
+    return client.isUp() && hasEnded();
+}
+
+Outcome home(DriveClient &client, const CommandLine &line)
+{
+    QStringList messages;
+    if (!connectToMove(client, line, messages))
+        return failed(messages);
+    if (!client.drive().running)
+        return refused(tr("The drive is not enabled, so it was not asked to home."), client.drive());
+
+    const auto seconds = number(line.value("time-out"), 0.0, longestWaitSeconds).value_or(defaultHomingSeconds);
+    const auto isHoming = [](const DriveReading &drive) { return drive.homing; };
+    const auto hasEnded = [](const DriveReading &drive) { return !drive.homing; };
+    client.session().command(Connection::TaskStartHoming);
+    const bool hasBegun = client.waitForDrive(tr("Starting to home"), isHoming, answerLimitMs);
+    if (hasBegun && client.waitForDrive(tr("Homing"), hasEnded, int(seconds * 1000.0))) {
+        const DriveReading drive = client.drive();
+        return drive.running ? done(drive) : refused(tr("Homing was broken off by the drive."), drive);
+    }
+    if (!abortHoming(client))
+        return failed({tr("The drive has not confirmed that homing is aborted. It may still be moving: use the "
+                          "machine's own stop.")});
+    if (!hasBegun && !client.wasInterrupted())
+        return failed({tr("The drive did not start homing. It homes in position control only, and when homing is "
+                          "switched on in its settings.")});
+    return failed({tr("Homing was aborted before it was done.")});
+}
+
+Outcome setpoint(DriveClient &client, const CommandLine &line)
+{
+    QStringList messages;
+    if (!connectToMove(client, line, messages))
+        return failed(messages);
+    const bool isIncremental = line.has("incremental");
+    const int value = line.arguments.first().toInt();
+    const qint64 target = isIncremental ? qint64(client.drive().setpoint) + value : value;
+    if (target < lowestSetpoint || target > highestSetpoint)
+        return failed({tr("The setpoint would be %1, beyond the 30 bits of the drive's.").arg(target)});
+
+    client.session().setTargetSetpoint(value);
+    client.session().command(isIncremental ? Connection::TaskSetIncrementalSetpoint
+                                           : Connection::TaskSetAbsoluteSetpoint);
+    const auto isTaken = [target](const DriveReading &drive) { return drive.setpoint == target; };
+    if (!client.waitForDrive(tr("Setting the setpoint"), isTaken, answerLimitMs))
+        return failed(client.isUp() && !client.wasInterrupted()
+                          ? QStringList(tr("The drive did not take it: its setpoint in use is %1. Does it take its "
+                                           "setpoint from the bus?")
+                                            .arg(client.drive().setpoint))
+                          : QStringList());
+    Outcome outcome = done(client.drive());
+    if (!client.drive().running)
+        outcome.messages.append(tr("The drive is not running; the axis goes there when it does."));
+    return outcome;
+}
+
+// --- Arguments that can be judged without a drive -----------------------------------------------------------------
+
+QString checkSetpoint(const CommandLine &line)
+{
+    if (wholeNumber(line.arguments.first(), lowestSetpoint, highestSetpoint))
+        return QString();
+    return tr("\"%1\" is no whole number from %2 to %3.")
+        .arg(line.arguments.first())
+        .arg(lowestSetpoint)
+        .arg(highestSetpoint);
+}
+
+QString checkTimeOut(const CommandLine &line)
+{
+    if (!line.has("time-out") || number(line.value("time-out"), 0.01, longestWaitSeconds))
+        return QString();
+    return tr("--time-out takes seconds, 0.01 to 3600.");
+}
+
+} // namespace
+
+QList<Command> motionCommands()
+{
+#define TEXT(text) QT_TRANSLATE_NOOP("CommandHelp", text)
+    return {
+        {"enable", "", TEXT("enable the drive, and wait until its motor is powered"),
+         TEXT("THE MOTOR IS POWERED FROM HERE ON, and the axis moves to the setpoint in use if it stands elsewhere. "
+              "The\n"
+              "drive stays enabled when the command has ended: nothing watches it then. \"disable\" ends it.\n"
+              "\n"
+              "Prints state, setpoint in use (setpoint units) and position feedback (counts), tab separated. When the\n"
+              "motor is not powered within 3 s, the enable is taken back and the reason told. Ctrl+C disables."),
+         0, 0, enable},
+        {"disable", "", TEXT("disable the drive, and wait until its state shows it"),
+         TEXT("Give --node: the search for drives would take 2.5 s. Exit status 1 when the drive has not confirmed "
+              "that it\n"
+              "is disabled; it may then still be running. This is no emergency stop.\n"
+              "\n"
+              "Prints state, setpoint in use (setpoint units) and position feedback (counts), tab separated."),
+         0, 0, disable},
+        {"clear-faults", "", TEXT("clear the drive's faults"),
+         TEXT(
+             "A drive that is still enabled runs again when its faults are gone; \"disable\" it first if it must not.\n"
+             "Exit status 1 when a fault is still there or comes back at once.\n"
+             "\n"
+             "Prints state, setpoint in use (setpoint units) and position feedback (counts), tab separated."),
+         0, 0, clearFaults},
+        {"home",
+         "[--time-out S]",
+         TEXT("run the homing that the drive's settings describe, and wait for its end"),
+         TEXT("THE AXIS MOVES. The drive must be enabled. Homing is aborted on Ctrl+C and after the time-out.\n"
+              "\n"
+              "Prints state, setpoint in use (setpoint units) and position feedback (counts), tab separated."),
+         0,
+         0,
+         home,
+         {{"time-out", "S", TEXT("Longest time in seconds, 60 if not given.")}},
+         false,
+         checkTimeOut},
+        {"setpoint",
+         "VALUE [--incremental]",
+         TEXT("give the drive a setpoint"),
+         TEXT("THE AXIS MOVES if the drive is enabled, and otherwise when it is enabled next. VALUE is a whole number "
+              "in\n"
+              "setpoint units, -536870912 to 536870911; what it means (position, velocity, torque) is up to the "
+              "control\n"
+              "mode. Waits until the drive shows it as its setpoint in use, not until the axis is there.\n"
+              "\n"
+              "Prints state, setpoint in use (setpoint units) and position feedback (counts), tab separated."),
+         1,
+         1,
+         setpoint,
+         {{"incremental", nullptr, TEXT("VALUE is added to the setpoint in use.")}},
+         false,
+         checkSetpoint},
+    };
+#undef TEXT
+}

@@ -1,0 +1,222 @@
+// What a drive's settings are, and changing them; and the search for drives.
+#include "commands.h"
+
+#include "catalogue.h"
+#include "commandline.h"
+#include "driveclient.h"
+#include "drivesteps.h"
+#include "plaintext.h"
+#include "settingschecks.h"
+
+#include <QCoreApplication>
+#include <QJsonObject>
+
+namespace {
+
+QString tr(const char *text)
+{
+    return QCoreApplication::translate("Commands", text);
+}
+
+Table nodeTable(const QList<NodeType> &nodes)
+{
+    Table table{{"address", "model", "typeId", "mode"}, {}};
+    for (const NodeType &node : nodes)
+        table.rows.append({node.address, Connection::deviceModelName(node.deviceType, false), node.deviceType,
+                           modeName(node.firmwareUpgradeMode)});
+    return table;
+}
+
+Outcome scan(DriveClient &client, const CommandLine &)
+{
+    const auto nodes = client.scan();
+    if (!nodes)
+        return failed();
+    Outcome outcome{ExitDone, toResults(nodeTable(*nodes)), {}};
+    if (nodes->isEmpty())
+        outcome.messages.append(tr("No drive answers on %1.").arg(client.port()));
+    return outcome;
+}
+
+Outcome read(DriveClient &client, const CommandLine &line)
+{
+    QStringList messages;
+    const auto list = readDrive(client, line, messages);
+    if (!list)
+        return failed(messages);
+    for (const QString &name : line.arguments) {
+        if (!list->getParam(name).supportedInDevice(modelName(client)))
+            messages.append(tr("%1 is not on this model (%2).").arg(name, modelName(client)));
+    }
+    return {ExitDone, toResults(settingsTable(*list, line.arguments)), messages};
+}
+
+Outcome write(DriveClient &client, const CommandLine &line)
+{
+    QStringList messages;
+    const auto drive = readDrive(client, line, messages);
+    if (!drive)
+        return failed(messages);
+    Parameters wanted = *drive;
+    QStringList names;
+    for (const QString &text : line.arguments) {
+        const Assignment assignment = *parseAssignment(text);
+        const QString reason = refusal(*drive, assignment, modelName(client));
+        if (!reason.isEmpty())
+            messages.append(reason);
+        SingleParam param = wanted.getParam(assignment.name);
+        param.value = assignment.value;
+        wanted.replaceParam(param);
+        names.append(assignment.name);
+    }
+    if (!messages.isEmpty())
+        return failed(messages + QStringList(tr("Nothing was written.")));
+    return applySettings(client, line, wanted, names);
+}
+
+Outcome save(DriveClient &client, const CommandLine &line)
+{
+    QStringList messages;
+    const auto list = readDrive(client, line, messages);
+    if (!list)
+        return failed(messages);
+    const QString fileName = line.arguments.first();
+    const QString problem = list->saveToFile(fileName);
+    if (!problem.isEmpty())
+        return failed({plainText(problem)});
+    return {ExitDone, {{}, QJsonObject{{"file", fileName}, {"parameters", list->getParamCount()}}}, {}};
+}
+
+Outcome load(DriveClient &client, const CommandLine &line)
+{
+    QStringList messages;
+    const auto drive = readDrive(client, line, messages);
+    if (!drive)
+        return failed(messages);
+    const auto wanted = loadFile(client, line.arguments.first(), *drive, messages);
+    if (!wanted)
+        return failed(messages + QStringList(tr("Nothing was written.")));
+    QStringList changed;
+    for (const Difference &difference : differences(*drive, *wanted, modelName(client)))
+        changed.append(difference.name);
+    Outcome outcome = applySettings(client, line, *wanted, changed);
+    outcome.messages = messages + outcome.messages;
+    return outcome;
+}
+
+Outcome compare(DriveClient &client, const CommandLine &line)
+{
+    QStringList messages;
+    const auto drive = readDrive(client, line, messages);
+    if (!drive)
+        return failed(messages);
+    const auto file = loadFile(client, line.arguments.first(), *drive, messages);
+    if (!file)
+        return failed(messages);
+    Table table{{"name", "drive", "file"}, {}};
+    for (const Difference &difference : differences(*drive, *file, modelName(client)))
+        table.rows.append({difference.name, difference.first, difference.second});
+    return {table.rows.isEmpty() ? ExitDone : ExitDifferent, toResults(table), messages};
+}
+
+// --- Arguments that can be judged without a drive -----------------------------------------------------------------
+
+QString unknownName(const QStringList &names)
+{
+    const Parameters catalogue = driveParameterCatalogue();
+    for (const QString &name : names) {
+        if (catalogue.getParam(name).name != name)
+            return tr("There is no setting named \"%1\".").arg(name);
+    }
+    return QString();
+}
+
+QString checkNames(const CommandLine &line)
+{
+    return unknownName(line.arguments);
+}
+
+QString checkAssignments(const CommandLine &line)
+{
+    QStringList names;
+    for (const QString &text : line.arguments) {
+        const auto assignment = parseAssignment(text);
+        if (!assignment)
+            return tr("\"%1\" is not of the form NAME=VALUE with a number.").arg(text);
+        if (names.contains(assignment->name))
+            return tr("%1 is given twice.").arg(assignment->name);
+        names.append(assignment->name);
+    }
+    return unknownName(names);
+}
+
+} // namespace
+
+QList<Command> settingsCommands()
+{
+#define TEXT(text) QT_TRANSLATE_NOOP("CommandHelp", text)
+    static const Option toFlash = {"to-flash", nullptr, TEXT("Save to the drive's flash what was applied.")};
+    return {
+        {"scan", "", TEXT("the drives: address, model, type id, normal or upgrade"),
+         TEXT("Asks the bus addresses 1 to 20 and 251 to 255, which takes 2.5 s. One line a drive, tab separated: "
+              "address,\n"
+              "model, type id, \"normal\" or \"upgrade\" (in firmware-upgrade mode)."),
+         0, 0, scan},
+        {"read",
+         "[NAME...]",
+         TEXT("all settings or those named: name, value, minimum, maximum"),
+         TEXT("One line a setting, tab separated: name, value, minimum, maximum; in display units, as in settings "
+              "files."),
+         0,
+         -1,
+         read,
+         {},
+         false,
+         checkNames},
+        {"write",
+         "NAME=VALUE... [--to-flash]",
+         TEXT("check, apply, read again, report what was not taken"),
+         TEXT("Values in display units. Nothing is written when one of them is read-only, not on this model or outside "
+              "the\n"
+              "limits that the drive gave. Prints what the drive holds then, as \"read\" does. Settings that are in "
+              "effect\n"
+              "on an enabled drive change how it moves at once."),
+         1,
+         -1,
+         write,
+         {toFlash},
+         false,
+         checkAssignments},
+        {"save",
+         "FILE.drc",
+         TEXT("read the settings and save them to a file"),
+         TEXT("Reads all settings and saves them to a settings file, which the window opens too."),
+         1,
+         1,
+         save,
+         {},
+         true},
+        {"load",
+         "FILE.drc [--to-flash]",
+         TEXT("apply a file, read again, report what was not taken"),
+         TEXT("Applies a settings file and prints what has changed, as \"read\" does. A setting for which the file has "
+              "no\n"
+              "value keeps the drive's own."),
+         1,
+         1,
+         load,
+         {toFlash},
+         true},
+        {"compare",
+         "FILE.drc",
+         TEXT("what differs between drive and file: name, drive, file"),
+         TEXT("One line a difference, tab separated: name, the drive's value, the file's; exit status 3 when there is "
+              "any."),
+         1,
+         1,
+         compare,
+         {},
+         true},
+    };
+#undef TEXT
+}
