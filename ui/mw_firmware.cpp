@@ -3,6 +3,7 @@
 #include "firmwaredialog.h"
 #include "mw.h"
 #include "mwforms.h"
+#include "noticetext.h"
 
 #include <QDebug>
 #include <QDir>
@@ -108,7 +109,7 @@ void MW::suggestDeviceRestart()
 
 void MW::handleUpdateCheckerMessage(QString html, bool mustDisconnect)
 {
-    m_errorWindow->showMessage(html);
+    m_errorWindow->showMessage(noticeText(html));
     qDebug() << "mustdisconnect" << (mustDisconnect ? "true" : "false");
     if (mustDisconnect)
         m_connection.command(Connection::TaskDisconnect);

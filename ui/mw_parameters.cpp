@@ -21,7 +21,8 @@ void MW::paramsRetreived(Parameters params, bool loadedFromFile)
     const double frequency = params.getParam(QStringLiteral("PIF")).value;
     if (frequency > 0)
         m_loopFrequency = frequency;
-    if (params.getParam(QStringLiteral("TCFWVER")).value > 0) // a drive was read
+    const bool driveWasRead = params.getParam(QStringLiteral("TCFWVER")).value > 0;
+    if (driveWasRead && !loadedFromFile) // a file leaves a mixture of two drives' identities
         sendUpdateQuery();
     fillControls(bareCatalogue);
     if (!loadedFromFile)
@@ -39,7 +40,9 @@ void MW::paramsRetreived(Parameters params, bool loadedFromFile)
 
 void MW::sendUpdateQuery()
 {
-    const auto value = [this](const char *name) { return int(m_params.getParam(QLatin1String(name)).value); };
+    const auto value = [this](const char *name) {
+        return truncateToInt32(m_params.getParam(QLatin1String(name)).value);
+    };
     m_updateChecker.sendCheckRequest(QLatin1String(VELBRIN_VERSION), value("HWTYPE"), value("HWSERIAL"), value("FWVER"),
                                      value("TCFWVER"), value("UID"));
 }

@@ -1,0 +1,47 @@
+// When the window asks for news, and how it shows them.
+#include "windowfixture.h"
+
+#include <QDir>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QSpinBox>
+
+namespace {
+
+class News : public WindowFixture
+{
+};
+
+} // namespace
+
+TEST_F(News, AreNotAskedForBecauseAFileWasLoaded)
+{
+    openConnectedWindow();
+    ASSERT_TRUE(waitFor([this] { return m_updates.requests.size() == 1; }));
+    QFile file(QDir::current().filePath("other.drc"));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write("[Header]\nDRCVersion=110\n[TDT3Params]\n1\\name=KVP\n1\\scaling=1\n1\\value=432\n1\\max=32767\n"
+               "2\\name=UID\n2\\scaling=1\n2\\value=77\nsize=2\n");
+    file.close();
+    m_answers.chooseFile(file.fileName());
+    click("load_settings_from_file");
+    ASSERT_TRUE(waitFor([this] { return control<QSpinBox>("KVP")->value() == 432; }));
+    m_answers.press("Continue without applying");
+    click("disconnect_button");
+    ASSERT_TRUE(waitFor([this] { return connectionText() == "Disconnected"; }));
+    connectToDrive();
+    ASSERT_TRUE(waitFor([this] { return m_updates.requests.size() == 2; }));
+    for (const QByteArray &request : m_updates.requests)
+        EXPECT_FALSE(request.contains("uid=77")) << request.toStdString();
+}
+
+TEST_F(News, CannotKeepTheWindowBusy)
+{
+    // Each further table doubles the time to lay them out; these would take a minute.
+    m_updates.answer("VELBRINREPLY<b>Update</b> required" + QByteArray("<table><tr><td>").repeated(20));
+    QElapsedTimer clock;
+    clock.start();
+    openConnectedWindow();
+    ASSERT_TRUE(waitFor([this] { return shownMessage(m_window.get()) == "Update required"; }));
+    EXPECT_LT(clock.elapsed(), 15000);
+}

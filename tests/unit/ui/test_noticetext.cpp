@@ -1,0 +1,43 @@
+#include "noticetext.h"
+#include "printqt.h"
+
+#include <gtest/gtest.h>
+
+#include <QElapsedTimer>
+#include <QErrorMessage>
+
+TEST(NoticeText, KeepsPlainMarkupAndDropsTheRest)
+{
+    const struct
+    {
+        const char *html;
+        const char *shown;
+    } notices[] = {
+        {"", ""},
+        {"Version 2.0 & more", "Version 2.0 & more"},
+        {"<b>Update</b> required<br/>now<BR />", "<b>Update</b> required<br>now<br>"},
+        {"<p style=\"font-size:900pt\">a</p >< li >b", "<p>a</p><li>b"},
+        {"<table><tr><td>a</td></tr></table>", "a"},
+        {"see <a href=\"http://x\">here</a><img src=x width=100000>", "see here"},
+        {"<ta<b>ble>", "ble>"},
+        {"< table><\ttable></ table><!-- <b> -->", " -->"},
+        {"a < b", "a &lt; b"},
+        {"<<b", "&lt;&lt;b"},
+        {"&lt;table&gt;", "&lt;table&gt;"},
+    };
+    for (const auto &n : notices)
+        EXPECT_EQ(noticeText(n.html), n.shown) << n.html;
+}
+
+TEST(NoticeText, IsLaidOutInAMomentWhateverTheServerSends)
+{
+    for (const char *piece : {"x", "<table><tr><td>a", "<img src=x width=100000>", "<ul><li>a", "<h1><b>", "<", "</"}) {
+        const QString notice = noticeText(QString(piece).repeated((1 << 20) / int(qstrlen(piece))));
+        EXPECT_LE(notice.size(), 4 * 4000 + 1) << piece;
+        QErrorMessage box;
+        QElapsedTimer clock;
+        clock.start();
+        box.showMessage(notice);
+        EXPECT_LT(clock.elapsed(), 2000) << piece;
+    }
+}

@@ -1,0 +1,41 @@
+#include "noticetext.h"
+
+#include <algorithm>
+
+namespace {
+
+constexpr int LONGEST_NOTICE = 4000;
+
+const char *const PLAIN_TAGS[] = {"b", "strong", "i", "em", "u", "br", "p", "h1", "h2", "h3", "h4", "ul", "ol", "li"};
+
+/// What stands between "<" and ">" as a tag of ours, or nothing.
+QString plainTag(const QString &inside)
+{
+    QString name = inside.section(QLatin1Char(' '), 0, 0, QString::SectionSkipEmpty).toLower();
+    const bool closes = name.startsWith(QLatin1Char('/'));
+    name.remove(QLatin1Char('/'));
+    const bool known = std::any_of(std::begin(PLAIN_TAGS), std::end(PLAIN_TAGS),
+                                   [&name](const char *tag) { return name == QLatin1String(tag); });
+    return known ? QLatin1String(closes ? "</" : "<") + name + QLatin1Char('>') : QString();
+}
+
+} // namespace
+
+QString noticeText(const QString &html)
+{
+    const QString source = html.size() > LONGEST_NOTICE ? html.left(LONGEST_NOTICE) + QChar(0x2026) : html;
+    QString text;
+    int at = 0;
+    for (int open = source.indexOf(QLatin1Char('<')); open >= 0; open = source.indexOf(QLatin1Char('<'), at)) {
+        text += source.midRef(at, open - at);
+        const int close = source.indexOf(QLatin1Char('>'), open);
+        if (close < 0) {
+            text += QLatin1String("&lt;");
+            at = open + 1;
+        } else {
+            text += plainTag(source.mid(open + 1, close - open - 1));
+            at = close + 1;
+        }
+    }
+    return text + source.midRef(at);
+}

@@ -1,0 +1,13 @@
+/// \file
+/// Makes a notice from the network safe to show.
+#ifndef NOTICETEXT_H
+#define NOTICETEXT_H
+
+#include <QString>
+
+/// The notice with its plain markup (bold, paragraphs, headings, lists), without attributes and any other markup, and
+/// cut after 4000 characters. What is left is laid out in a moment: a few dozen nested tables, or a long picture, would
+/// keep the window busy for minutes, and with it the Esc key.
+QString noticeText(const QString &html);
+
+#endif
