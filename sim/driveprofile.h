@@ -48,8 +48,6 @@ struct RegisterInfo
     Kind kind = Setting;
 };
 
-using RegisterSpec = RegisterInfo; ///< its former name
-
 /// All models, the default one first.
 const std::vector<DriveProfile> &driveProfiles();
 /// Null when there is no such model.

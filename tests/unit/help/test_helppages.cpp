@@ -35,11 +35,11 @@ struct Limits
 /// As the virtual drive of this model has them.
 Limits limitsOf(const SingleParam &p, const char *profile, const QString &unit)
 {
-    for (const sim::RegisterSpec &spec : sim::registersOf(*sim::findProfile(profile))) {
-        if (spec.address == p.addr)
+    for (const sim::RegisterInfo &info : sim::registersOf(*sim::findProfile(profile))) {
+        if (info.address == p.addr)
             return {true,
-                    plain(p.convertToGUIScale(spec.minimum)) + " to " + plain(p.convertToGUIScale(spec.maximum)) + unit,
-                    "default " + plain(p.convertToGUIScale(spec.initial)) + unit};
+                    plain(p.convertToGUIScale(info.minimum)) + " to " + plain(p.convertToGUIScale(info.maximum)) + unit,
+                    "default " + plain(p.convertToGUIScale(info.initial)) + unit};
     }
     return {};
 }
@@ -183,9 +183,9 @@ TEST(HelpPages, RangesAndDefaultsAreThoseOfTheDrive)
         const FormControl control = formControls().value(p.name);
         const QString range = definitionOf(p.name).range;
         if (control.kind == QLatin1String("QComboBox")) {
-            for (const sim::RegisterSpec &spec : sim::registersOf(*sim::findProfile("keta-pro"))) {
-                if (spec.address == p.addr) {
-                    const int index = static_cast<int>(p.convertToGUIScale(spec.initial));
+            for (const sim::RegisterInfo &info : sim::registersOf(*sim::findProfile("keta-pro"))) {
+                if (info.address == p.addr) {
+                    const int index = static_cast<int>(p.convertToGUIScale(info.initial));
                     EXPECT_TRUE(range.endsWith("Default: " + control.choices.value(index) + '.'))
                         << qPrintable(p.name + ": " + range);
                 }
