@@ -266,10 +266,11 @@ QList<Command> captureCommands()
              "is enabled. The drive stays where --step has sent it. A stimulus is stopped at the end and on every\n"
              "failure; Ctrl+C stops it, too, and disables a drive that --enable has enabled.\n"
              "\n"
-             "Channels: torqueref, torquemeas, fluxcurrent (A); velreference, velmeas (velocity units); posreference,\n"
+             "Channels: torqueref, torquemeas, fluxcurrent (A); velreference, velmeas (counts a control cycle, 2500 a "
+             "second);\n"
              "posmeas, posferror (counts); outputvolt, fluxvoltage (%); hvbusvolt (V); pwm1, pwm2, pwm3, debug, "
              "debug2\n"
-             "(no unit).\n"
+             "debug, debug2 (no unit).\n"
              "\n"
              "Prints one line a channel, tab separated: key, unit, number of samples, first, lowest, highest and last\n"
              "value."),

@@ -10,6 +10,8 @@
 #include <QJsonDocument>
 #include <QProcess>
 #include <QStringList>
+#include <algorithm>
+#include <csignal>
 #include <gmock/gmock.h>
 
 /// What a run came to. `status` is -1 when it crashed or did not end.
@@ -44,6 +46,34 @@ inline Ran run(const QStringList &arguments)
     QProcess process;
     start(process, arguments);
     return finish(process);
+}
+
+/// As Ctrl+C does, or a service manager.
+inline void sendSignal(const QProcess &process, int signal = SIGINT)
+{
+    ASSERT_GT(process.processId(), 0);
+    kill(static_cast<pid_t>(process.processId()), signal);
+}
+
+/// Payloads as hexadecimal digits, as one types them from the protocol.
+inline std::vector<std::string> payloads(const sim::ReceivedRequests &requests)
+{
+    std::vector<std::string> result;
+    for (const sim::ReceivedRequest &request : requests)
+        result.push_back(QByteArray(reinterpret_cast<const char *>(request.packet.payload.data()),
+                                    int(request.packet.payload.size()))
+                             .toHex()
+                             .toStdString());
+    return result;
+}
+
+/// Until a request with this payload has arrived.
+inline bool waitForPayload(const sim::VirtualBus &bus, const std::string &payload)
+{
+    return bus.waitForReceived([&payload](const sim::ReceivedRequests &requests) {
+        const std::vector<std::string> all = payloads(requests);
+        return std::find(all.begin(), all.end(), payload) != all.end();
+    });
 }
 
 /// With the fixture's bus and its drive.

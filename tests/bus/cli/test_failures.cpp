@@ -59,6 +59,17 @@ TEST(CliUsage, WhatMakesNoSenseEndsWithTwoAndAReason)
         {{"--port", "COM1", "save"}, "Usage: velbrin-cli ... save FILE.drc"},
         {{"--port", "COM1", "load", "a.drc", "b.drc"}, "Usage: velbrin-cli ... load FILE.drc [--to-flash]"},
         {{"--virtual-drive=kat", "scan"}, "\"kat\""},
+        {{"--port", "COM1", "--port", "COM2", "scan"}, "--port is given twice."},
+        {{"--port"}, "--port needs a value."},
+        {{"--port", "--json", "scan"}, "--port needs a value."},
+        {{"--port", "COM1", "--json=yes", "scan"}, "--json takes no value."},
+        {{"--port", "COM1", "--watch", "read"}, "\"read\" does not take --watch."},
+        {{"--port", "COM1", "--pause-scale", "2", "scan"}, "--pause-scale takes a factor from 0 to 1."},
+        {{"--port", "COM1", "setpoint"}, "Usage: velbrin-cli ... setpoint VALUE [--incremental]"},
+        {{"--port", "COM1", "setpoint", "1e3"}, "\"1e3\" is no whole number"},
+        {{"--port", "COM1", "setpoint", "-536870913"}, "\"-536870913\" is no whole number"},
+        {{"--port", "COM1", "home", "--time-out", "soon"}, "--time-out takes seconds"},
+        {{"firmware-info"}, "Usage: velbrin-cli ... firmware-info FILE.tdf"},
     };
     for (const auto &each : wrong) {
         const Ran ran = run(each.arguments);
@@ -68,12 +79,20 @@ TEST(CliUsage, WhatMakesNoSenseEndsWithTwoAndAReason)
     }
 }
 
-TEST(CliUsage, HelpNamesEveryCommand)
+TEST(CliUsage, HelpNamesEveryCommandAndEachHasItsOwn)
 {
     const Ran ran = run({"--help"});
     EXPECT_EQ(ran.status, 0);
-    for (const char *command : {"scan", "read", "write", "save", "load", "compare", "status"})
-        EXPECT_THAT(ran.out.toStdString(), HasSubstr(std::string("\n  ") + command));
+    for (const char *command : {"scan", "read", "write", "save", "load", "compare", "status", "enable", "disable",
+                                "clear-faults", "home", "setpoint", "capture", "flash", "restart", "firmware-info"}) {
+        EXPECT_THAT(ran.out.toStdString(), HasSubstr(std::string("\n  ") + command + " "));
+        const Ran own = run({command, "--help"});
+        EXPECT_EQ(own.status, 0);
+        EXPECT_THAT(own.out.toStdString(), testing::StartsWith(std::string("Usage: velbrin-cli ... ") + command));
+        for (const QString &line : own.lines() + ran.lines())
+            EXPECT_LT(line.size(), 120) << line.toStdString();
+    }
+    EXPECT_FALSE(ran.out.contains("pause-scale"));
     EXPECT_EQ(run({"--version"}).out, "velbrin-cli 1.9.0\n");
 }
 

@@ -1,0 +1,260 @@
+// Captures: what moves, what is saved, and that nothing stays in motion.
+#include "cliprocess.h"
+
+#include <QDir>
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonObject>
+
+using testing::Contains;
+using testing::Each;
+using testing::ElementsAre;
+using testing::EndsWith;
+using testing::HasSubstr;
+using testing::Not;
+
+namespace {
+
+constexpr int Status = 553;
+constexpr int Running = 8;
+constexpr int SoftEnable = 2533;
+constexpr int Setpoint = 957;
+constexpr int BufferedCommand = 52;
+
+const char *const EnablePayload = "89e500000001";
+const char *const DisablePayload = "89e500000000";
+const char *const StopStreamPayload = "822a00000004";
+const char *const ArmForFaultPayload = "939300000003";
+
+QByteArray contents(const QString &name)
+{
+    QFile file(name);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(no file)");
+}
+
+void put(const QString &name, const QByteArray &bytes)
+{
+    QFile file(name);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(bytes);
+}
+
+class CliCapture : public VirtualBusFixture
+{
+protected:
+    std::vector<std::string> sent() { return payloads(bus().received()); }
+    bool isOff() { return bus().read(DriveAddress, SoftEnable) == 0 && !(bus().read(DriveAddress, Status) & Running); }
+};
+
+/// A column of a capture file, without its name.
+std::vector<double> column(const QByteArray &csv, int index)
+{
+    std::vector<double> values;
+    for (const QByteArray &line : csv.split('\n').mid(1)) {
+        if (!line.isEmpty())
+            values.push_back(line.split(';').value(index).toDouble());
+    }
+    return values;
+}
+
+} // namespace
+
+TEST_F(CliCapture, RecordsAStepThatItMakesAndLeavesTheDriveDisabled)
+{
+    const Ran ran = onDrive({"capture", "--enable", "--channels", "posmeas,posreference", "--rate", "10000", "--step",
+                             "1000", "--csv", "step.csv"});
+    EXPECT_EQ(ran.status, 0) << ran.err.toStdString();
+    ASSERT_EQ(ran.lines().size(), 2);
+    EXPECT_TRUE(ran.lines()[0].startsWith("posreference\tcnts\t1000\t")) << ran.lines()[0].toStdString();
+    EXPECT_TRUE(ran.lines()[1].startsWith("posmeas\tcnts\t1000\t0\t0\t")) << ran.lines()[1].toStdString();
+    const QByteArray csv = contents("step.csv");
+    EXPECT_EQ(csv.split('\n').first(), "Time;Position setpoint;Position achieved");
+    const std::vector<double> time = column(csv, 0), wanted = column(csv, 1), achieved = column(csv, 2);
+    ASSERT_EQ(time.size(), 1000u);
+    EXPECT_DOUBLE_EQ(time.back(), 0.0999);
+    const auto after = [&time](const std::vector<double> &values, double level) {
+        return time[std::find_if(values.begin(), values.end(), [=](double v) { return v >= level; }) - values.begin()];
+    };
+    EXPECT_NEAR(after(achieved, 900) - after(wanted, 1000), 0.032, 0.005) << "the time that the motor's defaults take";
+    EXPECT_NEAR(achieved.back(), 1000, 10);
+    EXPECT_THAT(sent(), Contains(EnablePayload));
+    EXPECT_TRUE(isOff());
+}
+
+TEST_F(CliCapture, MovesNothingUnlessAskedTo)
+{
+    const QString all = "torqueref,torquemeas,velreference,velmeas,posreference,posmeas,posferror,outputvolt,hvbusvolt,"
+                        "pwm1,pwm2,pwm3,debug,debug2,fluxcurrent,fluxvoltage";
+    Ran ran = onDrive({"--json", "capture", "--channels", all, "--csv", "all.csv"});
+    EXPECT_EQ(ran.status, 0) << ran.err.toStdString();
+    const QJsonObject json = ran.json().object();
+    EXPECT_EQ(json["sampleRate"], 20000);
+    EXPECT_EQ(json["channels"].toArray().size(), 16);
+    EXPECT_EQ(column(contents("all.csv"), 16).size(), 125u);
+    EXPECT_EQ(column(contents("all.csv"), 9).front(), 48.0) << "supply voltage";
+    EXPECT_THAT(sent(), Contains("939c019f03fe"
+                                 "939400000000"))
+        << "sources, divider";
+    EXPECT_THAT(sent(), Not(Contains(EnablePayload)));
+
+    bus().clearReceived();
+    for (const QStringList &excitation : {QStringList{"--step", "10"}, QStringList{"--stimulus", "0,1,10,1"}}) {
+        ran = onDrive(QStringList{"capture", "--channels", "posmeas", "--csv", "none.csv"} + excitation);
+        EXPECT_EQ(ran.status, 1);
+        EXPECT_THAT(ran.err.toStdString(), HasSubstr("The drive is not enabled, so nothing would move"));
+        EXPECT_FALSE(QFile::exists("none.csv"));
+    }
+    for (const sim::ReceivedRequest &request : bus().received())
+        EXPECT_NE(request.packet.id, BufferedCommand);
+    EXPECT_THAT(sent(), Each(Not(testing::StartsWith("8227")))) << "no setpoint";
+    EXPECT_THAT(sent(), Each(Not(testing::StartsWith("9393")))) << "not armed";
+}
+
+TEST_F(CliCapture, FollowsAStimulusAndStopsItAtTheEnd)
+{
+    const Ran ran = onDrive({"capture", "--enable", "--channels", "posreference", "--rate", "4000", "--stimulus",
+                             "100,0.1,200,0.1", "--csv", "wave.csv"});
+    EXPECT_EQ(ran.status, 0) << ran.err.toStdString();
+    std::vector<double> levels = column(contents("wave.csv"), 1);
+    levels.erase(std::unique(levels.begin(), levels.end()), levels.end());
+    ASSERT_GE(levels.size(), 5u); // half a second, and perhaps a moment before the first
+    for (std::size_t i = levels.size() - 5; i + 1 < levels.size(); ++i)
+        EXPECT_EQ(levels[i] + levels[i + 1], 300) << "100 and 200 by turns";
+    EXPECT_THAT(sent(), Contains(StopStreamPayload));
+    EXPECT_THAT(sent(), Contains(DisablePayload));
+    EXPECT_TRUE(isOff());
+}
+
+TEST_F(CliCapture, InterruptedStimulusIsStoppedAndTheDriveDisabled)
+{
+    for (const int signal : {SIGINT, SIGTERM}) {
+        bus().withDrive(DriveAddress, [](sim::VirtualDrive &drive) { drive.write(551, 0); });
+        ASSERT_TRUE(bus().waitForRegister(DriveAddress, Setpoint, 0));
+        bus().clearReceived();
+        QProcess process;
+        start(process, {"--port", port(), "--node", "5", "capture", "--enable", "--channels", "posmeas", "--trigger",
+                        "fault", "--stimulus", "0,0.1,100,0.1", "--csv", "none.csv"});
+        ASSERT_TRUE(bus().waitForRegister(DriveAddress, Setpoint, 100)) << "the motor does not move";
+        ASSERT_TRUE(bus().read(DriveAddress, Status) & Running);
+        sendSignal(process, signal);
+        const Ran ran = finish(process);
+        EXPECT_EQ(ran.status, 1);
+        EXPECT_EQ(ran.err, "Interrupted.\n");
+        EXPECT_THAT(sent(), Contains(ArmForFaultPayload));
+        EXPECT_THAT(sent(), Contains(StopStreamPayload));
+        EXPECT_THAT(sent(), Contains(DisablePayload));
+        bool isEmpty = false;
+        bus().withDrive(DriveAddress, [&isEmpty](sim::VirtualDrive &drive) {
+            isEmpty = drive.commandBuffer().freeBytes() == sim::CommandBuffer::Capacity;
+        });
+        EXPECT_TRUE(isEmpty) << "setpoints are still waiting in the drive";
+        EXPECT_TRUE(isOff());
+        EXPECT_FALSE(QFile::exists("none.csv"));
+    }
+}
+
+TEST_F(CliCapture, WithoutATriggerEndsAndTouchesNoFile)
+{
+    put("old.csv", "old");
+    const Ran ran = onDrive({"capture", "--enable", "--channels", "posmeas", "--trigger", "fault", "--time-out", "0.2",
+                             "--csv", "old.csv"});
+    EXPECT_EQ(ran.status, 1);
+    EXPECT_EQ(ran.err, "The recorder was not triggered and filled within 0.2 s. Nothing was captured.\n");
+    EXPECT_EQ(contents("old.csv"), "old");
+    EXPECT_EQ(QDir().entryList({"*.csv*"}, QDir::Files), QStringList("old.csv")) << "a file begun and left behind";
+    EXPECT_TRUE(isOff());
+}
+
+TEST_F(CliCapture, FileThatCannotBeWrittenStopsItBeforeAnythingMoves)
+{
+    Ran ran = onDrive({"capture", "--enable", "--channels", "posmeas", "--step", "1", "--csv", "/nowhere/a.csv"});
+    EXPECT_EQ(ran.status, 1);
+    EXPECT_THAT(ran.err.toStdString(), HasSubstr("/nowhere/a.csv cannot be written: "));
+    EXPECT_TRUE(bus().received().empty());
+
+    ran = onDrive({"capture", "--channels", "posmeas", "--csv", "/dev/full"});
+    EXPECT_EQ(ran.status, 1);
+    EXPECT_EQ(ran.err, "Error writing to /dev/full: No space left on device.\n");
+}
+
+TEST_F(CliCapture, PlotPageHoldsAllThatItNeeds)
+{
+    ASSERT_TRUE(QDir().mkpath("data/flot/css"));
+    put("data/flot/css/plotlayout.css", "h1 { color: red; }");
+    put("data/flot/jquery.js", "var jquery = '</script>';");
+    put("data/flot/jquery.flot.js", "var flot = 1;");
+    put("data/flot/jquery.flot.selection.js", "");
+    QProcess process;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert("VELBRIN_DATA", QDir::current().filePath("data"));
+    process.setProcessEnvironment(environment);
+    const QStringList arguments = {"--port",     port(),    "--node", "5",        "capture",
+                                   "--channels", "posmeas", "--html", "page.html"};
+    start(process, arguments);
+    Ran ran = finish(process);
+    EXPECT_EQ(ran.status, 1);
+    EXPECT_THAT(ran.err.toStdString(), HasSubstr("jquery.flot.resize.js cannot be read"));
+    EXPECT_FALSE(QFile::exists("page.html"));
+
+    put("data/flot/jquery.flot.resize.js", "var resize = 1;");
+    start(process, arguments);
+    ran = finish(process);
+    EXPECT_EQ(ran.status, 0) << ran.err.toStdString();
+    const std::string page = contents("page.html").toStdString();
+    for (const char *part : {"h1 { color: red; }", "var jquery = '<\\/script>';", "var flot = 1;", "var resize = 1;",
+                             "var posmeas=[[0,", "Tarnwell Devices KETA", "KVP"})
+        EXPECT_THAT(page, HasSubstr(part));
+    for (const char *part : {"../", "tdext:", "src="})
+        EXPECT_THAT(page, Not(HasSubstr(part)));
+}
+
+TEST_F(CliCapture, LostLineSaysThatTheDriveMayStillRun)
+{
+    QProcess process;
+    start(process, {"--port", port(), "--node", "5", "capture", "--enable", "--channels", "posmeas", "--trigger",
+                    "fault", "--csv", "none.csv"});
+    ASSERT_TRUE(waitForPayload(bus(), ArmForFaultPayload));
+    bus().unplug();
+    const Ran ran = finish(process);
+    EXPECT_EQ(ran.status, 1);
+    EXPECT_THAT(ran.err.toStdString(), HasSubstr("could not be told to disable. It may still be running or start to"));
+    EXPECT_FALSE(QFile::exists("none.csv"));
+}
+
+TEST_F(CliCapture, RateAboveTheDrivesIsRefused)
+{
+    const Ran ran = onDrive({"capture", "--channels", "posmeas", "--rate", "20001", "--csv", "none.csv"});
+    EXPECT_EQ(ran.status, 1);
+    EXPECT_EQ(ran.err, "--rate is at most 20000 Hz on this drive.\n");
+}
+
+TEST(CliCaptureUsage, WhatMakesNoSenseIsRefusedWithoutADrive)
+{
+    const struct
+    {
+        QStringList options;
+        const char *reason;
+    } wrong[] = {
+        {{"--csv", "a"}, "--channels is needed. The channels are: torqueref, torquemeas, "},
+        {{"--channels", "posmeas"}, "--csv FILE, --html FILE or both are needed."},
+        {{"--channels", "posmeas,speed", "--csv", "a"}, "There is no channel \"speed\". The channels are: torqueref, "},
+        {{"--channels", "", "--csv", "a"}, "--channels needs a value."},
+        {{"--channels", "posmeas", "--csv", "a", "--trigger", "fall"}, "--trigger takes rise, change, fault or now."},
+        {{"--channels", "posmeas", "--csv", "a", "--rate", "0"}, "--rate takes Hz"},
+        {{"--channels", "posmeas", "--csv", "a", "--rate", "nan"}, "--rate takes Hz"},
+        {{"--channels", "posmeas", "--csv", "a", "--step", "1.5"}, "--step takes a whole number"},
+        {{"--channels", "posmeas", "--csv", "a", "--step", "536870912"}, "--step takes a whole number"},
+        {{"--channels", "posmeas", "--csv", "a", "--step", "1", "--stimulus", "1,1,1,1"}, "not both"},
+        {{"--channels", "posmeas", "--csv", "a", "--stimulus", "1,1,1"}, "--stimulus takes T1,D1,T2,D2"},
+        {{"--channels", "posmeas", "--csv", "a", "--stimulus", "1,0.01,1,1"}, "--stimulus takes T1,D1,T2,D2"},
+        {{"--channels", "posmeas", "--csv", "a", "--stimulus", "2097152,1,1,1"}, "--stimulus takes T1,D1,T2,D2"},
+        {{"--channels", "posmeas", "--csv", "a", "--incremental"}, "--incremental goes with --step."},
+        {{"--channels", "posmeas", "--csv", "a", "--html", "a"}, "name the same file"},
+        {{"--channels", "posmeas", "--csv", "a", "--time-out", "0"}, "--time-out takes seconds"},
+    };
+    for (const auto &each : wrong) {
+        const Ran ran = run(QStringList{"--port", "COM1", "capture"} + each.options);
+        EXPECT_EQ(ran.status, 2) << each.options.join(' ').toStdString();
+        EXPECT_THAT(ran.err.toStdString(), HasSubstr(each.reason));
+    }
+}

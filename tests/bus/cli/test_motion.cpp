@@ -1,0 +1,240 @@
+// Commands that move a drive or stop it: what they send, what they wait for, and how they leave the drive.
+#include "cliprocess.h"
+
+#include <QJsonArray>
+#include <QJsonObject>
+
+using testing::Contains;
+using testing::HasSubstr;
+using testing::Not;
+using testing::StartsWith;
+
+namespace {
+
+// Registers.
+constexpr int Faults = 552;
+constexpr int Status = 553;
+constexpr int Setpoint = 957;
+constexpr int ControlInputs = 963;
+constexpr int Temperature = 952;
+constexpr int SoftEnable = 2533;
+constexpr int HomingSettings = 806;
+constexpr int HomingVelocity = 804;
+
+constexpr int Running = 8; // bits of the status register
+constexpr int Homing = 2048;
+constexpr int TrackingFault = 2;
+constexpr int OverTemperature = 32;
+constexpr int AllButPhysicalEnable = 6;
+
+// Select a register, write a value.
+const char *const EnablePayload = "89e500000001";
+const char *const DisablePayload = "89e500000000";
+
+class CliMotion : public VirtualBusFixture
+{
+protected:
+    bool isRunning() { return bus().read(DriveAddress, Status) & Running; }
+    void enableByHand()
+    {
+        bus().withDrive(DriveAddress, [](sim::VirtualDrive &drive) { drive.write(SoftEnable, 1); });
+        ASSERT_TRUE(bus().waitForRegister(DriveAddress, Status, [](std::int32_t bits) { return bits & Running; }));
+    }
+    std::vector<std::string> sent() { return payloads(bus().received()); }
+};
+
+class CliMotionUpgradeMode : public VirtualBusFixture
+{
+    sim::BusOptions busOptions() const override
+    {
+        sim::BusOptions options;
+        options.drives = {{"keta", DriveAddress, true}};
+        return options;
+    }
+};
+
+} // namespace
+
+TEST_F(CliMotion, EnablePowersTheMotorAndLeavesItSo)
+{
+    Ran ran = onDrive({"enable"});
+    EXPECT_EQ(ran.status, 0) << ran.err.toStdString();
+    EXPECT_EQ(ran.out, "running\t0\t0\n");
+    EXPECT_EQ(ran.err, "");
+    EXPECT_TRUE(isRunning());
+    EXPECT_THAT(sent(), Contains(EnablePayload));
+    EXPECT_THAT(sent(), Not(Contains(DisablePayload)));
+
+    bus().clearReceived();
+    ran = onDrive({"--json", "enable"});
+    EXPECT_EQ(ran.json().object()["state"], "running");
+    EXPECT_THAT(sent(), Not(Contains(EnablePayload))) << "it was enabled already";
+}
+
+TEST_F(CliMotion, EnableThatDoesNotWorkIsTakenBackAndSaysWhy)
+{
+    bus().set(DriveAddress, Faults, TrackingFault);
+    Ran ran = onDrive({"enable"});
+    EXPECT_EQ(ran.status, 1);
+    EXPECT_EQ(ran.out, "");
+    EXPECT_EQ(ran.err, "The drive did not enable.\n"
+                       "Reason for inactivity: Fault stopped (on), Tracking error (on).\n");
+    EXPECT_EQ(bus().read(DriveAddress, SoftEnable), 0);
+
+    bus().set(DriveAddress, Faults, 0);
+    bus().set(DriveAddress, ControlInputs, AllButPhysicalEnable);
+    ran = onDrive({"enable"});
+    EXPECT_EQ(ran.status, 1);
+    EXPECT_THAT(ran.err.toStdString(), HasSubstr("Phys enable (off)"));
+    EXPECT_EQ(bus().read(DriveAddress, SoftEnable), 0) << "it would start when the input closes";
+}
+
+TEST_F(CliMotion, EnableThatIsInterruptedDisables)
+{
+    for (const int signal : {SIGINT, SIGTERM}) {
+        bus().set(DriveAddress, ControlInputs, AllButPhysicalEnable);
+        bus().clearReceived();
+        QProcess process;
+        start(process, {"--port", port(), "--node", "5", "enable"});
+        ASSERT_TRUE(waitForPayload(bus(), EnablePayload));
+        sendSignal(process, signal);
+        const Ran ran = finish(process);
+        EXPECT_EQ(ran.status, 1);
+        EXPECT_THAT(ran.err.toStdString(), HasSubstr("Interrupted."));
+        EXPECT_THAT(sent(), Contains(DisablePayload));
+        EXPECT_EQ(bus().read(DriveAddress, SoftEnable), 0);
+    }
+}
+
+TEST_F(CliMotion, DisableStopsTheMotor)
+{
+    enableByHand();
+    bus().clearReceived();
+    const Ran ran = onDrive({"disable"});
+    EXPECT_EQ(ran.status, 0) << ran.err.toStdString();
+    EXPECT_THAT(ran.out.toStdString(), StartsWith("disabled\t"));
+    EXPECT_FALSE(isRunning());
+    EXPECT_EQ(bus().read(DriveAddress, SoftEnable), 0);
+}
+
+TEST_F(CliMotion, DisableThatIsNotConfirmedIsNoSuccess)
+{
+    enableByHand();
+    bus().withDrive(DriveAddress, [](sim::VirtualDrive &drive) { drive.refuseWrites(SoftEnable); });
+    Ran ran = onDrive({"disable"});
+    EXPECT_EQ(ran.status, 1);
+    EXPECT_EQ(ran.out, "");
+    EXPECT_THAT(ran.err.toStdString(), HasSubstr("has not confirmed that it is disabled. It may still be running"));
+
+    // A drive that its enable input alone enables.
+    bus().withDrive(DriveAddress, [](sim::VirtualDrive &drive) {
+        constexpr int Flags = 567;
+        drive.acceptWrites();
+        drive.set(Flags, drive.read(Flags) & ~1);
+    });
+    ran = onDrive({"disable"});
+    EXPECT_EQ(ran.status, 1);
+    EXPECT_THAT(ran.err.toStdString(), HasSubstr("stays enabled: by its settings, its enable input alone decides."));
+}
+
+TEST_F(CliMotion, SetpointIsSentAndSeen)
+{
+    enableByHand();
+    EXPECT_THAT(onDrive({"setpoint", "100"}).out.toStdString(), StartsWith("running\t100\t"));
+    EXPECT_THAT(onDrive({"setpoint", "-30", "--incremental"}).out.toStdString(), StartsWith("running\t70\t"));
+    EXPECT_THAT(onDrive({"setpoint", "-30"}).out.toStdString(), StartsWith("running\t-30\t"));
+    // 551 and 550, 30 bits.
+    EXPECT_THAT(sent(), Contains("822700000064"));
+    EXPECT_THAT(sent(), Contains("82263fffffe2"));
+    EXPECT_THAT(sent(), Contains("82273fffffe2"));
+}
+
+TEST_F(CliMotion, SetpointThatTheDriveCannotTakeOrFollowIsSaidSo)
+{
+    Ran ran = onDrive({"setpoint", "536870911"});
+    EXPECT_EQ(ran.status, 0);
+    EXPECT_EQ(ran.out, "disabled\t536870911\t0\n");
+    EXPECT_EQ(ran.err, "The drive is not running; the axis goes there when it does.\n");
+
+    bus().clearReceived();
+    ran = onDrive({"setpoint", "1", "--incremental"});
+    EXPECT_EQ(ran.status, 1);
+    EXPECT_THAT(ran.err.toStdString(), HasSubstr("would be 536870912, beyond the 30 bits"));
+    EXPECT_THAT(sent(), Not(Contains("822600000001")));
+
+    bus().withDrive(DriveAddress, [](sim::VirtualDrive &drive) { drive.refuseWrites(551); });
+    ran = onDrive({"setpoint", "5"});
+    EXPECT_EQ(ran.status, 1);
+    EXPECT_THAT(ran.err.toStdString(), HasSubstr("did not take it: its setpoint in use is 536870911."));
+}
+
+TEST_F(CliMotion, ClearFaultsTellsWhichOnesStay)
+{
+    bus().set(DriveAddress, Faults, TrackingFault);
+    Ran ran = onDrive({"clear-faults"});
+    EXPECT_EQ(ran.status, 0) << ran.err.toStdString();
+    EXPECT_EQ(bus().read(DriveAddress, Faults), 0);
+
+    bus().set(DriveAddress, Temperature, 120);
+    ASSERT_TRUE(bus().waitForRegister(DriveAddress, Faults, OverTemperature));
+    ran = onDrive({"clear-faults"});
+    EXPECT_EQ(ran.status, 1);
+    EXPECT_EQ(ran.err, "Still active: Over temperature.\n");
+}
+
+TEST_F(CliMotion, HomingRunsToItsEnd)
+{
+    bus().set(DriveAddress, HomingSettings, 0x80); // to the stop pin
+    bus().set(DriveAddress, HomingVelocity, 4000);
+    Ran ran = onDrive({"home"});
+    EXPECT_EQ(ran.status, 1);
+    EXPECT_THAT(ran.err.toStdString(), HasSubstr("not enabled, so it was not asked to home.\nReason for inactivity: "));
+    EXPECT_EQ(bus().read(DriveAddress, Status) & Homing, 0);
+
+    enableByHand();
+    ran = onDrive({"home"});
+    EXPECT_EQ(ran.status, 0) << ran.err.toStdString();
+    EXPECT_THAT(ran.out.toStdString(), StartsWith("running\t0\t"));
+    EXPECT_THAT(sent(), Contains("9d6c00000001"));
+    EXPECT_THAT(sent(), Not(Contains("9d6c00000000")));
+}
+
+TEST_F(CliMotion, HomingThatTakesTooLongOrIsInterruptedIsAborted)
+{
+    bus().set(DriveAddress, HomingSettings, 0x80);
+    bus().set(DriveAddress, HomingVelocity, 50);
+    enableByHand();
+    Ran ran = onDrive({"home", "--time-out", "0.1"});
+    EXPECT_EQ(ran.status, 1);
+    EXPECT_EQ(ran.err, "Homing was aborted before it was done.\n");
+    EXPECT_EQ(bus().read(DriveAddress, Status) & Homing, 0);
+    EXPECT_TRUE(isRunning()) << "the command had not enabled it";
+
+    bus().clearReceived();
+    QProcess process;
+    start(process, {"--port", port(), "--node", "5", "home"});
+    ASSERT_TRUE(waitForPayload(bus(), "9d6c00000001"));
+    sendSignal(process);
+    EXPECT_EQ(finish(process).status, 1);
+    EXPECT_THAT(sent(), Contains("9d6c00000000"));
+    EXPECT_EQ(bus().read(DriveAddress, Status) & Homing, 0);
+}
+
+TEST_F(CliMotion, HomingThatIsSwitchedOffIsSaidSo)
+{
+    enableByHand();
+    const Ran ran = onDrive({"home"});
+    EXPECT_EQ(ran.status, 1);
+    EXPECT_THAT(ran.err.toStdString(), StartsWith("The drive did not start homing."));
+}
+
+TEST_F(CliMotionUpgradeMode, NothingMovesInFirmwareUpgradeMode)
+{
+    for (const QStringList &command : {QStringList{"enable"}, QStringList{"disable"}, QStringList{"home"},
+                                       QStringList{"clear-faults"}, QStringList{"setpoint", "1"}}) {
+        const Ran ran = run(QStringList{"--port", port(), "--node", "255"} + command);
+        EXPECT_EQ(ran.status, 1);
+        EXPECT_THAT(ran.err.toStdString(), HasSubstr("firmware-upgrade mode and cannot move"))
+            << command[0].toStdString();
+    }
+}

@@ -1,0 +1,103 @@
+// "status --watch": in a pipe, as JSON, on a terminal, and how it ends.
+#include "cliprocess.h"
+
+#include "pseudoterminal.h"
+
+#include <QJsonObject>
+
+using testing::HasSubstr;
+
+namespace {
+
+class CliWatch : public VirtualBusFixture
+{
+protected:
+    /// Output until it holds `text` so many times.
+    static QByteArray readUntil(QProcess &process, const char *text, int times)
+    {
+        QByteArray output;
+        while (output.count(text) < times && process.waitForReadyRead(20000))
+            output += process.readAllStandardOutput();
+        return output;
+    }
+    static QStringList watch(const QStringList &more = {})
+    {
+        return QStringList{"--port", port(), "--node", "5", "status", "--watch"} + more;
+    }
+};
+
+} // namespace
+
+TEST_F(CliWatch, PipeGetsBlocksThatABlankLineEnds)
+{
+    QProcess process;
+    start(process, watch());
+    const QByteArray first = readUntil(process, "\n\n", 1);
+    EXPECT_THAT(first.toStdString(), HasSubstr("HV bus voltage  48.0 VDC\n"));
+    bus().set(DriveAddress, 950, 3600);
+    const QByteArray later = readUntil(process, "\n\n", 2);
+    EXPECT_THAT(later.toStdString(), HasSubstr("HV bus voltage  36.0 VDC\n"));
+    sendSignal(process);
+    const Ran ran = finish(process);
+    EXPECT_EQ(ran.status, 0);
+    EXPECT_EQ(ran.err, "");
+    for (const QString &block : QString::fromUtf8(first + later).split("\n\n", Qt::SkipEmptyParts))
+        EXPECT_TRUE(block.startsWith("Connection\tConnected\n")) << block.toStdString();
+}
+
+TEST_F(CliWatch, JsonIsOneObjectALine)
+{
+    QProcess process;
+    start(process, watch({"--json"}));
+    const QByteArray output = readUntil(process, "\n", 3);
+    sendSignal(process, SIGTERM);
+    EXPECT_EQ(finish(process).status, 0);
+    for (const QString &line : QString::fromUtf8(output).split('\n', Qt::SkipEmptyParts))
+        EXPECT_EQ(QJsonDocument::fromJson(line.toUtf8()).object()["model"], "Tarnwell Devices KETA");
+}
+
+TEST_F(CliWatch, TerminalIsRedrawnInPlaceAndGivenBack)
+{
+    sim::PseudoTerminal terminal;
+    ASSERT_EQ(terminal.open(), "");
+    QProcess process;
+    process.setStandardOutputFile(QString::fromStdString(terminal.name()));
+    start(process, watch());
+    std::string shown;
+    const auto draws = [&shown] {
+        int count = 0;
+        for (std::size_t at = shown.find("\x1b[H"); at != std::string::npos; at = shown.find("\x1b[H", at + 1))
+            ++count;
+        return count;
+    };
+    const auto begin = std::chrono::steady_clock::now();
+    while (draws() < 3 && std::chrono::steady_clock::now() - begin < std::chrono::seconds(20)) {
+        for (const std::uint8_t byte : terminal.read())
+            shown.push_back(static_cast<char>(byte));
+        process.waitForFinished(20);
+    }
+    EXPECT_GE(draws(), 3);
+    sendSignal(process);
+    EXPECT_EQ(finish(process).status, 0);
+    for (const std::uint8_t byte : terminal.read())
+        shown.push_back(static_cast<char>(byte));
+    EXPECT_THAT(shown, HasSubstr("\x1b[?1049h\x1b[?25l"));
+    EXPECT_THAT(shown, HasSubstr("\x1b[?25h\x1b[?1049l"));
+}
+
+TEST_F(CliWatch, LostLineAndClosedPipeEndIt)
+{
+    QProcess process;
+    start(process, watch());
+    readUntil(process, "\n\n", 1);
+    bus().unplug();
+    Ran ran = finish(process);
+    EXPECT_EQ(ran.status, 1);
+    EXPECT_THAT(ran.err.toStdString(), HasSubstr("The drive's state could not be read.\n"));
+
+    ASSERT_EQ(bus().plugIn(), "");
+    QProcess closed;
+    closed.start("/bin/sh",
+                 {"-c", QString("'%1' %2 | head -1").arg(VELBRIN_BINARY_DIR "/bin/velbrin-cli", watch().join(' '))});
+    EXPECT_EQ(finish(closed).out, "Connection\tConnected\n");
+}
