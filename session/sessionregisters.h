@@ -27,6 +27,7 @@ constexpr int ReturnsOutcome = 3; ///< 1 byte an item: 1 done, 2 refused
 
 // --- Identity -----------------------------------------------------------------------------------------------------
 constexpr int SerialNumber = 6002;
+constexpr int UniqueId = 6003;
 constexpr int FirmwareVersion = 6010; ///< the bootloader's version in firmware-upgrade mode
 constexpr int FirmwareCompatible = 6011;
 constexpr int CoreVersion = 6014;

@@ -10,8 +10,6 @@ namespace {
 
 using LongRange = std::numeric_limits<long>;
 
-constexpr int uniqueIdRegister = 6003;
-
 /// As a number for the bus; what is not a number, or far out of range, becomes one that the line refuses to send.
 long toBusValue(double deviceValue)
 {
@@ -22,7 +20,7 @@ long toBusValue(double deviceValue)
 bool knownToBootloader(int address)
 {
     return address == reg::DeviceType || address == reg::FirmwareVersion || address == reg::SerialNumber ||
-           address == uniqueIdRegister;
+           address == reg::UniqueId;
 }
 
 } // namespace

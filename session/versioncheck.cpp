@@ -189,9 +189,6 @@ const SupportedVersion *supportedVersionOf(int deviceType)
 
 VersionVerdict checkVersions(const DriveIdentity &drive)
 {
-    // Nothing is judged by numbers that came through noise: a running drive must never be restarted because of it.
-    if (!drive.readCleanly)
-        return refused(SessionText::tr("Unable to identify the device: the bus did not answer cleanly."));
     const SupportedVersion *supported = supportedVersionOf(drive.deviceType);
     if (!supported)
         return unsupportedModel(drive.deviceType);

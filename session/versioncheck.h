@@ -5,8 +5,9 @@
 
 #include <QString>
 
-/// What is read from a drive to identify it. Companions are the oldest versions that the drive claims to be compatible
-/// with: a version is out of bounds only when its companion is, too.
+/// What was read from a drive to identify it, cleanly: numbers that came through noise are refused before they get
+/// here. Companions are the oldest versions that the drive claims to be compatible with: a version is out of bounds
+/// only when its companion is, too.
 struct DriveIdentity
 {
     int deviceType = 0;      ///< type id, register 6020
@@ -17,7 +18,6 @@ struct DriveIdentity
     int protocolVersion = 0; ///< register 3
     int protocolCompanion = 0;
     bool firmwareUpgradeMode = false;
-    bool readCleanly = true; ///< every exchange of the identification ended with status ZB_OK
 };
 
 /// Versions that a device family (type id / 1000) must have.

@@ -217,17 +217,6 @@ TEST(VersionCheck, ChecksBootloaderAndProtocolInFirmwareUpgradeMode)
                                                   "version. Check for Velbrin upgrades. Connected ZBV2 Version: 26");
 }
 
-TEST(VersionCheck, NeverRestartsADriveThatWasReadThroughNoise)
-{
-    DriveIdentity outdated = keta();
-    outdated.firmwareVersion = outdated.firmwareCompanion = 0;
-    DriveIdentity silent;
-    for (DriveIdentity drive : {outdated, silent, keta(), torva(), bootloader(1260, 1260)}) {
-        drive.readCleanly = false;
-        expectRefused(drive, "Unable to identify the device: the bus did not answer cleanly.");
-    }
-}
-
 TEST(VersionCheck, FindsTheRecordOfAFamily)
 {
     ASSERT_NE(supportedVersionOf(11214), nullptr);
