@@ -1,6 +1,7 @@
 #include "taskqueue.h"
 
 #include <algorithm>
+#include <iterator>
 #include <utility>
 
 namespace {
@@ -112,9 +113,15 @@ void TaskQueue::close()
             return;
         m_closing = true;
         m_closeTime = std::chrono::steady_clock::now();
+        // A disconnect would drop a file that was asked for; the program's end writes it.
+        Entries files;
+        std::copy_if(m_entries.begin(), m_entries.end(), std::back_inserter(files),
+                     [](const QueuedTask &e) { return e.task == Connection::TaskSaveSettingsFile; });
+        removeIf(m_entries, [](const QueuedTask &e) { return e.task == Connection::TaskSaveSettingsFile; });
         QueuedTask entry;
         entry.task = Connection::TaskDisconnect;
         insert(entry);
+        m_entries.insert(m_entries.end(), files.begin(), files.end());
         entry.task = Connection::TaskQuit;
         insert(entry);
     }

@@ -62,7 +62,7 @@ public:
     /// Queues the disconnect after an error (or when the drive has gone): at the head, behind waiting disables and
     /// stream stops; once.
     void pushDisconnectFirst();
-    /// Queues a disconnect and the quit task, and ends every pause from now on.
+    /// Queues a disconnect, the files that still wait to be saved and the quit task; ends every pause from now on.
     void close();
 
     /// Takes the first task; false when there is none.
