@@ -4,6 +4,7 @@ namespace {
 constexpr long minWriteValue = -(1L << 29);
 constexpr long maxWriteValue = (1L << 29) - 1;
 constexpr int registerBits = 0x3FFF;
+constexpr TaskQueue::Milliseconds closingLimit(2400);
 
 bool isFailure(ZbStatus status)
 {
@@ -44,6 +45,23 @@ ZbStatus BusLine::recordAppend(ZbStatus status)
     return record(status);
 }
 
+/// A value that is missing or left over makes the reply the answer to something else.
+ZbStatus BusLine::recordDecoding(ZbStatus status)
+{
+    m_lastFailed |= isFailure(status);
+    return record(status);
+}
+
+bool BusLine::isDead() const
+{
+    return m_failuresInARow >= 3 || m_failures >= 4 || (m_lastFailed && m_queue.isClosing());
+}
+
+bool BusLine::maySend() const
+{
+    return (m_stopping || !isDead()) && !m_queue.isClosing(closingLimit);
+}
+
 ZbStatus BusLine::append(const QueueItem &item)
 {
     return recordAppend(zbAppendZBCommandToQueue(m_handle, item.kind, item.value));
@@ -76,7 +94,7 @@ ZbStatus BusLine::exchange(ZbStatus (*roundTrip)(ZbHandle, std::uint8_t))
 {
     const ZbStatus appended = m_appended;
     m_appended = 0;
-    if (isFailure(appended) || isDead()) {
+    if (isFailure(appended) || !maySend()) {
         zbResetZB485variables(m_handle);
         return record(isFailure(appended) ? appended : ZB_ERR_COMMUNICATION);
     }
@@ -89,7 +107,7 @@ ZbStatus BusLine::exchange(ZbStatus (*roundTrip)(ZbHandle, std::uint8_t))
         ++m_failuresInARow;
         // A failed send leaves its items queued; they would go out in front of the next batch.
         zbResetZB485variables(m_handle);
-    } else {
+    } else if (!m_stopping) {
         m_failuresInARow = 0;
     }
     return status;
@@ -97,26 +115,23 @@ ZbStatus BusLine::exchange(ZbStatus (*roundTrip)(ZbHandle, std::uint8_t))
 
 ZbStatus BusLine::fetch(long *value)
 {
-    return record(zbGetQueuedZBCommandReturnValue(m_handle, value));
+    return recordDecoding(zbGetQueuedZBCommandReturnValue(m_handle, value));
 }
 
 ZbStatus BusLine::fetchRead(long *value)
 {
-    return record(zbGetQueuedGetParamReturnValue(m_handle, value));
+    return recordDecoding(zbGetQueuedGetParamReturnValue(m_handle, value));
 }
 
 ZbStatus BusLine::fetchWrite()
 {
     long ignored = 0;
-    return record(zbGetQueuedSetParamReturnValue(m_handle, &ignored));
+    return recordDecoding(zbGetQueuedSetParamReturnValue(m_handle, &ignored));
 }
 
 ZbStatus BusLine::finishReply()
 {
-    if (bytesLeft() <= 0)
-        return record(ZB_OK);
-    m_lastFailed = true;
-    return record(ZB_ERR_LENGTH);
+    return recordDecoding(bytesLeft() <= 0 ? ZB_OK : ZB_ERR_LENGTH);
 }
 
 int BusLine::bytesLeft() const

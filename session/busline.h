@@ -4,6 +4,7 @@
 #define BUSLINE_H
 
 #include "queueitem.h"
+#include "taskqueue.h"
 #include "zetabus.h"
 
 #include <QString>
@@ -13,6 +14,9 @@
 class BusLine
 {
 public:
+    /// The queue says when the session closes, which has five seconds in all: from then on nothing follows a failed
+    /// exchange but a stop, and nothing at all is begun after 2.4 s, since one exchange on a babbling line takes two.
+    explicit BusLine(const TaskQueue &queue) : m_queue(queue) {}
     ~BusLine() { close(); }
 
     /// Opens the bus with a read time-out in ms and starts clean: a reused handle still holds what its last user left
@@ -31,7 +35,11 @@ public:
     void startTask() { m_failuresInARow = m_failures = 0; }
     /// Three exchanges in a row without a good reply, or four in one task. From then on nothing is sent until the next
     /// task: 57 writes to a dead line would take a minute.
-    bool isDead() const { return m_failuresInARow >= 3 || m_failures >= 4; }
+    bool isDead() const;
+    /// Between these a stop is being sent: also on a line that counts as dead, and without reviving it for the task
+    /// that goes on afterwards.
+    void beginStop() { m_stopping = true; }
+    void endStop() { m_stopping = false; }
     bool lastExchangeFailed() const { return m_lastFailed; }
 
     /// Each returns its own status. An item that does not fit, or a register or value with more bits than a write item
@@ -59,8 +67,11 @@ public:
 private:
     ZbStatus record(ZbStatus status);
     ZbStatus recordAppend(ZbStatus status);
+    ZbStatus recordDecoding(ZbStatus status);
     ZbStatus exchange(ZbStatus (*roundTrip)(ZbHandle, std::uint8_t));
+    bool maySend() const;
 
+    const TaskQueue &m_queue;
     ZbHandle m_handle = -1;
     std::uint8_t m_node = 0;
     ZbStatus m_status = 0;
@@ -68,6 +79,7 @@ private:
     int m_failuresInARow = 0;
     int m_failures = 0; ///< in this task
     bool m_lastFailed = false;
+    bool m_stopping = false;
 };
 
 #endif

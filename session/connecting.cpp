@@ -110,11 +110,9 @@ void SessionWorker::disconnectDrive(const TaskRequest &)
 {
     if (!isConnected())
         return;
-    // Closing has five seconds in all; a line that has just failed is not worth another time-out then.
-    const bool skipFarewell = m_queue.isClosing() && m_line.lastExchangeFailed();
     m_line.startTask();
     // Not by setParameter: the end of a connection is no place for another error text.
-    if (!inFirmwareUpgradeMode() && !skipFarewell) {
+    if (!inFirmwareUpgradeMode()) {
         if (m_streaming)
             writeAndFetch(reg::SystemCommand, reg::CommandStopStream);
         writeAndFetch(reg::BusWatchdog, 0);

@@ -7,6 +7,7 @@ namespace {
 constexpr int restartPauseMs = 3500;
 constexpr int measurePauseMs = 8000;
 constexpr int lowestCoreThatMeasures = 1060;
+constexpr int disableAttempts = 3;
 } // namespace
 
 void SessionWorker::clearFaults(const TaskRequest &)
@@ -17,16 +18,31 @@ void SessionWorker::clearFaults(const TaskRequest &)
 
 void SessionWorker::applyEnableState(const TaskRequest &request)
 {
-    writeAndFetch(reg::SoftEnable, request.enable ? 1 : 0);
+    if (!request.enable) {
+        announceDisable(disableDrive());
+        return;
+    }
+    // Once only: what enables a drive is never repeated.
+    writeAndFetch(reg::SoftEnable, 1);
     if (request.forceEnable)
         writeAndFetch(reg::ForceEnable, reg::ForceEnableKey);
-    if (!request.enable)
-        announceDisable();
 }
 
-void SessionWorker::announceDisable()
+/// Until the drive acknowledges it: one request lost on the way must not leave the drive enabled. What went wrong in
+/// between stays in the status, to be reported.
+bool SessionWorker::disableDrive()
 {
-    emit m_session.disableAnswered(!m_line.lastExchangeFailed());
+    bool acknowledged = false;
+    m_line.beginStop();
+    for (int attempt = 0; attempt < disableAttempts && !acknowledged; ++attempt)
+        acknowledged = writeAndFetch(reg::SoftEnable, 0);
+    m_line.endStop();
+    return acknowledged;
+}
+
+void SessionWorker::announceDisable(bool acknowledged)
+{
+    emit m_session.disableAnswered(acknowledged);
     // Whoever pressed it wants to see soon whether it took effect.
     if (!m_queue.contains(Connection::TaskUpdateStatus))
         m_queue.push(Connection::TaskUpdateStatus);

@@ -31,6 +31,7 @@ void SessionWorker::initScope()
     m_line.execute();
     m_line.fetchWrite();
     m_line.fetchWrite();
+    m_line.finishReply();
     writeAndFetch(reg::ScopeState, m_capture.triggerCode);
 }
 

@@ -60,7 +60,7 @@ const SessionWorker::TaskRule *SessionWorker::ruleOf(int task)
 }
 
 SessionWorker::SessionWorker(Connection &session, SessionData &data, TaskQueue &queue)
-    : m_session(session), m_data(data), m_queue(queue)
+    : m_session(session), m_data(data), m_queue(queue), m_line(queue)
 {
 }
 
@@ -150,17 +150,18 @@ void SessionWorker::disableRestartingDrive(std::chrono::steady_clock::time_point
     QueuedTask entry;
     if (!m_queue.takeDisable(entry) || !isConnected() || inFirmwareUpgradeMode())
         return;
-    const bool again = statusIsClean(); // otherwise the restart itself went wrong, which is still to be reported
-    for (;;) {
-        writeAndFetch(reg::SoftEnable, 0);
-        if (!again || statusIsClean() || m_queue.isClosing() || std::chrono::steady_clock::now() >= deadline)
-            break;
-        m_line.startTask();
-        m_line.clearStatus();
+    const bool restarts = statusIsClean(); // otherwise the restart itself went wrong, which is still to be reported
+    bool acknowledged = disableDrive();
+    while (!acknowledged && restarts && !m_queue.isClosing() && std::chrono::steady_clock::now() < deadline) {
         // A port that has gone fails at once; do not spin on it.
         std::this_thread::sleep_for(std::chrono::milliseconds(20));
+        acknowledged = disableDrive();
     }
-    announceDisable();
+    if (acknowledged && restarts) { // it was deaf for a while, as it had to be
+        m_line.startTask();
+        m_line.clearStatus();
+    }
+    announceDisable(acknowledged);
 }
 
 void SessionWorker::debug() const
@@ -183,6 +184,7 @@ void SessionWorker::checkZBErrors()
     long bits = 0;
     m_line.fetchRead(&bits);
     m_line.fetchWrite();
+    m_line.finishReply();
     m_deviceErrors = static_cast<quint32>(bits);
 }
 

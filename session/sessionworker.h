@@ -70,7 +70,7 @@ private:
     bool readRecord(SingleParam &param);
     void writeRecord(const SingleParam &param);
     bool setParameter(int address, long value);
-    void writeAndFetch(int address, long value);
+    bool writeAndFetch(int address, long value); ///< whether the drive acknowledged it
     void setOverriddenParam(const Parameters &list, unsigned slot);
     void getParams(const TaskRequest &);
     void setParams(const TaskRequest &request);
@@ -89,7 +89,9 @@ private:
     void setAbsoluteSetpoint(const TaskRequest &request);
     void setIncrementalSetpoint(const TaskRequest &request);
     void setZero(const TaskRequest &);
-    void announceDisable();
+    bool disableDrive();
+    void announceDisable(bool acknowledged);
+    void forgetStimulus(); ///< when a drive restarts, which forgets its buffer and what was selected for it
     void restartDrive(const TaskRequest &);
     void restartToDFU(const TaskRequest &);
     void restartToDFUMode();

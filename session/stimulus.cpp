@@ -18,6 +18,7 @@ void SessionWorker::streamStimulus(const TaskRequest &)
         m_line.fetchWrite();
     long free = 0;
     m_line.fetchRead(&free);
+    m_line.finishReply();
     if (!statusIsClean())
         return;
     if (first)

@@ -119,11 +119,13 @@ void SessionWorker::getParams(const TaskRequest &)
     emit m_session.parametersRetreived(list, false);
 }
 
-void SessionWorker::writeAndFetch(int address, long value)
+bool SessionWorker::writeAndFetch(int address, long value)
 {
-    m_line.appendWrite(address, value);
-    m_line.execute();
-    m_line.fetchWrite();
+    const ZbStatus appended = m_line.appendWrite(address, value);
+    const ZbStatus executed = m_line.execute();
+    // A late reply to something longer must not pass for an acknowledgement.
+    const ZbStatus fetched = m_line.fetchWrite() | m_line.finishReply();
+    return (appended | executed | fetched) == ZB_OK;
 }
 
 bool SessionWorker::setParameter(int address, long value)
@@ -142,7 +144,7 @@ void SessionWorker::writeRecord(const SingleParam &param)
 void SessionWorker::setParams(const TaskRequest &request)
 {
     // Closing gives the whole session five seconds; a write that the user chose on the way out has most of them.
-    constexpr TaskQueue::Milliseconds closingGrace(2500);
+    constexpr TaskQueue::Milliseconds closingGrace(2000);
 
     qCDebug(sessionLog, "   SET PARAMS");
     const Parameters &list = request.parameters;

@@ -174,6 +174,38 @@ protected:
         session().getParams();
         return waitUntil([&] { return log().read.size() > before; });
     }
+    void disable()
+    {
+        session().setDriveEnableStatus(false);
+        session().setDriveForceEnableStatus(false);
+        session().command(Connection::TaskApplyEnableState);
+    }
+    void enable()
+    {
+        session().setDriveEnableStatus(true);
+        session().command(Connection::TaskApplyEnableState);
+    }
+    void setFault(sim::LineFault::Kind kind)
+    {
+        sim::LineFault fault;
+        fault.kind = kind;
+        bus().setFault(fault);
+    }
+    /// How often a payload has arrived.
+    int received(const std::string &payload)
+    {
+        const std::vector<std::string> all = payloads();
+        return static_cast<int>(std::count(all.begin(), all.end(), payload));
+    }
+    bool waitForPayload(const std::string &payload)
+    {
+        return waitUntil([&] { return received(payload) > 0; });
+    }
+    /// A write that the drive refuses, as another master's: its bit stays in register 13.
+    void leaveErrorBit()
+    {
+        bus().withDrive(DriveAddress, [](sim::VirtualDrive &drive) { drive.write(6020, 1); });
+    }
     /// Waits until what was queued before has run and its signals have arrived.
     bool waitUntilIdle()
     {

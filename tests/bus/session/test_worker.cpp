@@ -13,12 +13,6 @@ const std::string enableWrite = "89e500000001";
 class Worker : public SessionFixture
 {
 protected:
-    void disable()
-    {
-        session().setDriveEnableStatus(false);
-        session().setDriveForceEnableStatus(false);
-        session().command(Connection::TaskApplyEnableState);
-    }
     /// Requests between the moment of asking and the disable on the line.
     int requestsBeforeDisable(std::size_t asked)
     {
@@ -88,13 +82,14 @@ class EndingATask : public Worker, public testing::WithParamInterface<LongTask>
 
 TEST_F(Worker, SettersAndCommandsReturnAtOnceWhileTheDriveAnswersNothing)
 {
+    session().setReplyTimeout(400);
     ASSERT_TRUE(connectTo());
     sim::LineFault deaf;
     deaf.kind = sim::LineFault::Deaf;
     bus().setFault(deaf);
     bus().clearReceived();
     session().getParams();
-    ASSERT_TRUE(waitForRequests(1)); // the worker now waits a second for a reply
+    ASSERT_TRUE(waitForRequests(1)); // the worker now waits for a reply
     QElapsedTimer timer;
     timer.start();
     for (int i = 0; i < 200; ++i) {
@@ -152,6 +147,83 @@ TEST_F(Worker, ADisableOvertakesWhatWaitsAndDropsWhatWouldMove)
     EXPECT_THAT(sent, Contains(wire("822a 00000001"))) << "saving moves nothing";
     for (const std::string &moving : {enableWrite, wire("8227 000003e8"), wire("9d6c 00000001")})
         EXPECT_THAT(sent, Not(Contains(moving)));
+}
+
+TEST_F(Worker, ADisableIsSentUntilItIsAcknowledgedAtMostThreeTimes)
+{
+    for (bool heardInTheEnd : {true, false}) {
+        newSession();
+        bus().clearFaults();
+        session().setReplyTimeout(400);
+        ASSERT_TRUE(connectTo());
+        enable();
+        ASSERT_TRUE(bus().waitForRegister(5, 2533, 1));
+        ASSERT_TRUE(waitUntilIdle());
+        bus().clearReceived();
+        setFault(sim::LineFault::Deaf);
+        disable();
+        ASSERT_TRUE(waitForPayload(disableWrite));
+        if (heardInTheEnd)
+            bus().clearFaults();
+        ASSERT_TRUE(waitForDisconnect());
+        EXPECT_THAT(log().disables, testing::ElementsAre(heardInTheEnd));
+        EXPECT_EQ(bus().read(5, 2533), heardInTheEnd ? 0 : 1);
+        EXPECT_GE(received(disableWrite), heardInTheEnd ? 2 : 3);
+        EXPECT_LE(received(disableWrite), 3);
+        EXPECT_EQ(log().errors.size(), 1) << "the line was bad all the same";
+    }
+}
+
+TEST_F(Worker, AnEnableThatIsLostIsNotRepeated)
+{
+    session().setReplyTimeout(200);
+    ASSERT_TRUE(connectTo());
+    setFault(sim::LineFault::Deaf);
+    enable();
+    ASSERT_TRUE(waitForDisconnect());
+    EXPECT_EQ(received(enableWrite), 1);
+}
+
+TEST_F(Worker, ADisableIsSentAlsoWhereTheLineCountsAsDead)
+{
+    session().setReplyTimeout(500);
+    ASSERT_TRUE(connectTo());
+    bus().setTurnAround(std::chrono::milliseconds(50));
+    session().setStimulus(100, 1, -100, 1, true);
+    const auto uploads = [](std::size_t least) {
+        return [least](const sim::ReceivedRequests &all) {
+            const auto isUpload = [](const sim::ReceivedRequest &request) { return request.packet.id == 52; };
+            return std::count_if(all.begin(), all.end(), isUpload) >= static_cast<long>(least);
+        };
+    };
+    ASSERT_TRUE(bus().waitForReceived(uploads(1)));
+    setFault(sim::LineFault::Deaf);
+    bus().clearReceived();
+    ASSERT_TRUE(bus().waitForReceived(uploads(3))); // the last that this task sends
+    disable();
+    bus().clearFaults();
+    ASSERT_TRUE(waitForDisconnect());
+    EXPECT_THAT(log().disables, testing::ElementsAre(true));
+    EXPECT_EQ(received(disableWrite), 1);
+    EXPECT_FALSE(uploads(4)(bus().received())) << "and the task is still over";
+}
+
+TEST_F(Worker, ALateReplyToSomethingElseDoesNotAcknowledgeADisable)
+{
+    session().setReplyTimeout(200);
+    ASSERT_TRUE(connectTo());
+    ASSERT_TRUE(waitUntilIdle());
+    sim::LineFault late, deaf;
+    late.kind = sim::LineFault::Late;
+    late.at = 350;
+    late.count = 1;
+    deaf.kind = sim::LineFault::Deaf;
+    bus().setFaults({late, deaf});
+    bus().clearReceived();
+    ASSERT_TRUE(waitForRequests(1)); // a poll
+    disable();
+    ASSERT_TRUE(waitForDisconnect());
+    EXPECT_THAT(log().disables, testing::ElementsAre(false));
 }
 
 TEST_F(Worker, ADisableIsServedInsideAPause)
@@ -246,6 +318,34 @@ TEST_P(EndingATask, ComesBeforeTheThreadWouldBeTerminated)
 }
 INSTANTIATE_TEST_SUITE_P(Any, EndingATask, testing::ValuesIn(longTasks), nameOf);
 INSTANTIATE_TEST_SUITE_P(Waiting, EndingATask, testing::ValuesIn(waitingTasks), nameOf);
+
+TEST_F(Worker, ClosingOnABabblingLineEndsInTime)
+{
+    for (bool withADisable : {false, true}) {
+        newSession();
+        bus().clearFaults();
+        bus().setTurnAround(std::chrono::milliseconds(0));
+        ASSERT_TRUE(connectTo());
+        leaveErrorBit();
+        session().checkErrors(); // from this error on every write is followed by a question
+        ASSERT_TRUE(waitForDisconnect());
+        ASSERT_TRUE(connectTo());
+        ASSERT_TRUE(readAll());
+        bus().setTurnAround(std::chrono::milliseconds(10));
+        session().command(Connection::TaskSetParams);
+        bus().clearReceived();
+        ASSERT_TRUE(waitForRequests(5));
+        setFault(sim::LineFault::Noise);
+        bus().clearReceived();
+        ASSERT_TRUE(waitForRequests(1));
+        if (withADisable)
+            disable();
+        QElapsedTimer timer;
+        timer.start();
+        newSession();
+        EXPECT_LT(timer.elapsed(), withADisable ? 4500 : 3200) << "it would be terminated after 5 s";
+    }
+}
 
 TEST_F(Worker, LeavingCarriesOutWhatWasChosenOnTheWayOut)
 {
