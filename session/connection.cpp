@@ -53,6 +53,7 @@ void Connection::queue(int task, const std::function<void(TaskRequest &)> &store
 {
     QueuedTask entry;
     entry.task = static_cast<Task>(task);
+    bool stimulusSwitchedOff = false;
     {
         std::lock_guard<std::mutex> lock(d->data.mutex);
         TaskRequest &wanted = d->data.wanted;
@@ -63,9 +64,15 @@ void Connection::queue(int task, const std::function<void(TaskRequest &)> &store
             // The force-enable request is used once, and never by a disable.
             entry.request.forceEnable = wanted.enable && wanted.forceEnable;
             wanted.forceEnable = false;
+            // Nor may the next enable set going what was running before the stop, or what of it waits in the drive.
+            stimulusSwitchedOff = !wanted.enable && d->data.stimulus.isActive();
+            if (stimulusSwitchedOff)
+                d->data.stimulus.stop();
         }
     }
     d->tasks.push(std::move(entry));
+    if (stimulusSwitchedOff)
+        queue(TaskStopStimulus);
 }
 
 void Connection::command(Task task, bool waitForLoop)

@@ -65,8 +65,18 @@ void SessionWorker::abortHoming(const TaskRequest &)
 
 void SessionWorker::stopStimulus(const TaskRequest &)
 {
-    writeAndFetch(reg::SystemCommand, reg::CommandStopStream);
-    m_streaming = false;
+    // Still streaming when it was lost: the end of the connection then stops it again.
+    if (writeAndFetch(reg::SystemCommand, reg::CommandStopStream))
+        m_streaming = false;
+}
+
+void SessionWorker::forgetStimulus()
+{
+    {
+        std::lock_guard<std::mutex> lock(m_data.mutex);
+        m_data.stimulus.stop();
+    }
+    m_streaming = m_streamStarted = false;
 }
 
 void SessionWorker::setAbsoluteSetpoint(const TaskRequest &request)
@@ -91,7 +101,7 @@ void SessionWorker::restartDrive(const TaskRequest &)
 {
     emit m_session.busy(true, true);
     writeAndFetch(reg::SystemCommand, reg::CommandRestart);
-    m_streaming = m_streamStarted = false; // the drive forgets its buffer and what was selected for it
+    forgetStimulus(); // nothing moves by itself after a restart
     // Out of firmware-upgrade mode it comes back at an address of its own, which this connection does not know.
     if (inFirmwareUpgradeMode())
         m_queue.pushDisconnectFirst();
@@ -107,6 +117,7 @@ void SessionWorker::restartToDFU(const TaskRequest &)
 void SessionWorker::restartToDFUMode()
 {
     writeAndFetch(reg::SystemCommand, reg::CommandRestartToDFU);
+    forgetStimulus();
     if (isConnected() && statusIsClean()) {
         // From here on a bootloader answers, at its own address; it neither moves nor knows the watchdog.
         m_data.firmwareUpgradeMode = true;

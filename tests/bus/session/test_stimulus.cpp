@@ -99,6 +99,41 @@ TEST_F(Stimulus, ANewConnectionBeginsAnewAndDoesNotMoveByItself)
     EXPECT_EQ(payloads().front(), wire("8008 000000c8") + readFree);
 }
 
+TEST_F(Stimulus, AStopThatIsLostIsSentAgainOnLeaving)
+{
+    const std::string stopWrite = wire("822a 00000004");
+    start();
+    ASSERT_TRUE(waitForClock());
+    setFault(sim::LineFault::Deaf);
+    stop();
+    ASSERT_TRUE(waitForPayload(stopWrite));
+    bus().clearFaults();
+    ASSERT_TRUE(waitForDisconnect());
+    EXPECT_EQ(received(stopWrite), 2);
+    EXPECT_TRUE(bus().waitForRegister(5, 6, 2048)) << "the buffer is empty";
+}
+
+TEST_F(Stimulus, ADisableAndARestartEndItForGood)
+{
+    for (bool restart : {false, true}) {
+        bus().clearReceived();
+        start();
+        ASSERT_TRUE(waitForClock());
+        if (restart)
+            session().command(Connection::TaskRestartDrive);
+        else
+            disable(); // as a program without a window does it
+        ASSERT_TRUE(waitUntilIdle());
+        bus().clearReceived();
+        const int before = log().statusPanels.size();
+        ASSERT_TRUE(waitUntil([&] { return log().statusPanels.size() > before + 2; }));
+        for (const sim::ReceivedRequest &request : bus().received())
+            EXPECT_NE(request.packet.id, 52);
+        EXPECT_EQ(bus().read(5, 6), 2048) << "nothing waits in the drive for the next enable";
+        EXPECT_TRUE(log().errors.isEmpty());
+    }
+}
+
 TEST_F(Stimulus, NeverRunsDryBesidePollsAndACapture)
 {
     session().setDriveEnableStatus(true);
