@@ -36,6 +36,7 @@ bool SessionWorker::openLine(const QString &portName, int timeoutMs)
 void SessionWorker::resetDriveState()
 {
     m_deviceErrors = 0;
+    m_errorsAreOld = false;
     m_communicationReported = false;
     m_state = DriveState();
     m_polled = false;
@@ -66,6 +67,7 @@ void SessionWorker::connectDrive(const TaskRequest &request)
         return;
     }
     m_data.connected = true;
+    m_errorsAreOld = true;
     emit m_session.statusChanged(true, Connection::tr("Connected"));
     emit m_session.updateCaptureButtonText(Connection::tr("Start capture"));
     if (inFirmwareUpgradeMode())

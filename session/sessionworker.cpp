@@ -100,6 +100,7 @@ void SessionWorker::finishTask()
     if (m_errorLatch && isConnected() && m_deviceErrors == 0)
         checkZBErrors();
     reportErrors();
+    m_errorsAreOld = false;
 }
 
 void SessionWorker::connectionUpdate()
@@ -186,6 +187,12 @@ void SessionWorker::checkZBErrors()
     m_line.fetchWrite();
     m_line.finishReply();
     m_deviceErrors = static_cast<quint32>(bits);
+    // What is there when a connection begins is another master's doing, or our own of before the latch was set: with
+    // the latch it would end this connection before it has done anything. The drive has forgotten it now.
+    if (m_errorsAreOld && m_deviceErrors != 0) {
+        qCDebug(sessionLog) << "error bits from before this connection" << m_deviceErrors;
+        m_deviceErrors = 0;
+    }
 }
 
 QString SessionWorker::stringifyZBBusErrors(const SingleParam *param)

@@ -138,6 +138,7 @@ private:
     bool m_errorLatch = false;            ///< set by every error text: from then on each write is checked
     bool m_communicationReported = false; ///< since connecting: one text about the line is enough
     quint32 m_deviceErrors = 0;           ///< register 13 as last queried
+    bool m_errorsAreOld = false;          ///< until the connect task ends: see checkZBErrors
 
     int m_firmwareVersion = 0; ///< the bootloader's in firmware-upgrade mode
     int m_coreVersion = 0;

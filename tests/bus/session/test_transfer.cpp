@@ -180,6 +180,21 @@ TEST_F(Transfer, ARefusedWriteIsToldWithItsRecordOnceErrorsAreLookedFor)
     EXPECT_THAT(payloads(), Contains(wire("800a 400000 8009 40000d 800d 00000000")));
 }
 
+TEST_F(Transfer, ErrorsFromBeforeAConnectionDoNotEndIt)
+{
+    apply(with("KVP", 500000000));
+    session().checkErrors();
+    ASSERT_TRUE(waitForDisconnect());
+    leaveErrorBit();
+    ASSERT_TRUE(connectTo());
+    ASSERT_TRUE(waitUntilIdle());
+    EXPECT_TRUE(session().isConnected());
+    EXPECT_THAT(log().errors, SizeIs(1)) << "the first connection's";
+    apply(with("KVP", 500000000));
+    ASSERT_TRUE(waitForDisconnect());
+    EXPECT_THAT(log().errors, SizeIs(2)) << "its own errors do";
+}
+
 TEST_F(Transfer, CommandsAreTheWritesTheyStandFor)
 {
     EXPECT_THAT(sentBy(Connection::TaskSetZero).front(), wire("822a 00000200"));
