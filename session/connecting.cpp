@@ -37,6 +37,7 @@ void SessionWorker::resetDriveState()
 {
     m_deviceErrors = 0;
     m_errorsAreOld = false;
+    m_data.valuesComplete = false;
     m_communicationReported = false;
     m_state = DriveState();
     m_polled = false;

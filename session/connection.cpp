@@ -191,6 +191,11 @@ bool Connection::isConnected() const
     return d->data.connected;
 }
 
+bool Connection::valuesAreComplete() const
+{
+    return d->data.valuesComplete;
+}
+
 bool Connection::isInFirmwareUpgradeMode() const
 {
     return d->data.connected && d->data.firmwareUpgradeMode;

@@ -113,6 +113,9 @@ public:
     // --- Asking about the drive (any thread) ------------------------------------------------------------------
 
     bool isConnected() const;
+    /// Whether a full read has read everything since connecting: what parametersRetreived(list, false) brings is a part
+    /// of it when a read failed. A bootloader's drive never has all of it.
+    bool valuesAreComplete() const;
     /// Whether the connected drive runs its bootloader.
     bool isInFirmwareUpgradeMode() const;
     /// Type id of the connected drive, 0 when there is none.

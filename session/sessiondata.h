@@ -28,6 +28,7 @@ struct SessionData
 
     std::atomic<bool> workerEnded{false};
     std::atomic<bool> connected{false};
+    std::atomic<bool> valuesComplete{false}; ///< see Connection::valuesAreComplete
     std::atomic<bool> firmwareUpgradeMode{false};
     std::atomic<int> deviceType{0};
     std::atomic<int> positionFeedback{0};

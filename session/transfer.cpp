@@ -96,7 +96,8 @@ void SessionWorker::getParams(const TaskRequest &)
         handOvers = m_data.parameterHandOvers;
         list = m_data.wanted.parameters;
     }
-    for (int index = 0; index < list.getParamCount() && !m_queue.isClosing(); ++index) {
+    int index = 0;
+    for (; index < list.getParamCount() && !m_queue.isClosing(); ++index) {
         serveWaitingDisable();
         SingleParam param = list.getParam(index);
         if (inFirmwareUpgradeMode() && !knownToBootloader(param.addr))
@@ -116,6 +117,9 @@ void SessionWorker::getParams(const TaskRequest &)
         if (m_data.parameterHandOvers == handOvers)
             m_data.wanted.parameters = list;
     }
+    // The answer to a read that failed brings a part; nobody may take it for the whole.
+    if (index == list.getParamCount() && !inFirmwareUpgradeMode())
+        m_data.valuesComplete = true;
     emit m_session.parametersRetreived(list, false);
 }
 

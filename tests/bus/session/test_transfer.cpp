@@ -195,6 +195,24 @@ TEST_F(Transfer, ErrorsFromBeforeAConnectionDoNotEndIt)
     EXPECT_THAT(log().errors, SizeIs(2)) << "its own errors do";
 }
 
+TEST_F(Transfer, ValuesAreCompleteOnceEverythingWasReadInThisConnection)
+{
+    EXPECT_TRUE(session().valuesAreComplete());
+    session().command(Connection::TaskDisconnect);
+    ASSERT_TRUE(waitForDisconnect());
+    EXPECT_FALSE(session().valuesAreComplete());
+    ASSERT_TRUE(connectTo());
+    EXPECT_FALSE(session().valuesAreComplete());
+    bus().clearReceived();
+    bus().setTurnAround(std::chrono::milliseconds(5));
+    const int before = log().read.size();
+    session().getParams();
+    ASSERT_TRUE(waitForRequests(10));
+    setFault(sim::LineFault::Cut);
+    ASSERT_TRUE(waitUntil([&] { return log().read.size() > before; }));
+    EXPECT_FALSE(session().valuesAreComplete()) << "only a part was read";
+}
+
 TEST_F(Transfer, CommandsAreTheWritesTheyStandFor)
 {
     EXPECT_THAT(sentBy(Connection::TaskSetZero).front(), wire("822a 00000200"));
