@@ -137,10 +137,14 @@ void SessionWorker::measure(const TaskRequest &)
         return;
     }
     emit m_session.busy(true, false);
-    setParameter(reg::SystemCommand, reg::CommandMeasureMotor);
-    const bool finished = pause(measurePauseMs);
+    writeAndFetch(reg::SystemCommand, reg::CommandMeasureMotor);
+    // A command that was refused leaves the result of an earlier measurement as it is: no success of this one.
+    checkZBErrors();
+    const bool refused = m_deviceErrors != 0;
+    m_deviceErrors = 0; // told here, and no reason to disconnect
+    const bool finished = refused || (statusIsClean() && pause(measurePauseMs));
     long result = 0;
-    if (finished)
+    if (finished && !refused)
         readParameters(reg::MeasureResult, result);
     emit m_session.busy(false, false);
     if (!finished || !statusIsClean())

@@ -271,6 +271,21 @@ TEST_F(Transfer, MeasuringReadsEverythingAgain)
     EXPECT_TRUE(log().errors.isEmpty());
 }
 
+TEST_F(Transfer, ARefusedMeasurementDoesNotPassForTheOneBefore)
+{
+    session().command(Connection::TaskMeasure);
+    ASSERT_TRUE(waitUntil([this] { return log().read.size() == 2; }));
+    ASSERT_EQ(bus().read(5, 8104), 800);
+    leaveErrorBit();
+    session().command(Connection::TaskMeasure);
+    ASSERT_TRUE(waitUntilIdle());
+    ASSERT_THAT(log().errors, SizeIs(1));
+    EXPECT_THAT(log().errors.first().toStdString(), HasSubstr("Measurement failed."));
+    EXPECT_THAT(log().busy, ElementsAre(true, false, true, false));
+    EXPECT_EQ(log().unsaved, 1);
+    EXPECT_TRUE(session().isConnected());
+}
+
 TEST_F(TorvaTransfer, OnlyAKetaMeasures)
 {
     session().command(Connection::TaskMeasure);
