@@ -26,7 +26,7 @@ void MW::paramsRetreived(Parameters params, bool loadedFromFile)
         sendUpdateQuery();
     fillControls(bareCatalogue);
     if (!loadedFromFile)
-        m_valuesArrived = m_connection.isConnected();
+        m_valuesArrived = m_connection.valuesAreComplete(); // not after a read that failed, nor from a bootloader
 
     setParams(); // what a control clamped counts as held
     if (loadedFromFile && !bareCatalogue)
