@@ -1,18 +1,13 @@
 // Recording what the drive does, and letting it do something while it is recorded.
 #include "commands.h"
 
+#include "capturefiles.h"
 #include "captureorder.h"
-#include "captureplotter.h"
 #include "commandline.h"
 #include "driveclient.h"
-#include "outputfile.h"
-#include "plotpage.h"
 
 #include <QCoreApplication>
-#include <QJsonObject>
-#include <QTemporaryFile>
 
-#include <algorithm>
 #include <cmath>
 
 namespace {
@@ -25,35 +20,6 @@ QString tr(const char *text)
 {
     return QCoreApplication::translate("CaptureCommand", text);
 }
-
-struct Capture
-{
-    QList<CaptureData> channels;
-    Parameters settings; ///< for the page; empty without one
-    QString model;
-    double rate = 0.0; ///< Hz
-};
-
-/// Where the capture goes to. Opened before anything moves: a capture that cannot be kept is not worth a motion.
-struct Destination
-{
-    explicit Destination(const CommandLine &line) : csv(line.value("csv")), html(line.value("html")) {}
-
-    OutputFile csv;
-    OutputFile html;
-    QString flotFolder;
-
-    QString open()
-    {
-        if (html.isWanted())
-            flotFolder = findFlotFolder();
-        if (html.isWanted() && flotFolder.isEmpty())
-            return tr("The scripts of the plot page (\"flot\" folder) are not found; set VELBRIN_DATA to the folder "
-                      "that holds them, or leave --html away.");
-        const QString problem = csv.open();
-        return problem.isEmpty() ? html.open() : problem;
-    }
-};
 
 // --- The parts of a capture, in their order -----------------------------------------------------------------------
 
@@ -157,64 +123,14 @@ std::optional<QList<CaptureData>> record(DriveClient &client, const CaptureOrder
     return channels;
 }
 
-// --- Results ------------------------------------------------------------------------------------------------------
-
-QByteArray csvOf(const Capture &capture, QString &problem)
-{
-    QTemporaryFile file;
-    if (!file.open() || !CapturePlotter().saveCaptureDataCSV(capture.channels, file.fileName()))
-        problem = tr("Error writing to %1: %2.").arg(file.fileName(), file.errorString());
-    return problem.isEmpty() ? file.readAll() : QByteArray();
-}
-
-QByteArray pageOf(const Capture &capture, const QString &flotFolder, QString &problem)
-{
-    const QString page =
-        CapturePlotter().generatePlotPage(capture.channels, capture.settings.getParamsHTMLList(), capture.model);
-    return standalonePage(page, flotFolder, problem).toUtf8();
-}
-
-QStringList save(const Capture &capture, Destination &to)
-{
-    QStringList problems;
-    const auto write = [&problems](OutputFile &file, const std::function<QByteArray(QString &)> &contents) {
-        if (!file.isWanted())
-            return;
-        QString problem;
-        const QByteArray bytes = contents(problem);
-        problem = problem.isEmpty() ? file.write(bytes) : problem;
-        if (!problem.isEmpty())
-            problems.append(problem);
-    };
-    write(to.csv, [&](QString &problem) { return csvOf(capture, problem); });
-    write(to.html, [&](QString &problem) { return pageOf(capture, to.flotFolder, problem); });
-    return problems;
-}
-
-Results summary(const Capture &capture)
-{
-    Table table{{"key", "unit", "samples", "first", "minimum", "maximum", "last"}, {}};
-    for (const CaptureData &channel : capture.channels) {
-        if (channel.samples.isEmpty())
-            continue;
-        const auto isLess = [](const QPair<double, double> &a, const QPair<double, double> &b) {
-            return a.second < b.second;
-        };
-        const auto range = std::minmax_element(channel.samples.cbegin(), channel.samples.cend(), isLess);
-        table.rows.append({channel.key, channel.unit, channel.samples.size(), channel.samples.first().second,
-                           range.first->second, range.second->second, channel.samples.last().second});
-    }
-    return {tabSeparated(table), QJsonObject{{"sampleRate", capture.rate}, {"channels", toJson(table)}}};
-}
-
 // --- The command --------------------------------------------------------------------------------------------------
 
 Outcome capture(DriveClient &client, const CommandLine &line)
 {
     QString problem;
     const CaptureOrder order = captureOrder(line, problem);
-    Destination destination(line);
-    problem = destination.open();
+    CaptureFiles files(line.value("csv"), line.value("html"));
+    problem = files.open();
     if (!problem.isEmpty())
         return failed({problem});
     QStringList messages;
@@ -228,7 +144,7 @@ Outcome capture(DriveClient &client, const CommandLine &line)
     Capture capture;
     capture.model = Connection::deviceModelName(client.deviceType(), true);
     capture.rate = effectiveRate(order, base);
-    if (destination.html.isWanted()) {
+    if (files.hasPage()) {
         const auto list = client.read();
         if (!list)
             return failed({tr("The drive's settings could not be read.")});
@@ -238,7 +154,7 @@ Outcome capture(DriveClient &client, const CommandLine &line)
     if (!channels)
         return failed(messages);
     capture.channels = *channels;
-    const QStringList problems = messages + save(capture, destination);
+    const QStringList problems = messages + files.save(capture);
     return {problems.isEmpty() ? ExitDone : ExitFailed, summary(capture), problems};
 }
 
@@ -266,10 +182,10 @@ QList<Command> captureCommands()
              "is enabled. The drive stays where --step has sent it. A stimulus is stopped at the end and on every\n"
              "failure; Ctrl+C stops it, too, and disables a drive that --enable has enabled.\n"
              "\n"
-             "Channels: torqueref, torquemeas, fluxcurrent (A); velreference, velmeas (counts a control cycle, 2500 a "
-             "second);\n"
-             "posmeas, posferror (counts); outputvolt, fluxvoltage (%); hvbusvolt (V); pwm1, pwm2, pwm3, debug, "
-             "debug2\n"
+             "Channels: torqueref, torquemeas, fluxcurrent (A); velreference, velmeas (counts a control cycle of 0.4 "
+             "ms);\n"
+             "posreference, posmeas, posferror (counts); outputvolt, fluxvoltage (%); hvbusvolt (V); pwm1, pwm2, "
+             "pwm3,\n"
              "debug, debug2 (no unit).\n"
              "\n"
              "Prints one line a channel, tab separated: key, unit, number of samples, first, lowest, highest and last\n"
