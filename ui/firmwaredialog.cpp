@@ -7,6 +7,9 @@ FirmwareDialog::FirmwareDialog(QWidget *parent) : QDialog(parent)
 {
     form.setupUi(this);
     form.progressBar->hide();
+    // The range grows with every message, and when the progress bar takes some of the log's height.
+    QScrollBar *scrollBar = form.log->verticalScrollBar();
+    connect(scrollBar, &QScrollBar::rangeChanged, scrollBar, [scrollBar](int, int end) { scrollBar->setValue(end); });
 }
 
 void FirmwareDialog::begin()
@@ -25,7 +28,6 @@ void FirmwareDialog::begin()
 void FirmwareDialog::appendMessage(const QString &html)
 {
     form.log->appendHtml(html);
-    form.log->verticalScrollBar()->setValue(form.log->verticalScrollBar()->maximum());
 }
 
 void FirmwareDialog::setProgress(int sent, int total)

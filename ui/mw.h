@@ -154,6 +154,9 @@ private:
     void connectToNode(int address);
     void showMaximumSampleRate();
     void showNoDevice();
+    void enableDriveControls(bool connected);
+    /// Whether a drive is connected that has settings and moves: not one that runs its bootloader.
+    bool driveRunsItsFirmware() const;
 
     // Parameter pages
     void setParams();
@@ -186,6 +189,7 @@ private:
     bool askToKeepUpgrading();
     void restartAndReconnect(Connection::Task restartTask);
     void loadHelp();
+    void showBootloaderIdentity();
     /// The page of the same name among the offline pages once help is offline; any other address stays as it is.
     QUrl offlineCopyOf(const QUrl &url) const;
     void showPlotPage();

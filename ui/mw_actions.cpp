@@ -30,7 +30,10 @@ void MW::on_disable_drive_clicked()
     m_connection.setDriveForceEnableStatus(false);
     stopStimulus();
     m_connection.command(Connection::TaskApplyEnableState);
-    if (!m_connection.isInFirmwareUpgradeMode()) // a bootloader has no enable to wait for
+    if (m_connection.isInFirmwareUpgradeMode())
+        statusBar()->showMessage(
+            tr("Nothing to disable: the drive is in firmware upgrade mode, which drives no motor"));
+    else
         m_disableWatch->disableAsked(m_connection.isConnected());
 }
 

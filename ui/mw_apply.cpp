@@ -93,7 +93,7 @@ void MW::setUnsavedStatus()
 bool MW::checkIfParamsChangedAndAskUser(AskForApplyMode mode)
 {
     setParams();
-    if (!m_changesPending || !m_connection.isConnected())
+    if (!m_changesPending || !driveRunsItsFirmware())
         return false;
     const QString text = tr("Some paramets have been changed since last Apply. Changed settings won't take effect "
                             "before Apply.");
@@ -140,7 +140,7 @@ bool MW::askWithAbort(const QString &text)
 bool MW::checkIfParamsSavedAndAskUser()
 {
     setParams();
-    if (m_paramsSaved || !m_connection.isConnected())
+    if (m_paramsSaved || !driveRunsItsFirmware())
         return false;
     QMessageBox box(QMessageBox::Question, tr("Velbrin"),
                     tr("Some paramets have been changed since last Save to drive. Last changes will be lost on drive "

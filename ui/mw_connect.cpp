@@ -123,23 +123,7 @@ void MW::connectionStatusChanged(bool connected, QString text)
     m_connectionStatusLabel->setText(text);
     m_valuesArrived = false;
 
-    QWidget *const needDrive[] = {m_form->driveControlsGroup,
-                                  m_form->disconnect_button,
-                                  m_form->apply_button,
-                                  m_form->start_homing,
-                                  m_form->abort_homing,
-                                  m_form->ScopeCaptureNow,
-                                  m_form->setAbs1,
-                                  m_form->setAbs2,
-                                  m_form->setInc1,
-                                  m_form->setInc2,
-                                  m_form->clear_faults_2,
-                                  m_form->measureRLbutton};
-    for (QWidget *widget : needDrive)
-        widget->setEnabled(connected);
-    m_form->connect_button->setEnabled(!connected);
-    m_form->communicationInterface->setEnabled(!connected);
-    m_form->refreshPorts->setEnabled(!connected);
+    enableDriveControls(connected);
     // A search that could not open the port has no answer of its own.
     if (!connected && text == QLatin1String("Connect failed"))
         m_form->connect_button->setText(tr("Connect to drive"));
@@ -161,6 +145,45 @@ void MW::connectionStatusChanged(bool connected, QString text)
 }
 
 void MW::showMaximumSampleRate()
+void MW::enableDriveControls(bool connected)
+{
+    QWidget *const needDrive[] = {m_form->driveControlsGroup, m_form->disconnect_button, m_form->clear_faults_2};
+    for (QWidget *widget : needDrive)
+        widget->setEnabled(connected);
+    m_form->connect_button->setEnabled(!connected);
+    m_form->communicationInterface->setEnabled(!connected);
+    m_form->refreshPorts->setEnabled(!connected);
+
+    // What a bootloader has no use for. Disabling is not among it: that always gets through, and says what it did.
+    struct Control
+    {
+        QWidget *widget;
+        bool needsDrive; ///< itself; the others stand in a group that does, or work without one
+    };
+    const Control needFirmware[] = {
+        {m_form->apply_button, true},     {m_form->start_homing, true},  {m_form->abort_homing, true},
+        {m_form->ScopeCaptureNow, true},  {m_form->setAbs1, true},       {m_form->setAbs2, true},
+        {m_form->setInc1, true},          {m_form->setInc2, true},       {m_form->measureRLbutton, true},
+        {m_form->enable_drive, false},    {m_form->force_enable, false}, {m_form->saveToFlash, false},
+        {m_form->stimulusEnabled, false}, {m_form->setZero, false},      {m_form->restartToDFUMode, false},
+    };
+    const bool upgradeMode = connected && m_connection.isInFirmwareUpgradeMode();
+    const char *const usual = "usualToolTip";
+    for (const Control &control : needFirmware) {
+        QWidget *widget = control.widget;
+        widget->setEnabled(!upgradeMode && (connected || !control.needsDrive));
+        if (!widget->property(usual).isValid())
+            widget->setProperty(usual, widget->toolTip());
+        widget->setToolTip(upgradeMode ? tr("Not while the drive is in firmware upgrade mode")
+                                       : widget->property(usual).toString());
+    }
+}
+
+bool MW::driveRunsItsFirmware() const
+{
+    return m_connection.isConnected() && !m_connection.isInFirmwareUpgradeMode();
+}
+
 {
     const double rate = m_connection.maxScopeSampleRate();
     qDebug() << "max rate" << rate;

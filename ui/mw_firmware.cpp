@@ -22,6 +22,7 @@ void MW::firmwareUpgradeMsg(QString msg, bool done, bool failed)
     if (!failed) {
         // The drive is at its one-time address now: let the user find it there.
         m_connection.command(Connection::TaskScanBus);
+        m_form->connect_button->setText(tr("Searching devices..."));
         m_reconnectAfterUpgrade = true;
     }
 }
@@ -46,6 +47,15 @@ void MW::FWUpgrade_close_clicked()
     // Leaving without a successful upgrade drops the connection to a drive in upgrade mode.
     if (!m_reconnectAfterUpgrade)
         m_connection.command(Connection::TaskDisconnect);
+}
+
+void MW::showBootloaderIdentity()
+{
+    const int version = int(m_params.getParam(QStringLiteral("FWVER")).value);
+    if (version > 0)
+        m_form->FWVER->setText(tr("%1 (bootloader)").arg(version));
+    for (QLabel *label : {m_form->TCFWVER, m_form->BUILDREVISION})
+        label->setText(tr("Not known in firmware upgrade mode"));
 }
 
 bool MW::askToKeepUpgrading()

@@ -21,10 +21,14 @@ void MW::paramsRetreived(Parameters params, bool loadedFromFile)
     const double frequency = params.getParam(QStringLiteral("PIF")).value;
     if (frequency > 0)
         m_loopFrequency = frequency;
-    const bool driveWasRead = params.getParam(QStringLiteral("TCFWVER")).value > 0;
+    // A bootloader tells its identity only; the other records are still those of the drive before.
+    const bool fromBootloader = !loadedFromFile && m_connection.isInFirmwareUpgradeMode();
+    const bool driveWasRead = !fromBootloader && params.getParam(QStringLiteral("TCFWVER")).value > 0;
     if (driveWasRead && !loadedFromFile) // a file leaves a mixture of two drives' identities
         sendUpdateQuery();
     fillControls(bareCatalogue);
+    if (fromBootloader)
+        showBootloaderIdentity();
     if (!loadedFromFile)
         m_valuesArrived = m_connection.valuesAreComplete(); // not after a read that failed, nor from a bootloader
 

@@ -16,7 +16,7 @@ void MW::on_stimulusTarget1_editingFinished()
     m_connection.setStimulus(m_form->stimulusTarget1->value(), m_form->stimulusDelay1->value(),
                              m_form->stimulusTarget2->value(), m_form->stimulusDelay2->value(), running);
     for (QPushButton *button : {m_form->setAbs1, m_form->setInc1, m_form->setAbs2, m_form->setInc2})
-        button->setEnabled(!running && m_connection.isConnected());
+        button->setEnabled(!running && driveRunsItsFirmware());
 }
 
 void MW::on_stimulusDelay1_editingFinished()

@@ -1,10 +1,37 @@
-// The firmware dialog as a shell around the session's messages.
+// The firmware dialog and the restarts, on drives that are really upgraded and restarted.
 #include "windowfixture.h"
 
+#include "firmwarewriter.h"
+
+#include <QComboBox>
+#include <QElapsedTimer>
+#include <QFile>
 #include <QPlainTextEdit>
 #include <QProgressBar>
+#include <QScrollBar>
+#include <QSpinBox>
+#include <QStatusBar>
 
 namespace {
+
+using Words = std::vector<std::uint16_t>;
+
+constexpr int KetaType = 11000;
+constexpr int TorvaType = 4000;
+constexpr int BootloaderAddress = 255;
+constexpr int OneTimeAddress = 16;
+constexpr int SoftEnable = 2533;
+constexpr int FaultRegister = 552;
+constexpr int OperatingMode = 2;
+constexpr int UpgradeCutOff = 0x120;
+
+Words numberedWords(int count, int first)
+{
+    Words words;
+    for (int i = 0; i < count; ++i)
+        words.push_back(static_cast<std::uint16_t>(first + i));
+    return words;
+}
 
 class FirmwareDialogTest : public WindowFixture
 {
@@ -13,6 +40,7 @@ protected:
     {
         WindowFixture::SetUp();
         openWindow();
+        goTo(1); // the Connect page
     }
     void message(const char *text, bool done = false, bool failed = false)
     {
@@ -21,26 +49,91 @@ protected:
     }
     QDialog *dialog() const { return control<QDialog>("firmwareUpgradeDlg"); }
     QString log() const { return control<QPlainTextEdit>("log")->toPlainText(); }
-    /// Opens a firmware file that is none; the session then says so.
-    void startUpgrade()
+    QString statusText() const { return m_window->statusBar()->currentMessage(); }
+
+    void startUpgrade(const char *file)
     {
-        QFile file("some.tdf");
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write("no firmware");
-        file.close();
-        m_answers.chooseFile(QFileInfo("some.tdf").absoluteFilePath());
+        m_answers.chooseFile(QFileInfo(file).absoluteFilePath());
         click("openFile");
+    }
+    /// Opens a firmware file that is none; the session then says so.
+    void startUpgradeWithNonsense()
+    {
+        ASSERT_EQ(sim::writeFile("some.tdf", {'n', 'o'}), "");
+        startUpgrade("some.tdf");
+    }
+    /// The next node dialog is read, and its first drive chosen.
+    void chooseFirstNode(QStringList &texts)
+    {
+        m_answers.expect([&texts](QWidget *dialog) {
+            auto *nodes = dialog->findChild<QListWidget *>("nodeList");
+            for (int row = 0; nodes && row < nodes->count(); ++row)
+                texts << nodes->item(row)->text();
+            if (texts.isEmpty())
+                return false;
+            nodes->setCurrentRow(0);
+            dialog->findChild<QDialogButtonBox *>("buttonBox")->button(QDialogButtonBox::Open)->click();
+            return true;
+        });
+    }
+    bool waitForGreeting()
+    {
+        return waitFor([this] { return dialog()->isVisible(); });
+    }
+    /// The final message, and the end of the connection that it brings.
+    bool waitForSuccess()
+    {
+        return waitFor([this] { return log().contains("All done with success!"); }) &&
+               waitFor([this] { return connectionText() == "Disconnected"; });
+    }
+    bool waitForConnection(const char *text)
+    {
+        return waitFor([&] { return connectionText() == text; });
+    }
+    /// Words in the drive's flash, read behind the program's back.
+    Words flashed(const Words &(sim::Bootloader::*memory)() const)
+    {
+        Words words;
+        bus().withDrive(DriveAddress, [&](sim::VirtualDrive &drive) { words = (drive.bootloader().*memory)(); });
+        return words;
     }
 };
 
-class UpgradeModeDrive : public FirmwareDialogTest
+class KetaInUpgradeMode : public FirmwareDialogTest
 {
     sim::BusOptions busOptions() const override
     {
         sim::BusOptions options;
-        options.drives = {{"keta", 5, true}};
+        options.drives = {{"keta", DriveAddress, true}};
         return options;
     }
+};
+
+class TorvaInUpgradeMode : public FirmwareDialogTest
+{
+    sim::BusOptions busOptions() const override
+    {
+        sim::BusOptions options;
+        options.drives = {{"torva", DriveAddress, true}};
+        return options;
+    }
+};
+
+class RunningUpgrade : public KetaInUpgradeMode
+{
+protected:
+    /// An upgrade that takes seconds, somewhere in its upload.
+    void SetUp() override
+    {
+        KetaInUpgradeMode::SetUp();
+        startConnecting(BootloaderAddress);
+        ASSERT_TRUE(waitForGreeting());
+        ASSERT_EQ(sim::writeFile("keta.tdf", sim::firmwareFile(KetaType, numberedWords(20000, 0), {})), "");
+        bus().setTurnAround(std::chrono::milliseconds(10)); // 625 chunks
+        startUpgrade("keta.tdf");
+        ASSERT_TRUE(waitFor([this] { return progress() > 0; }));
+    }
+    int progress() const { return control<QProgressBar>("progressBar")->value(); }
 };
 
 } // namespace
@@ -58,28 +151,91 @@ TEST_F(FirmwareDialogTest, FirstMessageOpensItAndTheLogGrows)
     EXPECT_EQ(log(), "");
 }
 
-TEST_F(FirmwareDialogTest, RunningUpgradeCannotBeLeft)
+TEST_F(FirmwareDialogTest, WithoutADriveTheUpgradeEndsInOneMessage)
 {
     message("go");
-    startUpgrade();
-    // Without a connected drive the session refuses at once; until its answer comes, the buttons are dead.
+    startUpgradeWithNonsense();
     EXPECT_FALSE(button("close")->isEnabled());
     EXPECT_FALSE(button("openFile")->isEnabled());
-    dialog()->reject();
-    EXPECT_TRUE(dialog()->isVisible());
-    m_answers.press("Keep upgrading");
-    EXPECT_FALSE(m_window->close());
     ASSERT_TRUE(waitFor([this] { return button("close")->isEnabled(); }));
+    EXPECT_EQ(log().count("Error: "), 1);
     EXPECT_FALSE(button("openFile")->isEnabled());
     click("close");
     EXPECT_FALSE(dialog()->isVisible());
 }
 
-TEST_F(UpgradeModeDrive, IsGreetedByTheDialogAndLeftWithIt)
+TEST_F(FirmwareDialogTest, InstallFirmwareLeadsAKetaToItsNewFirmwareAndBack)
 {
-    startConnecting(255);
-    ASSERT_TRUE(waitFor([this] { return dialog()->isVisible(); }));
+    connectToDrive();
+    ASSERT_TRUE(button("restartToDFUMode")->isVisible());
+    control<QSpinBox>("KVP")->setValue(control<QSpinBox>("KVP")->value() + 1);
+    m_answers.press("Abort"); // stays as it was
+    click("restartToDFUMode");
+    EXPECT_EQ(connectionText(), "Connected");
+
+    QStringList found;
+    m_answers.press("Continue without applying");
+    chooseFirstNode(found);
+    click("restartToDFUMode");
+    EXPECT_EQ(connectionText(), "Restarting device");
+    ASSERT_TRUE(waitForGreeting());
+    EXPECT_EQ(found, QStringList{"Tarnwell Devices KETA at bus address 255 in firmware upgrade mode"});
     EXPECT_TRUE(log().startsWith("Connected to device in firmware upgrade mode (bootloader version 1260)"));
+    EXPECT_TRUE(control<QWidget>("resetToFactoryState")->isVisible());
+
+    const Words image = numberedWords(2000, 0x1000);
+    ASSERT_EQ(sim::writeFile("keta.tdf", sim::firmwareFile(KetaType, image, {})), "");
+    startUpgrade("keta.tdf");
+    ASSERT_TRUE(waitForSuccess());
+    found.clear();
+    chooseFirstNode(found);
+    click("close"); // does not take the search back
+    ASSERT_TRUE(waitForConnection("Connected"));
+    EXPECT_EQ(found, QStringList{"Tarnwell Devices KETA at bus address 16"});
+    Words programmed = flashed(&sim::Bootloader::programmedWords);
+    ASSERT_EQ(programmed.size(), 2016u); // the last chunk was filled up
+    programmed.resize(image.size());
+    EXPECT_EQ(programmed, image);
+
+    click("disconnect_button");
+    ASSERT_TRUE(waitForConnection("Disconnected"));
+    bus().powerCycle();
+    connectToDrive(DriveAddress);
+    EXPECT_EQ(bus().read(DriveAddress, OperatingMode), 1);
+}
+
+TEST_F(TorvaInUpgradeMode, GetsBothImages)
+{
+    startConnecting(BootloaderAddress, TorvaType);
+    ASSERT_TRUE(waitForGreeting());
+    EXPECT_FALSE(control<QWidget>("resetToFactoryState")->isVisible());
+    EXPECT_FALSE(button("restartToDFUMode")->isVisible());
+    ASSERT_TRUE(waitFor([this] { return label("FWVER")->text() == "1260 (bootloader)"; }));
+
+    ASSERT_EQ(sim::writeFile("torva.tdf", sim::firmwareFile(TorvaType, numberedWords(64, 1), numberedWords(96, 2))),
+              "");
+    startUpgrade("torva.tdf");
+    ASSERT_TRUE(waitForSuccess());
+    EXPECT_TRUE(log().contains("STEP1: I/O side firmware"));
+    EXPECT_TRUE(log().contains("TarnwellCore flash contents verified and passed"));
+    EXPECT_EQ(control<QProgressBar>("progressBar")->value(), control<QProgressBar>("progressBar")->maximum());
+    EXPECT_EQ(flashed(&sim::Bootloader::programmedWords), numberedWords(64, 1));
+    EXPECT_EQ(flashed(&sim::Bootloader::coreWords), numberedWords(96, 2));
+
+    // The search answers while the log is still being read; the drives are shown when it is closed.
+    ASSERT_TRUE(waitFor([this] { return button("connect_button")->text() == "Connect to drive"; }));
+    EXPECT_TRUE(dialog()->isVisible());
+    QStringList found;
+    chooseFirstNode(found);
+    click("close");
+    ASSERT_TRUE(waitForConnection("Connected"));
+    EXPECT_EQ(found, QStringList{"Tarnwell Devices TORVA at bus address 16"});
+}
+
+TEST_F(KetaInUpgradeMode, IsGreetedByTheDialogAndLeftWithIt)
+{
+    startConnecting(BootloaderAddress);
+    ASSERT_TRUE(waitForGreeting());
     EXPECT_TRUE(button("openFile")->isEnabled());
     EXPECT_FALSE(control<QProgressBar>("progressBar")->isVisible());
     m_answers.chooseFile(QString()); // cancelled
@@ -87,10 +243,117 @@ TEST_F(UpgradeModeDrive, IsGreetedByTheDialogAndLeftWithIt)
     EXPECT_TRUE(button("openFile")->isEnabled());
     EXPECT_EQ(connectionText(), "Connected");
 
-    startUpgrade();
+    startUpgradeWithNonsense();
     ASSERT_TRUE(waitFor([this] { return button("close")->isEnabled(); }));
     EXPECT_FALSE(button("openFile")->isEnabled());
-    EXPECT_GT(log().count('\n'), 3);
-    EXPECT_TRUE(waitFor([this] { return connectionText() == "Disconnected"; }));
+    EXPECT_TRUE(log().endsWith("Error: Unknown file type"));
+    EXPECT_TRUE(waitForConnection("Disconnected"));
     EXPECT_TRUE(dialog()->isVisible()); // its log is still to be read
+}
+
+TEST_F(KetaInUpgradeMode, ShowsWhatABootloaderKnowsAndOffersWhatItCanDo)
+{
+    startConnecting(BootloaderAddress);
+    ASSERT_TRUE(waitForGreeting());
+    ASSERT_TRUE(waitFor([this] { return label("HWMODEL")->text() == "Tarnwell Devices KETA"; }));
+    EXPECT_EQ(label("HWVER")->text(), "11000");
+    EXPECT_EQ(label("HWSERIAL")->text(), QString::number(bus().read(DriveAddress, 6002)));
+    EXPECT_EQ(label("TCFWVER")->text(), "Not known in firmware upgrade mode");
+
+    const QString why = "Not while the drive is in firmware upgrade mode";
+    for (const char *name : {"enable_drive", "saveToFlash", "restartToDFUMode", "apply_button", "start_homing",
+                             "ScopeCaptureNow", "setAbs1", "measureRLbutton"}) {
+        EXPECT_FALSE(button(name)->isEnabled()) << name;
+        EXPECT_EQ(button(name)->toolTip(), why) << name;
+    }
+    for (const char *name : {"disable_drive", "restartDrive", "disconnect_button"})
+        EXPECT_TRUE(button(name)->isEnabled()) << name;
+    click("disable_drive");
+    EXPECT_EQ(statusText(), "Nothing to disable: the drive is in firmware upgrade mode, which drives no motor");
+    EXPECT_EQ(timesWritten(SoftEnable, 0), 0);
+
+    click("close"); // back to a drive that runs
+    ASSERT_TRUE(waitForConnection("Disconnected"));
+    bus().powerCycle();
+    connectToDrive();
+    EXPECT_TRUE(button("enable_drive")->isEnabled());
+    EXPECT_NE(button("enable_drive")->toolTip(), why);
+    EXPECT_TRUE(button("apply_button")->isEnabled());
+}
+
+TEST_F(RunningUpgrade, IsNotLeftByAccident)
+{
+    QTest::keyClick(dialog(), Qt::Key_Escape);
+    dialog()->close();
+    EXPECT_TRUE(dialog()->isVisible());
+    EXPECT_TRUE(statusText().startsWith("Nothing to disable:"));
+    const auto *scrollBar = control<QPlainTextEdit>("log")->verticalScrollBar();
+    const int sent = progress();
+    ASSERT_TRUE(waitFor([&] { return progress() > sent; }));
+    EXPECT_EQ(scrollBar->value(), scrollBar->maximum());
+
+    m_answers.expect([](QWidget *box) { // Return keeps it, and so does Esc
+        EXPECT_TRUE(qobject_cast<QMessageBox *>(box)->informativeText().contains("without working firmware"));
+        QTest::keyClick(box, Qt::Key_Return);
+        return true;
+    });
+    EXPECT_FALSE(m_window->close());
+    m_answers.expect([](QWidget *box) {
+        QTest::keyClick(box, Qt::Key_Escape);
+        return true;
+    });
+    EXPECT_FALSE(m_window->close());
+    bus().setTurnAround(std::chrono::microseconds(0));
+    ASSERT_TRUE(waitForSuccess());
+    EXPECT_EQ(progress(), 2 * 20000);
+    EXPECT_EQ(scrollBar->value(), scrollBar->maximum());
+    QTest::keyClick(dialog(), Qt::Key_Escape); // finished, it means "Close"
+    EXPECT_FALSE(dialog()->isVisible());
+    m_answers.chooseNode(0);
+    EXPECT_TRUE(waitForConnection("Connected"));
+}
+
+TEST_F(RunningUpgrade, ClosedAnywayEndsAtOnceAndCanBeRescued)
+{
+    m_answers.press("Close anyway");
+    ASSERT_TRUE(m_window->close());
+    QElapsedTimer timer;
+    timer.start();
+    m_window.reset();
+    EXPECT_LT(timer.elapsed(), 5000);
+    bus().setTurnAround(std::chrono::microseconds(0));
+    bus().powerCycle();
+    EXPECT_EQ(bus().read(DriveAddress, FaultRegister), UpgradeCutOff);
+
+    openWindow();
+    startConnecting(BootloaderAddress);
+    ASSERT_TRUE(waitFor([this] { return log().contains("(120 hex = chip firmware memory checksum mismatch)"); }));
+    startUpgrade("keta.tdf");
+    ASSERT_TRUE(waitForSuccess());
+    EXPECT_EQ(bus().read(DriveAddress, FaultRegister), 0);
+    m_answers.chooseNode(0);
+    click("close");
+    EXPECT_TRUE(waitForConnection("Connected"));
+}
+
+TEST_F(FirmwareDialogTest, PermanentStopIsCuredByTheRestartThatIsSuggestedOnce)
+{
+    connectToDrive();
+    bus().set(DriveAddress, SoftEnable, 1);
+    const int motor = control<QComboBox>("MT")->currentIndex();
+    control<QComboBox>("MT")->setCurrentIndex(motor == 1 ? 3 : 1);
+    QStringList found;
+    m_answers.press("Restart drive now");
+    m_answers.press("Discard changes");
+    chooseFirstNode(found);
+    click("apply_button");
+    ASSERT_TRUE(waitForConnection("Restarting device"));
+    EXPECT_TRUE(m_answers.texts.last().startsWith("Some paramets have been changed since last Save to drive."));
+    ASSERT_TRUE(waitForConnection("Connected"));
+    EXPECT_EQ(found, QStringList{"Tarnwell Devices KETA at bus address 5"});
+    ASSERT_TRUE(waitFor([&] { return control<QComboBox>("MT")->currentIndex() == motor; })) << "as the flash has it";
+    // Asked again it would be an unexpected box: some polls go by.
+    bus().clearReceived();
+    ASSERT_TRUE(waitFor([this] { return receivedAt(DriveAddress).size() > 4; }));
+    EXPECT_EQ(shownMessage(m_window.get()), "");
 }
