@@ -6,7 +6,7 @@
 #include <cstdlib>
 #include <filesystem>
 
-/// Made at construction, removed at destruction. HOME and XDG_CONFIG_HOME point at it.
+/// Made at construction, removed at destruction. HOME, XDG_CONFIG_HOME and XDG_RUNTIME_DIR point at it.
 class TestHome
 {
 public:
@@ -17,6 +17,7 @@ public:
             m_folder = made;
         setenv("HOME", m_folder.c_str(), 1);
         setenv("XDG_CONFIG_HOME", m_folder.c_str(), 1);
+        setenv("XDG_RUNTIME_DIR", m_folder.c_str(), 1); // Qt remarks on its absence otherwise
     }
     ~TestHome()
     {
