@@ -73,13 +73,15 @@ Outcome flash(DriveClient &client, const CommandLine &line)
     if (resetsSettings && !client.session().deviceHasCapability(Connection::CapResetToFactory))
         return failed({tr("A %1 cannot reset its settings in an upgrade.").arg(modelName(client))});
 
+    const QString upgrading = tr("Upgrading");
     UpgradeLog log;
     log.printsLines = !line.json;
     client.received().upgradeMessage = [&](const QString &html, bool done, bool failed) {
         log.take(client, html, done, failed);
     };
-    client.received().uploadProgress = [&client](int sentBytes, int totalBytes) {
-        client.progress().update(tr("Uploading %1 of %2 KiB").arg(sentBytes / 1024).arg((totalBytes + 1023) / 1024));
+    client.received().uploadProgress = [&client, upgrading](int sentBytes, int totalBytes) {
+        const QString uploading = tr("Uploading %1 of %2 KiB").arg(sentBytes / 1024).arg((totalBytes + 1023) / 1024);
+        client.progress().update(sentBytes < totalBytes ? uploading : upgrading);
     };
     client.setOnInterrupt(
         DriveClient::OnInterrupt::AskOnceMore,
@@ -88,7 +90,7 @@ Outcome flash(DriveClient &client, const CommandLine &line)
     client.session().setFirmwareFileName(line.arguments.first(), resetsSettings);
     client.session().command(Connection::TaskFlashFirmware);
     client.waitFor(
-        tr("Upgrading"), [&log] { return log.isDone; }, upgradeLimitMs);
+        upgrading, [&log] { return log.isDone; }, upgradeLimitMs);
     if (client.wasInterrupted())
         client.close(); // ends the upload; what it still has to say belongs to the log
     client.received().upgradeMessage = nullptr;

@@ -21,6 +21,8 @@ void Progress::show(const QString &text)
 
 void Progress::update(const QString &text)
 {
+    if (text == m_text)
+        return; // many a second would only flicker
     m_text = text;
     if (m_timer.isActive())
         draw();
