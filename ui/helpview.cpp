@@ -1,8 +1,9 @@
 #include "helpview.h"
 
+#include <QBuffer>
 #include <QCoreApplication>
 #include <QDir>
-#include <QImageWriter>
+#include <QFile>
 #include <QPainter>
 #include <QScopedValueRollback>
 #include <QWebFrame>
@@ -56,9 +57,13 @@ QString HelpView::savePng(const QString &fileName)
     page()->mainFrame()->render(&painter);
     painter.end();
     page()->setViewportSize(before);
-    QImageWriter writer(fileName);
-    if (writer.write(image))
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    image.save(&buffer, "PNG");
+    QFile file(fileName);
+    // Flushed here: a full disk shows only when the bytes really go out.
+    if (!bytes.isEmpty() && file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.flush())
         return QString();
     return QCoreApplication::translate("MW", "Error writing graphs to file %1: %2")
-        .arg(QDir::toNativeSeparators(fileName), writer.errorString());
+        .arg(QDir::toNativeSeparators(fileName), file.errorString());
 }

@@ -9,6 +9,7 @@
 #include "helpview.h"
 #include "mwforms.h"
 #include "pagetable.h"
+#include "statepanels.h"
 #include "ui_overrideparams.h"
 #include "version.h"
 #include "wheelguard.h"
@@ -166,6 +167,8 @@ void MW::connectSession()
     m_questionTimer->setInterval(QUESTION_RETRY_MS);
     connect(m_questionTimer, &QTimer::timeout, this, &MW::runWaitingQuestion);
 
+    connectStatePanels();
+
     // The worker emits on its own thread; everything arrives here through the event loop.
     const auto type = Qt::QueuedConnection;
     connect(&m_connection, &Connection::statusChanged, this, &MW::connectionStatusChanged, type);
@@ -173,9 +176,6 @@ void MW::connectSession()
     connect(&m_connection, &Connection::parametersRetreived, this, &MW::paramsRetreived, type);
     connect(&m_connection, &Connection::plotReady, this, &MW::plotCapture, type);
     connect(&m_connection, &Connection::updateCaptureButtonText, this, &MW::changeScopeButtonText, type);
-    connect(&m_connection, &Connection::physInputsUpdated, m_form->physInputStatus, &QLabel::setText, type);
-    connect(&m_connection, &Connection::statusRegisterUpdated, m_form->statusRegister, &QLabel::setText, type);
-    connect(&m_connection, &Connection::faultRegisterUpdated, m_form->faultRegister, &QLabel::setText, type);
     connect(&m_connection, &Connection::availableBusNodes, this, &MW::availableBusNodesListReceived, type);
     connect(&m_connection, &Connection::firmwareUpgradeMsg, this, &MW::firmwareUpgradeMsg, type);
     connect(&m_connection, &Connection::firmwareUploadProgress, m_firmwareDialog, &FirmwareDialog::setProgress, type);
@@ -198,6 +198,20 @@ void MW::connectSession()
     connect(m_form->FBR, changed, this, &MW::updateUnitLabels);
     connect(m_form->AXS, QOverload<double>::of(&QDoubleSpinBox::valueChanged), this, &MW::updateUnitLabels);
     connect(m_form->AXT, QOverload<int>::of(&QComboBox::currentIndexChanged), this, &MW::updateUnitLabels);
+}
+
+void MW::connectStatePanels()
+{
+    m_statePanels = new StatePanels(this);
+    const auto add = [this](QLabel *panel, QLabel *heading, void (Connection::*updated)(QString)) {
+        m_statePanels->add(panel, heading);
+        connect(
+            &m_connection, updated, m_statePanels,
+            [this, panel](const QString &html) { m_statePanels->show(panel, html); }, Qt::QueuedConnection);
+    };
+    add(m_form->physInputStatus, m_form->physInputStatusl, &Connection::physInputsUpdated);
+    add(m_form->statusRegister, m_form->statusRegisterl, &Connection::statusRegisterUpdated);
+    add(m_form->faultRegister, m_form->faultRegisterl, &Connection::faultRegisterUpdated);
 }
 
 void MW::createShortcuts()

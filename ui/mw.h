@@ -27,6 +27,7 @@ class QCloseEvent;
 class QLabel;
 class QPushButton;
 class QTimer;
+class StatePanels;
 class Ui_overrideParams;
 struct Forms;
 
@@ -140,6 +141,7 @@ private:
     void buildPageList();
     void buildHelpAndStatus();
     void connectSession();
+    void connectStatePanels();
     void createShortcuts();
     void hideForGood();
     void fillTorqueFunctions();
@@ -209,6 +211,7 @@ private:
     ErrorWindow *m_errorWindow = nullptr;
     EscapeFilter *m_escapeFilter = nullptr;
     DisableWatch *m_disableWatch = nullptr;
+    StatePanels *m_statePanels = nullptr;
     QLabel *m_connectionStatusLabel = nullptr;
     QTimer *m_applyTimer = nullptr;
     QTimer *m_helpTimer = nullptr;
@@ -221,6 +224,7 @@ private:
     QList<QLabel *> m_unitLabels; ///< labels that show their control in machine units
     CapturePlotter m_plotter;
     UpdateChecker m_updateChecker;
+    QString m_lastSetpoint;        ///< as polled last, empty before the first poll
     QList<CaptureData> m_captures; ///< the last capture, kept for plotting it again
     QString m_lastDirectory = QStringLiteral("~");
     QString m_lastFirmwareFolder = QStringLiteral("~");

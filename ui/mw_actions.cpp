@@ -2,11 +2,11 @@
 #include "disablewatch.h"
 #include "mw.h"
 #include "mwforms.h"
+#include "statepanels.h"
 
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QStatusBar>
-#include <QTextDocument>
 
 void MW::on_enable_drive_clicked()
 {
@@ -102,9 +102,5 @@ void MW::on_measureRLbutton_clicked()
 
 void MW::on_copyDeviceStateToClipboard_clicked()
 {
-    const QStringList panels{m_form->physInputStatus->text(), m_form->statusRegister->text(),
-                             m_form->faultRegister->text()};
-    QTextDocument document;
-    document.setHtml(panels.join(QLatin1String("<br><br>")));
-    QGuiApplication::clipboard()->setText(document.toPlainText(), QClipboard::Clipboard);
+    QGuiApplication::clipboard()->setText(m_statePanels->plainText(), QClipboard::Clipboard);
 }

@@ -5,6 +5,7 @@
 #include "mw.h"
 #include "mwforms.h"
 #include "portlist.h"
+#include "statepanels.h"
 #include "ui_selectbusnode.h"
 
 #include <QCheckBox>
@@ -196,6 +197,9 @@ void MW::showNoDevice()
     for (QLabel *label :
          {m_form->HWMODEL, m_form->HWVER, m_form->HWSERIAL, m_form->TCFWVER, m_form->FWVER, m_form->BUILDREVISION})
         label->clear();
+    m_statePanels->connectionEnded();
+    if (!m_lastSetpoint.isEmpty())
+        m_form->setpointNow->setText(tr("Setpoint last known: %1").arg(m_lastSetpoint));
     // Whatever ended the connection, the next drive must not start moving because of a tick that was left behind.
     if (m_form->stimulusEnabled->isChecked())
         stopStimulus();

@@ -28,13 +28,14 @@ void MW::pageChanged()
     m_form->apply_button->setVisible(hasSettings);
     if (hasSettings)
         updateApplyButtonState();
-    if (!m_helpEnabled)
-        return; // a plot is on display
-    m_helpTimer->stop();
-    m_helpView->stopLoading();
+    if (m_helpEnabled) {
+        m_helpTimer->stop();
+        m_helpView->stopLoading();
+    }
     if (m_currentPage == TestingPageIndex && previousPage != TestingPageIndex)
         checkIfParamsChangedAndAskUser(AskBeforeTesting);
-    loadHelp();
+    if (m_helpEnabled) // no plot is on display, nor has one come during the question
+        loadHelp();
 }
 
 void MW::loadHelp()
@@ -84,7 +85,8 @@ void MW::browserLinkClicked(QUrl url)
         m_helpEnabled = true;
         pageChanged();
     } else {
-        m_helpTimer->stop(); // the page that was loading is given up, which says nothing about the network
+        m_helpTimer->stop();  // the page that was loading is given up, which says nothing about the network
+        m_helpEnabled = true; // a plot that stood here is gone, and with it its link back to the help
         m_helpView->loadPage(offlineCopyOf(url));
     }
 }

@@ -8,6 +8,7 @@
 #include <QDebug>
 #include <QDir>
 #include <QFileDialog>
+#include <QStatusBar>
 #include <QTimer>
 
 void MW::on_stimulusTarget1_editingFinished()
@@ -57,7 +58,8 @@ void MW::stopStimulus()
 
 void MW::setpointChanged(double val)
 {
-    m_form->setpointNow->setText(tr("Setpoint now: %1").arg(QString::number(val)));
+    m_lastSetpoint = QString::number(val);
+    m_form->setpointNow->setText(tr("Setpoint now: %1").arg(m_lastSetpoint));
 }
 
 void MW::changeScopeButtonText(QString text)
@@ -110,6 +112,8 @@ void MW::saveTestResults_clicked()
     const QString file = askFile(QFileDialog::AcceptSave, tr("Save graphs to file"), QStringLiteral("~/graphs.png"),
                                  tr("Portable Network Graphics (*.png);;Raw data as text file (*.csv)"));
     qDebug() << "Print file name is " << file;
+    if (file.isEmpty())
+        return;
     // The ending chooses the format; any other writes nothing.
     QString failure;
     if (file.endsWith(QLatin1String(".png"), Qt::CaseInsensitive))
@@ -117,5 +121,7 @@ void MW::saveTestResults_clicked()
     else if (file.endsWith(QLatin1String(".csv"), Qt::CaseInsensitive) &&
              !m_plotter.saveCaptureDataCSV(m_captures, file))
         failure = tr("Error writing graphs to file %1").arg(file);
+    else if (!file.endsWith(QLatin1String(".csv"), Qt::CaseInsensitive))
+        statusBar()->showMessage(tr("Nothing saved: give the file a name that ends in .png or .csv"));
     m_errorWindow->showMessage(failure);
 }

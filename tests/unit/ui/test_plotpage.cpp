@@ -1,9 +1,10 @@
 // The plot page in the engine that shows it.
 #include "captureplotter.h"
+#include "flotfolder.h"
+#include "parameters.h"
 
 #include <gtest/gtest.h>
 
-#include <QDir>
 #include <QEventLoop>
 #include <QSignalSpy>
 #include <QTemporaryDir>
@@ -35,12 +36,8 @@ class PlotPage : public testing::Test
 protected:
     void SetUp() override
     {
-        // The "flot" folder as a build puts it together.
-        ASSERT_TRUE(QDir(folder.path()).mkpath("flot/examples"));
-        QFile::link(VELBRIN_SOURCE_DIR "/flot/css", folder.filePath("flot/css"));
-        QFile::link("/usr/share/javascript/jquery/jquery.js", folder.filePath("flot/jquery.js"));
-        for (const char *name : {"jquery.flot.js", "jquery.flot.selection.js", "jquery.flot.resize.js"})
-            QFile::link(QString("/usr/share/javascript/jquery-flot/") + name, folder.filePath("flot/") + name);
+        ASSERT_TRUE(folder.isValid());
+        makeFlotFolder(folder.path());
         view.setPage(page);
         view.page()->setLinkDelegationPolicy(QWebPage::DelegateAllLinks);
         view.resize(900, 700);
@@ -63,13 +60,26 @@ protected:
             captures.append(c);
         }
         QSignalSpy loaded(&view, &QWebView::loadFinished);
-        view.setHtml(CapturePlotter().generatePlotPage(captures, "<h2>Parameters</h2>", "KETA"),
+        view.setHtml(CapturePlotter().generatePlotPage(captures, parameterListing(), "KETA"),
                      QUrl("file:///" + folder.path() + "/flot/examples/"));
         // With the scripts still in the engine's memory it is loaded already, but drawn a turn of the event loop later.
         ASSERT_TRUE(!loaded.isEmpty() || loaded.wait(30000));
         run("$(function () { window.drawn = true; })");
         ASSERT_TRUE(QTest::qWaitFor([this] { return run("window.drawn").toBool(); }, 30000));
         EXPECT_EQ(page->complaints.join("; ").toStdString(), "");
+    }
+
+    /// As wide as a drive's: the longest names and values there are.
+    static QString parameterListing()
+    {
+        Parameters parameters;
+        for (int i = 0; i < 14; ++i) {
+            SingleParam p;
+            p.name = QString("BUILDREVISION%1").arg(i);
+            p.value = -1234567.891;
+            parameters.addParameter(p);
+        }
+        return parameters.getParamsHTMLList();
     }
 
     QVariant run(const QString &script) { return page->mainFrame()->evaluateJavaScript(script); }
@@ -99,6 +109,7 @@ TEST_F(PlotPage, DrawsEveryChannelWithItsPointsAndALegend)
     EXPECT_EQ(run("$('canvas.flot-base').length").toInt(), 7) << "one chart a group";
     EXPECT_EQ(run("$('.legend text').length").toInt(), 16);
     EXPECT_TRUE(run("$('#Velocity .legend').text()").toString().contains("Velocity achieved [vel]"));
+    EXPECT_TRUE(run("$('#Velocity + p').text()").toString().startsWith("vel = counts per control cycle"));
     EXPECT_EQ(run("$('#Torque').data('plot').getData().length").toInt(), 4);
     EXPECT_EQ(run("$('#Torque').data('plot').getData()[3].data.length").toInt(), 125);
     EXPECT_NEAR(torqueAxis("xaxis.max"), 124 / 17500.0, 1e-6);
@@ -130,8 +141,9 @@ TEST_F(PlotPage, FollowsTheWidthOfThePaneKeepingTheZoom)
     const QPoint middle = page->mainFrame()->findFirstElement("#Torque canvas").geometry().center();
     drag(middle, middle + QPoint(100, 60));
     const double zoomed = torqueAxis("xaxis.max");
-    for (const int width : {500, 1100}) {
+    for (const int width : {400, 500, 830, 1100}) {
         page->setViewportSize(QSize(width, 700));
+        EXPECT_EQ(page->mainFrame()->scrollBarMaximum(Qt::Horizontal), 0) << width;
         EXPECT_LE(page->mainFrame()->contentsSize().width(), width);
         EXPECT_GT(run("$('#Torque').data('plot').getCanvas().clientWidth").toInt(), width - 80);
         EXPECT_EQ(torqueAxis("xaxis.max"), zoomed);

@@ -1,0 +1,112 @@
+// Saving a plot from the window, as a picture and as numbers, where it can be written and where it can't.
+#include "testingfixture.h"
+
+#include <QImage>
+
+namespace {
+
+class SavePlot : public TestingFixture
+{
+protected:
+    void SetUp() override
+    {
+        TestingFixture::SetUp();
+        if (HasFatalFailure())
+            return;
+        tick({"ScopeTorqRef", "ScopeVelMeas", "ScopePosMeas"});
+        choose(Instantly, "20000 Hz");
+        click("ScopeCaptureNow");
+        waitForPlot();
+    }
+    void save(const QString &name)
+    {
+        if (QFileInfo::exists(name)) {
+            m_answers.expect([name](QWidget *dialog) {
+                qobject_cast<QFileDialog *>(dialog)->selectFile(name);
+                return QMetaObject::invokeMethod(dialog, "accept", Qt::QueuedConnection); // which asks
+            });
+            m_answers.press("Yes"); // replace it
+        } else {
+            m_answers.chooseFile(name);
+        }
+        clickLink("tdext://exportpdf");
+    }
+    QString path(const char *name) const { return QString::fromStdString(m_folder.path() / name); }
+};
+
+/// Rows of the picture in which the blue of a first series is found, as bands with at least 40 rows between them.
+int bandsOfInk(const QImage &image)
+{
+    int bands = 0;
+    int last = -1000;
+    for (int y = 0; y < image.height(); ++y) {
+        bool ink = false;
+        for (int x = 0; x < image.width() && !ink; ++x) {
+            const QColor c = image.pixelColor(x, y);
+            ink = c.blue() > 150 && c.blue() - c.red() > 130;
+        }
+        if (!ink)
+            continue;
+        bands += y - last > 100;
+        last = y;
+    }
+    return bands;
+}
+
+} // namespace
+
+TEST_F(SavePlot, PictureHoldsAllChartsAtMost1100PixelsWide)
+{
+    save(path("narrow.PNG"));
+    const QImage narrow(path("narrow.PNG"));
+    EXPECT_EQ(narrow.width(), view()->page()->mainFrame()->contentsSize().width());
+    EXPECT_GT(narrow.height(), 3 * 400);
+
+    m_window->resize(2400, 700);
+    ASSERT_TRUE(waitFor([this] { return view()->width() > 1300; }));
+    const QSize before = view()->page()->viewportSize();
+    save(path("wide.png"));
+    EXPECT_EQ(view()->page()->viewportSize(), before);
+    const QImage wide(path("wide.png"));
+    EXPECT_EQ(wide.width(), 1100);
+    EXPECT_GT(wide.height(), 3 * 400);
+    EXPECT_GE(bandsOfInk(wide), 3);
+    EXPECT_EQ(shownMessage(m_window.get()), QString());
+}
+
+TEST_F(SavePlot, NumbersHaveARowASample)
+{
+    save(path("graphs.csv"));
+    QFile file(path("graphs.csv"));
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    const QList<QByteArray> lines = file.readAll().split('\n');
+    EXPECT_EQ(lines.size(), 1 + 2000 / 3 + 1) << "a heading, the rows, and nothing behind the last line feed";
+    EXPECT_EQ(lines.first(), "Time;Torque setpoint [A];Velocity achieved;Position achieved");
+    EXPECT_EQ(lines.at(2).count(';'), 3);
+    EXPECT_TRUE(lines.last().isEmpty());
+}
+
+TEST_F(SavePlot, WhatCannotBeWrittenIsSaid)
+{
+    ASSERT_TRUE(QFile::link("/dev/full", path("full.png")));
+    ASSERT_TRUE(QFile::link("/dev/full", path("full.csv")));
+    for (const QString &name :
+         {QString("/proc/graphs.png"), QString("/proc/graphs.csv"), path("full.png"), path("full.csv")}) {
+        SCOPED_TRACE(qPrintable(name));
+        save(name);
+        ASSERT_TRUE(waitFor([this] { return !shownMessage(m_window.get()).isEmpty(); }));
+        EXPECT_TRUE(shownMessage(m_window.get()).startsWith("Error writing graphs to file " + name));
+        control<QDialog>("errorWindow")->close();
+    }
+}
+
+TEST_F(SavePlot, AnotherEndingWritesNothingAndTheStatusBarTellsWhichThereAre)
+{
+    save(path("graphs.txt"));
+    EXPECT_FALSE(QFile::exists(path("graphs.txt")));
+    EXPECT_EQ(shownMessage(m_window.get()), QString());
+    EXPECT_EQ(statusBarText(), "Nothing saved: give the file a name that ends in .png or .csv");
+    m_window->statusBar()->clearMessage();
+    save(QString());
+    EXPECT_EQ(statusBarText(), QString());
+}

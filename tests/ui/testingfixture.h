@@ -1,0 +1,104 @@
+/// \file
+/// The Testing page of the real window: captures that are armed, awaited and looked at in the page's own charts.
+#ifndef TESTINGFIXTURE_H
+#define TESTINGFIXTURE_H
+
+#include "windowfixture.h" // before Qt, whose keywords it uses as names
+
+#include "flotfolder.h"
+#include "helpview.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QSpinBox>
+#include <QStatusBar>
+#include <QWebFrame>
+
+class TestingFixture : public WindowFixture
+{
+protected:
+    static constexpr int SOFT_ENABLE = 2533;
+    static constexpr int STATUS = 553;
+    static constexpr int FAULTS = 552;
+    static constexpr int POSITION = 956;
+    static constexpr int SCOPE_STATE = 5011;
+    static constexpr int TUNING_PAGE = 4;
+    static constexpr int TESTING_PAGE = 6;
+    enum Trigger { Rise, Change, Fault, Instantly };
+
+    void SetUp() override
+    {
+        WindowFixture::SetUp();
+        makeFlotFolder(".");
+        openConnectedWindow();
+        if (HasFatalFailure())
+            return;
+        goTo(TESTING_PAGE);
+    }
+
+    void enableDrive()
+    {
+        click("enable_drive");
+        ASSERT_TRUE(waitFor([this] { return isSet(label("statusRegister"), "Run"); }));
+    }
+    /// Whether a panel shows a flag as set (a filled circle).
+    static bool isSet(const QLabel *panel, const char *flag)
+    {
+        return panel->text().contains(QString("&#9679;&nbsp;&nbsp;") + flag);
+    }
+    QString captureText() const { return button("ScopeCaptureNow")->text(); }
+    void tick(std::initializer_list<const char *> channels)
+    {
+        for (const char *all : {"ScopeTorqRef", "ScopeTorqMeas", "ScopeVelRef", "ScopeVelMeas"})
+            control<QCheckBox>(all)->setChecked(false);
+        for (const char *channel : channels)
+            control<QCheckBox>(channel)->setChecked(true);
+    }
+    void choose(Trigger trigger, const char *rate)
+    {
+        control<QComboBox>("captureTrigger")->setCurrentIndex(trigger);
+        auto *rates = control<QComboBox>("ScopeSampleRate");
+        rates->setCurrentText(rate);
+        EXPECT_EQ(rates->currentText(), rate);
+    }
+    /// Presses the button and waits until the drive's recorder waits for its trigger.
+    void arm()
+    {
+        click("ScopeCaptureNow");
+        ASSERT_TRUE(waitFor([this] { return bus().read(DriveAddress, SCOPE_STATE) != 0; }));
+        ASSERT_TRUE(waitFor([this] { return captureText() == "Scope waiting.."; }));
+    }
+    void waitForPlot()
+    {
+        ASSERT_TRUE(waitFor([this] { return captureText() == "Start capture"; }));
+        ASSERT_TRUE(waitFor([this] { return run("$('canvas.flot-base').length").toInt() > 0; }));
+    }
+    /// Types a target and presses "Set Abs".
+    void stepTo(int target)
+    {
+        control<QSpinBox>("stimulusTarget1")->setValue(target);
+        click("setAbs1");
+    }
+
+    HelpView *view() const { return control<HelpView>("helpView"); }
+    QVariant run(const QString &script) const { return view()->page()->mainFrame()->evaluateJavaScript(script); }
+    /// Samples (time in s, value) of a series in a chart of the plot on display.
+    QVector<QPointF> samples(const char *group, int series) const
+    {
+        const QString text =
+            run(QString("JSON.stringify($('#%1').data('plot').getData()[%2].data)").arg(group).arg(series)).toString();
+        QVector<QPointF> result;
+        for (const QJsonValue point : QJsonDocument::fromJson(text.toUtf8()).array())
+            result << QPointF(point.toArray().at(0).toDouble(), point.toArray().at(1).toDouble());
+        return result;
+    }
+    void clickLink(const char *url)
+    {
+        QMetaObject::invokeMethod(m_window.get(), "browserLinkClicked", Q_ARG(QUrl, QUrl(url)));
+    }
+    QString statusBarText() const { return m_window->statusBar()->currentMessage(); }
+};
+
+#endif
