@@ -8,6 +8,10 @@
 #include <QGuiApplication>
 #include <QStatusBar>
 
+namespace {
+constexpr int upgradeModeNoteMs = 5000; // no longer: the drive may run its firmware again by then
+}
+
 void MW::on_enable_drive_clicked()
 {
     statusBar()->clearMessage(); // "Disabled" would no longer be true
@@ -31,8 +35,8 @@ void MW::on_disable_drive_clicked()
     stopStimulus();
     m_connection.command(Connection::TaskApplyEnableState);
     if (m_connection.isInFirmwareUpgradeMode())
-        statusBar()->showMessage(
-            tr("Nothing to disable: the drive is in firmware upgrade mode, which drives no motor"));
+        statusBar()->showMessage(tr("Nothing to disable: the drive is in firmware upgrade mode, which drives no motor"),
+                                 upgradeModeNoteMs);
     else
         m_disableWatch->disableAsked(m_connection.isConnected());
 }
