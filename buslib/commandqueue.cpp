@@ -131,6 +131,12 @@ ZbStatus zbBytesReceived(ZbHandle handle, int *count)
     return bus ? recordStatus(handle, ZB_OK) : ZB_ERR_NODEVICE;
 }
 
+int zbReplyAddress(ZbHandle handle)
+{
+    const BusState *bus = openBus(handle);
+    return bus ? bus->receivedAddress : -1;
+}
+
 ZbStatus zbGetBufferClock(ZbHandle handle, std::uint8_t address, std::uint16_t *clock)
 {
     ZbStatus status = zbSendZBCMD(handle, ZBCMD_GET_CLOCK, address, 0, nullptr);

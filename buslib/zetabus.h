@@ -96,6 +96,11 @@ ZbStatus zbGetQueuedZBCommandReturnValue(ZbHandle handle, long *value);
 /// Bytes of the last reply that are not decoded yet; 0 for a closed handle.
 ZbStatus zbBytesReceived(ZbHandle handle, int *count);
 
+/// Address of the drive that sent the last reply, which is not always the one that was asked: a late reply is accepted
+/// as it stands. Has a meaning after an exchange that succeeded (255, a real address too, stands for none otherwise);
+/// -1 for a handle that is not open.
+int zbReplyAddress(ZbHandle handle);
+
 // --- Parameters -------------------------------------------------------------------------------------------------
 
 /// One parameter read: four items, 10 bytes. `parameterAddress` + 0x4000 reads the minimum, + 0x8000 the maximum.

@@ -141,6 +141,11 @@ int BusLine::bytesLeft() const
     return count;
 }
 
+int BusLine::replyAddress() const
+{
+    return zbReplyAddress(m_handle);
+}
+
 ZbStatus BusLine::readBufferClock()
 {
     std::uint16_t clock = 0;

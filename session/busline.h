@@ -62,6 +62,9 @@ public:
     /// Undecoded bytes of the last reply.
     int bytesLeft() const;
 
+    /// Who sent the reply of the last exchange, if that was good.
+    int replyAddress() const;
+
     ZbStatus readBufferClock();
 
 private:

@@ -157,8 +157,10 @@ void SessionWorker::scanBus(const TaskRequest &request)
         long type = 0;
         long mode = 0;
         readParameters(reg::DeviceType, type, reg::OperatingMode, mode);
+        // A reply that comes after its time-out answers the next address: the drive is where it says it is.
+        const int sender = m_line.replyAddress();
         if (m_line.status() == ZB_OK)
-            nodes << NodeType{address, address >= firstUpgradeNode || mode == 0, static_cast<int>(type)};
+            nodes << NodeType{sender, sender >= firstUpgradeNode || mode == 0, static_cast<int>(type)};
         // A line that babbles instead of being silent costs seconds an address, and would go on doing so.
         noisyAddresses = timer.elapsed() > 10 * scanTimeoutMs ? noisyAddresses + 1 : 0;
     }

@@ -89,6 +89,16 @@ TEST_F(TwoDrives, AScanAsksThe25AddressesInOrderAndListsWhatAnswers)
     EXPECT_TRUE(log().errors.isEmpty());
 }
 
+TEST_F(TwoDrives, AReplyThatComesAfterItsTimeoutIsListedForTheDriveThatSentIt)
+{
+    bus().setFault({sim::LineFault::Late, 130, 0, 1}); // the one of address 3, while 4 is being asked
+    ASSERT_TRUE(scan());
+    QList<int> addresses;
+    for (const NodeType &node : log().nodes.last())
+        addresses << node.address;
+    EXPECT_THAT(addresses, ElementsAre(3, 7));
+}
+
 TEST_F(InUpgradeMode, ADriveInUpgradeModeIsFoundAndWelcomed)
 {
     bus().withDrive(5, [](sim::VirtualDrive &drive) {
