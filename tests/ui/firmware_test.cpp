@@ -24,6 +24,7 @@ constexpr int SoftEnable = 2533;
 constexpr int FaultRegister = 552;
 constexpr int OperatingMode = 2;
 constexpr int UpgradeCutOff = 0x120;
+constexpr int SearchLimitMs = 40000; // 25 addresses, most of them silent, on a machine that does other things as well
 
 Words numberedWords(int count, int first)
 {
@@ -78,7 +79,7 @@ protected:
     }
     bool waitForGreeting()
     {
-        return waitFor([this] { return dialog()->isVisible(); });
+        return waitFor([this] { return dialog()->isVisible(); }, SearchLimitMs);
     }
     /// The final message, and the end of the connection that it brings.
     bool waitForSuccess()
@@ -88,7 +89,7 @@ protected:
     }
     bool waitForConnection(const char *text)
     {
-        return waitFor([&] { return connectionText() == text; });
+        return waitFor([&] { return connectionText() == text; }, SearchLimitMs);
     }
     /// Words in the drive's flash, read behind the program's back.
     Words flashed(const Words &(sim::Bootloader::*memory)() const)
@@ -223,7 +224,7 @@ TEST_F(TorvaInUpgradeMode, GetsBothImages)
     EXPECT_EQ(flashed(&sim::Bootloader::coreWords), numberedWords(96, 2));
 
     // The search answers while the log is still being read; the drives are shown when it is closed.
-    ASSERT_TRUE(waitFor([this] { return button("connect_button")->text() == "Connect to drive"; }));
+    ASSERT_TRUE(waitFor([this] { return button("connect_button")->text() == "Connect to drive"; }, SearchLimitMs));
     EXPECT_TRUE(dialog()->isVisible());
     QStringList found;
     chooseFirstNode(found);
