@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QCheckBox>
+#include <QRegularExpression>
 #include <QTextDocument>
 #include <QTimer>
 #include <algorithm>
@@ -18,7 +19,9 @@ QString oneLine(const QString &html)
 {
     QTextDocument document;
     document.setHtml(html);
-    return document.toPlainText().simplified();
+    // The address is for the message itself: in a status bar it would push the last words out of sight.
+    static const QRegularExpression link(QStringLiteral(" See troubleshooting at \\S+"));
+    return document.toPlainText().simplified().remove(link);
 }
 
 } // namespace
@@ -38,14 +41,24 @@ bool ErrorWindow::isVital(const QString &text)
 
 void ErrorWindow::showMessage(const QString &text)
 {
-    if (text.isEmpty())
+    if (text.isEmpty() || m_ended)
         return;
     if (isVital(text))
         emit vitalMessage(oneLine(text));
     if (text == m_shown || m_waiting.contains(text))
         return;
-    m_waiting.enqueue(text);
+    auto place = m_waiting.end();
+    if (isVital(text))
+        place = std::find_if_not(m_waiting.begin(), m_waiting.end(), isVital);
+    m_waiting.insert(place, text);
     showNext();
+}
+
+void ErrorWindow::endMessages()
+{
+    m_ended = true;
+    m_waiting.clear();
+    hide();
 }
 
 void ErrorWindow::done(int result)

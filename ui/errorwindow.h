@@ -20,10 +20,12 @@ public:
 
     /// Whether a text can never be suppressed.
     static bool isVital(const QString &text);
+    /// The program is ending: what still waits is dropped and nothing is shown any more.
+    void endMessages();
 
 public slots:
     /// Queues a text (rich text); an empty one shows nothing, an equal one that still waits is not queued twice.
-    /// A text that is not vital waits until no other box is open.
+    /// A text that is not vital waits until no other box is open, and behind those that are.
     void showMessage(const QString &text);
 
 signals:
@@ -40,6 +42,7 @@ private:
     QString m_shown;
     QCheckBox *m_again;
     int m_vitalCount = 0;
+    bool m_ended = false;
 };
 
 #endif

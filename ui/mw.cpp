@@ -14,6 +14,7 @@
 #include "version.h"
 #include "wheelguard.h"
 
+#include <QScrollArea>
 #include <QSettings>
 #include <QShortcut>
 #include <QTimer>
@@ -100,6 +101,12 @@ void MW::buildForms()
     addPage(static_cast<Ui_TuningPage &>(*m_form));
     addPage(static_cast<Ui_FaultLimitsPage &>(*m_form));
     addPage(static_cast<Ui_TestingPage &>(*m_form));
+    // Apply stands below the pages, and the keyboard comes to it after them.
+    QWidget::setTabOrder(previousInFocusChain(), m_form->apply_button);
+    // The areas around the pages scroll with the control that has the keyboard; they are no stop of their own.
+    const auto areas = m_form->pages->findChildren<QScrollArea *>();
+    for (QScrollArea *area : areas)
+        area->setFocusPolicy(Qt::NoFocus);
 
     m_overridesDialog = new QDialog(this);
     m_overridesForm->setupUi(m_overridesDialog);
@@ -126,7 +133,9 @@ void MW::buildPageList()
     m_form->helpContainer->layout()->addWidget(m_helpView);
 
     for (const PageInfo &page : pageTable) {
-        auto *item = new QListWidgetItem(QIcon(QLatin1String(page.icon)), tr(page.text), m_form->pageSelector);
+        QIcon icon(QLatin1String(page.icon));
+        icon.addFile(QLatin1String(page.icon), QSize(), QIcon::Selected); // else the style tints the chosen one
+        auto *item = new QListWidgetItem(icon, tr(page.text), m_form->pageSelector);
         item->setSizeHint(PAGE_ITEM_SIZE);
     }
     m_form->splitter->setStretchFactor(0, 0);

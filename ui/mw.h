@@ -154,11 +154,11 @@ private:
     QString chosenPort() const;
     void chooseNode();
     void connectToNode(int address);
-    void showMaximumSampleRate();
-    void showNoDevice();
     void enableDriveControls(bool connected);
     /// Whether a drive is connected that has settings and moves: not one that runs its bootloader.
     bool driveRunsItsFirmware() const;
+    void showMaximumSampleRate();
+    void showNoDevice();
 
     // Parameter pages
     void setParams();
@@ -183,21 +183,24 @@ private:
     bool askBeforeTesting(const QString &text);
     bool askWithAbort(const QString &text);
     /// `mode` is QFileDialog::AcceptSave or AcceptOpen, "~" the home folder; empty when the user gave no name.
-    QString askFile(int mode, const QString &title, QString start, const QString &filters);
+    QString askFile(int mode, const QString &title, QString start, const QString &filters,
+                    const QString &defaultSuffix = QString());
 
     // Testing, actions, help
     void stopStimulus();
     void sendSetpoint(const QWidget *button, int target, Connection::Task task);
     bool askToKeepUpgrading();
+    void showBootloaderIdentity();
     void restartAndReconnect(Connection::Task restartTask);
     void loadHelp();
-    void showBootloaderIdentity();
     /// The page of the same name among the offline pages once help is offline; any other address stays as it is.
     QUrl offlineCopyOf(const QUrl &url) const;
     void showPlotPage();
     /// Runs a question as soon as no other box, message or popup is open, so that its default button never takes a key
     /// that was meant for the other. Questions wait in order.
-    void askWhenFree(const std::function<void()> &question);
+    /// What the user has just asked for (the list of drives found) does not wait for messages to be read first.
+    enum class Asked { BySession, ByUser };
+    void askWhenFree(const std::function<void()> &question, Asked asked = Asked::BySession);
     void runWaitingQuestion();
 
     Options m_options;
@@ -216,7 +219,12 @@ private:
     QTimer *m_applyTimer = nullptr;
     QTimer *m_helpTimer = nullptr;
     QTimer *m_questionTimer = nullptr;
-    QList<std::function<void()>> m_questions;
+    struct Question
+    {
+        std::function<void()> ask;
+        Asked asked;
+    };
+    QList<Question> m_questions;
 
     Parameters m_params; ///< the set last shown in the pages
     ControlBinding m_binding{this};

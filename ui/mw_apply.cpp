@@ -8,6 +8,7 @@
 #include <QDebug>
 #include <QDir>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QStatusBar>
@@ -171,7 +172,8 @@ void MW::on_save_settings_to_file_clicked()
 {
     commitEditedField();
     const QString file = askFile(QFileDialog::AcceptSave, tr("Save settings to file"),
-                                 m_lastDirectory + QLatin1String("/settings.drc"), tr("Drive settings (*.drc)"));
+                                 m_lastDirectory + QLatin1String("/settings.drc"), tr("Drive settings (*.drc)"),
+                                 QStringLiteral("drc")); // without it the open dialog would not list the file
     if (file.isEmpty())
         return;
     m_lastDirectory = file.section(QLatin1Char('/'), 0, -2);
@@ -192,13 +194,19 @@ void MW::on_load_settings_from_file_clicked()
     m_connection.command(Connection::TaskLoadSettingsFile);
 }
 
-QString MW::askFile(int mode, const QString &title, QString start, const QString &filters)
+QString MW::askFile(int mode, const QString &title, QString start, const QString &filters,
+                    const QString &defaultSuffix)
 {
     if (start.startsWith(QLatin1Char('~')))
         start.replace(0, 1, QDir::homePath());
+    const QFileInfo place(start);
+    QFileDialog dialog(this, title, place.isDir() ? start : place.path(), filters);
     // The toolkit's own dialog, never the desktop's: Esc has to reach the drive from here as well.
-    const auto options = QFileDialog::DontUseNativeDialog;
-    if (mode == QFileDialog::AcceptSave)
-        return QFileDialog::getSaveFileName(this, title, start, filters, nullptr, options);
-    return QFileDialog::getOpenFileName(this, title, start, filters, nullptr, options);
+    dialog.setOption(QFileDialog::DontUseNativeDialog);
+    dialog.setAcceptMode(static_cast<QFileDialog::AcceptMode>(mode));
+    dialog.setFileMode(mode == QFileDialog::AcceptSave ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
+    dialog.setDefaultSuffix(defaultSuffix);
+    if (!place.isDir())
+        dialog.selectFile(place.fileName());
+    return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
 }

@@ -62,9 +62,9 @@ void MW::setBusy(bool busy, bool nonBlocking)
     setCursor(busy ? Qt::BusyCursor : Qt::ArrowCursor);
 }
 
-void MW::askWhenFree(const std::function<void()> &question)
+void MW::askWhenFree(const std::function<void()> &question, Asked asked)
 {
-    m_questions.append(question);
+    m_questions.append({question, asked});
     m_questionTimer->start();
     runWaitingQuestion();
 }
@@ -75,8 +75,9 @@ void MW::runWaitingQuestion()
         m_questionTimer->stop();
         return;
     }
-    if (!QApplication::activeModalWidget() && !QApplication::activePopupWidget() && !m_errorWindow->isVisible())
-        m_questions.takeFirst()();
+    const bool messageInTheWay = m_errorWindow->isVisible() && m_questions.first().asked == Asked::BySession;
+    if (!QApplication::activeModalWidget() && !QApplication::activePopupWidget() && !messageInTheWay)
+        m_questions.takeFirst().ask();
 }
 
 void MW::closeEvent(QCloseEvent *event)
@@ -88,6 +89,7 @@ void MW::closeEvent(QCloseEvent *event)
     }
     stopStimulus();
     m_questions.clear();
+    m_errorWindow->endMessages();
     saveLayout();
     event->accept();
 }

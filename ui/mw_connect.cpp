@@ -8,6 +8,7 @@
 #include "statepanels.h"
 #include "ui_selectbusnode.h"
 
+#include <QApplication>
 #include <QCheckBox>
 #include <QDebug>
 #include <QStatusBar>
@@ -25,6 +26,10 @@ void MW::populateConnectionPortList()
         qDebug() << "product ID:" << port.productId;
         qDebug() << "===================================";
     }
+    // No completion: a typed "/dev/ttyS1" must not turn into the listed "/dev/ttyS10", which is another machine.
+    m_form->communicationInterface->setCompleter(nullptr);
+    const QString chosenBefore = m_form->communicationInterface->currentText();
+    const bool refreshing = sender() == m_form->refreshPorts;
     PortList list = portListOf(ports);
     if (!m_options.virtualPort.isEmpty())
         addVirtualDrive(list, m_options.virtualPort);
@@ -33,6 +38,9 @@ void MW::populateConnectionPortList()
     m_form->communicationInterface->clear();
     m_form->communicationInterface->addItems(list.items);
     m_form->communicationInterface->setCurrentIndex(list.current);
+    // A refresh does not throw away what was chosen or typed.
+    if (refreshing && !chosenBefore.trimmed().isEmpty())
+        m_form->communicationInterface->setCurrentText(chosenBefore);
 }
 
 QString MW::chosenPort() const
@@ -46,6 +54,7 @@ void MW::on_connect_button_clicked()
     if (!m_form->connect_button->isEnabled())
         return;
     qDebug() << "attempt connecting";
+    statusBar()->clearMessage(); // what an earlier attempt said is not about this one
     stopStimulus();
     m_connection.command(Connection::TaskDisconnect);
     m_connection.getListOfBusNodes(chosenPort());
@@ -72,7 +81,7 @@ void MW::availableBusNodesListReceived(QList<NodeType> list)
         m_nodeDialog->reject();
     if (!m_nodeQuestionWaits) {
         m_nodeQuestionWaits = true;
-        askWhenFree([this] { chooseNode(); });
+        askWhenFree([this] { chooseNode(); }, Asked::ByUser);
     }
 }
 
@@ -95,8 +104,8 @@ void MW::chooseNode()
     connect(form.buttonBox, &QDialogButtonBox::accepted, &dialog, &QDialog::accept);
     connect(form.buttonBox, &QDialogButtonBox::rejected, &dialog, &QDialog::reject);
     connect(form.nodeList, &QListWidget::itemDoubleClicked, &dialog, &QDialog::accept);
-    // With one drive on the bus there is nothing to choose between.
-    if (nodes.size() == 1)
+    // A first row that had the keyboard but were not chosen would be skipped by the first Down.
+    if (!nodes.isEmpty())
         form.nodeList->setCurrentRow(0);
     form.nodeList->setFocus();
     m_nodeDialog = &dialog;
@@ -124,9 +133,12 @@ void MW::connectionStatusChanged(bool connected, QString text)
     m_connectionStatusLabel->setText(text);
     m_valuesArrived = false;
 
+    // Not to "Disconnect from drive", where the keyboard would go when the controls that it was in are disabled.
+    if (connected && m_form->groupBox->isAncestorOf(QApplication::focusWidget()))
+        m_form->pageSelector->setFocus();
     enableDriveControls(connected);
     // A search that could not open the port has no answer of its own.
-    if (!connected && text == QLatin1String("Connect failed"))
+    if (!connected && text == Connection::tr("Connect failed"))
         m_form->connect_button->setText(tr("Connect to drive"));
 
     m_form->restartToDFUMode->setVisible(m_connection.deviceHasCapability(Connection::CapRestartToDFU));
@@ -145,7 +157,6 @@ void MW::connectionStatusChanged(bool connected, QString text)
     updateAllRules();
 }
 
-void MW::showMaximumSampleRate()
 void MW::enableDriveControls(bool connected)
 {
     QWidget *const needDrive[] = {m_form->driveControlsGroup, m_form->disconnect_button, m_form->clear_faults_2};
@@ -185,6 +196,7 @@ bool MW::driveRunsItsFirmware() const
     return m_connection.isConnected() && !m_connection.isInFirmwareUpgradeMode();
 }
 
+void MW::showMaximumSampleRate()
 {
     const double rate = m_connection.maxScopeSampleRate();
     qDebug() << "max rate" << rate;

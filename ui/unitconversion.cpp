@@ -1,6 +1,7 @@
 #include "unitconversion.h"
 
 #include <QCoreApplication>
+#include <QLocale>
 #include <iterator>
 
 namespace {
@@ -115,7 +116,7 @@ QString UnitConversion::scalingText() const
     return translated(QT_TRANSLATE_NOOP("MW", "Setpoint scaling factor:\n%1/%2=%3%"))
         .arg(mul)
         .arg(div)
-        .arg(mul * 100.0 / div);
+        .arg(QString::number(mul * 100.0 / div, 'g', QLocale::FloatingPointShortest));
 }
 
 bool isUnitLabelName(const QString &labelName)
