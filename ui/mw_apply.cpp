@@ -194,8 +194,7 @@ void MW::on_load_settings_from_file_clicked()
     m_connection.command(Connection::TaskLoadSettingsFile);
 }
 
-QString MW::askFile(int mode, const QString &title, QString start, const QString &filters,
-                    const QString &defaultSuffix)
+QString MW::askFile(int mode, const QString &title, QString start, const QString &filters, const QString &defaultSuffix)
 {
     if (start.startsWith(QLatin1Char('~')))
         start.replace(0, 1, QDir::homePath());

@@ -107,6 +107,19 @@ TEST_F(ConnectPage, CancellingTheNodeListLeavesEverythingAsItWas)
     EXPECT_EQ(connectionText(), "Not connected");
 }
 
+TEST_F(ConnectPage, ATypedPortIsNotCompletedToAListedOneThatBeginsLikeIt)
+{
+    openWindow();
+    auto *ports = control<QComboBox>("communicationInterface");
+    ports->addItem("/dev/ttyS10");
+    ports->setEditText("");
+    bringToFront();
+    QTest::keyClicks(ports, "/dev/ttyS1");
+    EXPECT_EQ(ports->currentText(), "/dev/ttyS1");
+    click("refreshPorts");
+    EXPECT_EQ(ports->currentText(), "/dev/ttyS1");
+}
+
 TEST_F(ConnectPage, PortThatCannotBeOpenedGivesTheButtonItsTextBackAndOneMessage)
 {
     openWindow();

@@ -56,6 +56,18 @@ TEST_F(Messages, UntickedOneStaysAwayAndTheNextIsTickedAgain)
     EXPECT_EQ(shown(), "another");
 }
 
+TEST_F(Messages, LostLineDoesNotWaitBehindOrdinaryOnesAndNothingComesAfterTheEnd)
+{
+    for (const char *text : {"one", NOTICE, LOST_LINE})
+        window.showMessage(text);
+    window.accept();
+    EXPECT_EQ(shown(), "Communication error flags: ");
+    window.endMessages();
+    EXPECT_EQ(shown(), "");
+    window.showMessage(LOST_LINE);
+    EXPECT_EQ(shown(), "");
+}
+
 TEST_F(Messages, LostLineCannotBeSuppressedAndGoesToTheStatusBar)
 {
     QSignalSpy lines(&window, &ErrorWindow::vitalMessage);
