@@ -37,6 +37,9 @@ void SessionWorker::initScope()
 
 void SessionWorker::downloadCapture(const TaskRequest &)
 {
+    // Armed anew while this waited: the recorder's memory is no longer what was to be read.
+    if (m_capturePending)
+        return;
     for (CaptureData &channel : m_capture.channels)
         channel.samples.clear();
     // A picture of invented data is worse than none: without the whole memory there is no plot.

@@ -11,6 +11,10 @@
 #include <QStatusBar>
 #include <QTimer>
 
+namespace {
+constexpr int SAVE_HINT_MS = 15000;
+}
+
 void MW::on_stimulusTarget1_editingFinished()
 {
     const bool running = m_form->stimulusEnabled->isChecked();
@@ -122,6 +126,6 @@ void MW::saveTestResults_clicked()
              !m_plotter.saveCaptureDataCSV(m_captures, file))
         failure = tr("Error writing graphs to file %1").arg(file);
     else if (!file.endsWith(QLatin1String(".csv"), Qt::CaseInsensitive))
-        statusBar()->showMessage(tr("Nothing saved: give the file a name that ends in .png or .csv"));
+        statusBar()->showMessage(tr("Nothing saved: give the file a name that ends in .png or .csv"), SAVE_HINT_MS);
     m_errorWindow->showMessage(failure);
 }

@@ -143,6 +143,28 @@ TEST_F(Scope, ACaptureThatNeverTriggersWaitsUntilItIsArmedAnewOrLeft)
     EXPECT_TRUE(log().errors.isEmpty());
 }
 
+TEST_F(Scope, ArmedAnewJustBeforeTheDownloadNothingHalfOldIsRead)
+{
+    const auto armAnew = [this](const QString &text) {
+        if (text == "Downloading..")
+            arm(20000, captureOnFault, selection({torqueSetpoint}));
+    };
+    // In the worker's own thread, so that it comes in front of the download.
+    const auto connection =
+        QObject::connect(&session(), &Connection::updateCaptureButtonText, &session(), armAnew, Qt::DirectConnection);
+    arm(20000, captureAtOnce, selection({busVoltage}));
+    ASSERT_TRUE(waitUntil([this] { return log().captureButton.count("Scope waiting..") == 2; }));
+    QObject::disconnect(connection);
+    ASSERT_TRUE(waitUntilIdle());
+    EXPECT_TRUE(log().plots.isEmpty());
+    EXPECT_EQ(log().captureButton.last(), "Scope waiting..");
+
+    bus().set(5, 552, 4);
+    ASSERT_TRUE(waitForPlot());
+    EXPECT_THAT(log().plots.last()[torqueSetpoint].samples, SizeIs(2000));
+    EXPECT_TRUE(log().plots.last()[busVoltage].samples.isEmpty());
+}
+
 TEST_F(Scope, ADisableInsideADownloadIsFollowedByTheSetUpAgain)
 {
     bus().setTurnAround(std::chrono::milliseconds(3));
