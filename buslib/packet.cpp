@@ -4,10 +4,14 @@
 #include "bushandle.h"
 #include "checksum.h"
 #include "debug.h"
+#include "serialport.h"
 
 #include <chrono>
 
 namespace {
+
+/// From the first byte to the last; the bus itself needs 3 ms, the rest is for a busy machine.
+constexpr std::chrono::milliseconds longestReply(500);
 
 constexpr std::uint8_t payloadBits = 6;
 constexpr std::uint8_t payloadNone = 0;
@@ -197,6 +201,7 @@ ZbStatus zbReceiveReturnPacket(ZbHandle handle)
     if (!bus)
         return ZB_ERR_NODEVICE;
     zbDebug(handle, 3, "  Reading reply packet\n");
+    const auto limit = std::chrono::steady_clock::now() + std::chrono::milliseconds(readTimeoutMs) + longestReply;
     do {
         std::uint8_t byte = 0;
         if (!zbBDRead(bus->deviceHandle, &byte)) {
@@ -205,6 +210,9 @@ ZbStatus zbReceiveReturnPacket(ZbHandle handle)
             return recordStatus(handle, ZB_ERR_COMMUNICATION);
         }
         zbDebug(handle, 3, "  got byte %02x \n", byte);
+        // Noise that trickles in would restart the wait with every byte, for minutes.
+        if (std::chrono::steady_clock::now() > limit)
+            return recordStatus(handle, zbReceiveErrorHandler(handle, true));
         const ZbStatus status = zbParseReturnData(handle, byte);
         if (status != ZB_OK)
             return recordStatus(handle, status);

@@ -1,5 +1,6 @@
 #include "settingschecks.h"
 
+#include "catalogue.h"
 #include "results.h"
 
 #include <QCoreApplication>
@@ -43,10 +44,12 @@ QString refusal(const Parameters &drive, const Assignment &assignment, const QSt
 QList<Difference> differences(const Parameters &first, const Parameters &second, const QString &modelName)
 {
     QList<Difference> found;
+    const Parameters catalogue = driveParameterCatalogue();
     for (int i = 0; i < first.getParamCount(); ++i) {
         const SingleParam a = first.getParam(i);
         const SingleParam b = second.getParam(a.name);
-        if (a.readonly || b.readonly || !b.supportedInDevice(modelName))
+        // The program's own list says what can be written, not the file.
+        if (catalogue.getParam(a.name).readonly || !b.supportedInDevice(modelName))
             continue;
         if (a.convertToDeviceScale(a.value) != b.convertToDeviceScale(b.value))
             found.append({a.name, a.value, b.value});

@@ -131,7 +131,7 @@ ZbStatus BusLine::fetchWrite()
 
 ZbStatus BusLine::finishReply()
 {
-    return recordDecoding(bytesLeft() <= 0 ? ZB_OK : ZB_ERR_LENGTH);
+    return recordDecoding(bytesLeft() == 0 ? ZB_OK : ZB_ERR_LENGTH);
 }
 
 int BusLine::bytesLeft() const
@@ -141,6 +141,11 @@ int BusLine::bytesLeft() const
     return count;
 }
 
+bool BusLine::isGone() const
+{
+    return zbIsLineGone(m_handle) != 0;
+}
+
 int BusLine::replyAddress() const
 {
     return zbReplyAddress(m_handle);
@@ -148,6 +153,8 @@ int BusLine::replyAddress() const
 
 ZbStatus BusLine::readBufferClock()
 {
-    std::uint16_t clock = 0;
-    return record(zbGetBufferClock(m_handle, m_node, &clock));
+    return exchange([](ZbHandle handle, std::uint8_t node) {
+        std::uint16_t clock = 0;
+        return zbGetBufferClock(handle, node, &clock);
+    });
 }

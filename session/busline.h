@@ -62,6 +62,8 @@ public:
     /// Undecoded bytes of the last reply.
     int bytesLeft() const;
 
+    /// Whether the adapter was pulled out.
+    bool isGone() const;
     /// Who sent the reply of the last exchange, if that was good.
     int replyAddress() const;
 

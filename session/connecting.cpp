@@ -147,7 +147,7 @@ void SessionWorker::scanBus(const TaskRequest &request)
     QList<NodeType> nodes;
     int noisyAddresses = 0;
     for (int address : scanAddresses()) {
-        if (m_queue.isClosing() || noisyAddresses >= 3)
+        if (m_queue.isClosing() || noisyAddresses >= 3 || m_line.isGone())
             break;
         QElapsedTimer timer;
         timer.start();
@@ -164,13 +164,16 @@ void SessionWorker::scanBus(const TaskRequest &request)
         // A line that babbles instead of being silent costs seconds an address, and would go on doing so.
         noisyAddresses = timer.elapsed() > 10 * scanTimeoutMs ? noisyAddresses + 1 : 0;
     }
+    const bool gone = m_line.isGone();
     m_line.close();
     m_line.clearStatus();
     emit m_session.busy(false, true);
-    if (noisyAddresses >= 3) {
+    if (gone || noisyAddresses >= 3) {
         emit m_session.statusChanged(false, Connection::tr("Connect failed"));
-        emit m_session.error(Connection::tr("The bus is never quiet, so no drive can be found on it. Check the wiring "
-                                            "and that the port belongs to a Zetabus adapter."));
+        emit m_session.error(gone ? Connection::tr("Unable to connect. The adapter was pulled out during the search: "
+                                                   "plug it in and search again.")
+                                  : Connection::tr("The bus is never quiet, so no drive can be found on it. Check the "
+                                                   "wiring and that the port belongs to a Zetabus adapter."));
         return;
     }
     emit m_session.availableBusNodes(nodes);

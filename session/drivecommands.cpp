@@ -23,8 +23,9 @@ void SessionWorker::applyEnableState(const TaskRequest &request)
         return;
     }
     // Once only: what enables a drive is never repeated.
-    writeAndFetch(reg::SoftEnable, 1);
-    if (request.forceEnable)
+    const bool enabled = writeAndFetch(reg::SoftEnable, 1);
+    // Not past a disable that was asked for meanwhile, and not on a drive that did not answer.
+    if (request.forceEnable && enabled && !serveWaitingDisable())
         writeAndFetch(reg::ForceEnable, reg::ForceEnableKey);
 }
 
@@ -100,12 +101,13 @@ void SessionWorker::setZero(const TaskRequest &)
 void SessionWorker::restartDrive(const TaskRequest &)
 {
     emit m_session.busy(true, true);
-    writeAndFetch(reg::SystemCommand, reg::CommandRestart);
+    const bool told = writeAndFetch(reg::SystemCommand, reg::CommandRestart);
     forgetStimulus(); // nothing moves by itself after a restart
     // Out of firmware-upgrade mode it comes back at an address of its own, which this connection does not know.
     if (inFirmwareUpgradeMode())
         m_queue.pushDisconnectFirst();
-    pause(restartPauseMs, Drive::Restarts);
+    if (told)
+        pause(restartPauseMs, Drive::Restarts);
     emit m_session.busy(false, true);
 }
 

@@ -46,7 +46,7 @@ bool SessionWorker::flash(const TaskRequest &request)
     // Erasing for a file that has nothing to write would leave the drive without a firmware.
     if (file.ioImage.isEmpty())
         return flashFailed(Connection::tr("Error: %1").arg(Connection::tr("The file does not contain a firmware")));
-    flashProgress(Connection::tr("%1 firmware file loaded successfully").arg(request.firmwareFileName));
+    flashProgress(Connection::tr("%1 firmware file loaded successfully").arg(request.firmwareFileName.toHtmlEscaped()));
 
     m_uploadedWords = 0;
     m_uploadWords = wordsToUpload(file.ioImage) + (twoProcessors ? wordsToUpload(file.tcImage) : 0);

@@ -97,6 +97,19 @@ constexpr int FlashProgramCore = 5;
 constexpr int FlashWriteProtect = 7;
 constexpr int FlashEraseAndResetSettings = 11;
 
+/// A write to one of these moves, stops, restarts or erases a drive: they are no settings.
+constexpr int commandRegisters[] = {IncrementalSetpoint, AbsoluteSetpoint, SystemCommand, SoftEnable,
+                                    ForceEnable,         Homing,           FlashCommand,  FlashPipe};
+
+constexpr bool isCommandRegister(int address)
+{
+    for (int command : commandRegisters) {
+        if (command == address)
+            return true;
+    }
+    return false;
+}
+
 } // namespace reg
 
 #endif

@@ -68,6 +68,7 @@ private:
     ZbStatus requestParamStruct(const SingleParam &param);
     bool fillParamStruct(SingleParam &param);
     bool readRecord(SingleParam &param);
+    bool refuseCommand(const QString &name, int address);
     void writeRecord(const SingleParam &param);
     bool setParameter(int address, long value);
     bool writeAndFetch(int address, long value); ///< whether the drive acknowledged it

@@ -109,7 +109,7 @@ void SessionWorker::getParams(const TaskRequest &)
         }
         list.replaceParam(param, index);
         if (param.name == QLatin1String("CM"))
-            m_controlMode = static_cast<int>(param.value);
+            m_controlMode = truncateToInt32(param.value);
     }
     {
         std::lock_guard<std::mutex> lock(m_data.mutex);
@@ -139,8 +139,21 @@ bool SessionWorker::setParameter(int address, long value)
     return true;
 }
 
+/// Applying settings enables, moves and restarts nothing, whatever register a settings file or an override names.
+bool SessionWorker::refuseCommand(const QString &name, int address)
+{
+    if (!reg::isCommandRegister(address))
+        return false;
+    emit m_session.error(Connection::tr("%1 was not written: register %2 is a command to the drive and not a setting.")
+                             .arg(name.toHtmlEscaped())
+                             .arg(address));
+    return true;
+}
+
 void SessionWorker::writeRecord(const SingleParam &param)
 {
+    if (refuseCommand(param.name, param.addr))
+        return;
     writeAndFetch(param.addr, toBusValue(param.convertToDeviceScale(param.value)));
     reportWrite(param);
 }
@@ -164,7 +177,7 @@ void SessionWorker::setParams(const TaskRequest &request)
         if (param.readonly)
             continue;
         if (param.name == QLatin1String("CM")) {
-            const int mode = static_cast<int>(param.value);
+            const int mode = truncateToInt32(param.value);
             if (param.value != m_controlMode)
                 emit m_session.controlModeChanged(mode);
             m_controlMode = mode;
@@ -185,6 +198,8 @@ void SessionWorker::setOverriddenParam(const Parameters &list, unsigned slot)
         return;
     qCDebug(sessionLog) << "overriding " << address.value << " to " << value.value;
     const long target = toBusValue(address.value);
+    if (refuseCommand(address.name, static_cast<qint16>(target)))
+        return;
     writeAndFetch(static_cast<qint16>(target), toBusValue(value.value));
     reportWrite(undefinedParam(static_cast<qint16>(target), static_cast<int>(toBusValue(value.value))));
 }

@@ -27,6 +27,9 @@ bool VirtualDrive::command(std::int32_t value)
         return true;
     }
     if (value == RestartToUpgrade) {
+        // A Torva gets there only by being started there.
+        if (m_profile.hasIoProcessor)
+            return false;
         m_restartAfterAnswer = Restart::Upgrade;
         return true;
     }

@@ -14,9 +14,13 @@ std::string PortLink::make(const std::string &port)
     struct stat info
     {
     };
-    // A link is ours or a left-over of a run that was killed; anything else belongs to somebody.
-    if (lstat(m_path.c_str(), &info) == 0 && !S_ISLNK(info.st_mode))
-        return m_path + ": already there, and not a link";
+    // A link to a pseudo terminal is a left-over of a run that was killed; anything else belongs to somebody.
+    char target[256];
+    const ssize_t length = readlink(m_path.c_str(), target, sizeof target);
+    const bool leftOver =
+        length > 0 && std::string(target, static_cast<std::size_t>(length)).rfind("/dev/pts/", 0) == 0;
+    if (lstat(m_path.c_str(), &info) == 0 && !leftOver)
+        return m_path + ": already there, and not a link to a virtual drive";
     unlink(m_path.c_str());
     if (symlink(port.c_str(), m_path.c_str()) != 0)
         return m_path + ": " + std::strerror(errno);

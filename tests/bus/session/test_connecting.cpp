@@ -1,8 +1,11 @@
 // Finding drives, connecting to them, being refused, and leaving: what is said to the user and on the wire.
 #include "sessionfixture.h"
 
+#include <QProcess>
 #include <fcntl.h>
+#include <filesystem>
 #include <sys/file.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 using testing::ElementsAre;
@@ -21,6 +24,20 @@ protected:
     {
         session().getListOfBusNodes(port());
         return waitUntil([this] { return !log().nodes.isEmpty(); });
+    }
+    void expectCannotOpen(const char *name)
+    {
+        session().connectDevice(name, 5);
+        session().getParams();
+        session().checkErrors();
+        ASSERT_TRUE(waitUntil([this] { return !log().errors.isEmpty(); })) << name;
+        EXPECT_THAT(log().errors, ElementsAre(cannotOpen));
+        session().getListOfBusNodes(name);
+        ASSERT_TRUE(waitUntil([this] { return log().errors.size() == 2; })) << name;
+        EXPECT_EQ(log().errors.last(), cannotOpen);
+        ASSERT_THAT(log().statuses, SizeIs(2));
+        EXPECT_EQ(log().statuses.last().text, "Connect failed");
+        EXPECT_TRUE(log().read.isEmpty() && log().nodes.isEmpty());
     }
     void expectRefused(const char *status, const char *error)
     {
@@ -201,24 +218,38 @@ TEST_F(Connecting, TasksWithoutADriveAreQuiet)
 
 TEST_F(Connecting, APortThatCannotBeOpenedIsSaidOnce)
 {
-    const int other = open(port(), O_RDWR | O_NOCTTY);
-    ASSERT_GE(other, 0);
-    ASSERT_EQ(flock(other, LOCK_EX | LOCK_NB), 0);
-    for (const char *name : {"/dev/ttyNotThere", "notAPort", port()}) {
+    for (const char *name : {"/dev/ttyNotThere", "notAPort"}) {
         newSession();
-        session().connectDevice(name, 5);
-        session().getParams();
-        session().checkErrors();
-        ASSERT_TRUE(waitUntil([this] { return !log().errors.isEmpty(); })) << name;
-        EXPECT_THAT(log().errors, ElementsAre(cannotOpen));
-        session().getListOfBusNodes(name);
-        ASSERT_TRUE(waitUntil([this] { return log().errors.size() == 2; })) << name;
-        EXPECT_EQ(log().errors.last(), cannotOpen);
-        ASSERT_THAT(log().statuses, SizeIs(2));
-        EXPECT_EQ(log().statuses.last().text, "Connect failed");
-        EXPECT_TRUE(log().read.isEmpty() && log().nodes.isEmpty());
+        expectCannotOpen(name);
     }
-    close(other);
+}
+
+TEST_F(Connecting, APortThatAnotherProgramHasIsSaidOnceAndWorksWhenItIsGivenBack)
+{
+    QProcess other;
+    other.start("flock", {"--no-fork", "--exclusive", port(), "sleep", "60"});
+    ASSERT_TRUE(waitUntil([this] {
+        const int mine = open(port(), O_RDWR | O_NOCTTY);
+        const bool taken = flock(mine, LOCK_EX | LOCK_NB) != 0;
+        close(mine);
+        return taken;
+    }));
+    expectCannotOpen(port());
+    other.kill();
+    ASSERT_TRUE(other.waitForFinished());
+    EXPECT_TRUE(connectTo());
+}
+
+TEST_F(Connecting, APortWithoutPermissionIsSaidOnce)
+{
+    constexpr uid_t nobody = 65534;
+    const std::string slave = std::filesystem::canonical(port());
+    ASSERT_EQ(chmod(slave.c_str(), 0), 0);
+    const bool root = geteuid() == 0; // root may open what it likes
+    ASSERT_EQ(seteuid(root ? nobody : geteuid()), 0);
+    expectCannotOpen(port());
+    ASSERT_EQ(seteuid(root ? 0 : geteuid()), 0);
+    ASSERT_EQ(chmod(slave.c_str(), 0600), 0);
     EXPECT_TRUE(connectTo());
 }
 

@@ -130,6 +130,24 @@ TEST_F(Transfer, OverrideSlotsFollowTheRecords)
     EXPECT_EQ(bus().read(5, 202), 77);
 }
 
+TEST_F(Transfer, NoSettingsFileAndNoOverrideEnablesMovesOrRestartsADrive)
+{
+    Parameters list = with("overrideAddr1", 551);
+    SingleParam disguised = list.getParam("KVP"); // a file carries its own register for every setting
+    disguised.addr = 2533;
+    disguised.value = 1;
+    list.replaceParam(disguised);
+    apply(list);
+    EXPECT_EQ(bus().read(5, 2533), 0);
+    for (const std::string &payload : payloads()) {
+        EXPECT_THAT(payload, Not(HasSubstr(wire("89e5")))); // 2533
+        EXPECT_THAT(payload, Not(HasSubstr(wire("8227")))); // 551
+    }
+    ASSERT_THAT(log().errors, SizeIs(2));
+    EXPECT_EQ(log().errors[0], "KVP was not written: register 2533 is a command to the drive and not a setting.");
+    EXPECT_EQ(session().isConnected(), true);
+}
+
 TEST_F(Transfer, AChangedControlModeIsAnnouncedOnceBeforeItIsWritten)
 {
     const int other = held().getParam("CM").value == 1.0 ? 2 : 1;
