@@ -73,7 +73,9 @@ protected:
     void waitForPlot()
     {
         ASSERT_TRUE(waitFor([this] { return captureText() == "Start capture"; }));
-        ASSERT_TRUE(waitFor([this] { return run("$('canvas.flot-base').length").toInt() > 0; }));
+        ASSERT_TRUE(waitFor([this] { return run("$('canvas.flot-base').length").toInt() > 0; }))
+            << qPrintable(connectionText() + ", " + shownMessage(m_window.get()) + ", " +
+                          view()->page()->mainFrame()->toPlainText().left(80));
     }
     /// Types a target and presses "Set Abs".
     void stepTo(int target)
