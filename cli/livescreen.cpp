@@ -49,7 +49,7 @@ int widest(const QStringList &lines)
 {
     int width = 0;
     for (const QString &line : lines)
-        width = std::max(width, line.size());
+        width = std::max(width, int(line.size()));
     return width;
 }
 

@@ -17,13 +17,15 @@ template <typename Replacement>
 QString replaceEach(const QString &text, const QRegularExpression &what, Replacement replacement)
 {
     QString result;
-    int end = 0;
+    qsizetype end = 0;
     for (auto matches = what.globalMatch(text); matches.hasNext();) {
         const QRegularExpressionMatch match = matches.next();
-        result += text.midRef(end, match.capturedStart() - end) + replacement(match);
+        result += QStringView(text).mid(end, match.capturedStart() - end);
+        result += replacement(match);
         end = match.capturedEnd();
     }
-    return result + text.midRef(end);
+    result += QStringView(text).mid(end);
+    return result;
 }
 
 QString linkWithAddress(const QRegularExpressionMatch &link)
@@ -44,7 +46,7 @@ QString entityCharacter(const QRegularExpressionMatch &entity)
     const QString name = entity.captured(1);
     if (!name.startsWith(QLatin1Char('#')))
         return names.value(name.toLower(), entity.captured(0));
-    const uint code = name.midRef(1).toUInt();
+    const char32_t code = QStringView(name).mid(1).toUInt();
     return code == 0 ? entity.captured(0) : QString::fromUcs4(&code, 1);
 }
 

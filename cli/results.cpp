@@ -10,7 +10,7 @@ namespace {
 
 QString asText(const QVariant &value)
 {
-    return value.type() == QVariant::Double ? shortNumber(value.toDouble()) : value.toString();
+    return value.typeId() == QMetaType::Double ? shortNumber(value.toDouble()) : value.toString();
 }
 
 QJsonDocument document(const QJsonValue &value)

@@ -35,9 +35,9 @@ QList<CaptureData> enabledChannels(const QList<CaptureData> &captures)
     return enabled;
 }
 
-int rowCount(const QList<CaptureData> &enabled)
+qsizetype rowCount(const QList<CaptureData> &enabled)
 {
-    int rows = enabled.isEmpty() ? 0 : enabled.last().samples.size();
+    auto rows = enabled.isEmpty() ? 0 : enabled.last().samples.size();
     for (const CaptureData &channel : enabled)
         rows = std::min(rows, channel.samples.size());
     return rows;

@@ -137,7 +137,7 @@ const QMap<QString, FormControl> &formControls()
         for (const QString &file : files)
             readForm(folder.filePath(file), all);
         for (auto control = all.begin(); control != all.end();)
-            control = control->label.isEmpty() ? all.erase(control) : control + 1;
+            control = control->label.isEmpty() ? all.erase(control) : std::next(control);
         return all;
     }();
     return controls;
