@@ -46,8 +46,7 @@ sim::BusOptions busOptions(const QStringList &models)
 
 void setStyle()
 {
-    QStyle *style = QStyleFactory::create(QStringLiteral("plastique"));
-    QApplication::setStyle(style ? style : QStyleFactory::create(QStringLiteral("fusion")));
+    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
 }
 
 int failed(const QString &text, int exitCode)
@@ -62,6 +61,7 @@ int main(int argc, char **argv)
 {
     if (wantsTextOnly(argc, argv))
         qputenv("QT_QPA_PLATFORM", "offscreen");
+    HelpView::prepareEngine();
     QApplication application(argc, argv);
     const ProgramOptions options = parseProgramOptions(QApplication::arguments());
     if (!options.error.isEmpty())

@@ -117,6 +117,8 @@ void MW::buildForms()
 
     // Once, when all forms are built: twice would run every slot twice.
     QMetaObject::connectSlotsByName(this);
+    connect(m_form->FBD, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
+            [this](int index) { on_FBD_currentIndexChanged(m_form->FBD->itemText(index)); });
     connect(m_form->clear_faults_2, &QPushButton::clicked, this, &MW::on_clear_faults_clicked);
     connect(m_form->refreshPorts, &QPushButton::clicked, this, &MW::populateConnectionPortList);
 }
@@ -128,7 +130,7 @@ void MW::buildPageList()
     m_helpTimer->setInterval(HELP_TIMEOUT_MS);
     connect(m_helpTimer, &QTimer::timeout, this, &MW::helpLoadingTimeouted);
 
-    m_helpView = new HelpView(m_form->helpContainer);
+    m_helpView = new HelpView(m_form->helpContainer, m_options.webEngine);
     m_helpView->setObjectName(QStringLiteral("helpView"));
     m_form->helpContainer->layout()->addWidget(m_helpView);
 
@@ -157,6 +159,7 @@ void MW::buildHelpAndStatus()
     statusBar()->showMessage(tr("Program started"));
 
     connect(m_helpView, &HelpView::linkClicked, this, &MW::browserLinkClicked);
+    connect(m_helpView, &HelpView::pictureSaved, this, &MW::pictureSaved);
     connect(m_helpView, &HelpView::pageLoaded, this, &MW::helpViewLoadFinished);
     for (QLabel *label : {m_form->faultRegister, m_form->FBDhelp}) {
         label->setOpenExternalLinks(false);

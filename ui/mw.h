@@ -7,6 +7,7 @@
 #include "captureplotter.h"
 #include "connection.h"
 #include "controlbinding.h"
+#include "helpview.h"
 #include "pendingchanges.h"
 #include "updatechecker.h"
 
@@ -22,7 +23,6 @@ class DisableWatch;
 class ErrorWindow;
 class EscapeFilter;
 class FirmwareDialog;
-class HelpView;
 class QCloseEvent;
 class QLabel;
 class QPushButton;
@@ -44,6 +44,7 @@ public:
         QString port;             ///< port to choose at first; empty: the last recognised adapter
         QString virtualPort;      ///< port of the built-in virtual drive, empty when there is none
         bool debugValues = false; ///< show the drive's debug values in the fault panel
+        HelpView::Engine webEngine = HelpView::Engine::Allowed;
         double pauseScale = 1.0;  ///< factor on every pause of the session (restart, measurement, ...); for tests
     };
 
@@ -131,11 +132,13 @@ private slots:
     void on_measureRLbutton_clicked();
     void setBusy(bool busy, bool nonBlocking);
     void setUnsavedStatus();
-    void on_FBD_currentIndexChanged(QString arg1);
     void on_showAdvancedSettings_clicked();
     void deviceControlModeChanged(int newmode);
 
 private:
+    /// No slot for the connection by name: the toolkit's signal with the text is gone, so it is connected by hand.
+    void on_FBD_currentIndexChanged(const QString &arg1);
+
     // Construction, in this order (mw.cpp)
     void buildForms();
     void buildPageList();
@@ -195,7 +198,8 @@ private:
     void loadHelp();
     /// The page of the same name among the offline pages once help is offline; any other address stays as it is.
     QUrl offlineCopyOf(const QUrl &url) const;
-    void showPlotPage();
+    void showPlotPage(HelpView::Zoom zoom);
+    void pictureSaved(const QString &failure);
     /// Runs a question as soon as no other box, message or popup is open, so that its default button never takes a key
     /// that was meant for the other. Questions wait in order.
     /// What the user has just asked for (the list of drives found) does not wait for messages to be read first.
@@ -249,6 +253,7 @@ private:
     bool m_anySetArrived = false;  ///< the first set is the bare catalogue, whose zeros are nobody's settings
     bool m_showAdvanced = false;
     bool m_reconnectAfterUpgrade = false;
+    bool m_closeWhenSaved = false; ///< a picture is still being written; the window closes behind it
     double m_loopFrequency = 2500.0; ///< control cycles a second (PIF), Hz
     enum class ResetChoice { Ask, Never, Always } m_resetChoice = ResetChoice::Ask; ///< for this run only
 

@@ -8,6 +8,7 @@
 #include <QDebug>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QStatusBar>
 #include <QTimer>
 
 void MW::showDisclaimer()
@@ -83,6 +84,12 @@ void MW::runWaitingQuestion()
 void MW::closeEvent(QCloseEvent *event)
 {
     qDebug() << "Close";
+    if (m_helpView->isSaving()) {
+        m_closeWhenSaved = true; // pictureSaved() comes, after 20 s at the latest
+        statusBar()->showMessage(tr("The graphs are being written; the window closes when that is done"));
+        event->ignore();
+        return;
+    }
     if (askToKeepUpgrading() || checkIfParamsChangedAndAskUser(AskWithAbort) || checkIfParamsSavedAndAskUser()) {
         event->ignore();
         return;

@@ -80,7 +80,7 @@ void MW::browserLinkClicked(QUrl url)
     if (text.contains(QLatin1String("exportpdf"))) {
         saveTestResults_clicked();
     } else if (text.contains(QLatin1String("reloadplots"))) {
-        showPlotPage();
+        showPlotPage(HelpView::Zoom::Reset);
     } else if (text.contains(QLatin1String("showhelp"))) {
         m_helpEnabled = true;
         pageChanged();

@@ -153,7 +153,7 @@ void MW::on_AXT_currentIndexChanged(int index)
     m_form->CALracc->setText(tr("%1/s²").arg(unit));
 }
 
-void MW::on_FBD_currentIndexChanged(QString arg1)
+void MW::on_FBD_currentIndexChanged(const QString &arg1)
 {
     const auto guide = [](const char *path, const QString &text) {
         return tr("See guide <a href=\"%1\">%2</a>").arg(makerWikiPage(QLatin1String(path)), text);

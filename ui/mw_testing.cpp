@@ -96,19 +96,19 @@ void MW::on_ScopeCaptureNow_clicked()
 void MW::plotCapture(QList<CaptureData> capture)
 {
     m_captures = capture;
-    showPlotPage();
+    showPlotPage(HelpView::Zoom::Keep);
     m_helpEnabled = false;
     if (m_form->repeatCapture->isChecked())
         on_ScopeCaptureNow_clicked();
 }
 
-void MW::showPlotPage()
+void MW::showPlotPage(HelpView::Zoom zoom)
 {
     const QString page = m_plotter.generatePlotPage(m_captures, m_params.getParamsHTMLList(), m_form->HWMODEL->text());
     m_helpTimer->stop(); // a help page that was still loading is given up, which says nothing about the network
     m_form->offlineHelpNotification->hide();
-    m_helpView->showPage(page,
-                         QUrl(QLatin1String("file:///") + QDir::currentPath() + QLatin1String("/flot/examples/")));
+    const QUrl base(QLatin1String("file:///") + QDir::currentPath() + QLatin1String("/flot/examples/"));
+    m_helpView->showPlot(page, base, zoom);
 }
 
 void MW::saveTestResults_clicked()
@@ -119,13 +119,21 @@ void MW::saveTestResults_clicked()
     if (file.isEmpty())
         return;
     // The ending chooses the format; any other writes nothing.
-    QString failure;
-    if (file.endsWith(QLatin1String(".png"), Qt::CaseInsensitive))
-        failure = m_helpView->savePng(file);
-    else if (file.endsWith(QLatin1String(".csv"), Qt::CaseInsensitive) &&
-             !m_plotter.saveCaptureDataCSV(m_captures, file))
-        failure = tr("Error writing graphs to file %1").arg(file);
-    else if (!file.endsWith(QLatin1String(".csv"), Qt::CaseInsensitive))
+    if (file.endsWith(QLatin1String(".png"), Qt::CaseInsensitive)) {
+        m_saveAsPdfButton->setEnabled(false);
+        m_helpView->savePng(file);
+    } else if (!file.endsWith(QLatin1String(".csv"), Qt::CaseInsensitive)) {
         statusBar()->showMessage(tr("Nothing saved: give the file a name that ends in .png or .csv"), SAVE_HINT_MS);
+    } else if (!m_plotter.saveCaptureDataCSV(m_captures, file)) {
+        m_errorWindow->showMessage(tr("Error writing graphs to file %1").arg(file));
+    }
+}
+
+void MW::pictureSaved(const QString &failure)
+{
+    m_saveAsPdfButton->setEnabled(true);
     m_errorWindow->showMessage(failure);
+    if (m_closeWhenSaved && failure.isEmpty())
+        close();
+    m_closeWhenSaved = false;
 }

@@ -25,10 +25,10 @@ QString noticeText(const QString &html)
 {
     const QString source = html.size() > LONGEST_NOTICE ? html.left(LONGEST_NOTICE) + QChar(0x2026) : html;
     QString text;
-    int at = 0;
-    for (int open = source.indexOf(QLatin1Char('<')); open >= 0; open = source.indexOf(QLatin1Char('<'), at)) {
-        text += source.midRef(at, open - at);
-        const int close = source.indexOf(QLatin1Char('>'), open);
+    qsizetype at = 0;
+    for (qsizetype open = source.indexOf(QLatin1Char('<')); open >= 0; open = source.indexOf(QLatin1Char('<'), at)) {
+        text += QStringView(source).mid(at, open - at);
+        const qsizetype close = source.indexOf(QLatin1Char('>'), open);
         if (close < 0) {
             text += QLatin1String("&lt;");
             at = open + 1;
@@ -37,5 +37,6 @@ QString noticeText(const QString &html)
             at = close + 1;
         }
     }
-    return text + source.midRef(at);
+    text += QStringView(source).mid(at);
+    return text;
 }

@@ -1,0 +1,540 @@
+#include "helpview.h"
+
+#include <QBuffer>
+#include <QCoreApplication>
+#include <QDir>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QFileInfo>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QLabel>
+#include <QLibraryInfo>
+#include <QMimeDatabase>
+#include <QPointer>
+#include <QQuickWindow>
+#include <QSaveFile>
+#include <QStackedLayout>
+#include <QTimer>
+#include <QWebEngineLoadingInfo>
+#include <QWebEngineNewWindowRequest>
+#include <QWebEnginePage>
+#include <QWebEngineProfile>
+#include <QWebEngineScript>
+#include <QWebEngineScriptCollection>
+#include <QWebEngineSettings>
+#include <QWebEngineUrlRequestInfo>
+#include <QWebEngineUrlRequestInterceptor>
+#include <QWebEngineUrlRequestJob>
+#include <QWebEngineUrlScheme>
+#include <QWebEngineUrlSchemeHandler>
+#include <QWebEngineView>
+#include <sched.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace {
+
+// Plot pages have a scheme of their own: a text of several megabytes, which setHtml() would refuse, and next to it the
+// scripts of the "flot" folder.
+const char *const plotScheme = "velbrin-plot";
+const char *const plotHost = "capture";
+
+constexpr int widestPicture = 1100; ///< pixels; a wider plot no longer fits a printed page
+constexpr int pictureLimitMs = 20000;
+constexpr int pictureStepMs = 40;
+
+/// Where local pages and their parts may come from.
+bool isOwnFile(const QUrl &url)
+{
+    const QString file = QFileInfo(url.toLocalFile()).canonicalFilePath();
+    for (const char *name : {"help", "flot"}) {
+        const QString folder = QFileInfo(QDir::current().filePath(QLatin1String(name))).canonicalFilePath();
+        if (!folder.isEmpty() && file.startsWith(folder + QLatin1Char('/')))
+            return true;
+    }
+    return false;
+}
+
+bool isOwn(const QUrl &url)
+{
+    return (url.isLocalFile() && isOwnFile(url)) || url.scheme() == QLatin1String(plotScheme) ||
+           url.scheme() == QLatin1String("qrc");
+}
+
+/// Keeps pages of the network away from files and plots, and every page away from other people's files.
+class Gate : public QWebEngineUrlRequestInterceptor
+{
+public:
+    using QWebEngineUrlRequestInterceptor::QWebEngineUrlRequestInterceptor;
+
+    void interceptRequest(QWebEngineUrlRequestInfo &info) override
+    {
+        const QString scheme = info.requestUrl().scheme();
+        if (scheme != QLatin1String("file") && scheme != QLatin1String(plotScheme))
+            return;
+        const QString asker = info.initiator().scheme(); // empty: the program itself
+        const bool askedByNetwork = asker.startsWith(QLatin1String("http"));
+        info.block(askedByNetwork || !isOwn(info.requestUrl()));
+    }
+};
+
+/// Answers for "velbrin-plot:" addresses: the page that is shown, and the files around it.
+class PlotFiles : public QWebEngineUrlSchemeHandler
+{
+public:
+    using QWebEngineUrlSchemeHandler::QWebEngineUrlSchemeHandler;
+
+    QByteArray page;
+    QUrl pageUrl;
+
+    void requestStarted(QWebEngineUrlRequestJob *job) override
+    {
+        const QUrl url = job->requestUrl();
+        auto *content = new QBuffer(job);
+        if (url.path() == pageUrl.path()) {
+            content->setData(page);
+            job->reply("text/html; charset=utf-8", content);
+            return;
+        }
+        QFile file(url.path());
+        if (!isOwnFile(QUrl::fromLocalFile(file.fileName())) || !file.open(QIODevice::ReadOnly))
+            return job->fail(QWebEngineUrlRequestJob::UrlNotFound);
+        content->setData(file.readAll());
+        job->reply(QMimeDatabase().mimeTypeForFile(file.fileName(), QMimeDatabase::MatchExtension).name().toLatin1(),
+                   content);
+    }
+};
+
+/// Lets the program's own pages and what the program loads through; links to anything else are handed out.
+class Page : public QWebEnginePage
+{
+public:
+    Page(QWebEngineProfile *profile, HelpView *view) : QWebEnginePage(profile, view), m_view(view)
+    {
+        QWebEngineSettings *can = settings();
+        for (const auto denied :
+             {QWebEngineSettings::PluginsEnabled, QWebEngineSettings::PdfViewerEnabled,
+              QWebEngineSettings::WebGLEnabled, QWebEngineSettings::JavascriptCanOpenWindows,
+              QWebEngineSettings::JavascriptCanAccessClipboard, QWebEngineSettings::LocalContentCanAccessRemoteUrls,
+              QWebEngineSettings::FullScreenSupportEnabled, QWebEngineSettings::ScreenCaptureEnabled,
+              QWebEngineSettings::NavigateOnDropEnabled})
+            can->setAttribute(denied, false);
+        // Pages that would open a window of their own are handed out like any other link.
+        connect(this, &QWebEnginePage::newWindowRequested, this,
+                [this](QWebEngineNewWindowRequest &request) { handOut(request.requestedUrl()); });
+    }
+
+protected:
+    bool acceptNavigationRequest(const QUrl &url, NavigationType type, bool isMainFrame) override
+    {
+        const bool fromNetwork = this->url().scheme().startsWith(QLatin1String("http"));
+        if (isOwn(url) && !(fromNetwork && type == NavigationTypeLinkClicked))
+            return true;
+        if (type == NavigationTypeLinkClicked) {
+            handOut(url);
+            return false;
+        }
+        return isMainFrame && url.scheme().startsWith(QLatin1String("http"));
+    }
+
+private:
+    /// Behind the engine's call, which does not like its page to load something else meanwhile.
+    void handOut(const QUrl &url)
+    {
+        QMetaObject::invokeMethod(
+            m_view, [view = m_view, url] { emit view->linkClicked(url); }, Qt::QueuedConnection);
+    }
+
+    HelpView *m_view;
+};
+
+QString readResource(const QString &name)
+{
+    QFile file(name);
+    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+}
+
+/// A text as a literal of the script language.
+QString quoted(const QString &text)
+{
+    const QString list = QString::fromUtf8(QJsonDocument(QJsonArray{text}).toJson(QJsonDocument::Compact));
+    return list.mid(1, list.size() - 2);
+}
+
+QString processPath()
+{
+    const QString own = qEnvironmentVariable("QTWEBENGINEPROCESS_PATH");
+    return own.isEmpty()
+               ? QLibraryInfo::path(QLibraryInfo::LibraryExecutablesPath) + QLatin1String("/QtWebEngineProcess")
+               : own;
+}
+
+bool isSandboxOff()
+{
+    return qEnvironmentVariableIntValue("QTWEBENGINE_DISABLE_SANDBOX") == 1;
+}
+
+/// Whether the system lets a process of ours have name spaces of its own, which the engine's sandbox is made of.
+bool systemAllowsSandbox()
+{
+    const pid_t child = fork();
+    if (child == 0)
+        _exit(unshare(CLONE_NEWUSER | CLONE_NEWPID) == 0 ? 0 : 1);
+    int status = 0;
+    return child > 0 && waitpid(child, &status, 0) == child && WIFEXITED(status) && WEXITSTATUS(status) == 0;
+}
+
+/// A plot page drawn once more, by a view that is not on the screen, and written to a file. Looks until two pictures in
+/// a row are the same: only then has everything been drawn.
+class Picture : public QObject
+{
+public:
+    Picture(QWebEngineProfile *profile, HelpView *owner, const QUrl &url, const QString &file)
+        : QObject(owner), m_file(file), m_page(profile, owner)
+    {
+        m_view.setAttribute(Qt::WA_DontShowOnScreen);
+        m_view.setPage(&m_page);
+        const double ratio = m_view.devicePixelRatioF();
+        m_page.setZoomFactor(1.0 / ratio);
+        m_view.resize(qRound(widestPicture / ratio), qRound(widestPicture / ratio));
+        m_view.show();
+        m_page.load(url);
+        m_timer.setInterval(pictureStepMs);
+        connect(&m_timer, &QTimer::timeout, this, &Picture::look);
+        m_timer.start();
+        m_sinceStart.start();
+    }
+
+    /// `zoomed`: the charts that are zoomed on the screen, as the page's script tells them.
+    void begin(const QString &zoomed) { m_zoomed = zoomed.isEmpty() ? QStringLiteral("[]") : zoomed; }
+
+    std::function<void(const QString &)> ended; ///< called once, with what failed
+
+private:
+    void look()
+    {
+        if (m_sinceStart.elapsed() > pictureLimitMs)
+            return end(HelpView::tr("the plot could not be drawn in %1 s").arg(pictureLimitMs / 1000));
+        if (m_zoomed.isEmpty())
+            return;
+        if (!m_sized) {
+            m_page.runJavaScript(QStringLiteral("window.velbrinView && velbrinView.drawn ?"
+                                                " (velbrinView.zoom(%1), document.documentElement.scrollHeight) : 0")
+                                     .arg(m_zoomed),
+                                 0, [self = QPointer<Picture>(this)](const QVariant &height) {
+                                     if (self && height.toInt() > 0)
+                                         self->setHeight(height.toInt());
+                                 });
+            return;
+        }
+        const QImage now = m_view.grab().toImage();
+        if (now == m_last && !isBlank(now))
+            write(now);
+        m_last = now;
+    }
+
+    void setHeight(int height)
+    {
+        m_sized = true;
+        m_view.resize(m_view.width(), qRound(height / m_view.devicePixelRatioF()));
+    }
+
+    static bool isBlank(const QImage &image)
+    {
+        const QRgb first = image.pixel(0, 0);
+        for (int y = 0; y < image.height(); y += 7) {
+            for (int x = 0; x < image.width(); x += 7) {
+                if (image.pixel(x, y) != first)
+                    return false;
+            }
+        }
+        return true;
+    }
+
+    void write(QImage image)
+    {
+        image.setDevicePixelRatio(1.0);
+        QSaveFile file(m_file);
+        QByteArray bytes;
+        QBuffer buffer(&bytes);
+        image.save(&buffer, "PNG");
+        const bool written =
+            !bytes.isEmpty() && file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.commit();
+        end(written ? QString() : file.errorString());
+    }
+
+    void end(const QString &failure)
+    {
+        m_timer.stop();
+        const QString text =
+            HelpView::tr("Error writing graphs to file %1: %2").arg(QDir::toNativeSeparators(m_file), failure);
+        ended(failure.isEmpty() ? QString() : text);
+    }
+
+    QString m_file;
+    Page m_page;
+    QWebEngineView m_view; // goes before its page
+    QTimer m_timer;
+    QElapsedTimer m_sinceStart;
+    QString m_zoomed;
+    bool m_sized = false;
+    QImage m_last;
+};
+
+} // namespace
+
+static void initResources()
+{
+    Q_INIT_RESOURCE(pagescripts);
+}
+
+/// The engine and what belongs to it, in the order in which it wants to be ended: the last first.
+class HelpView::Engines
+{
+public:
+    explicit Engines(HelpView *owner);
+
+    QWebEngineProfile profile; ///< without a name: nothing of it is kept on disk
+    Gate gate;
+    PlotFiles plotFiles;
+    Page page;
+    QWebEngineView view;
+    std::unique_ptr<Picture> picture;
+    bool plotStands = false; ///< the plot page on display is loaded to its end
+};
+
+HelpView::Engines::Engines(HelpView *owner) : page(&profile, owner)
+{
+    profile.setUrlRequestInterceptor(&gate);
+    profile.installUrlSchemeHandler(plotScheme, &plotFiles);
+    QObject::connect(&profile, &QWebEngineProfile::downloadRequested, owner,
+                     [](QWebEngineDownloadRequest *download) { download->cancel(); });
+    QWebEngineScript script;
+    script.setSourceCode(readResource(QStringLiteral(":/pagescripts/plotview.js")));
+    script.setInjectionPoint(QWebEngineScript::DocumentReady);
+    script.setWorldId(QWebEngineScript::MainWorld);
+    profile.scripts()->insert(script);
+    view.setPage(&page);
+    view.setContextMenuPolicy(Qt::NoContextMenu); // the engine's own offers to save and to open windows
+}
+
+// --- The pane -----------------------------------------------------------------------------------------------------
+
+void HelpView::prepareEngine()
+{
+    QWebEngineUrlScheme scheme(plotScheme);
+    scheme.setSyntax(QWebEngineUrlScheme::Syntax::Host);
+    scheme.setFlags(QWebEngineUrlScheme::SecureScheme | QWebEngineUrlScheme::ViewSourceAllowed);
+    QWebEngineUrlScheme::registerScheme(scheme);
+    // Help and charts need no graphics processor, and then no driver of one can fail.
+    QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
+    QByteArray flags = qgetenv("QTWEBENGINE_CHROMIUM_FLAGS");
+    flags += " --disable-gpu";
+    if (geteuid() == 0) // the engine refuses to start a sandbox for root
+        flags += " --no-sandbox";
+    qputenv("QTWEBENGINE_CHROMIUM_FLAGS", flags.trimmed());
+}
+
+QString HelpView::whyEngineCannotStart()
+{
+    if (!QFileInfo(processPath()).isExecutable())
+        return tr("its program %1 is missing").arg(processPath());
+    if (geteuid() != 0 && !isSandboxOff() && !systemAllowsSandbox())
+        return tr("this system does not allow its sandbox (user name spaces)");
+    return QString();
+}
+
+HelpView::HelpView(QWidget *parent, Engine engine) : QWidget(parent), m_use(engine)
+{
+    initResources();
+    m_stack = new QStackedLayout(this);
+    m_stack->addWidget(new QWidget(this)); // before the engine stands
+    m_note = new QLabel(this);
+    m_note->setObjectName(QStringLiteral("helpViewNote"));
+    m_note->setWordWrap(true);
+    m_note->setMargin(18);
+    m_note->setAlignment(Qt::AlignTop | Qt::AlignLeft);
+    m_note->setTextInteractionFlags(Qt::TextBrowserInteraction);
+    connect(m_note, &QLabel::linkActivated, this, [this](const QString &link) {
+        if (link == QLatin1String("restart:"))
+            startEngine();
+        else
+            emit linkClicked(QUrl(link));
+    });
+    m_stack->addWidget(m_note);
+}
+
+HelpView::~HelpView() = default;
+
+void HelpView::paintEvent(QPaintEvent *event)
+{
+    QWidget::paintEvent(event);
+    if (!m_begun) {
+        m_begun = true;
+        QTimer::singleShot(0, this, &HelpView::startEngine);
+    }
+}
+
+void HelpView::startEngine()
+{
+    const QString problem = m_use == Engine::Off ? tr("it is switched off") : whyEngineCannotStart();
+    if (!problem.isEmpty()) {
+        showNote(tr("<h3>Help and plots cannot be shown</h3>The browser engine cannot start: %1.").arg(problem));
+        return;
+    }
+    m_engines.reset();
+    m_engines = std::make_unique<Engines>(this);
+    m_stack->addWidget(&m_engines->view);
+    m_stack->setCurrentWidget(&m_engines->view);
+    connect(&m_engines->page, &QWebEnginePage::loadingChanged, this, [this](const QWebEngineLoadingInfo &info) {
+        // "Stopped" are loads that were given up or replaced by the next.
+        if (info.status() == QWebEngineLoadingInfo::LoadSucceededStatus ||
+            info.status() == QWebEngineLoadingInfo::LoadFailedStatus)
+            loadEnded(info.status() == QWebEngineLoadingInfo::LoadSucceededStatus, info.url());
+    });
+    // Queued: what follows may end the page whose signal this is.
+    connect(
+        &m_engines->page, &QWebEnginePage::renderProcessTerminated, this,
+        [this](QWebEnginePage::RenderProcessTerminationStatus status, int code) {
+            const bool ended = status == QWebEnginePage::NormalTerminationStatus;
+            processEnded(ended ? tr("it closed") : tr("status %1").arg(code));
+        },
+        Qt::QueuedConnection);
+    if (!m_plot.isEmpty())
+        loadPlot();
+    else if (m_wantedUrl.isValid())
+        m_engines->page.load(m_wantedUrl);
+}
+
+void HelpView::loadEnded(bool ok, const QUrl &url)
+{
+    // A load that was replaced may still fail, with an address that nobody waits for any more.
+    if (!m_loading || (!ok && url != m_wantedUrl && url != m_engines->page.requestedUrl()))
+        return;
+    m_loading = false;
+    m_engines->plotStands = ok && !m_plot.isEmpty();
+    emit pageLoaded(ok);
+}
+
+void HelpView::processEnded(const QString &how)
+{
+    m_loading = false;
+    m_engines->plotStands = false;
+    showNote(
+        tr("<h3>The view has stopped</h3>The browser engine behind help and plots has ended unexpectedly (%1). The "
+           "connection to the drive is not affected.<p><a href=\"restart:\">Start it again</a></p>")
+            .arg(how));
+}
+
+void HelpView::showNote(const QString &text)
+{
+    m_noteText = text;
+    const QString save =
+        m_plot.isEmpty()
+            ? QString()
+            : tr("<p>The last capture can be saved as text: <a href=\"tdext://exportpdf\">Save as file</a></p>");
+    m_note->setText(text + save);
+    m_stack->setCurrentWidget(m_note);
+}
+
+void HelpView::loadPage(const QUrl &url)
+{
+    m_plot.clear();
+    m_wantedUrl = url;
+    m_loading = true;
+    if (isRunning())
+        m_engines->page.load(url);
+    else if (!m_noteText.isEmpty())
+        showNote(m_noteText);
+}
+
+void HelpView::showPlot(const QString &html, const QUrl &base, Zoom zoom)
+{
+    const bool stands = isRunning() && m_engines->plotStands && !m_plot.isEmpty() && base == m_plotBase;
+    m_plot = html;
+    m_plotBase = base;
+    if (stands) {
+        m_engines->plotFiles.page = html.toUtf8();
+        runScript(QStringLiteral("velbrinView.replace(%1, %2); velbrinView.setSaving(%3)")
+                      .arg(quoted(html), QLatin1String(zoom == Zoom::Keep ? "true" : "false"),
+                           QLatin1String(isSaving() ? "true" : "false")));
+    } else if (isRunning()) {
+        loadPlot();
+    } else if (!m_noteText.isEmpty()) {
+        showNote(m_noteText);
+    }
+}
+
+void HelpView::loadPlot()
+{
+    QUrl url = m_plotBase;
+    url.setScheme(QLatin1String(plotScheme));
+    url.setHost(QLatin1String(plotHost));
+    m_engines->plotFiles.page = m_plot.toUtf8();
+    m_engines->plotFiles.pageUrl = url;
+    m_engines->plotStands = false;
+    m_wantedUrl = url;
+    m_loading = true;
+    m_engines->page.load(url);
+}
+
+void HelpView::stopLoading()
+{
+    m_loading = false;
+    m_wantedUrl.clear();
+    if (isRunning())
+        m_engines->page.triggerAction(QWebEnginePage::Stop);
+}
+
+bool HelpView::isRunning() const
+{
+    return m_engines && m_stack->currentWidget() == &m_engines->view;
+}
+
+bool HelpView::isSaving() const
+{
+    return m_engines && m_engines->picture;
+}
+
+void HelpView::savePng(const QString &fileName)
+{
+    if (isSaving())
+        return;
+    if (!isRunning() || !m_engines->plotStands) {
+        emit pictureSaved(tr("Error writing graphs to file %1: %2")
+                              .arg(QDir::toNativeSeparators(fileName), tr("no plot is shown to make a picture of")));
+        return;
+    }
+    m_engines->picture = std::make_unique<Picture>(&m_engines->profile, this, m_engines->plotFiles.pageUrl, fileName);
+    m_engines->picture->ended = [this](const QString &failure) {
+        // Not within its own call.
+        QMetaObject::invokeMethod(
+            this,
+            [this, failure] {
+                if (m_engines)
+                    m_engines->picture.reset();
+                runScript(QStringLiteral("window.velbrinView && velbrinView.setSaving(false)"));
+                emit pictureSaved(failure);
+            },
+            Qt::QueuedConnection);
+    };
+    runScript(QStringLiteral("velbrinView.setSaving(true); JSON.stringify(velbrinView.zoomedCharts())"),
+              [this](const QVariant &zoomed) {
+                  if (isSaving())
+                      m_engines->picture->begin(zoomed.toString());
+              });
+}
+
+void HelpView::runScript(const QString &script, const std::function<void(const QVariant &)> &done)
+{
+    if (!isRunning()) {
+        if (done)
+            done(QVariant());
+        return;
+    }
+    m_engines->page.runJavaScript(script, 0, [done](const QVariant &result) {
+        if (done)
+            done(result);
+    });
+}

@@ -1,0 +1,91 @@
+/// \file
+/// The pane beside the pages: help, or the plot of a capture. This pair of files is the only one that knows the web
+/// engine.
+#ifndef HELPVIEW_H
+#define HELPVIEW_H
+
+#include <QUrl>
+#include <QVariant>
+#include <QWidget>
+#include <functional>
+#include <memory>
+
+class QLabel;
+class QStackedLayout;
+
+/// Shows one page at a time. The engine (processes of its own, some 100 MB) is started behind the first paint of the
+/// pane, so that it never delays the window; what is asked before waits. Where it cannot start, or has died, the pane
+/// says so in words and everything else goes on. User-interface thread.
+///
+/// A page may do what help and plots need and no more: no downloads, windows, permissions or stored data; local files
+/// come from the working directory's "help" and "flot" folders only, and never into a page of the network.
+class HelpView : public QWidget
+{
+    Q_OBJECT
+
+public:
+    /// Whether the engine may be used at all; without it the pane holds a note.
+    enum class Engine { Allowed, Off };
+    /// What happens to the zoom of a plot that is drawn again.
+    enum class Zoom { Keep, Reset };
+
+    /// To be called once, before the application object is made: registers the plot page's address scheme and sets what
+    /// the engine takes from the environment.
+    static void prepareEngine();
+    /// A look at what would end the whole program if the engine were started all the same: its process is missing, or
+    /// the system refuses its sandbox. Empty when it can start.
+    static QString whyEngineCannotStart();
+
+    explicit HelpView(QWidget *parent = nullptr, Engine engine = Engine::Allowed);
+    ~HelpView() override;
+
+    /// Loads an address in place of whatever is loading.
+    void loadPage(const QUrl &url);
+    /// Shows a plot page. Relative addresses in it start at `base`, a folder of the working directory's "flot" folder.
+    /// Over a plot that stands it is drawn into the page that is there; the zoom of charts with the same channels is
+    /// kept when asked for.
+    void showPlot(const QString &html, const QUrl &base, Zoom zoom);
+    /// Gives a load up, without a report.
+    void stopLoading();
+
+    /// Begins to draw the plot that is shown, zoom included, into a PNG file of the whole page, at most 1100 pixels
+    /// wide. pictureSaved() ends it, after 20 s at the latest. A second call while one is going on is ignored.
+    void savePng(const QString &fileName);
+    bool isSaving() const;
+
+    /// Runs a script in the page and hands over what it returned (nothing when there is no engine).
+    void runScript(const QString &script, const std::function<void(const QVariant &)> &done = {});
+
+signals:
+    /// A link that leads out of the program's own pages, or to an action of the program ("tdext://...").
+    void linkClicked(const QUrl &url);
+    /// A load ended. Loads that were replaced or stopped are not reported: they say nothing about the network.
+    void pageLoaded(bool ok);
+    /// The picture is written, or not: then with the reason. An old file stays as it was.
+    void pictureSaved(const QString &failure);
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    class Engines;
+    void startEngine();
+    bool isRunning() const;
+    void loadEnded(bool ok, const QUrl &url);
+    void processEnded(const QString &how);
+    void showNote(const QString &text);
+    void loadPlot();
+
+    Engine m_use;
+    QStackedLayout *m_stack;
+    QLabel *m_note;
+    QString m_noteText;
+    std::unique_ptr<Engines> m_engines; ///< once started
+    bool m_begun = false;               ///< the start is on its way
+    bool m_loading = false;             ///< whoever asked for the page waits for its end
+    QUrl m_wantedUrl;                   ///< the page on display, or to be loaded as soon as the engine stands
+    QString m_plot;                     ///< text of the plot page on display, empty while help is shown
+    QUrl m_plotBase;
+};
+
+#endif
