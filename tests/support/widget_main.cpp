@@ -1,3 +1,4 @@
+#include "helpview.h"
 #include "testhome.h"
 
 #include <QApplication>
@@ -9,6 +10,7 @@ int main(int argc, char **argv)
     // The same window everywhere: what a developer's desktop does with it must not decide a test.
     setenv("QT_QPA_PLATFORM", "offscreen", 0);
     testing::InitGoogleTest(&argc, argv);
+    HelpView::prepareEngine();
     QApplication app(argc, argv);
     return RUN_ALL_TESTS();
 }

@@ -163,6 +163,7 @@ protected:
         MW::Options options;
         options.virtualPort = port();
         options.pauseScale = 0.01;
+        options.webEngine = m_webEngine;
         m_window = std::make_unique<MW>(options);
         m_window->show();
         bringToFront();
@@ -248,6 +249,8 @@ protected:
         return waitFor([&] { return timesWritten(reg, value) > 0; });
     }
 
+    /// Tests that look at help or plots switch it on; it costs each of them a second.
+    HelpView::Engine m_webEngine = HelpView::Engine::Off;
     LoopbackWiki m_wiki;
     LoopbackHttpServer m_updates;
     Answerer m_answers;
