@@ -73,6 +73,25 @@
             link.removeAttr("aria-disabled").removeAttr("tabindex");
     }
 
-    window.velbrinView = { replace: replace, zoomedCharts: zoomedCharts, zoom: zoom, setSaving: setSaving };
+    // For a picture of the whole page: without scroll bars, which would take some of its width. Returns its height.
+    function prepareForPicture(zoomed) {
+        document.documentElement.style.overflow = "hidden";
+        jQuery(window).trigger("resize");
+        zoom(zoomed);
+        return document.documentElement.scrollHeight;
+    }
+
+    // Whether the page has been painted in a window of this height, and painted again since nothing changed any more.
+    var frames = 0;
+    function isPainted(height) {
+        if (window.innerHeight < height)
+            return false;
+        if (frames === 0)
+            (function next() { if (++frames < 6) requestAnimationFrame(next); })();
+        return frames >= 6;
+    }
+
+    window.velbrinView = { prepareForPicture: prepareForPicture, isPainted: isPainted, replace: replace,
+                           zoomedCharts: zoomedCharts, setSaving: setSaving };
     jQuery(function () { window.velbrinView.drawn = true; });
 })();

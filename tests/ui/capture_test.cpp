@@ -228,7 +228,7 @@ TEST_F(Capture, PlotZoomsAndRestores)
     waitForPlot();
     EXPECT_EQ(run("$('canvas.flot-base').length").toInt(), 3);
     EXPECT_TRUE(label("offlineHelpNotification")->isHidden());
-    EXPECT_EQ(view()->page()->mainFrame()->scrollBarMaximum(Qt::Horizontal), 0);
+    EXPECT_LE(run("document.documentElement.scrollWidth - window.innerWidth").toInt(), 0);
     EXPECT_LT(view()->width(), 500) << "as narrow as it is at first";
     const auto right = [this] { return run("$('#Torque').data('plot').getAxes().xaxis.max").toDouble(); };
     const double all = right();

@@ -10,6 +10,7 @@ namespace {
 class DeviceState : public TestingFixture
 {
 protected:
+    DeviceState() { m_webEngine = HelpView::Engine::Off; }
     void SetUp() override
     {
         TestingFixture::SetUp();

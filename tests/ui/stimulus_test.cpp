@@ -12,6 +12,7 @@ constexpr int STOP_STREAM = 4;
 class Stimulus : public TestingFixture
 {
 protected:
+    Stimulus() { m_webEngine = HelpView::Engine::Off; }
     QCheckBox *box() const { return control<QCheckBox>("stimulusEnabled"); }
     void start()
     {

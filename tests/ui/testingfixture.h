@@ -6,7 +6,7 @@
 #include "windowfixture.h" // before Qt, whose keywords it uses as names
 
 #include "flotfolder.h"
-#include "helpview.h"
+#include "pagescript.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -14,7 +14,6 @@
 #include <QJsonDocument>
 #include <QSpinBox>
 #include <QStatusBar>
-#include <QWebFrame>
 
 class TestingFixture : public WindowFixture
 {
@@ -28,6 +27,7 @@ protected:
     static constexpr int TESTING_PAGE = 6;
     enum Trigger { Rise, Change, Fault, Instantly };
 
+    TestingFixture() { m_webEngine = HelpView::Engine::Allowed; }
     void SetUp() override
     {
         WindowFixture::SetUp();
@@ -75,7 +75,7 @@ protected:
         ASSERT_TRUE(waitFor([this] { return captureText() == "Start capture"; }));
         ASSERT_TRUE(waitFor([this] { return run("$('canvas.flot-base').length").toInt() > 0; }))
             << qPrintable(connectionText() + ", " + shownMessage(m_window.get()) + ", " +
-                          view()->page()->mainFrame()->toPlainText().left(80));
+                          shownText().left(80));
     }
     /// Types a target and presses "Set Abs".
     void stepTo(int target)
@@ -85,7 +85,8 @@ protected:
     }
 
     HelpView *view() const { return control<HelpView>("helpView"); }
-    QVariant run(const QString &script) const { return view()->page()->mainFrame()->evaluateJavaScript(script); }
+    QVariant run(const QString &script) const { return runScript(view(), script); }
+    QString shownText() const { return pageText(view()); }
     /// Samples (time in s, value) of a series in a chart of the plot on display.
     QVector<QPointF> samples(const char *group, int series) const
     {

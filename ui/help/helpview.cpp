@@ -29,6 +29,7 @@
 #include <QWebEngineUrlScheme>
 #include <QWebEngineUrlSchemeHandler>
 #include <QWebEngineView>
+#include <QtMath>
 #include <sched.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -44,16 +45,12 @@ constexpr int widestPicture = 1100; ///< pixels; a wider plot no longer fits a p
 constexpr int pictureLimitMs = 20000;
 constexpr int pictureStepMs = 40;
 
-/// Where local pages and their parts may come from.
+/// Local pages and their parts come from two folders. What links in them lead to is ours as well.
 bool isOwnFile(const QUrl &url)
 {
-    const QString file = QFileInfo(url.toLocalFile()).canonicalFilePath();
-    for (const char *name : {"help", "flot"}) {
-        const QString folder = QFileInfo(QDir::current().filePath(QLatin1String(name))).canonicalFilePath();
-        if (!folder.isEmpty() && file.startsWith(folder + QLatin1Char('/')))
-            return true;
-    }
-    return false;
+    const QString file = QDir::cleanPath(url.toLocalFile());
+    return file.startsWith(QDir::current().filePath(QStringLiteral("help/"))) ||
+           file.startsWith(QDir::current().filePath(QStringLiteral("flot/")));
 }
 
 bool isOwn(const QUrl &url)
@@ -216,28 +213,38 @@ private:
     {
         if (m_sinceStart.elapsed() > pictureLimitMs)
             return end(HelpView::tr("the plot could not be drawn in %1 s").arg(pictureLimitMs / 1000));
-        if (m_zoomed.isEmpty())
+        if (m_zoomed.isEmpty() || m_asking)
             return;
-        if (!m_sized) {
-            m_page.runJavaScript(QStringLiteral("window.velbrinView && velbrinView.drawn ?"
-                                                " (velbrinView.zoom(%1), document.documentElement.scrollHeight) : 0")
-                                     .arg(m_zoomed),
-                                 0, [self = QPointer<Picture>(this)](const QVariant &height) {
-                                     if (self && height.toInt() > 0)
-                                         self->setHeight(height.toInt());
-                                 });
-            return;
+        if (m_painted)
+            return compare();
+        m_asking = true;
+        const QString question = m_height == 0 ? QStringLiteral("prepareForPicture(%1)").arg(m_zoomed)
+                                               : QStringLiteral("isPainted(%1)").arg(m_height);
+        m_page.runJavaScript(
+            QStringLiteral("window.velbrinView && velbrinView.drawn ? velbrinView.%1 : 0").arg(question), 0,
+            [self = QPointer<Picture>(this)](const QVariant &answer) {
+                if (self)
+                    self->take(answer);
+            });
+    }
+
+    void take(const QVariant &answer)
+    {
+        m_asking = false;
+        if (m_height > 0) {
+            m_painted = answer.toBool();
+        } else if (answer.toInt() > 0) {
+            m_height = answer.toInt();
+            m_view.resize(m_view.width(), qCeil(m_height / m_view.devicePixelRatioF()));
         }
+    }
+
+    void compare()
+    {
         const QImage now = m_view.grab().toImage();
         if (now == m_last && !isBlank(now))
             write(now);
         m_last = now;
-    }
-
-    void setHeight(int height)
-    {
-        m_sized = true;
-        m_view.resize(m_view.width(), qRound(height / m_view.devicePixelRatioF()));
     }
 
     static bool isBlank(const QImage &image)
@@ -278,7 +285,9 @@ private:
     QTimer m_timer;
     QElapsedTimer m_sinceStart;
     QString m_zoomed;
-    bool m_sized = false;
+    int m_height = 0; ///< of the whole page, once it is drawn
+    bool m_painted = false;
+    bool m_asking = false; ///< the page has not answered yet
     QImage m_last;
 };
 
@@ -387,6 +396,7 @@ void HelpView::startEngine()
     m_engines = std::make_unique<Engines>(this);
     m_stack->addWidget(&m_engines->view);
     m_stack->setCurrentWidget(&m_engines->view);
+    setFocusProxy(&m_engines->view);
     connect(&m_engines->page, &QWebEnginePage::loadingChanged, this, [this](const QWebEngineLoadingInfo &info) {
         // "Stopped" are loads that were given up or replaced by the next.
         if (info.status() == QWebEngineLoadingInfo::LoadSucceededStatus ||

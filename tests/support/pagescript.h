@@ -1,0 +1,28 @@
+/// \file
+/// Looks into the page of a HelpView, whose engine answers through the event loop.
+#ifndef PAGESCRIPT_H
+#define PAGESCRIPT_H
+
+#include "helpview.h"
+
+#include <QTest>
+
+/// What a script in the page returns; nothing when the engine does not answer.
+inline QVariant runScript(HelpView *view, const QString &script)
+{
+    struct Answer
+    {
+        bool came = false;
+        QVariant value;
+    };
+    const auto answer = std::make_shared<Answer>();
+    view->runScript(script, [answer](const QVariant &value) { *answer = {true, value}; });
+    return QTest::qWaitFor([answer] { return answer->came; }, 10000) ? answer->value : QVariant();
+}
+
+inline QString pageText(HelpView *view)
+{
+    return runScript(view, QStringLiteral("document.body ? document.body.innerText.trim() : ''")).toString();
+}
+
+#endif
