@@ -8,6 +8,7 @@
 #include <QDebug>
 #include <QDir>
 #include <QFileDialog>
+#include <QFileIconProvider>
 #include <QFileInfo>
 #include <QMessageBox>
 #include <QPushButton>
@@ -194,6 +195,26 @@ void MW::on_load_settings_from_file_clicked()
     m_connection.command(Connection::TaskLoadSettingsFile);
 }
 
+namespace {
+
+/// Icons and type names from a file's kind and ending. The toolkit's own provider reads into the files that it lists,
+/// and would wait for ever for one that has nothing to say, such as /proc/kmsg.
+class QuickFileIcons : public QFileIconProvider
+{
+public:
+    QIcon icon(const QFileInfo &info) const override
+    {
+        return QFileIconProvider::icon(info.isDir() ? QAbstractFileIconProvider::Folder
+                                                    : QAbstractFileIconProvider::File);
+    }
+    QString type(const QFileInfo &info) const override
+    {
+        return info.isDir() ? MW::tr("Folder") : MW::tr("%1 file").arg(info.suffix());
+    }
+};
+
+} // namespace
+
 QString MW::askFile(int mode, const QString &title, QString start, const QString &filters, const QString &defaultSuffix)
 {
     if (start.startsWith(QLatin1Char('~')))
@@ -202,6 +223,8 @@ QString MW::askFile(int mode, const QString &title, QString start, const QString
     QFileDialog dialog(this, title, place.isDir() ? start : place.path(), filters);
     // The toolkit's own dialog, never the desktop's: Esc has to reach the drive from here as well.
     dialog.setOption(QFileDialog::DontUseNativeDialog);
+    QuickFileIcons icons;
+    dialog.setIconProvider(&icons);
     dialog.setAcceptMode(static_cast<QFileDialog::AcceptMode>(mode));
     dialog.setFileMode(mode == QFileDialog::AcceptSave ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
     dialog.setDefaultSuffix(defaultSuffix);

@@ -4,6 +4,7 @@
 #define PAGESCRIPT_H
 
 #include "helpview.h"
+#include "waitfor.h"
 
 #include <QTest>
 
@@ -17,7 +18,7 @@ inline QVariant runScript(HelpView *view, const QString &script)
     };
     const auto answer = std::make_shared<Answer>();
     view->runScript(script, [answer](const QVariant &value) { *answer = {true, value}; });
-    return QTest::qWaitFor([answer] { return answer->came; }, 10000) ? answer->value : QVariant();
+    return waitFor([answer] { return answer->came; }, 10000) ? answer->value : QVariant();
 }
 
 inline QString pageText(HelpView *view)

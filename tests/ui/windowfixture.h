@@ -7,6 +7,7 @@
 #include "virtualbusfixture.h" // before Qt, whose keywords it uses as names
 
 #include "loopbackhttpserver.h"
+#include "waitfor.h"
 #include "mw.h"
 #include "printqt.h"
 
@@ -22,13 +23,6 @@
 #include <QTest>
 #include <QTextEdit>
 #include <QTimer>
-
-/// Waits for a condition while the window lives on. False when the (generous) limit passed.
-inline bool waitFor(const std::function<bool()> &condition, int limitMs = 10000)
-{
-    return QTest::qWaitFor(condition, limitMs);
-}
-
 /// Answers every request with a small page that names its path, or with nothing at all while silent.
 class LoopbackWiki : public LoopbackHttpServer
 {

@@ -1,5 +1,7 @@
 #include "helpview.h"
 
+#include "wholefile.h"
+
 #include <QBuffer>
 #include <QCoreApplication>
 #include <QDir>
@@ -13,7 +15,6 @@
 #include <QMimeDatabase>
 #include <QPointer>
 #include <QQuickWindow>
-#include <QSaveFile>
 #include <QStackedLayout>
 #include <QTimer>
 #include <QWebEngineLoadingInfo>
@@ -262,13 +263,10 @@ private:
     void write(QImage image)
     {
         image.setDevicePixelRatio(1.0);
-        QSaveFile file(m_file);
         QByteArray bytes;
         QBuffer buffer(&bytes);
         image.save(&buffer, "PNG");
-        const bool written =
-            !bytes.isEmpty() && file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.commit();
-        end(written ? QString() : file.errorString());
+        end(bytes.isEmpty() ? HelpView::tr("the plot is too large for a picture") : writeWholeFile(m_file, bytes));
     }
 
     void end(const QString &failure)
