@@ -10,19 +10,15 @@ namespace sim {
 enum FaultBit : std::int32_t {
     FaultTracking = 2,
     FaultOverCurrent = 4,
-    FaultBus = 8,
     FaultFeedback = 16,
     FaultOverTemperature = 32,
     FaultUnderVoltage = 64,
     FaultOverVoltage = 128,
-    FaultFirmware = 256,
     FaultHardware = 512,
     FaultOverVelocity = 1024,
     FaultInit = 2048,
-    FaultMotion = 4096,
     FaultMotionRange = 8192,
     FaultPowerStageOff = 16384,
-    FaultInternalComm = 32768,
 };
 
 enum StatusBit : std::int32_t {

@@ -57,9 +57,10 @@ public:
     }
     std::string all()
     {
-        std::string text, next;
-        while (!(next = line()).empty())
-            text += next + "\n";
+        std::string text;
+        char part[1024];
+        while (fgets(part, sizeof part, m_output))
+            text += part;
         return text;
     }
     /// Exit status, 128 + signal when a signal ended it.

@@ -41,7 +41,6 @@ public:
     std::optional<Packet> feed(std::uint8_t byte);
     /// The line was quiet for longer than any gap within a packet: forgets what was begun.
     void reset();
-    bool midPacket() const { return !m_bytes.empty(); }
 
 private:
     std::size_t expectedLength() const;

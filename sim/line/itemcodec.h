@@ -23,9 +23,6 @@ enum class Outcome : std::int32_t { Done = 1, Refused = 2 };
 /// Length control (register 10): how return values are packed.
 enum ReturnLength : std::int32_t { Return30Bits = 0, Return22Bits = 1, Return14Bits = 2, ReturnOutcome = 3 };
 
-/// Bytes that a return value takes with this length control.
-std::size_t returnSize(std::int32_t lengthControl);
-
 /// Appends a return value; bits that do not fit are cut off.
 void appendReturnValue(Bytes &reply, std::int32_t value, std::int32_t lengthControl);
 

@@ -108,8 +108,7 @@ constexpr int DigitalInputs = 962;
 constexpr int ControlInputs = 963;
 constexpr int FaultLocation1 = 964;
 constexpr int FaultLocation2 = 965;
-constexpr int FirstDebugValue = 971;
-constexpr int LastDebugValue = 976;
+constexpr int FirstDebugValue = 971; ///< of six
 
 // Recorder
 constexpr int RecorderState = 5011;

@@ -33,12 +33,12 @@ const LiveRegister Registers[] = {
      [](Drive &d, std::int32_t v) { d.axis().inputs().controls = v; }},
     {reg::FaultLocation1, [](const Drive &d) { return d.axis().faultLocation(); }},
     {reg::FaultLocation2, [](const Drive &) { return 0; }},
-    {971, [](const Drive &d) { return d.axis().readings().debug1; }},
-    {972, [](const Drive &d) { return d.axis().readings().debug2; }},
-    {973, [](const Drive &) { return 0; }},
-    {974, [](const Drive &) { return 0; }},
-    {975, [](const Drive &) { return 0; }},
-    {976, [](const Drive &) { return 0; }},
+    {reg::FirstDebugValue, [](const Drive &d) { return d.axis().readings().debug1; }},
+    {reg::FirstDebugValue + 1, [](const Drive &d) { return d.axis().readings().debug2; }},
+    {reg::FirstDebugValue + 2, [](const Drive &) { return 0; }},
+    {reg::FirstDebugValue + 3, [](const Drive &) { return 0; }},
+    {reg::FirstDebugValue + 4, [](const Drive &) { return 0; }},
+    {reg::FirstDebugValue + 5, [](const Drive &) { return 0; }},
 };
 
 } // namespace

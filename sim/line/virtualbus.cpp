@@ -2,29 +2,7 @@
 
 #include "busworker.h"
 
-#include <set>
-
 namespace sim {
-
-namespace {
-
-constexpr int HighestAddress = 250; ///< above are the addresses of drives in firmware-upgrade mode
-
-} // namespace
-
-std::string checkDrives(const std::vector<DriveOptions> &drives)
-{
-    std::set<int> taken;
-    for (const DriveOptions &drive : drives) {
-        if (!findProfile(drive.profile))
-            return "there is no drive profile \"" + drive.profile + "\"";
-        if (drive.address < 1 || drive.address > HighestAddress)
-            return "address " + std::to_string(drive.address) + " is not between 1 and 250";
-        if (!taken.insert(drive.address).second)
-            return "two drives at address " + std::to_string(drive.address);
-    }
-    return {};
-}
 
 VirtualBus::VirtualBus(BusOptions options) : m_worker(std::make_unique<Worker>(std::move(options))) {}
 

@@ -29,7 +29,9 @@ void ServoAxis::configure(const RegisterFile &registers)
 
 void ServoAxis::powerUp()
 {
-    m_softEnable = m_forced = m_permanentStop = m_wasRunning = m_homed = m_recovering = false;
+    m_enabling = {};
+    m_path = {};
+    m_wasRunning = m_homed = false;
     m_faults = 0;
     m_faultLocation = 0;
     m_limitReason = LimitReason::None;
@@ -68,18 +70,18 @@ void ServoAxis::cycle()
     m_limit.advance(m_settings, m_motor.amperes());
     checkSupply();
     readClearInput();
-    m_brake.advance(m_settings, mayRun(), m_faults != 0 || m_inputs.safeTorqueOff || m_permanentStop);
+    m_brake.advance(m_settings, mayRun(), m_faults != 0 || m_inputs.safeTorqueOff || m_enabling.permanentStop);
     const bool isRunning = m_brake.isPowered();
     if (isRunning && !m_wasRunning)
         begin();
     m_wasRunning = isRunning;
     if (!isRunning) {
         m_homing.end(m_motor);
-        m_recovering = false;
+        m_path.isRecovering = false;
         m_nextCurrent = 0.0;
         m_loop.reset();
         m_motor.switchOff();
-        m_positionError = 0.0;
+        m_path.error = 0.0;
         return;
     }
     // What was commanded in the last cycle acts in this one.
@@ -93,8 +95,8 @@ void ServoAxis::begin()
 {
     checkSettings();
     m_loop.reset(static_cast<double>(m_velocity));
-    m_followed = static_cast<double>(m_position);
-    m_recovering = m_settings.mode == AxisSettings::Position && setpointInCounts() != m_position;
+    m_path.setpoint = static_cast<double>(m_position);
+    m_path.isRecovering = m_settings.mode == AxisSettings::Position && setpointInCounts() != m_position;
     m_trackingCycles = 0;
     m_limitReason = LimitReason::None;
     m_commutationFrom = m_motor.angle();
@@ -116,8 +118,8 @@ void ServoAxis::control()
     const double limit = currentLimitAmperes();
     if (m_settings.mode == AxisSettings::Torque && m_brake.isFree()) {
         const double wanted = torqueSetpoint();
-        m_followed = static_cast<double>(m_position);
-        m_positionError = 0.0;
+        m_path.setpoint = static_cast<double>(m_position);
+        m_path.error = 0.0;
         m_loop.reset(static_cast<double>(m_velocity));
         m_nextCurrent = std::clamp(wanted, -limit, limit) * CurrentScale;
         noteLimit(std::abs(wanted) > limit);
@@ -125,10 +127,10 @@ void ServoAxis::control()
     }
     const double free = wantedVelocity();
     const double wanted = blockedBySwitches(free);
-    m_isBlocked = wanted != free;
-    const bool isStop = m_brake.isStopping() || m_isBlocked;
+    m_path.isBlocked = wanted != free;
+    const bool isStop = m_brake.isStopping() || m_path.isBlocked;
     m_nextCurrent = m_loop.velocityControl(m_settings, wanted, static_cast<double>(m_velocity),
-                                           m_recovering ? m_settings.recoveryVelocity : m_settings.velocityLimit,
+                                           m_path.isRecovering ? m_settings.recoveryVelocity : m_settings.velocityLimit,
                                            isStop ? m_settings.stopDeceleration : m_settings.accelerationLimit,
                                            limit * CurrentScale);
     noteLimit(m_loop.isHeld());
@@ -136,9 +138,9 @@ void ServoAxis::control()
 
 double ServoAxis::wantedVelocity()
 {
-    m_positionError = 0.0;
+    m_path.error = 0.0;
     if (m_settings.mode != AxisSettings::Position || m_brake.isStopping())
-        m_followed = static_cast<double>(m_position);
+        m_path.setpoint = static_cast<double>(m_position);
     if (m_brake.isStopping())
         return 0.0;
     if (m_settings.mode == AxisSettings::Velocity)
@@ -151,39 +153,40 @@ double ServoAxis::wantedVelocity()
 /// Moves the setpoint that the position loop follows, and tells its distance and its change in this cycle.
 void ServoAxis::followSetpoint(double &error, double &change)
 {
-    const double before = m_followed;
+    const double before = m_path.setpoint;
     const double arrived = static_cast<double>(setpointInCounts());
     if (m_homing.isActive()) {
         runHoming();
-    } else if (m_recovering) {
+    } else if (m_path.isRecovering) {
         const double step = m_settings.recoveryVelocity;
-        m_followed += std::clamp(arrived - m_followed, -step, step);
-        m_recovering = m_followed != arrived;
+        m_path.setpoint += std::clamp(arrived - m_path.setpoint, -step, step);
+        m_path.isRecovering = m_path.setpoint != arrived;
     } else if (m_brake.isFree()) {
-        m_followed =
-            m_settings.flags & FlagSmoothSetpoint ? m_followed + (arrived - m_followed) / SmoothingCycles : arrived;
+        m_path.setpoint = m_settings.flags & FlagSmoothSetpoint
+                              ? m_path.setpoint + (arrived - m_path.setpoint) / SmoothingCycles
+                              : arrived;
     }
     const double position = static_cast<double>(m_position);
-    const bool ownPath = m_homing.isActive() || m_recovering || !m_brake.isFree();
-    m_positionError = (ownPath ? m_followed : arrived) - position;
-    error = m_followed - position;
+    const bool ownPath = m_homing.isActive() || m_path.isRecovering || !m_brake.isFree();
+    m_path.error = (ownPath ? m_path.setpoint : arrived) - position;
+    error = m_path.setpoint - position;
     // The jump to zero at the end of homing is none of the axis.
-    change = m_justZeroed ? 0.0 : m_followed - before;
-    m_justZeroed = false;
+    change = m_path.justZeroed ? 0.0 : m_path.setpoint - before;
+    m_path.justZeroed = false;
 }
 
 void ServoAxis::runHoming()
 {
     const bool isDone = m_homing.advance(m_settings, m_position, m_motor, controlInputs() & InputHomeSwitch);
-    m_followed = m_homing.target();
+    m_path.setpoint = m_homing.target();
     if (!isDone)
         return;
     m_homing.end(m_motor);
-    m_position -= std::llround(m_followed);
-    m_followed = 0.0;
+    m_position -= std::llround(m_path.setpoint);
+    m_path.setpoint = 0.0;
     m_setpoint = 0;
     m_homed = true;
-    m_justZeroed = true;
+    m_path.justZeroed = true;
 }
 
 /// A feed input without current stops motion in its direction.

@@ -23,7 +23,7 @@ enum AxisFlag : std::int32_t {
 struct AxisSettings
 {
     enum Mode { Position = 1, Velocity = 2, Torque = 3 };
-    enum LimitSwitch { NoSwitches = 0, StopAndHold = 1, StopWithFault = 2 };
+    enum LimitSwitch { StopAndHold = 1, StopWithFault = 2 }; ///< 0: the switches do nothing
 
     explicit AxisSettings(const RegisterFile &registers);
 

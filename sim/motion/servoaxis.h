@@ -41,7 +41,7 @@ public:
     void setSoftEnable(bool enable);
     /// Enables also where the enable input would have to pulse.
     void forceEnable();
-    bool softEnable() const { return m_softEnable; }
+    bool softEnable() const { return m_enabling.soft; }
     void setSetpoint(std::int32_t setpoint) { m_setpoint = setpoint; }
     std::int32_t setpoint() const { return m_setpoint; }
     /// Position feedback and setpoint to zero, where the axis stands.
@@ -53,7 +53,7 @@ public:
     void raiseFaults(std::int32_t bits, int location = 0);
     void clearFaults();
     /// A setting changed that only a restart makes safe again.
-    void stopPermanently() { m_permanentStop = true; }
+    void stopPermanently() { m_enabling.permanentStop = true; }
 
     // --- State ------------------------------------------------------------------------------------------------
 
@@ -68,7 +68,6 @@ public:
     std::int32_t controlInputs() const;
     std::int32_t digitalInputs() const;
     const MotorModel &motor() const { return m_motor; }
-    bool isHomed() const { return m_homed; }
 
 private:
     // servoaxis.cpp: one control cycle
@@ -117,23 +116,33 @@ private:
     HoldingBrake m_brake;
     Homing m_homing;
 
-    bool m_softEnable = false;
-    bool m_forced = false;
-    bool m_permanentStop = false;
+    struct Enabling
+    {
+        bool soft = false;          ///< asked for on the bus
+        bool forced = false;        ///< also where the enable input would have to pulse
+        bool permanentStop = false; ///< until the next power-up
+    };
+    /// Where the position loop is led. Recovering, blocked and just zeroed may all be true at once.
+    struct Path
+    {
+        double setpoint = 0.0;     ///< that the loops follow, counts
+        double error = 0.0;        ///< of the setpoint as it arrives, counts
+        bool isRecovering = false; ///< on the way to the setpoint at recovery velocity
+        bool isBlocked = false;    ///< by a limit switch
+        bool justZeroed = false;   ///< its next change is no motion
+    };
+
+    Enabling m_enabling;
+    Path m_path;
     bool m_wasRunning = false;
     bool m_homed = false;
-    bool m_recovering = false; ///< on the way to the setpoint at recovery velocity
-    bool m_isBlocked = false;  ///< by a limit switch
-    bool m_justZeroed = false;
     bool m_clearInputWasClosed = false;
     std::int32_t m_faults = 0;
     int m_faultLocation = 0;
     LimitReason m_limitReason = LimitReason::None;
 
-    std::int32_t m_setpoint = 0;  ///< setpoint units
-    double m_followed = 0.0;      ///< setpoint that the loops follow, counts
-    double m_positionError = 0.0; ///< of the setpoint as it arrives, counts
-    std::int64_t m_position = 0;  ///< as fed back
+    std::int32_t m_setpoint = 0; ///< setpoint units
+    std::int64_t m_position = 0; ///< as fed back
     std::int64_t m_lastEncoder = 0;
     std::int64_t m_velocity = 0;    ///< counts moved in the last cycle
     double m_nextCurrent = 0.0;     ///< commanded in this cycle, acts from the next one on, 1/560 A

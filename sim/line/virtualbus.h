@@ -7,6 +7,7 @@
 #ifndef SIM_VIRTUALBUS_H
 #define SIM_VIRTUALBUS_H
 
+#include "driveoptions.h"
 #include "linefault.h"
 #include "statefile.h"
 
@@ -17,13 +18,6 @@
 #include <vector>
 
 namespace sim {
-
-struct DriveOptions
-{
-    std::string profile = "keta"; ///< one of driveProfiles()
-    int address = 5;              ///< as set on the drive, 1 to 250
-    bool upgradeMode = false;     ///< starts in firmware-upgrade mode, at address 255
-};
 
 struct BusOptions
 {
@@ -105,9 +99,6 @@ private:
     struct Worker;
     std::unique_ptr<Worker> m_worker;
 };
-
-/// Checks the models and addresses of a bus. Empty when they can live together.
-std::string checkDrives(const std::vector<DriveOptions> &drives);
 
 } // namespace sim
 

@@ -112,14 +112,14 @@ double ServoAxis::velocityError() const
 
 bool ServoAxis::isTrackingNearFault() const
 {
-    return std::abs(m_positionError) > m_settings.positionErrorLimit / 2 ||
+    return std::abs(m_path.error) > m_settings.positionErrorLimit / 2 ||
            std::abs(velocityError()) > m_settings.velocityErrorLimit / 2;
 }
 
 void ServoAxis::checkTracking()
 {
     // An axis that a limit switch holds is not expected to follow.
-    const bool isFar = std::abs(m_positionError) > m_settings.positionErrorLimit && !m_isBlocked;
+    const bool isFar = std::abs(m_path.error) > m_settings.positionErrorLimit && !m_path.isBlocked;
     const bool isOff = std::abs(velocityError()) > m_settings.velocityErrorLimit;
     m_trackingCycles = isFar || isOff ? m_trackingCycles + 1 : 0;
     if (m_trackingCycles > m_settings.trackingDelay)

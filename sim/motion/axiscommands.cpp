@@ -25,24 +25,24 @@ std::int32_t rounded(double value)
 
 void ServoAxis::setSoftEnable(bool enable)
 {
-    m_softEnable = enable;
+    m_enabling.soft = enable;
     if (!enable)
-        m_forced = false;
+        m_enabling.forced = false;
 }
 
 void ServoAxis::forceEnable()
 {
-    m_softEnable = true;
-    m_forced = true;
+    m_enabling.soft = true;
+    m_enabling.forced = true;
 }
 
 void ServoAxis::zero()
 {
     m_setpoint = 0;
     m_position = 0;
-    m_followed = 0.0;
-    m_recovering = false;
-    m_justZeroed = true;
+    m_path.setpoint = 0.0;
+    m_path.isRecovering = false;
+    m_path.justZeroed = true;
     updateSignals();
 }
 
@@ -52,7 +52,7 @@ bool ServoAxis::startHoming()
     if (!mayHome || !(m_settings.homingBits & Homing::Enabled))
         return false;
     m_homed = false;
-    m_recovering = false;
+    m_path.isRecovering = false;
     m_homing.start(m_settings, m_position, m_motor);
     return true;
 }
@@ -64,8 +64,8 @@ void ServoAxis::abortHoming()
     m_homing.end(m_motor);
     // Stays where it is: what the setpoint was before has no meaning any more.
     m_setpoint = static_cast<std::int32_t>(std::lround(double(m_position) / m_settings.countsPerUnit));
-    m_followed = static_cast<double>(m_position);
-    m_recovering = true;
+    m_path.setpoint = static_cast<double>(m_position);
+    m_path.isRecovering = true;
 }
 
 void ServoAxis::raiseFaults(std::int32_t bits, int location)
@@ -110,21 +110,21 @@ std::int32_t ServoAxis::currentLimitMilliamperes() const
 
 bool ServoAxis::isEnabled() const
 {
-    const bool softEnabled = m_softEnable || !(m_settings.flags & FlagNeedsSoftEnable);
+    const bool softEnabled = m_enabling.soft || !(m_settings.flags & FlagNeedsSoftEnable);
     // Nothing here pulses the enable input.
-    const bool pulsed = m_forced || !(m_settings.flags & FlagNeedsPulses);
+    const bool pulsed = m_enabling.forced || !(m_settings.flags & FlagNeedsPulses);
     return softEnabled && pulsed && (controlInputs() & InputEnable);
 }
 
 bool ServoAxis::mayRun() const
 {
-    return isEnabled() && m_faults == 0 && !m_permanentStop && !m_inputs.safeTorqueOff && voltagesGood();
+    return isEnabled() && m_faults == 0 && !m_enabling.permanentStop && !m_inputs.safeTorqueOff && voltagesGood();
 }
 
 bool ServoAxis::isTargetReached() const
 {
-    return m_settings.mode == AxisSettings::Position && !m_homing.isActive() && !m_recovering &&
-           std::abs(m_positionError) <= NearTarget && std::abs(m_velocity) <= 1;
+    return m_settings.mode == AxisSettings::Position && !m_homing.isActive() && !m_path.isRecovering &&
+           std::abs(m_path.error) <= NearTarget && std::abs(m_velocity) <= 1;
 }
 
 std::int32_t ServoAxis::status() const
@@ -142,12 +142,12 @@ std::int32_t ServoAxis::status() const
         {isRunning, StatusRun},
         {isRunning && m_brake.isFree() && !m_homing.isActive() && isHomedAsAsked, StatusReady},
         {isRunning && isTargetReached(), StatusTargetReached},
-        {isRunning && m_recovering, StatusRecovering},
+        {isRunning && m_path.isRecovering, StatusRecovering},
         {isRunning && isTrackingNearFault(), StatusTrackingWarning},
         {m_homing.isActive(), StatusHoming},
         {m_brake.isBraking(), StatusBraking},
         {m_faults != 0, StatusFaultStopped},
-        {m_permanentStop, StatusPermanentStop},
+        {m_enabling.permanentStop, StatusPermanentStop},
         {m_inputs.safeTorqueOff, StatusSto},
     };
     std::int32_t status = 0;
@@ -173,8 +173,8 @@ void ServoAxis::updateSignals()
     m_signals.velocitySetpoint = rounded(m_loop.commandedVelocity());
     m_signals.velocity = rounded(static_cast<double>(m_velocity));
     m_signals.position = rounded(static_cast<double>(m_position));
-    m_signals.positionSetpoint = m_brake.isPowered() ? rounded(m_followed) : rounded(double(setpointInCounts()));
-    m_signals.trackingError = rounded(m_positionError);
+    m_signals.positionSetpoint = m_brake.isPowered() ? rounded(m_path.setpoint) : rounded(double(setpointInCounts()));
+    m_signals.trackingError = rounded(m_path.error);
     m_signals.outputVoltage = rounded(voltage * FullVoltage * sign);
     m_signals.busVoltage = rounded(supplyVolts() * 100.0);
     m_signals.fluxVoltage = m_brake.isPowered() ? rounded(m_motor.fluxVoltage() * FullVoltage) : 0;

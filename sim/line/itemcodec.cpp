@@ -44,11 +44,6 @@ std::vector<Item> decodeItems(const Bytes &payload)
     return items;
 }
 
-std::size_t returnSize(std::int32_t lengthControl)
-{
-    return ReturnFields[lengthControl & 3].bytes;
-}
-
 void appendReturnValue(Bytes &reply, std::int32_t value, std::int32_t lengthControl)
 {
     const Field &field = ReturnFields[lengthControl & 3];

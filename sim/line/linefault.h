@@ -9,6 +9,7 @@
 #include <deque>
 #include <random>
 #include <string>
+#include <vector>
 
 namespace sim {
 
@@ -19,6 +20,7 @@ struct LineFault
         Drop,      ///< the reply lacks its byte `at`
         Flip,      ///< one bit of byte `at` is inverted
         Double,    ///< byte `at` arrives twice
+        Twice,     ///< the whole reply arrives twice, in one piece
         Cut,       ///< the reply ends before byte `at`
         Late,      ///< the reply comes `at` milliseconds late
         Missing,   ///< executed, but the reply is lost
@@ -33,6 +35,11 @@ struct LineFault
     int at = AnyByte;
     int skip = 0;        ///< replies that still pass unharmed
     int count = Forever; ///< replies that are hit, then the line is well again
+
+    /// Every kind but None, for whoever tries them all.
+    static const std::vector<Kind> &allKinds();
+    /// As on the command line.
+    static std::string name(Kind kind);
 };
 
 /// KIND[=AT][+SKIP][xCOUNT], as in "drop", "cut=7", "late=250x1", "unplugged+40". Empty on success, else what is wrong.

@@ -19,6 +19,9 @@ struct SpecialRegister
     enum Presence { NormalOnly, UpgradeOnly, Always } presence = NormalOnly;
 
     static const SpecialRegister *find(int address, bool upgradeMode);
+
+private:
+    static const SpecialRegister Table[];
 };
 
 } // namespace sim

@@ -45,7 +45,6 @@ public:
     std::int32_t faults() const { return m_faults; }
     /// Whether the flash holds a firmware that can be started.
     bool intact() const { return m_intact; }
-    bool isProtected() const { return m_protected; }
 
     /// What has been programmed since the last erase, for comparison with what was sent.
     const std::vector<std::uint16_t> &programmedWords() const { return m_flash; }
