@@ -1,4 +1,5 @@
-// velbrin-sim as a user starts it: a process of its own.
+// velbrin-sim: its arguments, and how a user starts it: a process of its own.
+#include "simoptions.h"
 #include "testline.h"
 #include "virtualbusfixture.h"
 
@@ -7,11 +8,13 @@
 #include <fstream>
 #include <gmock/gmock.h>
 #include <iterator>
+#include <sstream>
 #include <string>
 #include <sys/wait.h>
 
 using namespace std::chrono_literals;
 using sim::Bytes;
+using sim::LineFault;
 using testing::HasSubstr;
 
 namespace {
@@ -85,7 +88,88 @@ protected:
     PrivateFolder m_folder;
 };
 
+/// As a shell would split them.
+std::string parse(const std::string &line, sim::SimOptions &options)
+{
+    std::istringstream words("velbrin-sim " + line);
+    std::vector<std::string> arguments{std::istream_iterator<std::string>(words), {}};
+    std::vector<char *> pointers;
+    for (std::string &argument : arguments)
+        pointers.push_back(argument.data());
+    pointers.push_back(nullptr);
+    return sim::parseArguments(static_cast<int>(arguments.size()), pointers.data(), options);
+}
+
 } // namespace
+
+TEST(Options, DescribeTheBus)
+{
+    sim::SimOptions options;
+    ASSERT_EQ(parse("--drive torva@7 --drive keta --drive=keta-pro --link COM1 --state s --set 6010=1077 "
+                    "--set 950=0x1000@7 --line-rate --turn-around 250 --fault cut=7+3x2 --bootloader 1205",
+                    options),
+              "");
+    ASSERT_EQ(options.bus.drives.size(), 3u);
+    EXPECT_EQ(options.bus.drives[0].address, 7);
+    EXPECT_EQ(options.bus.drives[1].address, 5);
+    EXPECT_EQ(options.bus.drives[2].address, 6) << "the next free one";
+    EXPECT_EQ(options.bus.linkPath, "COM1");
+    EXPECT_EQ(options.bus.stateFile, "s");
+    EXPECT_TRUE(options.bus.lineRate);
+    EXPECT_EQ(options.bus.turnAround.count(), 250);
+    ASSERT_EQ(options.presets.size(), 2u);
+    EXPECT_EQ(options.presets[1].value, 0x1000);
+    EXPECT_EQ(options.presets[1].drive, 7);
+    ASSERT_EQ(options.faults.size(), 1u);
+    EXPECT_EQ(options.faults[0].kind, LineFault::Cut);
+    EXPECT_EQ(options.faults[0].at, 7);
+    EXPECT_EQ(options.faults[0].skip, 3);
+    EXPECT_EQ(options.faults[0].count, 2);
+    EXPECT_EQ(options.bootloaderVersion, 1205);
+    ASSERT_EQ(parse("", options), "");
+    ASSERT_EQ(options.bus.drives.size(), 1u) << "the former arguments are forgotten";
+    EXPECT_EQ(options.bus.drives[0].profile, "keta");
+    EXPECT_EQ(options.bus.drives[0].address, 5);
+}
+
+TEST(Options, WrongOnesAreTold)
+{
+    for (const char *arguments : {"--drive keta9",
+                                  "--drive keta@0",
+                                  "--drive keta@251",
+                                  "--drive keta@x",
+                                  "--drive keta@5 --drive torva@5",
+                                  "--drive keta,",
+                                  "--drive",
+                                  "--set 6010",
+                                  "--set 6010=x",
+                                  "--set =1",
+                                  "--set 1=9999999999",
+                                  "--fault fire",
+                                  "--fault cut=",
+                                  "--fault =3",
+                                  "--fault cut=1234567",
+                                  "--fault dropx1x2",
+                                  "--fault drop+-1",
+                                  "--nonsense",
+                                  "more",
+                                  "--bootloader new",
+                                  "--turn-around -1",
+                                  "--upgrade-mode --drive keta --drive torva"}) {
+        sim::SimOptions options;
+        EXPECT_NE(parse(arguments, options), "") << arguments;
+    }
+}
+
+TEST(Options, EveryKindOfLineFaultCanBeNamedAndIsInTheHelp)
+{
+    for (const LineFault::Kind kind : LineFault::allKinds()) {
+        LineFault fault;
+        EXPECT_EQ(sim::parseLineFault(LineFault::name(kind) + "=3+4x5", fault), "");
+        EXPECT_EQ(fault.kind, kind);
+        EXPECT_THAT(sim::helpText(), HasSubstr("\n  " + LineFault::name(kind) + " "));
+    }
+}
 
 TEST_F(VelbrinSim, PrintsItsPortServesItAndRemovesItsLink)
 {

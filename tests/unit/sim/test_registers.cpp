@@ -10,12 +10,6 @@ class Registers : public DriveBench
 {
 };
 
-class TorvaRegisters : public DriveBench
-{
-protected:
-    TorvaRegisters() : DriveBench("torva") {}
-};
-
 std::int32_t limit(VirtualDrive &drive, int address, int flag)
 {
     drive.write(reg::ReturnSelector, address + flag);
@@ -26,52 +20,47 @@ std::int32_t limit(VirtualDrive &drive, int address, int flag)
 
 } // namespace
 
-TEST(Profiles, EachShowsItsIdentity)
+TEST(Profiles, EachHasItsIdentityLimitsAndOwnSettings)
 {
     const struct
     {
         const char *profile;
-        int type, firmware;
-    } expected[] = {{"keta", 11000, 1078}, {"keta-pro", 11001, 1078}, {"keta-hc", 11200, 1078}, {"torva", 4000, 1090}};
-    for (const auto &model : expected) {
+        int type, firmware, peakMaximum, overVoltageMinimum, velocityGain, busVoltage;
+        bool hasRippleCompensation, isKeta;
+    } models[] = {
+        {"keta", 11000, 1078, 35000, 1000, 360, 4800, false, true},
+        {"keta-pro", 11001, 1078, 35000, 1000, 360, 4800, true, true},
+        {"keta-hc", 11200, 1078, 50000, 1000, 360, 4800, false, true},
+        {"torva", 4000, 1090, 20000, 3000, 90, 32000, false, false},
+    };
+    ASSERT_EQ(std::size(models), driveProfiles().size()) << "a model without a row here";
+    for (const auto &model : models) {
         SCOPED_TRACE(model.profile);
         VirtualDrive drive(*findProfile(model.profile));
-        EXPECT_EQ(drive.read(6020), model.type);
-        for (const int version : {6010, 6011, 6014, 6015})
-            EXPECT_EQ(drive.read(version), model.firmware);
-        EXPECT_EQ(drive.read(2), 1);
-        EXPECT_EQ(drive.read(3), 25);
-        EXPECT_EQ(drive.read(4), 25);
-        EXPECT_EQ(drive.read(6055), 2500);
+        const std::pair<int, int> values[] = {{6020, model.type},
+                                              {6010, model.firmware},
+                                              {6011, model.firmware},
+                                              {6014, model.firmware},
+                                              {6015, model.firmware},
+                                              {2, 1},
+                                              {3, 25},
+                                              {4, 25},
+                                              {6055, 2500},
+                                              {202, model.velocityGain},
+                                              {950, model.busVoltage},
+                                              {6016, model.isKeta ? 0x1A4C7E2 : 0},
+                                              {6003, model.isKeta ? 0x1C35A90B : 0}};
+        for (const auto &[address, value] : values)
+            EXPECT_EQ(drive.read(address), value) << address;
         EXPECT_GT(drive.read(6002), 0);
+        EXPECT_EQ(limit(drive, reg::PeakCurrent, 0x8000), model.peakMaximum);
+        EXPECT_EQ(limit(drive, reg::OverVoltageLimit, 0x4000), model.overVoltageMinimum);
+        EXPECT_EQ(limit(drive, reg::ControlRate, 0x4000), 2500);
+        for (const int ripple : {424, 425, 426, 427})
+            EXPECT_EQ(drive.write(ripple, 1) == Outcome::Done, model.hasRippleCompensation) << ripple;
+        for (const int ketaOnly : {573, 14})
+            EXPECT_EQ(drive.write(ketaOnly, 1) == Outcome::Done, model.isKeta) << ketaOnly;
     }
-}
-
-TEST(Profiles, LackWhatTheModelLacks)
-{
-    VirtualDrive keta(*findProfile("keta")), pro(*findProfile("keta-pro")), torva(*findProfile("torva"));
-    for (const int ripple : {424, 425, 426, 427}) {
-        EXPECT_EQ(keta.write(ripple, 1), Outcome::Refused);
-        EXPECT_EQ(pro.write(ripple, 1), Outcome::Done);
-        EXPECT_EQ(torva.write(ripple, 1), Outcome::Refused);
-    }
-    for (const int ketaOnly : {573, 14})
-        EXPECT_EQ(torva.write(ketaOnly, 1), Outcome::Refused);
-    EXPECT_EQ(keta.read(6016), 0x1A4C7E2);
-    EXPECT_EQ(keta.read(6003), 0x1C35A90B);
-    EXPECT_EQ(torva.read(6016), 0);
-}
-
-TEST(Profiles, HaveTheirOwnLimits)
-{
-    VirtualDrive keta(*findProfile("keta")), highCurrent(*findProfile("keta-hc")), torva(*findProfile("torva"));
-    EXPECT_EQ(limit(keta, reg::PeakCurrent, 0x8000), 35000);
-    EXPECT_EQ(limit(highCurrent, reg::PeakCurrent, 0x8000), 50000);
-    EXPECT_EQ(limit(torva, reg::PeakCurrent, 0x8000), 20000);
-    EXPECT_EQ(limit(torva, reg::OverVoltageLimit, 0x4000), 3000);
-    EXPECT_EQ(limit(keta, reg::ControlRate, 0x4000), 2500);
-    EXPECT_EQ(torva.read(reg::VelocityP), 90);
-    EXPECT_EQ(torva.read(reg::BusVoltage), 32000);
 }
 
 TEST_F(Registers, RefusedWritesSetTheirErrorBitAndChangeNothing)
@@ -106,12 +95,6 @@ TEST_F(Registers, RefusedWritesSetTheirErrorBitAndChangeNothing)
     EXPECT_EQ(drive.read(reg::ErrorBits), ErrorAboveMaximum | ErrorUnknownRegister) << "bits add up until cleared";
 }
 
-TEST_F(Registers, ReadingAnUnknownRegisterIsZeroAndNoError)
-{
-    EXPECT_EQ(drive.read(9999), 0);
-    EXPECT_EQ(drive.read(reg::ErrorBits), 0);
-}
-
 TEST_F(Registers, IdleDriveLooksHealthy)
 {
     drive.advanceCycles(1);
@@ -122,6 +105,12 @@ TEST_F(Registers, IdleDriveLooksHealthy)
     EXPECT_EQ(drive.read(reg::LimitReason), 0);
     EXPECT_EQ(drive.read(reg::ControlInputs) & 7, 7) << "enable and both feed inputs closed";
     EXPECT_EQ(drive.read(reg::SoftEnable), 0);
+    EXPECT_EQ(drive.read(9999), 0) << "unknown, and no error to read";
+    EXPECT_EQ(drive.read(reg::ErrorBits), 0);
+    drive.advanceCycles(999);
+    EXPECT_EQ(drive.answer({GetClock, 5, {}})->payload, (Bytes{0xA0, 0x0F})) << "400 ms in tenths";
+    EXPECT_FALSE(drive.answer({GetClock, 6, {}})) << "another address";
+    EXPECT_FALSE(drive.answer({56, 5, {}})) << "unknown command";
 }
 
 TEST_F(Registers, ValuesCanBeSetFromOutside)
@@ -138,15 +127,15 @@ TEST_F(Registers, ValuesCanBeSetFromOutside)
     EXPECT_FALSE(drive.set(9999, 1));
 }
 
-TEST_F(Registers, SettingsComeBackFromFlashAfterARestart)
+TEST_F(Registers, RestartTakesWhatWasSaved)
 {
-    drive.write(reg::VelocityP, 400);
-    drive.write(reg::Command, 1);
-    drive.write(reg::VelocityP, 500);
+    write({{reg::VelocityP, 400}, {reg::AddressOffset, 3}, {reg::Command, 1}, {reg::VelocityP, 500}});
     drive.set(reg::Faults, FaultFeedback);
+    EXPECT_EQ(drive.address(), 5) << "saved, but not restarted";
     drive.write(reg::Command, 2);
     EXPECT_EQ(drive.read(reg::VelocityP), 400);
     EXPECT_EQ(drive.read(reg::Faults), 0);
+    EXPECT_EQ(drive.address(), 8);
 }
 
 TEST_F(Registers, RestartIsAnsweredFirstThenSilent)
@@ -159,28 +148,6 @@ TEST_F(Registers, RestartIsAnsweredFirstThenSilent)
     EXPECT_EQ(ask({0x80, 0x00}).size(), 0u) << "still silent after 1.49 s";
     drive.advance(11ms);
     EXPECT_EQ(ask({0x80, 0x00}).size(), 4u);
-}
-
-TEST_F(Registers, AddressOffsetCountsFromTheNextRestart)
-{
-    drive.write(reg::AddressOffset, 3);
-    drive.write(reg::Command, 1);
-    EXPECT_EQ(drive.address(), 5) << "saved, but not restarted";
-    drive.write(reg::Command, 2);
-    EXPECT_EQ(drive.address(), 8);
-}
-
-TEST_F(Registers, OtherAddressesAndUnknownCommandsAreNotAnswered)
-{
-    EXPECT_FALSE(drive.answer({InstantCommand, 6, {0x80, 0x00}}));
-    EXPECT_FALSE(drive.answer({56, 5, {}}));
-    EXPECT_TRUE(drive.answer({GetClock, 5, {}}));
-}
-
-TEST_F(Registers, ClockCountsTenthsOfMilliseconds)
-{
-    drive.advanceCycles(1000); // 400 ms
-    EXPECT_EQ(drive.answer({GetClock, 5, {}})->payload, (Bytes{0xA0, 0x0F}));
 }
 
 TEST_F(Registers, MeasuringGivesTheMotorsValuesUnlessEnabled)

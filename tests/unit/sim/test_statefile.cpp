@@ -1,13 +1,12 @@
-// The state file and the command line of velbrin-sim.
-#include "statefile.h"
+// The state file: what is kept, and what damaged files do.
 #include "simoptions.h"
+#include "statefile.h"
 
 #include "registers.h"
 
 #include <cstdio>
 #include <fstream>
 #include <gmock/gmock.h>
-#include <sstream>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -45,16 +44,6 @@ protected:
 private:
     std::string m_folder;
 };
-
-std::string parse(std::initializer_list<const char *> arguments, SimOptions &options)
-{
-    std::vector<char *> pointers{const_cast<char *>("velbrin-sim")};
-    for (const char *argument : arguments)
-        pointers.push_back(const_cast<char *>(argument));
-    const int count = static_cast<int>(pointers.size());
-    pointers.push_back(nullptr);
-    return parseArguments(count, pointers.data(), options);
-}
 
 } // namespace
 
@@ -138,88 +127,4 @@ TEST_F(StateFile, FolderIsNoStateFileAndAFailedSaveKeepsTheOld)
     ASSERT_EQ(loadState(path, list), "");
     EXPECT_EQ(list[0]->read(reg::VelocityP), 400);
     rmdir((path + ".new").c_str());
-}
-
-TEST(Options, DescribeTheBus)
-{
-    SimOptions options;
-    ASSERT_EQ(parse({"--drive",
-                     "torva@7",
-                     "--drive",
-                     "keta",
-                     "--drive=keta-pro",
-                     "--link",
-                     "COM1",
-                     "--state",
-                     "s",
-                     "--set",
-                     "6010=1077",
-                     "--set",
-                     "950=0x1000@7",
-                     "--line-rate",
-                     "--turn-around",
-                     "250",
-                     "--fault",
-                     "cut=7+3x2",
-                     "--bootloader",
-                     "1205"},
-                    options),
-              "");
-    ASSERT_EQ(options.bus.drives.size(), 3u);
-    EXPECT_EQ(options.bus.drives[0].address, 7);
-    EXPECT_EQ(options.bus.drives[1].address, 5);
-    EXPECT_EQ(options.bus.drives[2].address, 6) << "the next free one";
-    EXPECT_EQ(options.bus.linkPath, "COM1");
-    EXPECT_EQ(options.bus.stateFile, "s");
-    EXPECT_TRUE(options.bus.lineRate);
-    EXPECT_EQ(options.bus.turnAround.count(), 250);
-    ASSERT_EQ(options.presets.size(), 2u);
-    EXPECT_EQ(options.presets[1].value, 0x1000);
-    EXPECT_EQ(options.presets[1].drive, 7);
-    ASSERT_EQ(options.faults.size(), 1u);
-    EXPECT_EQ(options.faults[0].kind, LineFault::Cut);
-    EXPECT_EQ(options.faults[0].at, 7);
-    EXPECT_EQ(options.faults[0].skip, 3);
-    EXPECT_EQ(options.faults[0].count, 2);
-    EXPECT_EQ(options.bootloaderVersion, 1205);
-}
-
-TEST(Options, WithoutAnyThereIsOneKeta)
-{
-    SimOptions options;
-    ASSERT_EQ(parse({}, options), "");
-    ASSERT_EQ(options.bus.drives.size(), 1u);
-    EXPECT_EQ(options.bus.drives[0].profile, "keta");
-    EXPECT_EQ(options.bus.drives[0].address, 5);
-}
-
-TEST(Options, WrongOnesAreTold)
-{
-    const std::initializer_list<const char *> wrong[] = {
-        {"--drive", "keta9"},
-        {"--drive", "keta@0"},
-        {"--drive", "keta@251"},
-        {"--drive", "keta@x"},
-        {"--drive", "keta@5", "--drive", "torva@5"},
-        {"--drive"},
-        {"--set", "6010"},
-        {"--set", "6010=x"},
-        {"--set", "=1"},
-        {"--set", "1=9999999999"},
-        {"--fault", "fire"},
-        {"--fault", "cut="},
-        {"--fault", "=3"},
-        {"--fault", "cut=1234567"},
-        {"--fault", "dropx1x2"},
-        {"--fault", "drop+-1"},
-        {"--nonsense"},
-        {"more"},
-        {"--bootloader", "new"},
-        {"--turn-around", "-1"},
-        {"--upgrade-mode", "--drive", "keta", "--drive", "torva"},
-    };
-    for (const auto &arguments : wrong) {
-        SimOptions options;
-        EXPECT_NE(parse(arguments, options), "") << *arguments.begin();
-    }
 }

@@ -3,6 +3,9 @@
 
 #include "firmwarewriter.h"
 
+#include <map>
+#include <sstream>
+
 using namespace std::chrono_literals;
 using namespace sim;
 
@@ -12,17 +15,6 @@ class Upgrade : public DriveBench
 {
 protected:
     void SetUp() override { drive.powerUpInUpgradeMode(); }
-    void program(std::initializer_list<int> words)
-    {
-        for (const int word : words)
-            drive.write(reg::UpgradePipe, word);
-        drive.write(reg::UpgradeCommand, Bootloader::Program);
-    }
-    std::int32_t verify()
-    {
-        drive.write(reg::UpgradeCommand, Bootloader::Verify);
-        return drive.read(reg::Faults);
-    }
 };
 
 } // namespace
@@ -42,15 +34,6 @@ TEST_F(Upgrade, ShowsOnlyTheBootloadersRegisters)
     }
 }
 
-TEST_F(Upgrade, ProgrammedWordsAreKeptInOrderAndVerify)
-{
-    drive.write(reg::UpgradeCommand, Bootloader::Erase);
-    program({1, 2, 0xFFFF});
-    program({0xEEEE});
-    EXPECT_EQ(drive.bootloader().programmedWords(), (std::vector<std::uint16_t>{1, 2, 0xFFFF, 0xEEEE}));
-    EXPECT_EQ(verify(), 0);
-}
-
 TEST_F(Upgrade, UploadAnswersOneOutcomeAnItem)
 {
     drive.write(reg::UpgradeCommand, Bootloader::Erase);
@@ -61,28 +44,68 @@ TEST_F(Upgrade, UploadAnswersOneOutcomeAnItem)
     EXPECT_EQ(ask({0x40, 0x00, 0x63}), (Bytes{0xC2})) << "191 := 99";
 }
 
-TEST_F(Upgrade, ProgrammingWithoutAnEraseOrOntoProtectedFlashFailsVerification)
+TEST_F(Upgrade, EachBootloaderTakesItsCommandsAndTellsFailedVerification)
 {
-    program({1});
-    EXPECT_EQ(verify(), Bootloader::VerificationFailed);
-    drive.write(reg::UpgradeCommand, Bootloader::Erase);
-    program({1});
-    drive.write(reg::UpgradeCommand, Bootloader::Protect);
-    EXPECT_EQ(verify(), 0) << "an erase starts afresh, and protecting afterwards is fine";
-    program({2});
-    EXPECT_EQ(verify(), Bootloader::VerificationFailed);
-    drive.write(reg::UpgradeCommand, Bootloader::Erase);
-    program({3});
-    EXPECT_EQ(verify(), 0) << "an erase lifts the protection";
+    // Erase, word uploaded, Program, Core programmed, Verify, pRotect, Start; "-" behind a command: refused,
+    // "!": taken, and verification failed.
+    const std::map<char, int> commands = {{'E', Bootloader::Erase},       {'P', Bootloader::Program},
+                                          {'C', Bootloader::ProgramCore}, {'V', Bootloader::Verify},
+                                          {'R', Bootloader::Protect},     {'S', Bootloader::Start}};
+    const struct
+    {
+        const char *what, *profile;
+        int version;
+        const char *steps;
+    } rows[] = {
+        {"a whole upgrade", "keta", 1260, "E w P V R S"},
+        {"in two parts", "keta", 1260, "E w P w P V"},
+        {"without an erase", "keta", 1260, "w P V!"},
+        {"onto protected flash; an erase lifts that", "keta", 1260, "E w P R V w P V! E w P V"},
+        {"nothing to start", "keta", 1260, "E S- V!"},
+        {"cannot verify, starts what it was given", "keta", 1209, "E w P V- S"},
+        {"cannot protect", "keta", 1259, "E w P V R-"},
+        {"has no core", "keta", 1260, "w C-"},
+        {"has one", "torva", 1260, "E w P w C V"},
+    };
+    for (const auto &row : rows) {
+        VirtualDrive other(*findProfile(row.profile));
+        other.powerUpInUpgradeMode();
+        other.bootloader().setVersion(row.version);
+        std::istringstream steps(row.steps);
+        for (std::string step; steps >> step;) {
+            const bool isTaken = step == "w" ? other.write(reg::UpgradePipe, 1) == Outcome::Done
+                                             : other.write(reg::UpgradeCommand, commands.at(step[0])) == Outcome::Done;
+            const bool isFailed = other.isInUpgradeMode() && other.read(reg::Faults) == Bootloader::VerificationFailed;
+            EXPECT_EQ(isTaken, step.back() != '-') << row.what << ", " << step;
+            EXPECT_EQ(isFailed, step.back() == '!') << row.what << ", " << step;
+        }
+    }
+}
+
+TEST_F(Upgrade, ProgrammedWordsAreKeptInOrderForEachProcessor)
+{
+    VirtualDrive torva(*findProfile("torva"));
+    torva.powerUpInUpgradeMode();
+    torva.write(reg::UpgradeCommand, Bootloader::Erase);
+    const auto upload = [&](std::initializer_list<int> words, int command) {
+        for (const int word : words)
+            torva.write(reg::UpgradePipe, word);
+        torva.write(reg::UpgradeCommand, command);
+    };
+    upload({1, 2, 0xFFFF}, Bootloader::Program);
+    upload({0xEEEE}, Bootloader::Program);
+    upload({0x0102, 0xF00D}, Bootloader::ProgramCore);
+    EXPECT_EQ(torva.bootloader().programmedWords(), (std::vector<std::uint16_t>{1, 2, 0xFFFF, 0xEEEE}));
+    EXPECT_EQ(torva.bootloader().coreWords(), (std::vector<std::uint16_t>{0x0102, 0xF00D}));
 }
 
 TEST_F(Upgrade, StartsAtTheOneTimeAddressUntilRestarted)
 {
-    drive.write(reg::UpgradeCommand, Bootloader::Erase);
-    EXPECT_EQ(errorsOfWriting(reg::UpgradeCommand, Bootloader::Start), ErrorValueNotAllowed) << "nothing to start yet";
-    program({1});
-    verify();
-    drive.write(reg::UpgradeCommand, Bootloader::Start);
+    write({{reg::UpgradeCommand, Bootloader::Erase},
+           {reg::UpgradePipe, 1},
+           {reg::UpgradeCommand, Bootloader::Program},
+           {reg::UpgradeCommand, Bootloader::Verify},
+           {reg::UpgradeCommand, Bootloader::Start}});
     EXPECT_FALSE(drive.isInUpgradeMode());
     EXPECT_EQ(drive.address(), 16);
     EXPECT_EQ(drive.read(6010), 1078);
@@ -90,23 +113,10 @@ TEST_F(Upgrade, StartsAtTheOneTimeAddressUntilRestarted)
     EXPECT_EQ(drive.address(), 5);
 }
 
-TEST_F(Upgrade, OldBootloadersNeitherVerifyNorProtect)
-{
-    drive.bootloader().setVersion(1209);
-    drive.write(reg::UpgradeCommand, Bootloader::Erase);
-    program({1});
-    EXPECT_EQ(errorsOfWriting(reg::UpgradeCommand, Bootloader::Verify), ErrorValueNotAllowed);
-    EXPECT_EQ(errorsOfWriting(reg::UpgradeCommand, Bootloader::Start), 0) << "starts what it was given";
-    drive.powerUpInUpgradeMode();
-    drive.bootloader().setVersion(1259);
-    EXPECT_EQ(errorsOfWriting(reg::UpgradeCommand, Bootloader::Verify), 0);
-    EXPECT_EQ(errorsOfWriting(reg::UpgradeCommand, Bootloader::Protect), ErrorValueNotAllowed);
-}
-
 TEST_F(Upgrade, CutOffUpgradeComesUpInUpgradeModeAndCanBeRescued)
 {
-    drive.write(reg::UpgradeCommand, Bootloader::Erase);
-    program({1, 2});
+    write(
+        {{reg::UpgradeCommand, Bootloader::Erase}, {reg::UpgradePipe, 1}, {reg::UpgradeCommand, Bootloader::Program}});
     const Flash kept = drive.flash();
     VirtualDrive again(*findProfile("keta"));
     again.powerUp(kept);
@@ -129,17 +139,6 @@ TEST_F(Upgrade, FactoryEraseResetsTheSettings)
     drive.write(reg::Command, 64);
     drive.write(reg::UpgradeCommand, Bootloader::EraseAndResetSettings);
     EXPECT_EQ(drive.flash().settings.at(reg::VelocityP), 360);
-}
-
-TEST_F(Upgrade, OnlyTwoProcessorDrivesTakeACoreImage)
-{
-    EXPECT_EQ(errorsOfWriting(reg::UpgradeCommand, Bootloader::ProgramCore), ErrorValueNotAllowed);
-    VirtualDrive torva(*findProfile("torva"));
-    torva.powerUpInUpgradeMode();
-    torva.write(reg::UpgradePipe, 0x0102);
-    torva.write(reg::UpgradePipe, 0xF00D);
-    EXPECT_EQ(torva.write(reg::UpgradeCommand, Bootloader::ProgramCore), Outcome::Done);
-    EXPECT_EQ(torva.bootloader().coreWords(), (std::vector<std::uint16_t>{0x0102, 0xF00D}));
 }
 
 TEST(FirmwareWriter, WritesTheFormatByteForByte)
