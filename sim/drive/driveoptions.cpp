@@ -17,15 +17,19 @@ constexpr int NotGiven = 0;
 constexpr int LowestAddress = 1;
 constexpr int HighestAddress = 250; ///< above are the addresses of drives in firmware-upgrade mode
 
-std::string parseDrive(const std::string &text, DriveOptions &drive)
+std::string parseDrive(const std::string &text, const std::string &defaultLoad, DriveOptions &drive)
 {
     const std::size_t at = text.find('@');
-    drive.profile = text.substr(0, at);
+    const std::string named = text.substr(0, at);
+    const std::size_t colon = named.find(':');
+    drive.profile = named.substr(0, colon);
     long address = NotGiven;
     if (at != std::string::npos && !parseNumber(text.substr(at + 1), LowestAddress, HighestAddress, address))
         return "\"" + text + "\": the address must be a number from 1 to 250";
     drive.address = static_cast<int>(address);
-    return {};
+    if (colon == std::string::npos && defaultLoad.empty())
+        return {};
+    return parseMachine(colon == std::string::npos ? defaultLoad : named.substr(colon + 1), drive.machine);
 }
 
 /// Drives without an address come behind each other from the default address on.
@@ -56,12 +60,12 @@ bool parseNumber(const std::string &text, long minimum, long maximum, long &numb
     return errno == 0 && *end == '\0' && number >= minimum && number <= maximum;
 }
 
-std::string parseDrives(const std::string &text, std::vector<DriveOptions> &drives)
+std::string parseDrives(const std::string &text, std::vector<DriveOptions> &drives, const std::string &load)
 {
     std::vector<DriveOptions> parsed;
     std::istringstream list(text + ",");
     for (std::string one; std::getline(list, one, ',');) {
-        const std::string error = parseDrive(one, parsed.emplace_back());
+        const std::string error = parseDrive(one, load, parsed.emplace_back());
         if (!error.empty())
             return error;
     }

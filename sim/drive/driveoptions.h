@@ -3,6 +3,8 @@
 #ifndef SIM_DRIVEOPTIONS_H
 #define SIM_DRIVEOPTIONS_H
 
+#include "machine.h"
+
 #include <string>
 #include <vector>
 
@@ -13,11 +15,13 @@ struct DriveOptions
     std::string profile = "keta"; ///< one of driveProfiles()
     int address = 5;              ///< as set on the drive, 1 to 250
     bool upgradeMode = false;     ///< starts in firmware-upgrade mode, at address 255
+    Machine machine = {};         ///< what its motor turns, and how it is wired
 };
 
-/// Reads PROFILE[@ADDRESS], several of them separated by commas. Those without an address take the next free ones from
-/// 5 on. Empty on success, else what is wrong; `drives` is then unchanged.
-std::string parseDrives(const std::string &text, std::vector<DriveOptions> &drives);
+/// Reads PROFILE[:LOAD][@ADDRESS], several of them separated by commas, as in "keta:flexible=45+noise@7,torva". Those
+/// without an address take the next free ones from 5 on, those without a LOAD (see parseMachine) get `load`, the plain
+/// axis if that is empty. Empty on success, else what is wrong; `drives` is then unchanged.
+std::string parseDrives(const std::string &text, std::vector<DriveOptions> &drives, const std::string &load = {});
 
 /// Checks the models and addresses of a bus. Empty when they can live together.
 std::string checkDrives(const std::vector<DriveOptions> &drives);

@@ -15,8 +15,8 @@ constexpr int ClockUnitsPerCycle = ClockRate / CycleRate;
 
 } // namespace
 
-VirtualDrive::VirtualDrive(const DriveProfile &profile, int address)
-    : m_profile(profile), m_ownAddress(address), m_registers(profile), m_axis(profile, m_registers),
+VirtualDrive::VirtualDrive(const DriveProfile &profile, int address, const Machine &machine)
+    : m_profile(profile), m_ownAddress(address), m_registers(profile), m_axis(profile, m_registers, machine),
       m_bootloader(profile.hasIoProcessor)
 {
     powerUp({m_registers.factorySettings(), true});

@@ -42,7 +42,7 @@ public:
     static constexpr int OneTimeAddress = 16;  ///< after the bootloader has started a firmware, until the next restart
 
     /// Powers up with factory settings; see powerUp. `address` as set on the drive, 1 to 250.
-    explicit VirtualDrive(const DriveProfile &profile, int address = 5);
+    explicit VirtualDrive(const DriveProfile &profile, int address = 5, const Machine &machine = {});
 
     // --- The line ---------------------------------------------------------------------------------------------
 

@@ -41,7 +41,7 @@ std::string VirtualBus::Worker::start()
         return error;
     drives.clear();
     for (const DriveOptions &drive : options.drives)
-        drives.push_back(std::make_unique<VirtualDrive>(*findProfile(drive.profile), drive.address));
+        drives.push_back(std::make_unique<VirtualDrive>(*findProfile(drive.profile), drive.address, drive.machine));
     if (!options.stateFile.empty())
         error = loadState(options.stateFile, drives);
     if (error.empty())

@@ -86,7 +86,10 @@ void ServoAxis::clearFaults()
 std::int32_t ServoAxis::controlInputs() const
 {
     constexpr std::int32_t Inverted = InputEnable | InputPositiveFeed | InputNegativeFeed;
-    const std::int32_t inputs = m_settings.inputsNormallyOpen ? m_inputs.controls ^ Inverted : m_inputs.controls;
+    std::int32_t wired = m_inputs.controls;
+    wired &= m_machine.positiveStuck > 0.0 ? ~InputPositiveFeed : ~0;
+    wired &= m_machine.negativeStuck > 0.0 ? ~InputNegativeFeed : ~0;
+    const std::int32_t inputs = m_settings.inputsNormallyOpen ? wired ^ Inverted : wired;
     return m_homing.isSwitchClosed(m_motor) ? inputs | InputHomeSwitch : inputs;
 }
 
@@ -159,7 +162,7 @@ std::int32_t ServoAxis::status() const
 /// The supply sags under load, and rises a little while the motor brakes.
 double ServoAxis::supplyVolts() const
 {
-    return m_inputs.supplyCentivolts / 100.0 * (1.0 - SagPerWatt * m_motor.power());
+    return m_inputs.supplyCentivolts / 100.0 * (1.0 - m_sagged) * (1.0 - SagPerWatt * m_motor.power());
 }
 
 void ServoAxis::updateSignals()

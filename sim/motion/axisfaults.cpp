@@ -37,17 +37,20 @@ int ServoAxis::axisSign() const
 /// Inverted feedback alone makes the loop run away; inverting the axis turns torque and feedback together.
 int ServoAxis::feedbackSign() const
 {
-    return axisSign() * (m_settings.flags & FlagInvertFeedback ? -1 : 1);
+    const int wired = m_machine.feedbackReversed > 0.0 ? -1 : 1;
+    return axisSign() * wired * (m_settings.flags & FlagInvertFeedback ? -1 : 1);
 }
 
-/// With a wrong resolution the drive loses the rotor angle as the motor turns.
+/// With a wrong resolution the drive loses the rotor angle as the motor turns; with two phases swapped its field turns
+/// backwards, and the rotor comes to rest within an eighth of an electrical turn.
 double ServoAxis::commutation() const
 {
-    if (m_settings.feedbackLines == MotorModel::EncoderLines)
+    const bool isSwapped = m_machine.phasesSwapped > 0.0;
+    if (m_settings.feedbackLines == MotorModel::EncoderLines && !isSwapped)
         return 1.0;
     const double turns = (m_motor.angle() - m_commutationFrom) / MotorModel::CountsPerTurn;
-    const double mistaken = 1.0 - double(MotorModel::EncoderLines) / m_settings.feedbackLines;
-    return std::cos(TwoPi * MotorModel::PolePairs * turns * mistaken);
+    const double field = double(MotorModel::EncoderLines) / m_settings.feedbackLines * (isSwapped ? -1.0 : 1.0);
+    return std::cos(TwoPi * m_motor.polePairs() * turns * (1.0 - field));
 }
 
 bool ServoAxis::voltagesGood() const
@@ -74,7 +77,7 @@ void ServoAxis::checkSupply()
 /// At the first power to the motor: what is set must be what is wired.
 void ServoAxis::checkSettings()
 {
-    if (m_settings.motorType != MotorWired || m_settings.polePairs != MotorModel::PolePairs)
+    if (m_settings.motorType != MotorWired || m_settings.polePairs != static_cast<int>(m_motor.polePairs()))
         raiseFaults(FaultInit, LocationMotorSettings);
     if ((m_settings.flags & FlagHall) && (m_settings.flags & FlagHallInverted))
         raiseFaults(FaultInit, LocationHallSettings);

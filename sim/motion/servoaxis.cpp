@@ -14,9 +14,9 @@ constexpr double MillivoltsFullScale = 10000.0;
 
 } // namespace
 
-ServoAxis::ServoAxis(const DriveProfile &profile, const RegisterFile &registers)
+ServoAxis::ServoAxis(const DriveProfile &profile, const RegisterFile &registers, const Machine &machine)
     : m_ticksPerCycle(profile.recorderRate / CycleRate), m_tickSeconds(1.0 / profile.recorderRate),
-      m_settings(registers), m_motor(profile.winding)
+      m_settings(registers), m_machine(machine), m_motor(profile.winding, machine), m_noise(std::uint32_t(machine.seed))
 {
     m_inputs.supplyCentivolts = profile.winding.busCentivolts;
     updateSignals();
@@ -53,13 +53,20 @@ void ServoAxis::tick()
         cycle();
     m_tick = (m_tick + 1) % m_ticksPerCycle;
 
-    MotorModel::Load load;
-    load.torque = m_inputs.loadTorque;
-    load.locked = m_inputs.locked || m_brake.isClosed();
-    load.commutation = commutation();
-    m_motor.step(m_tickSeconds, load);
+    m_motor.step(m_tickSeconds, load());
     updateSignals();
     checkOverCurrent();
+}
+
+MotorModel::Load ServoAxis::load() const
+{
+    const bool isSlipping = m_machine.brakeSlip > 0.0;
+    MotorModel::Load load;
+    load.torque = m_inputs.loadTorque;
+    load.locked = m_inputs.locked || (m_brake.isClosed() && !isSlipping);
+    load.brakeTorque = m_brake.isClosed() ? m_machine.brakeSlip : 0.0;
+    load.commutation = commutation();
+    return load;
 }
 
 /// Everything that happens once in 0.4 ms.
@@ -68,6 +75,7 @@ void ServoAxis::cycle()
     readAnalogSetpoint();
     measure();
     m_limit.advance(m_settings, m_motor.amperes());
+    sagSupply();
     checkSupply();
     readClearInput();
     m_brake.advance(m_settings, mayRun(), m_faults != 0 || m_inputs.safeTorqueOff || m_enabling.permanentStop);
@@ -107,10 +115,25 @@ void ServoAxis::begin()
 /// Position feedback: what the encoder moved since the last cycle, with the signs that the settings give it.
 void ServoAxis::measure()
 {
-    const std::int64_t encoder = m_motor.counts();
+    const std::int64_t encoder = readEncoder();
     m_velocity = (encoder - m_lastEncoder) * feedbackSign();
     m_lastEncoder = encoder;
     m_position += m_velocity;
+}
+
+std::int64_t ServoAxis::readEncoder()
+{
+    if (m_machine.encoderNoise == 0.0)
+        return m_motor.counts();
+    return static_cast<std::int64_t>(std::floor(m_motor.angle() + m_machine.encoderNoise * m_noise.next()));
+}
+
+/// A weak supply gives way while the motor has power, and comes back as slowly.
+void ServoAxis::sagSupply()
+{
+    constexpr double Deepest = 0.6;
+    const double step = m_machine.sag / 100.0 / CycleRate;
+    m_sagged = std::clamp(m_sagged + (m_brake.isPowered() ? step : -step), 0.0, Deepest);
 }
 
 void ServoAxis::control()

@@ -13,7 +13,9 @@
 #include "driveprofile.h"
 #include "holdingbrake.h"
 #include "homing.h"
+#include "machine.h"
 #include "motormodel.h"
+#include "noise.h"
 
 namespace sim {
 
@@ -22,7 +24,8 @@ class RegisterFile;
 class ServoAxis
 {
 public:
-    ServoAxis(const DriveProfile &profile, const RegisterFile &registers);
+    /// `machine`: what the motor turns and how it is wired; the plain axis where nothing is said.
+    ServoAxis(const DriveProfile &profile, const RegisterFile &registers, const Machine &machine = {});
 
     /// Takes over settings. They act from the next control cycle on.
     void configure(const RegisterFile &registers);
@@ -74,6 +77,9 @@ private:
     void cycle();
     void begin();
     void measure();
+    std::int64_t readEncoder();
+    void sagSupply();
+    MotorModel::Load load() const;
     void control();
     double wantedVelocity();
     void followSetpoint(double &error, double &change);
@@ -110,7 +116,9 @@ private:
     AxisSettings m_settings;
     AxisInputs m_inputs;
     AxisSignals m_signals;
+    Machine m_machine;
     MotorModel m_motor;
+    Noise m_noise;
     ControlLoop m_loop;
     CurrentLimit m_limit;
     HoldingBrake m_brake;
@@ -147,6 +155,7 @@ private:
     std::int64_t m_velocity = 0;    ///< counts moved in the last cycle
     double m_nextCurrent = 0.0;     ///< commanded in this cycle, acts from the next one on, 1/560 A
     double m_supplyVolts = 0.0;     ///< in this cycle
+    double m_sagged = 0.0;          ///< share of the supply that is gone
     double m_commutationFrom = 0.0; ///< where the rotor angle was known
     int m_trackingCycles = 0;
     int m_tick = 0; ///< base periods into the cycle

@@ -12,7 +12,7 @@ namespace {
 struct Arguments
 {
     std::vector<std::string> drives, sets, faults;
-    std::string link, state, turnAround, bootloader, firmware;
+    std::string load, link, state, turnAround, bootloader, firmware;
     bool lineRate = false;
     bool upgradeMode = false;
     bool help = false;
@@ -38,9 +38,12 @@ void addOptions(CLI::App &app, Arguments &typed)
         app.add_option(name, target, help)->type_name(type)->option_text(type)->allow_extra_args(false);
     };
     app.set_help_flag();
-    list("--drive", typed.drives, "PROFILE[@ADDRESS]",
+    list("--drive", typed.drives, "PROFILE[:LOAD][@ADDRESS]",
          "a drive on the bus, at the next free address from 5 on if none\n"
          "is given; may be repeated. Without it there is one keta at 5");
+    value("--load", typed.load, "NAME[=NUMBER][+...]",
+          "what the motors turn and how they are wired, for each drive\n"
+          "that names none itself: \"flexible=45+noise\"");
     value("--link", typed.link, "PATH",
           "a link to the port, removed at the end. Velbrin opens names\n"
           "that begin with \"COM\" or \"/dev/tty\", so \"--link COM1\" suits a\n"
@@ -69,7 +72,8 @@ void describe(CLI::App &app)
     app.description("Virtual servo drives with motors on a serial bus: a place to try Velbrin without hardware.\n"
                     "Prints the name of the port to connect to, then serves it until it is interrupted (Ctrl+C).\n");
     app.get_formatter()->column_width(Column);
-    app.footer(profileHelp() + "\nKinds of bad lines:\n" + lineFaultHelp());
+    app.footer(profileHelp() + "\nLoads (with the number that stands for none given):\n" + machineHelp() +
+               "\nKinds of bad lines:\n" + lineFaultHelp());
 }
 
 /// REGISTER=VALUE[@ADDRESS]
@@ -91,11 +95,10 @@ std::string parsePreset(const std::string &text, std::vector<PresetRegister> &pr
 /// The drives: all of them at once, so that those without an address know which ones are taken.
 std::string takeDrives(const Arguments &typed, BusOptions &bus)
 {
-    if (!typed.drives.empty()) {
-        const std::string error = parseDrives(CLI::detail::join(typed.drives, ","), bus.drives);
-        if (!error.empty())
-            return "--drive: " + error;
-    }
+    const std::string drives = typed.drives.empty() ? DriveOptions().profile : CLI::detail::join(typed.drives, ",");
+    const std::string error = parseDrives(drives, bus.drives, typed.load);
+    if (!error.empty())
+        return (typed.drives.empty() ? "--load: " : "--drive: ") + error;
     if (typed.upgradeMode && bus.drives.size() > 1)
         return "--upgrade-mode takes a single drive: in that mode all drives answer at address 255";
     bus.drives.front().upgradeMode = typed.upgradeMode;

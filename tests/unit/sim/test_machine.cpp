@@ -1,0 +1,380 @@
+// Axes that misbehave: each does so by the figure that it was given.
+#include "drivebench.h"
+
+#include <algorithm>
+#include <cmath>
+#include <gmock/gmock.h>
+
+using namespace sim;
+
+namespace {
+
+constexpr double Pi = 3.14159265358979;
+constexpr double CountsPerRadian = 10000.0 / (2.0 * Pi);
+
+Machine machine(const std::string &text)
+{
+    Machine made;
+    EXPECT_EQ(parseMachine(text, made), "");
+    return made;
+}
+
+struct Axis : VirtualDrive
+{
+    explicit Axis(const std::string &load, const Writes &settings = {})
+        : VirtualDrive(*findProfile("keta"), 5, machine(load))
+    {
+        for (const auto &[address, value] : settings)
+            EXPECT_EQ(write(address, value), Outcome::Done) << address;
+    }
+    void enable()
+    {
+        write(reg::SoftEnable, 1);
+        advanceCycles(5);
+    }
+    /// Where it is after this setpoint and this many cycles.
+    int moved(int setpoint, int cycles = 2500)
+    {
+        write(reg::SetpointAbsolute, setpoint);
+        advanceCycles(cycles);
+        return read(reg::PositionFeedback);
+    }
+    double amperes() { return read(reg::OutputCurrent) / 560.0; }
+};
+
+/// One value a control cycle.
+template <typename Value> std::vector<double> record(Axis &axis, int cycles, Value value)
+{
+    std::vector<double> values;
+    for (int cycle = 0; cycle < cycles; ++cycle) {
+        axis.advanceCycles(1);
+        values.push_back(value());
+    }
+    return values;
+}
+
+double mean(const std::vector<double> &values)
+{
+    double sum = 0.0;
+    for (const double value : values)
+        sum += value;
+    return sum / double(values.size());
+}
+
+double rms(const std::vector<double> &values)
+{
+    const double middle = mean(values);
+    double sum = 0.0;
+    for (const double value : values)
+        sum += (value - middle) * (value - middle);
+    return std::sqrt(sum / double(values.size()));
+}
+
+/// Amplitude at a frequency, Hz, under a Hann window.
+double amplitude(const std::vector<double> &values, double frequency)
+{
+    const double middle = mean(values), count = double(values.size());
+    double sine = 0.0, cosine = 0.0;
+    for (std::size_t i = 0; i < values.size(); ++i) {
+        const double window = 1.0 - std::cos(2.0 * Pi * double(i) / count);
+        sine += window * (values[i] - middle) * std::sin(2.0 * Pi * frequency * double(i) / CycleRate);
+        cosine += window * (values[i] - middle) * std::cos(2.0 * Pi * frequency * double(i) / CycleRate);
+    }
+    return 2.0 / count * std::hypot(sine, cosine);
+}
+
+/// The strongest frequency near this one, Hz.
+double strongest(const std::vector<double> &values, double near)
+{
+    double best = near, highest = 0.0;
+    for (double share = 0.9; share < 1.1; share += 0.001) {
+        const double here = amplitude(values, near * share);
+        if (here > highest) {
+            highest = here;
+            best = near * share;
+        }
+    }
+    return best;
+}
+
+/// Change of speed in each cycle as torque, Nm.
+std::vector<double> accelerationTorque(Axis &axis, int cycles, double inertia)
+{
+    double before = axis.axis().motor().velocity();
+    return record(axis, cycles, [&, inertia] {
+        const double now = axis.axis().motor().velocity();
+        const double torque = (now - before) / CountsPerRadian * CycleRate * CycleRate * inertia;
+        before = now;
+        return torque;
+    });
+}
+
+} // namespace
+
+TEST(Machine, NamesJoinAndWrongOnesAreTold)
+{
+    const Machine parsed = machine("flexible=45+damping=0.01+noise+stuck-negative");
+    EXPECT_EQ(parsed.springHz, 45.0);
+    EXPECT_EQ(parsed.springDamping, 0.01);
+    EXPECT_EQ(parsed.encoderNoise, 2.0);
+    EXPECT_EQ(parsed.negativeStuck, 1.0);
+    EXPECT_EQ(parsed.dryFriction, Machine().dryFriction);
+    for (const char *wrong : {"", "rubber", "flexible=", "flexible=x", "flexible=60Hz", "flexible=0", "flexible=9999",
+                              "noise=nan", "noise=0,5", "noise+", "damping", "ratio=3"}) {
+        Machine untouched;
+        EXPECT_NE(parseMachine(wrong, untouched), "") << wrong;
+        EXPECT_EQ(untouched.springHz, 0.0) << wrong;
+    }
+}
+
+TEST(Machine, ResonanceDampingAndInertiaRatioAreWhereTheyWereSet)
+{
+    const struct
+    {
+        const char *load;
+        double hertz, damping, ratio;
+    } rows[] = {
+        {"flexible=20", 20, 0.02, 2},
+        {"flexible", 60, 0.02, 2},
+        {"flexible=60+damping=0.005+ratio=0.5", 60, 0.005, 0.5},
+        {"flexible=150+damping=0.01+ratio=10", 150, 0.01, 10},
+        {"flexible=400+damping=0.002", 400, 0.002, 2},
+        {"flexible=1000+damping=0.001", 1000, 0.001, 2},
+    };
+    for (const auto &row : rows) {
+        SCOPED_TRACE(row.load);
+        // Turning freely after a jolt of torque, the motor's speed rings at the resonance.
+        // Without viscous friction, which would damp the swing, too.
+        Axis axis(std::string(row.load) + "+viscous=0", {{reg::ControlMode, 3}});
+        axis.enable();
+        axis.write(reg::SetpointAbsolute, 4000);
+        axis.advanceCycles(50);
+        axis.write(reg::SetpointAbsolute, 102); // what friction takes, so that the speed stays
+        axis.advanceCycles(25);
+        const auto speed = record(axis, 2000, [&] { return axis.axis().motor().velocity(); });
+        EXPECT_NEAR(strongest(speed, row.hertz), row.hertz, 0.005 * row.hertz);
+        // The swing decays by exp(-2 pi f d t).
+        const std::vector<double> early(speed.begin(), speed.begin() + 1000), late(speed.begin() + 1000, speed.end());
+        const double decay = std::log(amplitude(early, row.hertz) / amplitude(late, row.hertz)) / (1000.0 / CycleRate);
+        EXPECT_NEAR(decay / (2.0 * Pi * row.hertz), row.damping, 0.1 * row.damping + 0.0005);
+
+        // With the motor held, the load swings alone: slower by the root of 1 + ratio.
+        Axis held(row.load);
+        held.axis().inputs().locked = true;
+        held.axis().inputs().loadTorque = 0.5;
+        const std::vector<double> swing = record(held, 2500, [&] { return held.axis().motor().loadAngle(); });
+        const double alone = row.hertz / std::sqrt(1.0 + row.ratio);
+        EXPECT_NEAR(strongest(swing, alone), alone, 0.005 * alone);
+    }
+}
+
+TEST(Machine, TheStiffestSpringStaysStableForMinutes)
+{
+    Axis axis("flexible=1000+damping=0+ratio=20+hanging");
+    axis.enable();
+    axis.advanceCycles(2500 * 60);
+    EXPECT_NEAR(axis.axis().motor().loadAngle(), axis.axis().motor().angle(), 50.0);
+}
+
+TEST(Machine, SpringMakesAGainUnstableThatThePlainAxisTakes)
+{
+    const auto lateSwing = [](const char *load, int gain) {
+        Axis axis(load, {{reg::VelocityP, gain}});
+        axis.enable();
+        axis.moved(1000);
+        const auto positions = record(axis, 500, [&] { return double(axis.read(reg::PositionFeedback)); });
+        const auto [low, high] = std::minmax_element(positions.begin(), positions.end());
+        return *high - *low;
+    };
+    EXPECT_EQ(lateSwing("dry=0.02", 1200), 0);
+    EXPECT_EQ(lateSwing("flexible", 360), 0) << "quiet at the default gain";
+    EXPECT_GT(lateSwing("flexible", 650), 50);
+}
+
+TEST(Machine, BacklashIsThePlayBetweenBothFlanks)
+{
+    const auto playUnder = [](const char *load, double torque) {
+        Axis axis(load);
+        axis.axis().inputs().locked = true;
+        double sides[2];
+        for (const int side : {0, 1}) {
+            axis.axis().inputs().loadTorque = side ? -torque : torque;
+            axis.advanceCycles(20000); // until it has come to rest
+            sides[side] = axis.axis().motor().loadAngle();
+        }
+        return sides[1] - sides[0];
+    };
+    // The spring gives way by itself: k = w² J r / (1 + r)², here 300 Hz, or 60 Hz where it is said.
+    const auto wound = [](double hertz, double torque) {
+        return 2.0 * torque / (4.0 * Pi * Pi * hertz * hertz * 1e-4 * 2.0 / 9.0) * CountsPerRadian;
+    };
+    EXPECT_NEAR(playUnder("backlash=100", 0.1), 100.0 + wound(300, 0.1), 0.5);
+    EXPECT_NEAR(playUnder("backlash=1000", 0.1), 1000.0 + wound(300, 0.1), 0.5);
+    EXPECT_NEAR(playUnder("flexible=60", 0.1), wound(60, 0.1), 0.5);
+    EXPECT_NEAR(playUnder("flexible=60+backlash=100", 0.1), 100.0 + wound(60, 0.1), 0.5);
+}
+
+TEST(Machine, HangingLoadFallsUnlessMotorOrBrakeHoldIt)
+{
+    const Writes brake = {{reg::BrakeReleaseDelay, 50}, {reg::BrakeEngageDelay, 50}};
+    const struct
+    {
+        const char *load;
+        Writes settings;
+        int lowest, highest; ///< 0.2 s after the disable
+    } rows[] = {
+        {"hanging", {}, -60000, -40000}, // to the ground, five turns down
+        {"hanging+flexible", {}, -60000, -40000},
+        {"hanging", brake, -2, 2},
+        {"hanging+slipping=0.6", brake, -2, 2},
+        {"hanging+slipping=0.3", brake, -3500, -1500}, // sinks: 0.2 - 0.02 Nm against a drag of 0.02 Nm s
+        {"hanging=0.01", {}, -2, 2},                   // friction holds that
+    };
+    for (const auto &row : rows) {
+        SCOPED_TRACE(testing::Message() << row.load << (row.settings.empty() ? "" : " with brake"));
+        Axis axis(row.load, row.settings);
+        axis.advanceCycles(2500);
+        EXPECT_EQ(axis.read(reg::PositionFeedback), 0) << "propped up until the motor is powered";
+        axis.enable();
+        axis.moved(0, 2500);
+        EXPECT_NEAR(axis.read(reg::PositionFeedback), 0, 2);
+        EXPECT_NEAR(axis.amperes(), machine(row.load).hanging / 0.1, 0.25) << "0.1 Nm an ampere, and friction";
+        axis.write(reg::SoftEnable, 0);
+        axis.advanceCycles(125); // until the brake has closed
+        axis.advanceCycles(500);
+        EXPECT_GE(axis.read(reg::PositionFeedback), row.lowest);
+        EXPECT_LE(axis.read(reg::PositionFeedback), row.highest);
+        EXPECT_EQ(axis.read(reg::Faults), 0);
+    }
+}
+
+TEST(Machine, FrictionAndInertiaTakeTheirTorque)
+{
+    const struct
+    {
+        const char *load;
+        double dry, viscous, inertia;
+    } rows[] = {{"dry=0.02", 0.02, 1e-4, 1e-4},
+                {"dry=0.15", 0.15, 1e-4, 1e-4},
+                {"viscous=0.002", 0.02, 2e-3, 1e-4},
+                {"inertia=0.0003+dry=0.1", 0.1, 1e-4, 3e-4},
+                {"flexible=200+damping=0.1", 0.02, 1e-4, 1e-4}};
+    for (const auto &row : rows) {
+        SCOPED_TRACE(row.load);
+        // At a steady speed the current is friction alone: 100 and 200 counts a cycle, 0.1 Nm an ampere.
+        double torque[2];
+        for (const int fast : {0, 1}) {
+            Axis axis(row.load,
+                      {{reg::ControlMode, 2}, {reg::VelocityErrorLimit, 32767}, {reg::AccelerationLimit, 32}});
+            axis.enable();
+            axis.moved(fast ? 16384 : 8192, 10000);
+            torque[fast] = 0.1 * mean(record(axis, 2500, [&] { return axis.axis().motor().amperes(); }));
+        }
+        const double speed = 100.0 * CycleRate / CountsPerRadian;
+        EXPECT_NEAR((torque[1] - torque[0]) / speed, row.viscous, 0.01 * row.viscous);
+        EXPECT_NEAR(2.0 * torque[0] - torque[1], row.dry, 0.02 * row.dry + 0.0005);
+        // And what a torque of 0.4 Nm leaves over speeds the inertia up.
+        Axis axis(row.load, {{reg::ControlMode, 3}});
+        axis.enable();
+        axis.moved(2048, 20);
+        const auto driving = accelerationTorque(axis, 50, row.inertia);
+        const double turning = axis.axis().motor().velocity() * CycleRate / CountsPerRadian;
+        EXPECT_NEAR(mean(driving), 0.4 - row.dry - row.viscous * turning / 1.5, 0.02);
+    }
+}
+
+TEST(Machine, RippleAndCoggingComeAsOftenAndAsStrongAsSaid)
+{
+    // At 3000 rpm friction alone is against the torque: what changes within a turn is the motor's own. One value a
+    // cycle at 50 turns a second, 24 cogs or ripples a turn: 1200 Hz.
+    const auto changing = [](const char *load) {
+        Axis axis(load, {{reg::ControlMode, 3}, {reg::OverSpeedLimit, 32767}});
+        axis.enable();
+        axis.moved(2048, 1); // 4 A
+        std::vector<double> torques;
+        for (int tick = 0; tick < 1600; ++tick) {
+            const double before = axis.axis().motor().velocity();
+            axis.advance(std::chrono::microseconds(50));
+            torques.push_back((axis.axis().motor().velocity() - before) / CountsPerRadian * CycleRate * 20000.0 * 1e-4);
+        }
+        const auto [low, high] = std::minmax_element(torques.begin() + 200, torques.end());
+        return std::pair(*low, *high);
+    };
+    const auto [plainLow, plainHigh] = changing("dry=0.02");
+    const auto [rippleLow, rippleHigh] = changing("ripple=0.1");
+    const auto [cogLow, cogHigh] = changing("cogging=0.05");
+    EXPECT_LT(plainHigh - plainLow, 0.03);
+    EXPECT_NEAR((rippleHigh - rippleLow) - (plainHigh - plainLow), 2 * 0.1 * 0.4, 0.01);
+    EXPECT_NEAR((cogHigh - cogLow) - (plainHigh - plainLow), 2 * 0.05, 0.01);
+
+    // Unpowered, a cog holds the shaft against what friction alone would not: within a 24th of a turn.
+    for (const double torque : {0.045, 0.08}) {
+        Axis axis("cogging=0.05");
+        axis.axis().inputs().loadTorque = torque;
+        axis.advanceCycles(2500);
+        EXPECT_EQ(axis.axis().motor().angle() < -10000.0 / 24, torque > 0.05 + 0.02) << torque;
+    }
+}
+
+TEST(Machine, NoiseHasItsSizeAndIsTheSameEachTime)
+{
+    const auto positions = [](const char *load) {
+        Axis axis(load);
+        return record(axis, 5000, [&] { return double(axis.read(reg::PositionFeedback)); });
+    };
+    EXPECT_EQ(rms(positions("dry=0.02")), 0.0);
+    const std::vector<double> noise = positions("noise=5");
+    EXPECT_NEAR(rms(noise), 5.0, 0.15);
+    EXPECT_NEAR(mean(noise), 0.0, 0.5 + 0.3) << "a count is rounded downwards, and no drift";
+    EXPECT_EQ(noise, positions("noise=5"));
+    EXPECT_NE(noise, positions("noise=5+seed=3"));
+}
+
+TEST(Machine, SupplySagsWhilePoweredAndComesBack)
+{
+    Axis axis("sag=2"); // of 48 V a second
+    axis.advanceCycles(2500);
+    EXPECT_EQ(axis.read(reg::BusVoltage), 4800);
+    axis.enable();
+    axis.advanceCycles(2500 * 5);
+    EXPECT_NEAR(axis.read(reg::BusVoltage), 4800 * 0.9, 2);
+    axis.advanceCycles(2500 * 8);
+    EXPECT_EQ(axis.read(reg::Faults), FaultUnderVoltage);
+    axis.write(reg::SoftEnable, 0);
+    axis.advanceCycles(2500 * 15);
+    EXPECT_EQ(axis.read(reg::BusVoltage), 4800);
+}
+
+TEST(Machine, WiringFaultsShowTheirSignsAndCanBeSetRight)
+{
+    const struct
+    {
+        const char *load;
+        Writes settings;
+        std::int32_t faults;
+        int setpoint, lowest, highest; ///< where it comes to
+    } rows[] = {
+        {"reversed", {}, FaultTracking, 1000, RegisterMinimum, 0}, // it runs away
+        {"reversed", {{reg::Flags, 0x0009}}, 0, 1000, 1000, 1000},
+        {"poles=3", {}, FaultInit, 1000, 0, 0},
+        {"poles=3", {{reg::PolePairs, 3}}, 0, 1000, 1000, 1000},
+        // The field turns backwards: any torque ends at an eighth of an electrical turn (312 counts), give or take
+        // friction.
+        {"swapped", {{reg::ControlMode, 3}}, 0, 1024, 290, 335},
+        {"swapped", {{reg::ControlMode, 3}}, 0, -2048, -335, -290},
+        {"swapped", {}, FaultTracking, 1990, RegisterMinimum, RegisterMaximum},
+        {"stuck-positive", {}, 0, 1000, 1000, 1000},
+        {"stuck-positive", {{reg::LimitSwitches, 1}}, 0, 1000, 0, 0},
+        {"stuck-negative", {{reg::LimitSwitches, 1}}, 0, 1000, 1000, 1000},
+        {"stuck-negative", {{reg::LimitSwitches, 2}}, FaultMotionRange, 1000, 0, 0},
+    };
+    for (const auto &row : rows) {
+        SCOPED_TRACE(testing::Message() << row.load << " to " << row.setpoint << ", settings: " << row.settings.size());
+        Axis axis(row.load, row.settings);
+        axis.enable();
+        const int position = axis.moved(row.setpoint);
+        EXPECT_EQ(axis.read(reg::Faults), row.faults);
+        EXPECT_GE(position, row.lowest);
+        EXPECT_LE(position, row.highest);
+    }
+}
