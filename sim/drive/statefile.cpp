@@ -2,6 +2,7 @@
 
 #include <cerrno>
 #include <cstdio>
+#include <cstdlib>
 #include <cstring>
 #include <fstream>
 #include <map>
@@ -52,12 +53,32 @@ bool readLine(const std::string &text, Sections &sections, Flash *&section)
     return false;
 }
 
+/// The file behind a link of one's own, or the path itself. A link that somebody else has put there, as anybody can in
+/// a folder for all, is not followed: it would have their file read, or one of ours overwritten.
+std::string resolve(const std::string &path, std::string &file)
+{
+    struct stat info
+    {
+    };
+    file = path;
+    if (lstat(path.c_str(), &info) != 0 || !S_ISLNK(info.st_mode))
+        return {};
+    if (info.st_uid != geteuid() && info.st_uid != 0)
+        return path + ": a link that belongs to somebody else";
+    char *const real = realpath(path.c_str(), nullptr);
+    if (!real)
+        return path + ": " + std::strerror(errno);
+    file = real;
+    std::free(real);
+    return {};
+}
+
 std::string readSections(const std::string &path, Sections &sections)
 {
     struct stat info
     {
     };
-    if (stat(path.c_str(), &info) != 0)
+    if (lstat(path.c_str(), &info) != 0)
         return errno == ENOENT ? std::string() : path + ": " + std::strerror(errno);
     if (!S_ISREG(info.st_mode))
         return path + ": not a file";
@@ -87,7 +108,9 @@ std::string writeWhole(const std::string &path, const std::string &contents)
         unlink(temporary.c_str());
         return error;
     };
-    std::FILE *file = std::fopen(temporary.c_str(), "w");
+    // Made anew: whatever has this name, a link above all, is not written through.
+    unlink(temporary.c_str());
+    std::FILE *file = std::fopen(temporary.c_str(), "wx");
     if (!file)
         return temporary + ": " + std::strerror(errno);
     bool good = std::fwrite(contents.data(), 1, contents.size(), file) == contents.size();
@@ -101,7 +124,10 @@ std::string writeWhole(const std::string &path, const std::string &contents)
 std::string loadState(const std::string &path, Drives &drives)
 {
     Sections sections;
-    const std::string error = readSections(path, sections);
+    std::string file;
+    std::string error = resolve(path, file);
+    if (error.empty())
+        error = readSections(file, sections);
     if (!error.empty())
         return error;
     for (const auto &drive : drives) {
@@ -115,7 +141,11 @@ std::string loadState(const std::string &path, Drives &drives)
 std::string saveState(const std::string &path, const Drives &drives)
 {
     Sections sections;
-    readSections(path, sections); // of drives that are elsewhere now; a file that cannot be read is replaced
+    std::string file;
+    const std::string error = resolve(path, file);
+    if (!error.empty())
+        return error;
+    readSections(file, sections); // of drives that are elsewhere now; a file that cannot be read is replaced
     for (const auto &drive : drives)
         sections[{drive->profile().name, drive->ownAddress()}] = drive->flash();
     std::ostringstream text;
@@ -127,7 +157,7 @@ std::string saveState(const std::string &path, const Drives &drives)
         for (const auto &[address, value] : flash.settings)
             text << address << '=' << value << '\n';
     }
-    return writeWhole(path, text.str());
+    return writeWhole(file, text.str());
 }
 
 } // namespace sim

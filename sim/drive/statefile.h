@@ -17,7 +17,8 @@ namespace sim {
 using Drives = std::vector<std::unique_ptr<VirtualDrive>>;
 
 /// Powers up every drive that the file knows (by model and address) with what it kept. A file that does not exist is an
-/// empty one. Returns the error text, empty on success; after an error no drive has changed.
+/// empty one, a link is followed if it is the user's own. Returns the error text, empty on success; after an error no
+/// drive has changed.
 std::string loadState(const std::string &path, Drives &drives);
 
 /// Replaces the file as a whole, or leaves the old one. Sections of drives that are not on the bus now are kept.

@@ -48,7 +48,7 @@ public:
     VirtualBus &operator=(const VirtualBus &) = delete;
 
     /// Unknown model, an address out of range or taken twice, a damaged state file, no pseudo terminal, a link path
-    /// that is taken by something else than a link.
+    /// that is taken by something else than a link, or by a virtual bus that is running.
     std::string start();
     void stop();
     /// The port to open, e.g. "/dev/pts/3". Changes when it is plugged in anew.

@@ -47,7 +47,8 @@ void addOptions(CLI::App &app, Arguments &typed)
     value("--link", typed.link, "PATH",
           "a link to the port, removed at the end. Velbrin opens names\n"
           "that begin with \"COM\" or \"/dev/tty\", so \"--link COM1\" suits a\n"
-          "program started in this folder");
+          "program started in this folder. The link of a simulator that is\n"
+          "running is not taken over");
     value("--state", typed.state, "FILE", "keep the drives' flash in this file from run to run");
     list("--set", typed.sets, "REG=VALUE[@ADDRESS]",
          "set a register at start, on one drive or on all: settings,\n"

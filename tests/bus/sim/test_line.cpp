@@ -258,16 +258,27 @@ TEST(VirtualBus, RefusesWhatCannotBe)
     EXPECT_THAT(error({{"keta", 5}}, "", "COM1"), testing::HasSubstr("not a file"));
 }
 
-TEST(VirtualBus, LeavesALinkAloneThatAnotherBusTookOver)
+TEST(VirtualBus, TakesALeftOverLinkButNeverThatOfARunningBus)
 {
     PrivateFolder folder;
     sim::BusOptions options;
     options.linkPath = "COM1";
+    std::filesystem::create_symlink("/dev/pts/987654", "COM1");
     sim::VirtualBus first(options), second(options);
     ASSERT_EQ(first.start(), "");
-    ASSERT_EQ(second.start(), "");
+    EXPECT_THAT(second.start(), testing::HasSubstr("COM1: a virtual drive that is running"));
+    EXPECT_EQ(std::filesystem::read_symlink("COM1").string(), first.portName());
+    const TestLine user("COM1"); // a program that has the port open changes nothing
+    EXPECT_THAT(second.start(), testing::HasSubstr("is running"));
+    first.unplug();
+    EXPECT_EQ(first.plugIn(), "") << "its own link";
     first.stop();
-    EXPECT_EQ(std::filesystem::read_symlink("COM1").string(), second.portName());
+    ASSERT_EQ(second.start(), "");
+    // Somebody else has taken the name over since: it stays.
+    std::filesystem::remove("COM1");
+    std::filesystem::create_symlink("/dev/pts/987654", "COM1");
+    second.stop();
+    EXPECT_TRUE(std::filesystem::is_symlink("COM1"));
 }
 
 TEST(VirtualBus, StopsAndStartsAgain)

@@ -212,6 +212,20 @@ TEST_F(VelbrinSim, DamagedStateFileOrImpossibleRegisterIsTold)
     EXPECT_EQ(preset.end(), 1);
 }
 
+TEST_F(VelbrinSim, LinkOfARunningSimulatorIsRefusedAndOfAKilledOneReplaced)
+{
+    Program first({"--link", "COM1"});
+    const std::string port = first.line();
+    Program second({"--link", "COM1"});
+    EXPECT_THAT(second.line(), HasSubstr("COM1: a virtual drive that is running has this name (" + port + ")"));
+    EXPECT_EQ(second.end(), 1);
+    EXPECT_EQ(std::filesystem::read_symlink("COM1").string(), port);
+    EXPECT_EQ(first.end(SIGKILL), 128 + SIGKILL);
+    Program third({"--link", "COM1"});
+    EXPECT_EQ(third.line(), std::filesystem::read_symlink("COM1").string());
+    EXPECT_EQ(third.end(SIGTERM), 0);
+}
+
 TEST_F(VelbrinSim, KilledHalfWayThroughAnUpgradeItComesUpInUpgradeMode)
 {
     const Bytes erase{0x24, 0x06, 0xFF, 0x80, 0xBF, 0x00, 0x00, 0x00, 0x01, 0xEF, 0xFF}; // 191 := 1 at 255

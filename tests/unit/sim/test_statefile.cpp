@@ -128,3 +128,36 @@ TEST_F(StateFile, FolderIsNoStateFileAndAFailedSaveKeepsTheOld)
     EXPECT_EQ(list[0]->read(reg::VelocityP), 400);
     rmdir((path + ".new").c_str());
 }
+
+TEST_F(StateFile, PlantedLinksAreNotWrittenThroughAndOwnOnesAreKept)
+{
+    const std::string victim = path + ".victim";
+    std::ofstream(victim) << "precious";
+    Drives list = drives({{"keta", 5}});
+    // Where the temporary will be.
+    ASSERT_EQ(symlink(victim.c_str(), (path + ".new").c_str()), 0);
+    EXPECT_EQ(saveState(path, list), "");
+    std::string contents;
+    std::getline(std::ifstream(victim), contents);
+    EXPECT_EQ(contents, "precious");
+    EXPECT_EQ(loadState(path, list), "");
+
+    // One's own link to a state file elsewhere.
+    const std::string link = path + ".link";
+    ASSERT_EQ(symlink(path.c_str(), link.c_str()), 0);
+    list[0]->write(reg::VelocityP, 433);
+    list[0]->write(reg::Command, 1);
+    EXPECT_EQ(saveState(link, list), "");
+    Drives again = drives({{"keta", 5}});
+    EXPECT_EQ(loadState(path, again), "");
+    EXPECT_EQ(again[0]->read(reg::VelocityP), 433) << "written behind the link, which is still one";
+
+    // Somebody else's: only root can make one for a test.
+    constexpr uid_t Somebody = 65534;
+    if (lchown(link.c_str(), Somebody, Somebody) == 0) {
+        EXPECT_THAT(saveState(link, list), HasSubstr("belongs to somebody else"));
+        EXPECT_THAT(loadState(link, list), HasSubstr("belongs to somebody else"));
+    }
+    std::remove(link.c_str());
+    std::remove(victim.c_str());
+}
