@@ -13,8 +13,7 @@ constexpr double FullVoltage = 16383.0; // the whole bus voltage
 constexpr double FullDuty = 16384.0;    // 100 %
 constexpr double ThirdOfTurn = 2.0943951023931953;
 constexpr double QuarterTurn = 1.5707963267948966;
-constexpr double SagPerWatt = 2.0e-5; ///< share of the supply lost per watt taken: a fiftieth at a kilowatt
-constexpr double NearTarget = 5.0;    ///< counts
+constexpr double NearTarget = 5.0; ///< counts
 
 std::int32_t rounded(double value)
 {
@@ -83,29 +82,6 @@ void ServoAxis::clearFaults()
     m_signals.faults = 0;
 }
 
-std::int32_t ServoAxis::controlInputs() const
-{
-    constexpr std::int32_t Inverted = InputEnable | InputPositiveFeed | InputNegativeFeed;
-    std::int32_t wired = m_inputs.controls;
-    wired &= m_machine.positiveStuck > 0.0 ? ~InputPositiveFeed : ~0;
-    wired &= m_machine.negativeStuck > 0.0 ? ~InputNegativeFeed : ~0;
-    const std::int32_t inputs = m_settings.inputsNormallyOpen ? wired ^ Inverted : wired;
-    return m_homing.isSwitchClosed(m_motor) ? inputs | InputHomeSwitch : inputs;
-}
-
-/// The encoder's lines and the Hall sensors, as they follow the shaft.
-std::int32_t ServoAxis::digitalInputs() const
-{
-    constexpr std::int32_t EncoderA = 512, EncoderB = 1024, HallU = 8192;
-    const std::int64_t quarter = m_motor.counts() & 3;
-    std::int32_t bits = (quarter == 1 || quarter == 2 ? EncoderA : 0) | (quarter >= 2 ? EncoderB : 0);
-    for (int phase = 0; phase < 3; ++phase) {
-        if (std::sin(m_motor.electricalAngle() - phase * ThirdOfTurn) > 0.0)
-            bits |= HallU << phase;
-    }
-    return bits;
-}
-
 std::int32_t ServoAxis::currentLimitMilliamperes() const
 {
     return rounded(currentLimitAmperes() * 1000.0);
@@ -157,12 +133,6 @@ std::int32_t ServoAxis::status() const
     for (const auto &bit : bits)
         status |= bit.isSet ? bit.bit : 0;
     return status;
-}
-
-/// The supply sags under load, and rises a little while the motor brakes.
-double ServoAxis::supplyVolts() const
-{
-    return m_inputs.supplyCentivolts / 100.0 * (1.0 - m_sagged) * (1.0 - SagPerWatt * m_motor.power());
 }
 
 void ServoAxis::updateSignals()

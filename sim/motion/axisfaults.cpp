@@ -25,33 +25,8 @@ enum Location {
 
 constexpr int MotorWired = 3;   ///< three-phase AC
 constexpr int EncoderWired = 1; ///< quadrature
-constexpr double TwoPi = 6.283185307179586;
 
 } // namespace
-
-int ServoAxis::axisSign() const
-{
-    return m_settings.flags & FlagInvertAxis ? -1 : 1;
-}
-
-/// Inverted feedback alone makes the loop run away; inverting the axis turns torque and feedback together.
-int ServoAxis::feedbackSign() const
-{
-    const int wired = m_machine.feedbackReversed > 0.0 ? -1 : 1;
-    return axisSign() * wired * (m_settings.flags & FlagInvertFeedback ? -1 : 1);
-}
-
-/// With a wrong resolution the drive loses the rotor angle as the motor turns; with two phases swapped its field turns
-/// backwards, and the rotor comes to rest within an eighth of an electrical turn.
-double ServoAxis::commutation() const
-{
-    const bool isSwapped = m_machine.phasesSwapped > 0.0;
-    if (m_settings.feedbackLines == MotorModel::EncoderLines && !isSwapped)
-        return 1.0;
-    const double turns = (m_motor.angle() - m_commutationFrom) / MotorModel::CountsPerTurn;
-    const double field = double(MotorModel::EncoderLines) / m_settings.feedbackLines * (isSwapped ? -1.0 : 1.0);
-    return std::cos(TwoPi * m_motor.polePairs() * turns * (1.0 - field));
-}
 
 bool ServoAxis::voltagesGood() const
 {

@@ -58,17 +58,6 @@ void ServoAxis::tick()
     checkOverCurrent();
 }
 
-MotorModel::Load ServoAxis::load() const
-{
-    const bool isSlipping = m_machine.brakeSlip > 0.0;
-    MotorModel::Load load;
-    load.torque = m_inputs.loadTorque;
-    load.locked = m_inputs.locked || (m_brake.isClosed() && !isSlipping);
-    load.brakeTorque = m_brake.isClosed() ? m_machine.brakeSlip : 0.0;
-    load.commutation = commutation();
-    return load;
-}
-
 /// Everything that happens once in 0.4 ms.
 void ServoAxis::cycle()
 {
@@ -119,21 +108,6 @@ void ServoAxis::measure()
     m_velocity = (encoder - m_lastEncoder) * feedbackSign();
     m_lastEncoder = encoder;
     m_position += m_velocity;
-}
-
-std::int64_t ServoAxis::readEncoder()
-{
-    if (m_machine.encoderNoise == 0.0)
-        return m_motor.counts();
-    return static_cast<std::int64_t>(std::floor(m_motor.angle() + m_machine.encoderNoise * m_noise.next()));
-}
-
-/// A weak supply gives way while the motor has power, and comes back as slowly.
-void ServoAxis::sagSupply()
-{
-    constexpr double Deepest = 0.6;
-    const double step = m_machine.sag / 100.0 / CycleRate;
-    m_sagged = std::clamp(m_sagged + (m_brake.isPowered() ? step : -step), 0.0, Deepest);
 }
 
 void ServoAxis::control()

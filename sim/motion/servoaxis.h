@@ -77,9 +77,6 @@ private:
     void cycle();
     void begin();
     void measure();
-    std::int64_t readEncoder();
-    void sagSupply();
-    MotorModel::Load load() const;
     void control();
     double wantedVelocity();
     void followSetpoint(double &error, double &change);
@@ -95,13 +92,18 @@ private:
     // axiscommands.cpp
     bool mayRun() const;
     bool isTargetReached() const;
-    double supplyVolts() const;
     void updateSignals();
 
-    // axisfaults.cpp
+    // axiswiring.cpp
     int axisSign() const;
     int feedbackSign() const;
+    std::int64_t readEncoder();
+    double supplyVolts() const;
+    void sagSupply();
     double commutation() const;
+    MotorModel::Load load() const;
+
+    // axisfaults.cpp
     bool voltagesGood() const;
     double velocityError() const;
     bool isTrackingNearFault() const;
