@@ -90,27 +90,33 @@ TEST(Machine, FrictionAndInertiaTakeTheirTorque)
 
 TEST(Machine, RippleAndCoggingComeAsOftenAndAsStrongAsSaid)
 {
-    // At 3000 rpm friction alone is against the torque: what changes within a turn is the motor's own. One value a
-    // cycle at 50 turns a second, 24 cogs or ripples a turn: 1200 Hz.
-    const auto changing = [](const char *load) {
-        Axis axis(load, {{reg::ControlMode, 3}, {reg::OverSpeedLimit, 32767}});
+    const struct
+    {
+        const char *load;
+        double swing; ///< Nm from lowest to highest
+        bool comesOften;
+    } rows[] = {{"dry=0.02", 0.0, false}, {"ripple=0.1", 2 * 0.1 * 0.4, true}, {"cogging=0.05", 2 * 0.05, true}};
+    for (const auto &row : rows) {
+        SCOPED_TRACE(row.load);
+        // 4 A speed it up; from tick to tick, what makes it faster is its torque less friction, which grows a little.
+        Axis axis(row.load, {{reg::ControlMode, 3}, {reg::OverSpeedLimit, 32767}});
         axis.enable();
-        axis.moved(2048, 1); // 4 A
+        axis.moved(2048, 15);
+        const double from = axis.axis().motor().angle();
         std::vector<double> torques;
-        for (int tick = 0; tick < 1600; ++tick) {
+        for (int tick = 0; tick < 1000; ++tick) {
             const double before = axis.axis().motor().velocity();
             axis.advance(std::chrono::microseconds(50));
             torques.push_back((axis.axis().motor().velocity() - before) / CountsPerRadian * CycleRate * 20000.0 * 1e-4);
         }
-        const auto [low, high] = std::minmax_element(torques.begin() + 200, torques.end());
-        return std::pair(*low, *high);
-    };
-    const auto [plainLow, plainHigh] = changing("dry=0.02");
-    const auto [rippleLow, rippleHigh] = changing("ripple=0.1");
-    const auto [cogLow, cogHigh] = changing("cogging=0.05");
-    EXPECT_LT(plainHigh - plainLow, 0.03);
-    EXPECT_NEAR((rippleHigh - rippleLow) - (plainHigh - plainLow), 2 * 0.1 * 0.4, 0.01);
-    EXPECT_NEAR((cogHigh - cogLow) - (plainHigh - plainLow), 2 * 0.05, 0.01);
+        const auto [low, high] = std::minmax_element(torques.begin(), torques.end());
+        EXPECT_NEAR(*high - *low, row.swing, 0.025);
+        int rises = 0;
+        for (std::size_t i = 1; i < torques.size(); ++i)
+            rises += torques[i - 1] < mean(torques) && torques[i] >= mean(torques);
+        const double turns = (axis.axis().motor().angle() - from) / 10000.0;
+        EXPECT_NEAR(rises, row.comesOften ? 24.0 * turns : 0.0, 1.0) << turns << " turns";
+    }
 
     // Unpowered, a cog holds the shaft against what friction alone would not: within a 24th of a turn.
     for (const double torque : {0.045, 0.08}) {

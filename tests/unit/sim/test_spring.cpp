@@ -28,7 +28,7 @@ TEST(Spring, ResonanceDampingAndInertiaRatioAreWhereTheyWereSet)
         axis.write(reg::SetpointAbsolute, 102); // what friction takes, so that the speed stays
         axis.advanceCycles(25);
         const auto speed = record(axis, 2000, [&] { return axis.axis().motor().velocity(); });
-        EXPECT_NEAR(strongest(speed, row.hertz), row.hertz, 0.005 * row.hertz);
+        EXPECT_NEAR(strongest(speed, row.hertz), row.hertz, 0.002 * row.hertz);
         // The swing decays by exp(-2 pi f d t).
         const std::vector<double> early(speed.begin(), speed.begin() + 1000), late(speed.begin() + 1000, speed.end());
         const double decay = std::log(amplitude(early, row.hertz) / amplitude(late, row.hertz)) / (1000.0 / CycleRate);
@@ -40,7 +40,7 @@ TEST(Spring, ResonanceDampingAndInertiaRatioAreWhereTheyWereSet)
         held.axis().inputs().loadTorque = 0.5;
         const std::vector<double> swing = record(held, 2500, [&] { return held.axis().motor().loadAngle(); });
         const double alone = row.hertz / std::sqrt(1.0 + row.ratio);
-        EXPECT_NEAR(strongest(swing, alone), alone, 0.005 * alone);
+        EXPECT_NEAR(strongest(swing, alone), alone, 0.002 * alone);
     }
 }
 
@@ -88,4 +88,14 @@ TEST(Spring, BacklashIsThePlayBetweenBothFlanks)
     EXPECT_NEAR(playUnder("backlash=1000", 0.1), 1000.0 + wound(300, 0.1), 0.5);
     EXPECT_NEAR(playUnder("flexible=60", 0.1), wound(60, 0.1), 0.5);
     EXPECT_NEAR(playUnder("flexible=60+backlash=100", 0.1), 100.0 + wound(60, 0.1), 0.5);
+}
+
+TEST(Spring, FlanksWithPlayPushAndNeverPull)
+{
+    const SwingingLoad stiff(machine("backlash=100+damping=0.7")), joined(machine("flexible=300+damping=0.7"));
+    const double touching = 60.0 / CountsPerRadian, away = -1000.0; // beyond the play of 50 each way, and fleeing
+    EXPECT_EQ(stiff.torque(touching, away), 0.0);
+    EXPECT_LT(joined.torque(touching, away), 0.0) << "what is joined does";
+    EXPECT_GT(stiff.torque(touching, 0.0), 0.0);
+    EXPECT_LT(stiff.torque(-touching, 0.0), 0.0);
 }
