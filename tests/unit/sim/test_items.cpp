@@ -16,62 +16,59 @@ class Items : public DriveBench
 {
 };
 
-// Register 202 (KVP) is 360 = 0x168 on a fresh Keta.
-constexpr std::uint8_t SelectorHigh = 0x80, SelectorLow = 0x09; // select register 9
-constexpr std::uint8_t LengthHigh = 0x80, LengthLow = 0x0A;     // select register 10
+// Writing register 9 (80 09) chooses what each item returns, register 10 (80 0A) in which length.
+struct Exchange
+{
+    const char *what;
+    Bytes request, reply;
+    bool isFresh = false; ///< on a drive just switched on
+};
+
+// Register 202 = 0xCA (KVP) is 360 = 0x168, 411 = 0x19B (MMC) goes from 0 to 35000 = 0x88B8.
+const Exchange Exchanges[] = {
+    {"register 0 in four bytes at power-on", {0x80, 0x09, 0x40, 0x00, 0xCA}, {0, 0, 0, 0, 0, 0, 0x01, 0x68}, true},
+    {"then in three", {0x80, 0x0A, 0x40, 0x00, 0x01}, {0x00, 0x00, 0x01, 0x68, 0x40, 0x01, 0x68}},
+    {"in two", {0x40, 0x00, 0x02}, {0x81, 0x68}},
+    {"as an outcome", {0x40, 0x00, 0x03}, {0xC1}},
+    {"register 0 refuses writes", {0x80, 0x00, 0x40, 0x00, 0x01}, {0xC1, 0xC2}},
+    {"a value of 30 bits",
+     {0x80, 0x09, 0x40, 0x03, 0x43, 0x80, 0x0A, 0x40, 0x00, 0x00},
+     {0, 0, 0, 0, 0x22, 0x32, 0x9B, 0x00, 0x22, 0x32, 0x9B, 0x00, 0x22, 0x32, 0x9B, 0x00},
+     true}, // HHL, set below
+    {"is cut to 22", {0x40, 0x00, 0x01}, {0x72, 0x9B, 0x00}},
+    {"and to 14", {0x40, 0x00, 0x02}, {0x9B, 0x00}},
+    {"the minimum", {0x80, 0x09, 0x40, 0x41, 0x9B}, {0, 0, 0, 0, 0, 0, 0, 0}, true},
+    {"the maximum", {0x40, 0x81, 0x9B}, {0x00, 0x00, 0x88, 0xB8}},
+    {"the maximum, as a negative 22 bits", {0x7F, 0x81, 0x9B}, {0x00, 0x00, 0x88, 0xB8}},
+    {"a negative minimum, CAO", {0x40, 0x42, 0x33}, {0x3F, 0xFF, 0xC0, 0x00}},
+    {"of what is read-only", {0x40, 0x97, 0x84}, {0x1F, 0xFF, 0xFF, 0xFF}},
+    {"of what does not exist", {0x40, 0x83, 0xE7}, {0x00, 0x00, 0x00, 0x00}},
+    {"CAO itself", {0x40, 0x02, 0x33}, {0x00, 0x00, 0x00, 0x00}},
+    {"-1 in 22 bits", {0x82, 0x33, 0x7F, 0xFF, 0xFF}, {0, 0, 0, 0, 0x3F, 0xFF, 0xFF, 0xFF}},
+    {"-16384 in 30", {0x3F, 0xFF, 0xC0, 0x00}, {0x3F, 0xFF, 0xC0, 0x00}},
+};
 
 } // namespace
 
-TEST_F(Items, EveryItemYieldsOneReturnValueOfTheSelectedLength)
+TEST_F(Items, EveryItemYieldsOneReturnValueOfTheSelectedRegisterAndLength)
 {
-    // At power-on the selector stands on register 0 and the length control on four bytes.
-    EXPECT_EQ(ask({SelectorHigh, SelectorLow, 0x40, 0x00, 0xCA}), (Bytes{0, 0, 0, 0, 0x00, 0x00, 0x01, 0x68}));
-    EXPECT_EQ(ask({LengthHigh, LengthLow, 0x40, 0x00, 0x01}), (Bytes{0x00, 0x00, 0x01, 0x68, 0x40, 0x01, 0x68}));
-    EXPECT_EQ(ask({0x40, 0x00, 0x02}), (Bytes{0x81, 0x68}));
-    EXPECT_EQ(ask({0x40, 0x00, 0x03}), (Bytes{0xC1}));
-    EXPECT_EQ(ask({0x80, 0x00, 0x40, 0x00, 0x01}), (Bytes{0xC1, 0xC2})) << "register 0 refuses writes";
-}
-
-TEST_F(Items, BitsThatDoNotFitAreCutOff)
-{
-    drive.set(sim::reg::HighLimit, -500000000); // 0xE2329B00
-    ask({SelectorHigh, SelectorLow, 0x40, 0x03, 0x43, LengthHigh, LengthLow});
-    EXPECT_EQ(ask({0x40, 0x00, 0x00}), (Bytes{0x22, 0x32, 0x9B, 0x00}));
-    EXPECT_EQ(ask({0x40, 0x00, 0x01}), (Bytes{0x72, 0x9B, 0x00}));
-    EXPECT_EQ(ask({0x40, 0x00, 0x02}), (Bytes{0x9B, 0x00}));
+    for (const Exchange &exchange : Exchanges) {
+        if (exchange.isFresh)
+            startAfresh();
+        drive.set(sim::reg::HighLimit, -500000000); // 0xE2329B00
+        EXPECT_EQ(ask(exchange.request), exchange.reply) << exchange.what;
+    }
 }
 
 TEST_F(Items, WalkingTheSelectorReadsOneRegisterAnItem)
 {
     // 27 registers in one exchange fill the reply to the last byte.
-    Bytes request{LengthHigh, LengthLow, 0x40, 0x00, 0x00, SelectorHigh, SelectorLow};
+    Bytes request{0x80, 0x0A, 0x40, 0x00, 0x00, 0x80, 0x09};
     for (int i = 0; i < 27; ++i)
         request.insert(request.end(), {0x40, 0x00, std::uint8_t(i % 2 ? 0xC8 : 0xC9)}); // 200 (KVI), 201 (KPP)
     const Bytes reply = ask(request);
     ASSERT_EQ(reply.size(), 120u);
     EXPECT_EQ(Bytes(reply.begin() + 12, reply.begin() + 20), (Bytes{0, 0, 0, 0x78, 0, 0, 0x01, 0x68}));
-}
-
-TEST_F(Items, FlagsInTheSelectorReturnLimits)
-{
-    ask({SelectorHigh, SelectorLow});
-    // MMC, register 411 = 0x19B: 0 to 35000; its minimum as the master sends it, and its maximum as a negative 22 bits.
-    EXPECT_EQ(ask({0x40, 0x41, 0x9B}), (Bytes{0x00, 0x00, 0x00, 0x00}));
-    EXPECT_EQ(ask({0x40, 0x81, 0x9B}), (Bytes{0x00, 0x00, 0x88, 0xB8}));
-    EXPECT_EQ(ask({0x7F, 0x81, 0x9B}), (Bytes{0x00, 0x00, 0x88, 0xB8}));
-    // TRA1-like negative minimum: CAO, register 563 = 0x233.
-    EXPECT_EQ(ask({0x40, 0x42, 0x33}), (Bytes{0x3F, 0xFF, 0xC0, 0x00}));
-    // Read-only: 0 to 536870911. Unknown: 0.
-    EXPECT_EQ(ask({0x40, 0x97, 0x84}), (Bytes{0x1F, 0xFF, 0xFF, 0xFF}));
-    EXPECT_EQ(ask({0x40, 0x83, 0xE7}), (Bytes{0x00, 0x00, 0x00, 0x00}));
-}
-
-TEST_F(Items, ValuesAreSignedInTheirField)
-{
-    ask({0x82, 0x33, 0x7F, 0xFF, 0xFF}); // CAO := -1 in 22 bits
-    EXPECT_EQ(drive.read(sim::reg::SetpointOffset), -1);
-    ask({0x3F, 0xFF, 0xC0, 0x00}); // := -16384 in 30 bits
-    EXPECT_EQ(drive.read(sim::reg::SetpointOffset), -16384);
 }
 
 TEST_F(Items, TooManyReturnValuesAreNeverCutShort)
@@ -82,11 +79,9 @@ TEST_F(Items, TooManyReturnValuesAreNeverCutShort)
 
 TEST_F(Items, InstantAndBufferedCommandsKeepSeparateCopies)
 {
-    ask({SelectorHigh, SelectorLow, 0x40, 0x00, 0xCA, LengthHigh, LengthLow, 0x40, 0x00,
-         0x01}); // instant: 202, 3 bytes
+    ask({0x80, 0x09, 0x40, 0x00, 0xCA, 0x80, 0x0A, 0x40, 0x00, 0x01}); // instant: 202, 3 bytes
     // Buffered: selector 201 in two bytes, then select 551. Executed in the next cycle.
-    ask({SelectorHigh, SelectorLow, 0x40, 0x00, 0xC9, LengthHigh, LengthLow, 0x40, 0x00, 0x02, 0x82, 0x27},
-        sim::BufferedCommand);
+    ask({0x80, 0x09, 0x40, 0x00, 0xC9, 0x80, 0x0A, 0x40, 0x00, 0x02, 0x82, 0x27}, sim::BufferedCommand);
     drive.advanceCycles(1);
     EXPECT_EQ(ask({0x80, 0x00}), (Bytes{0x40, 0x01, 0x68})) << "the instant copy has not moved";
     EXPECT_EQ(ask({}, sim::BufferedCommand), (Bytes{0, 0, 0, 0, 0, 0, 0, 0x78, 0, 0, 0, 0x78, 0x80, 0x78, 0x80, 0x78}));
@@ -95,23 +90,16 @@ TEST_F(Items, InstantAndBufferedCommandsKeepSeparateCopies)
 TEST(Packets, RequestIsTakenOnlyWithTheRightChecksum)
 {
     sim::RequestParser parser;
-    const Bytes clockRequest{0x50, 0x03, 0x7C, 0x01};
-    std::optional<sim::Packet> packet;
-    for (const std::uint8_t byte : clockRequest)
-        packet = parser.feed(byte);
-    ASSERT_TRUE(packet);
-    EXPECT_EQ(packet->id, 0x50);
-    EXPECT_EQ(packet->address, 3);
-    for (const std::uint8_t byte : {0x50, 0x03, 0x7C, 0x02})
-        EXPECT_FALSE(parser.feed(std::uint8_t(byte)));
-    for (const std::uint8_t byte : clockRequest)
-        packet = parser.feed(byte);
-    EXPECT_TRUE(packet) << "a bad packet does not spoil the next";
-}
-
-TEST(Packets, EmptyVariablePacketGoesStraightToTheChecksum)
-{
-    EXPECT_THAT(sim::frame({0x25, 0x05, {}}), ElementsAre(0x25, 0x00, 0x05, 0xD1, 0xC8));
+    const auto taken = [&](const Bytes &bytes) {
+        std::optional<sim::Packet> packet;
+        for (const std::uint8_t byte : bytes)
+            packet = parser.feed(byte);
+        return packet ? std::pair(int(packet->id), int(packet->address)) : std::pair(0, 0);
+    };
+    EXPECT_EQ(taken({0x50, 0x03, 0x7C, 0x01}), std::pair(0x50, 3));
+    EXPECT_EQ(taken({0x50, 0x03, 0x7C, 0x02}), std::pair(0, 0));
+    EXPECT_EQ(taken({0x50, 0x03, 0x7C, 0x01}), std::pair(0x50, 3)) << "a bad packet does not spoil the next";
+    EXPECT_THAT(sim::frame({0x25, 0x05, {}}), ElementsAre(0x25, 0x00, 0x05, 0xD1, 0xC8)) << "empty payload";
 }
 
 TEST(Endurance, RandomRequestsNeverHurtARunningDrive)

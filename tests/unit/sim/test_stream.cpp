@@ -18,31 +18,30 @@ protected:
 
 TEST_F(Stream, EverySetpointTakesAPeriodAndEverythingElseNoTime)
 {
-    drive.write(reg::StreamPeriod, 200); // 20 ms
-    setUp();
-    for (int i = 1; i <= 3; ++i)
-        setpoint(i * 10);
-    EXPECT_EQ(freeBytes(), 2048 - 8 * 4);
-    drive.advanceCycles(1);
-    EXPECT_EQ(drive.read(reg::SetpointInUse), 10) << "set-up and first setpoint in the first cycle";
-    EXPECT_EQ(freeBytes(), 2048 - 2 * 4);
-    drive.advanceCycles(49);
-    EXPECT_EQ(drive.read(reg::SetpointInUse), 10);
-    drive.advanceCycles(1);
-    EXPECT_EQ(drive.read(reg::SetpointInUse), 20) << "20 ms later";
-    drive.advanceCycles(50);
-    EXPECT_EQ(drive.read(reg::SetpointInUse), 30);
-    EXPECT_EQ(freeBytes(), 2048);
-}
-
-TEST_F(Stream, OddPeriodsKeepTheirMeanRate)
-{
-    drive.write(reg::StreamPeriod, 10); // 1 ms, two and a half cycles
-    setUp();
-    for (int i = 1; i <= 100; ++i)
-        setpoint(i);
-    drive.advanceCycles(1 + 125);
-    EXPECT_NEAR(drive.read(reg::SetpointInUse), 51, 1);
+    // Period in 0.1 ms; cycles of 0.4 ms until the setpoint in use is looked at.
+    const struct
+    {
+        int period, cycles, setpoint, freeBytes;
+    } rows[] = {
+        {200, 0, 0, 2048 - 105 * 4}, // the five items of the set-up and a hundred setpoints
+        {200, 1, 1, 2048 - 99 * 4},  // set-up and first setpoint in the first cycle
+        {200, 50, 1, 2048 - 99 * 4},
+        {200, 51, 2, 2048 - 98 * 4}, // 20 ms later
+        {200, 101, 3, 2048 - 97 * 4},
+        {10, 126, 51, 2048 - 49 * 4}, // two and a half cycles each: the mean rate is exact
+        {10, 251, 100, 2048},
+    };
+    for (const auto &row : rows) {
+        SCOPED_TRACE(testing::Message() << row.period << " after " << row.cycles);
+        startAfresh();
+        drive.write(reg::StreamPeriod, row.period);
+        setUp();
+        for (int i = 1; i <= 100; ++i)
+            setpoint(i);
+        drive.advanceCycles(row.cycles);
+        EXPECT_EQ(drive.axis().setpoint(), row.setpoint);
+        EXPECT_EQ(freeBytes(), row.freeBytes);
+    }
 }
 
 TEST_F(Stream, RepliesCarryReturnValuesOfWhatWasExecutedSince)
