@@ -43,7 +43,8 @@ void addOptions(CLI::App &app, Arguments &typed)
          "is given; may be repeated. Without it there is one keta at 5");
     value("--load", typed.load, "NAME[=NUMBER][+...]",
           "what the motors turn and how they are wired, for each drive\n"
-          "that names none itself: \"flexible=45+noise\"");
+          "that names none itself: \"flexible=45+noise\". Below, the number\n"
+          "in brackets stands for none given");
     value("--link", typed.link, "PATH",
           "a link to the port, removed at the end. Velbrin opens names\n"
           "that begin with \"COM\" or \"/dev/tty\", so \"--link COM1\" suits a\n"
@@ -66,15 +67,31 @@ void addOptions(CLI::App &app, Arguments &typed)
     app.add_flag("-h,--help", typed.help, "this text");
 }
 
+/// The help begins with how it is called, as that of the other programs does; then comes what it is.
+class UsageFirst : public CLI::Formatter
+{
+public:
+    std::string make_description(const CLI::App *) const override { return {}; }
+    std::string make_option_name(const CLI::Option *option, bool isPositional) const override
+    {
+        const std::string names = CLI::Formatter::make_option_name(option, isPositional);
+        return names == "-h,--help" ? "-h, --help" : names;
+    }
+    std::string make_usage(const CLI::App *, std::string) const override
+    {
+        return "Usage: velbrin-sim [OPTION...]\n"
+               "\n"
+               "Virtual servo drives with motors on a serial bus: a place to try Velbrin without hardware.\n"
+               "Prints the name of the port to connect to, then serves it until it is interrupted (Ctrl+C).\n";
+    }
+};
+
 void describe(CLI::App &app)
 {
     constexpr std::size_t Column = 30;
-    app.name("velbrin-sim");
-    app.description("Virtual servo drives with motors on a serial bus: a place to try Velbrin without hardware.\n"
-                    "Prints the name of the port to connect to, then serves it until it is interrupted (Ctrl+C).\n");
+    app.formatter(std::make_shared<UsageFirst>());
     app.get_formatter()->column_width(Column);
-    app.footer(profileHelp() + "\nLoads (with the number that stands for none given):\n" + machineHelp() +
-               "\nKinds of bad lines:\n" + lineFaultHelp());
+    app.footer(profileHelp() + "\nLoads:\n" + machineHelp() + "\nKinds of bad lines:\n" + lineFaultHelp());
 }
 
 /// REGISTER=VALUE[@ADDRESS]
