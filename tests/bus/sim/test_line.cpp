@@ -223,7 +223,7 @@ protected:
     sim::BusOptions busOptions() const override
     {
         sim::BusOptions options;
-        options.drives = {{"keta", 3}, {"torva", 7}};
+        EXPECT_EQ(sim::parseDrives("keta@3,torva:poles=3@7", options.drives), "");
         return options;
     }
 };
@@ -234,6 +234,10 @@ TEST_F(TwoDrives, AnswerEachForItself)
 {
     EXPECT_EQ(bus().read(3, 6020), 11000);
     EXPECT_EQ(bus().read(7, 6020), 4000);
+    bus().set(3, 2533, 1);
+    bus().set(7, 2533, 1);
+    EXPECT_TRUE(bus().waitForRegister(7, 552, 2048)) << "its motor has other poles";
+    EXPECT_TRUE(bus().waitForRegister(3, 553, [](std::int32_t status) { return status & 8; }));
     TestLine line(port());
     EXPECT_EQ(line.exchange({0x50, 0x03, 0x7C, 0x01}, 6)[1], 3);
     EXPECT_EQ(line.exchange({0x50, 0x07, 0x7D, 0xC2}, 6)[1], 7);

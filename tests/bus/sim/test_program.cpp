@@ -105,7 +105,8 @@ std::string parse(const std::string &line, sim::SimOptions &options)
 TEST(Options, DescribeTheBus)
 {
     sim::SimOptions options;
-    ASSERT_EQ(parse("--drive torva@7 --drive keta --drive=keta-pro --link COM1 --state s --set 6010=1077 "
+    ASSERT_EQ(parse("--drive torva:poles=3@7 --drive keta --drive=keta-pro --load flexible=45+noise --link COM1 "
+                    "--state s --set 6010=1077 "
                     "--set 950=0x1000@7 --line-rate --turn-around 250 --fault cut=7+3x2 --bootloader 1205",
                     options),
               "");
@@ -113,6 +114,10 @@ TEST(Options, DescribeTheBus)
     EXPECT_EQ(options.bus.drives[0].address, 7);
     EXPECT_EQ(options.bus.drives[1].address, 5);
     EXPECT_EQ(options.bus.drives[2].address, 6) << "the next free one";
+    EXPECT_EQ(options.bus.drives[0].machine.polePairs, 3.0);
+    EXPECT_EQ(options.bus.drives[0].machine.springHz, 0.0) << "a load of its own takes the place of the common one";
+    EXPECT_EQ(options.bus.drives[1].machine.springHz, 45.0);
+    EXPECT_EQ(options.bus.drives[2].machine.encoderNoise, 2.0);
     EXPECT_EQ(options.bus.linkPath, "COM1");
     EXPECT_EQ(options.bus.stateFile, "s");
     EXPECT_TRUE(options.bus.lineRate);
@@ -140,6 +145,10 @@ TEST(Options, WrongOnesAreTold)
                                   "--drive keta@x",
                                   "--drive keta@5 --drive torva@5",
                                   "--drive keta,",
+                                  "--drive keta:",
+                                  "--drive keta:rubber@5",
+                                  "--load rubber",
+                                  "--load noise=",
                                   "--drive",
                                   "--set 6010",
                                   "--set 6010=x",
