@@ -22,8 +22,10 @@ QString tr(const char *text)
 const QList<Option> commonOptions = {
     {"port", "NAME", TEXT("Serial port of the bus, such as /dev/ttyUSB0.")},
     {"virtual-drive", "[=PROFILES]",
-     TEXT("Without hardware: virtual drives such as keta,torva; keta alone if none are named. They live as long as the "
-          "command; velbrin-sim keeps them.")},
+     TEXT(
+         "Without hardware: virtual drives such as keta,torva; keta alone if none are named; keta:flexible=45+noise on "
+         "an axis that misbehaves (velbrin-sim --help lists how). They live as long as the command; velbrin-sim keeps "
+         "them.")},
     {"node", "N", TEXT("Bus address, 1 to 255; not needed where there is only one drive.")},
     {"json", nullptr, TEXT("Print results as JSON.")},
     // Not in the help: a real drive that is not waited for is lost in the middle of a restart or an erase.

@@ -3,26 +3,6 @@
 #include "virtualbus.h"
 
 #include <QDir>
-#include <QStringList>
-
-namespace {
-
-constexpr int firstAddress = 5;
-
-std::vector<sim::DriveOptions> driveOptions(const QString &profiles)
-{
-    std::vector<sim::DriveOptions> drives;
-    for (const QString &text : profiles.split(QLatin1Char(','))) {
-        sim::DriveOptions drive;
-        drive.profile = text.section(QLatin1Char('@'), 0, 0).toStdString();
-        drive.address = text.contains(QLatin1Char('@')) ? text.section(QLatin1Char('@'), 1).toInt()
-                                                        : firstAddress + int(drives.size());
-        drives.push_back(drive);
-    }
-    return drives;
-}
-
-} // namespace
 
 VirtualPort::VirtualPort(const QString &profiles)
     : m_folder(QDir::tempPath() + QLatin1String("/velbrin-XXXXXX")), m_previous(QDir::currentPath())
@@ -32,7 +12,9 @@ VirtualPort::VirtualPort(const QString &profiles)
         return;
     }
     sim::BusOptions options;
-    options.drives = driveOptions(profiles);
+    m_error = QString::fromStdString(sim::parseDrives(profiles.toStdString(), options.drives));
+    if (!m_error.isEmpty())
+        return;
     options.linkPath = m_folder.filePath(portName()).toStdString();
     m_bus = std::make_unique<sim::VirtualBus>(options);
     m_error = QString::fromStdString(m_bus->start());
@@ -47,5 +29,6 @@ VirtualPort::~VirtualPort()
 
 QString checkProfiles(const QString &profiles)
 {
-    return QString::fromStdString(sim::checkDrives(driveOptions(profiles)));
+    std::vector<sim::DriveOptions> drives;
+    return QString::fromStdString(sim::parseDrives(profiles.toStdString(), drives));
 }

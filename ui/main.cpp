@@ -16,7 +16,6 @@
 namespace {
 
 constexpr int EXIT_USAGE = 2;
-constexpr int FIRST_VIRTUAL_ADDRESS = 5;
 
 // Help and version are asked for on machines without a display, too.
 bool wantsTextOnly(int argc, char **argv)
@@ -33,13 +32,8 @@ bool wantsTextOnly(int argc, char **argv)
 sim::BusOptions busOptions(const QStringList &models)
 {
     sim::BusOptions options;
-    options.drives.clear();
-    for (const QString &model : models) {
-        sim::DriveOptions drive;
-        drive.profile = model.toStdString();
-        drive.address = FIRST_VIRTUAL_ADDRESS + int(options.drives.size());
-        options.drives.push_back(drive);
-    }
+    if (!models.isEmpty())
+        sim::parseDrives(models.join(QLatin1Char(',')).toStdString(), options.drives); // checked with the arguments
     options.lineRate = true; // as quick as a real line, no quicker
     return options;
 }

@@ -1,5 +1,6 @@
 #include "programoptions.h"
 
+#include "driveoptions.h"
 #include "driveprofile.h"
 #include "version.h"
 
@@ -33,8 +34,9 @@ ProgramOptions parseProgramOptions(QStringList arguments)
                                QLatin1String("--virtual-drive=") + profiles.first());
     const QCommandLineOption virtualDrive(
         QStringLiteral("virtual-drive"),
-        tr("Brings virtual drives up inside the program, on port COM1. Models, separated by commas: %1.")
-            .arg(profiles.join(QLatin1String(", "))),
+        tr("Brings virtual drives up inside the program, on port COM1. Models, separated by commas: %1. With a load: "
+           "%2:flexible=45+noise (velbrin-sim --help lists them).")
+            .arg(profiles.join(QLatin1String(", ")), profiles.first()),
         QStringLiteral("models"));
     const QCommandLineOption port(QStringLiteral("port"), tr("Chooses this serial port at first."),
                                   QStringLiteral("name"));
@@ -66,12 +68,13 @@ ProgramOptions parseProgramOptions(QStringList arguments)
     options.debugValues = parser.isSet(debugValues);
     if (parser.isSet(tour))
         options.tourFolder = QDir::current().absoluteFilePath(parser.value(tour));
-    if (parser.isSet(virtualDrive))
+    if (parser.isSet(virtualDrive)) {
         options.virtualDrives = parser.value(virtualDrive).split(QLatin1Char(','));
-    for (const QString &profile : qAsConst(options.virtualDrives)) {
-        if (!profiles.contains(profile))
-            options.error = tr("No virtual drive is called \"%1\". There are: %2.")
-                                .arg(profile, profiles.join(QLatin1String(", ")));
+        std::vector<sim::DriveOptions> drives;
+        const std::string error = sim::parseDrives(parser.value(virtualDrive).toStdString(), drives);
+        if (!error.empty())
+            options.error = tr("--virtual-drive: %1. Models: %2.")
+                                .arg(QString::fromStdString(error), profiles.join(QLatin1String(", ")));
     }
     // The tour enables the drive and moves the axis: never a real one.
     if (!options.tourFolder.isEmpty() && (options.virtualDrives.isEmpty() || !options.port.isEmpty()))

@@ -9,7 +9,7 @@
 struct ProgramOptions
 {
     QString port;              ///< port to choose at first
-    QStringList virtualDrives; ///< models of the built-in virtual drives, at bus addresses 5, 6, ...; empty: none
+    QStringList virtualDrives; ///< the built-in ones, each MODEL[:LOAD][@ADDRESS]; empty: none
     bool debugValues = false;
     QString tourFolder; ///< walk through the window by itself and leave screenshots here; empty: no tour
     QString error; ///< what is wrong with the command line, empty when nothing is

@@ -59,6 +59,7 @@ TEST(CliUsage, WhatMakesNoSenseEndsWithTwoAndAReason)
         {{"--port", "COM1", "save"}, "Usage: velbrin-cli ... save FILE.drc"},
         {{"--port", "COM1", "load", "a.drc", "b.drc"}, "Usage: velbrin-cli ... load FILE.drc [--to-flash]"},
         {{"--virtual-drive=kat", "scan"}, "\"kat\""},
+        {{"--virtual-drive=keta:rubber", "scan"}, "\"rubber\""},
         {{"--port", "COM1", "--port", "COM2", "scan"}, "--port is given twice."},
         {{"--port"}, "--port needs a value."},
         {{"--port", "--json", "scan"}, "--port needs a value."},

@@ -7,6 +7,11 @@
 #include "virtualdrive.h"
 
 #include <gtest/gtest.h>
+#include <utility>
+#include <vector>
+
+/// Register and value, in the order in which they are written.
+using Writes = std::vector<std::pair<int, std::int32_t>>;
 
 class DriveBench : public testing::Test
 {
@@ -29,7 +34,21 @@ protected:
         return errors;
     }
 
+    void write(const Writes &writes)
+    {
+        for (const auto &[address, value] : writes)
+            EXPECT_EQ(drive.write(address, value), sim::Outcome::Done) << address << " := " << value;
+    }
+    /// Off and on again as it left the factory, for the next row of a table.
+    void startAfresh()
+    {
+        drive.powerUp({});
+        drive.axis().inputs() = fresh;
+        drive.acceptWrites();
+    }
+
     sim::VirtualDrive drive;
+    const sim::AxisInputs fresh = drive.axis().inputs();
 };
 
 #endif

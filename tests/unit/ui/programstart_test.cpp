@@ -24,6 +24,8 @@ TEST(ProgramOptions, VirtualDriveTakesAListOfModelsOrNone)
 TEST(ProgramOptions, WrongUsageIsNamed)
 {
     EXPECT_TRUE(parseProgramOptions({"velbrin", "--virtual-drive=teapot"}).error.contains("teapot"));
+    EXPECT_TRUE(parseProgramOptions({"velbrin", "--virtual-drive=keta:rubber"}).error.contains("rubber"));
+    EXPECT_EQ(parseProgramOptions({"velbrin", "--virtual-drive=keta:flexible=45+noise@7,torva"}).error, "");
     EXPECT_TRUE(parseProgramOptions({"velbrin", "--nonsense"}).error.contains("nonsense"));
     EXPECT_TRUE(parseProgramOptions({"velbrin", "file.drc"}).error.contains("file.drc"));
     EXPECT_EQ(parseProgramOptions({"velbrin", "--version"}).text, "velbrin 1.9.0\n");
