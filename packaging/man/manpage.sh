@@ -8,7 +8,7 @@ name=${program##*/}
 here=$(dirname "$0")
 
 # helptext LAYOUT [COMMAND]
-helptext() { "$program" ${2+"$2"} --help | awk -v layout="$1" -f "$here/helptext.awk"; }
+helptext() { "$program" ${2+"$2"} --help | sed 's|^Usage: [^ ]*/|Usage: |' | awk -v layout="$1" -f "$here/helptext.awk"; }
 
 echo ".TH ${name^^} 1 \"$date\" \"Velbrin $version\" \"User Commands\""
 echo ".SH NAME"
