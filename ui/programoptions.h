@@ -8,6 +8,7 @@
 
 struct ProgramOptions
 {
+    QString file;              ///< settings file to load at first, absolute; empty: none
     QString port;              ///< port to choose at first
     QStringList virtualDrives; ///< models of the built-in virtual drives, at bus addresses 5, 6, ...; empty: none
     bool debugValues = false;
