@@ -1,5 +1,6 @@
-# Shell functions shared by ./run and ./test, which source this file from the top folder: what a step prints, which
-# packages are installed, how a preset is built. A step that goes well is one line; one that fails shows why.
+# shellcheck shell=bash
+# Shell functions shared by ./run, ./test and ./package, which source this file from the top folder: what a step prints,
+# which packages are installed, how a preset is built. A step that goes well is one line; one that fails shows why.
 
 logs=build/logs
 

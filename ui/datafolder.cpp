@@ -21,7 +21,7 @@ QString findDataFolder()
 {
     const QString program = QCoreApplication::applicationDirPath();
     const QString candidates[] = {qEnvironmentVariable("VELBRIN_DATA"), program + QLatin1String("/../share/velbrin"),
-                                  program + QLatin1String("/../data"), QStringLiteral(VELBRIN_BUILD_DATA)};
+                                  program + QLatin1String("/../data")};
     for (const QString &folder : candidates) {
         if (!folder.isEmpty() && hasPlotScripts(folder))
             return QDir(folder).canonicalPath();

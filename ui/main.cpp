@@ -56,6 +56,7 @@ int main(int argc, char **argv)
     if (wantsTextOnly(argc, argv))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     HelpView::prepareEngine();
+    QGuiApplication::setDesktopFileName(QStringLiteral("velbrin")); // where Wayland finds name and icon
     QApplication application(argc, argv);
     const ProgramOptions options = parseProgramOptions(QApplication::arguments());
     if (!options.error.isEmpty())
@@ -67,6 +68,7 @@ int main(int argc, char **argv)
     QuitSignals quitSignals;
 
     MW::Options window;
+    window.file = options.file;
     window.port = options.port;
     window.debugValues = options.debugValues;
     sim::VirtualBus bus(busOptions(options.virtualDrives));

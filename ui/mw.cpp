@@ -75,7 +75,8 @@ MW::MW(const Options &options, QWidget *parent)
     fillTorqueFunctions();
     m_showAdvanced = false;
     updateControlVisibility();
-    showDisclaimer();
+    if (showDisclaimer() && !m_options.file.isEmpty())
+        loadSettingsFile(m_options.file);
 }
 
 MW::~MW()

@@ -41,6 +41,7 @@ public:
     /// What the command line asked for.
     struct Options
     {
+        QString file;             ///< settings file to load when the disclaimer is accepted; empty: none
         QString port;             ///< port to choose at first; empty: the last recognised adapter
         QString virtualPort;      ///< port of the built-in virtual drive, empty when there is none
         bool debugValues = false; ///< show the drive's debug values in the fault panel
@@ -150,7 +151,7 @@ private:
     void fillTorqueFunctions();
     void restoreLayout();
     void saveLayout() const;
-    void showDisclaimer();
+    bool showDisclaimer(); ///< whether the user agrees; close() is queued otherwise
 
     // Connect page
     void populateConnectionPortList();
@@ -183,6 +184,7 @@ private:
     bool areParamsChanged();
     bool checkIfParamsChangedAndAskUser(AskForApplyMode mode);
     bool checkIfParamsSavedAndAskUser();
+    void loadSettingsFile(const QString &file);
     bool askBeforeTesting(const QString &text);
     bool askWithAbort(const QString &text);
     /// `mode` is QFileDialog::AcceptSave or AcceptOpen, "~" the home folder; empty when the user gave no name.

@@ -188,8 +188,12 @@ void MW::on_load_settings_from_file_clicked()
 {
     const QString file =
         askFile(QFileDialog::AcceptOpen, tr("Open settings file"), m_lastDirectory, tr("Drive settings (*.drc)"));
-    if (file.isEmpty())
-        return;
+    if (!file.isEmpty())
+        loadSettingsFile(file);
+}
+
+void MW::loadSettingsFile(const QString &file)
+{
     m_lastDirectory = file.section(QLatin1Char('/'), 0, -2);
     m_connection.setSettingsFileName(file);
     m_connection.command(Connection::TaskLoadSettingsFile);

@@ -11,7 +11,7 @@
 #include <QStatusBar>
 #include <QTimer>
 
-void MW::showDisclaimer()
+bool MW::showDisclaimer()
 {
     QMessageBox box(this);
     box.setWindowIcon(windowIcon());
@@ -34,7 +34,7 @@ void MW::showDisclaimer()
     box.setDefaultButton(disagree);
     box.exec();
     if (box.clickedButton() == agree)
-        return;
+        return true;
 
     QMessageBox farewell(this);
     farewell.setWindowTitle(tr("Velbrin"));
@@ -44,6 +44,7 @@ void MW::showDisclaimer()
     farewell.exec();
     QTimer::singleShot(0, this, &QWidget::close);
     qDebug() << "disagree";
+    return false;
 }
 
 void MW::on_actionRaw_parameters_triggered()

@@ -52,6 +52,8 @@ ProgramOptions parseProgramOptions(QStringList arguments)
     QCommandLineParser parser;
     parser.setApplicationDescription(tr("Configures, tunes and starts up Tarnwell servo drives."));
     parser.addOptions({virtualDrive, port, debugValues, tour, help, version});
+    parser.addPositionalArgument(QStringLiteral("file"), tr("Settings file to load at first; needs no drive."),
+                                 QStringLiteral("[FILE.drc]"));
 
     ProgramOptions options;
     if (!parser.parse(arguments)) {
@@ -62,8 +64,11 @@ ProgramOptions parseProgramOptions(QStringList arguments)
         options.text = parser.helpText();
     else if (parser.isSet(version))
         options.text = QStringLiteral("velbrin %1\n").arg(QLatin1String(VELBRIN_VERSION));
-    if (!parser.positionalArguments().isEmpty())
-        options.error = tr("Unexpected argument: %1").arg(parser.positionalArguments().first());
+    const QStringList files = parser.positionalArguments();
+    if (files.size() > 1)
+        options.error = tr("Unexpected argument: %1").arg(files.at(1));
+    else if (!files.isEmpty()) // the program works in a folder of its own
+        options.file = QDir::current().absoluteFilePath(files.first());
     options.port = parser.value(port);
     options.debugValues = parser.isSet(debugValues);
     if (parser.isSet(tour))
@@ -76,8 +81,9 @@ ProgramOptions parseProgramOptions(QStringList arguments)
             options.error = tr("--virtual-drive: %1. Models: %2.")
                                 .arg(QString::fromStdString(error), profiles.join(QLatin1String(", ")));
     }
-    // The tour enables the drive and moves the axis: never a real one.
-    if (!options.tourFolder.isEmpty() && (options.virtualDrives.isEmpty() || !options.port.isEmpty()))
-        options.error = tr("--tour goes with --virtual-drive, and not with --port.");
+    // The tour enables the drive and moves the axis: never a real one, and never with somebody's settings.
+    if (!options.tourFolder.isEmpty() &&
+        (options.virtualDrives.isEmpty() || !options.port.isEmpty() || !options.file.isEmpty()))
+        options.error = tr("--tour goes with --virtual-drive, and not with --port or a file.");
     return options;
 }

@@ -8,6 +8,7 @@
 
 struct ProgramOptions
 {
+    QString file;              ///< settings file to load at first, absolute; empty: none
     QString port;              ///< port to choose at first
     QStringList virtualDrives; ///< the built-in ones, each MODEL[:LOAD][@ADDRESS]; empty: none
     bool debugValues = false;

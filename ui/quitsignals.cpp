@@ -26,7 +26,13 @@ QuitSignals::QuitSignals(QObject *parent) : QObject(parent)
         return;
     writeEnd = m_pipe[1];
     auto *notifier = new QSocketNotifier(m_pipe[0], QSocketNotifier::Read, this);
-    connect(notifier, &QSocketNotifier::activated, qApp, &QCoreApplication::quit);
+    // Not quit(), which asks every window first, and does nothing while the box before the first window is open.
+    connect(notifier, &QSocketNotifier::activated, qApp, [this] {
+        char byte = 0;
+        const ssize_t taken = read(m_pipe[0], &byte, 1);
+        Q_UNUSED(taken)
+        QCoreApplication::exit(0);
+    });
     for (int number : QUIT_SIGNALS)
         std::signal(number, wakeEventLoop);
 }

@@ -5,7 +5,7 @@
 
 #include <QObject>
 
-/// Turns the signals into QCoreApplication::quit(). One at a time; the application must exist.
+/// Turns the signals into QCoreApplication::exit(0). One at a time; the application must exist.
 class QuitSignals : public QObject
 {
     Q_OBJECT

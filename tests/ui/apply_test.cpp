@@ -150,6 +150,17 @@ TEST_F(Apply, FileLoadedWithoutADriveFillsTheControls)
     EXPECT_EQ(label("HWSERIAL")->text(), "This info updated only after Connect");
     m_window->close(); // no drive, no question
     EXPECT_FALSE(m_window->isVisible());
+
+    // The same by the command line, and a file that is none is told.
+    bus().clearReceived();
+    m_window.reset();
+    openWindow(file);
+    ASSERT_TRUE(waitFor([this] { return kvp()->value() == 432; }));
+    EXPECT_EQ(shownMessage(m_window.get()), QString());
+    m_window.reset();
+    openWindow(file + ".missing");
+    EXPECT_TRUE(waitFor([this] { return shownMessage(m_window.get()).contains("mine.drc.missing"); }));
+    EXPECT_TRUE(bus().received().empty());
 }
 
 TEST_F(Apply, ClosingAsksFirstForEditsThenForTheDrivesMemory)

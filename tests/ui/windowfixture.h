@@ -151,10 +151,11 @@ protected:
     }
 
     /// Opens the window as a technician would, accepting the disclaimer.
-    void openWindow()
+    void openWindow(const QString &settingsFile = QString())
     {
         m_answers.press("I Agree");
         MW::Options options;
+        options.file = settingsFile;
         options.virtualPort = port();
         options.pauseScale = 0.01;
         options.webEngine = m_webEngine;

@@ -27,9 +27,21 @@ TEST(ProgramOptions, WrongUsageIsNamed)
     EXPECT_TRUE(parseProgramOptions({"velbrin", "--virtual-drive=keta:rubber"}).error.contains("rubber"));
     EXPECT_EQ(parseProgramOptions({"velbrin", "--virtual-drive=keta:flexible=45+noise@7,torva"}).error, "");
     EXPECT_TRUE(parseProgramOptions({"velbrin", "--nonsense"}).error.contains("nonsense"));
-    EXPECT_TRUE(parseProgramOptions({"velbrin", "file.drc"}).error.contains("file.drc"));
+    EXPECT_TRUE(parseProgramOptions({"velbrin", "one.drc", "two.drc"}).error.contains("two.drc"));
+    for (const QStringList &withTour : {QStringList{"--port", "COM7"}, QStringList{"one.drc"}, QStringList{}})
+        EXPECT_TRUE(parseProgramOptions(QStringList{"velbrin", "--tour", "shots"} + withTour).error.contains("--tour"));
+    EXPECT_TRUE(parseProgramOptions({"velbrin", "--virtual-drive", "--tour", "shots", "one.drc"}).error.contains("file"));
     EXPECT_EQ(parseProgramOptions({"velbrin", "--version"}).text, "velbrin 1.9.0\n");
     EXPECT_TRUE(parseProgramOptions({"velbrin", "--help"}).text.contains("--virtual-drive"));
+}
+
+TEST(ProgramOptions, SettingsFileIsFoundFromWhereTheProgramWasStarted)
+{
+    const ProgramOptions options = parseProgramOptions({"velbrin", "axis 1.drc"});
+    EXPECT_EQ(options.error, "");
+    EXPECT_EQ(options.file, QDir::current().absoluteFilePath("axis 1.drc")); // the program works elsewhere
+    EXPECT_EQ(parseProgramOptions({"velbrin", "/tmp/a.drc"}).file, "/tmp/a.drc");
+    EXPECT_EQ(parseProgramOptions({"velbrin"}).file, "");
 }
 
 class DataFolder : public testing::Test
