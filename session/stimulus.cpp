@@ -10,16 +10,8 @@ void SessionWorker::streamStimulus(const TaskRequest &)
     if (!m_streamStarted)
         m_streamStep = 0;
     const bool first = m_streamStep == 0;
-    if (first)
-        m_line.appendWrite(reg::StreamPeriod, streamPeriod());
-    m_line.appendRead(reg::BufferFree);
-    m_line.execute();
-    if (first)
-        m_line.fetchWrite();
     long free = 0;
-    m_line.fetchRead(&free);
-    m_line.finishReply();
-    if (!statusIsClean())
+    if (!askAgain([&] { return readBufferFree(first, free); }) || !statusIsClean())
         return;
     if (first)
         m_streamInitialFree = static_cast<int>(free);
@@ -32,7 +24,19 @@ void SessionWorker::streamStimulus(const TaskRequest &)
             return;
         uploadStreamChunk();
     }
-    m_line.readBufferClock();
+    askAgain([this] { return m_line.readBufferClock() == ZB_OK; });
+}
+
+bool SessionWorker::readBufferFree(bool first, long &free)
+{
+    ZbStatus status = first ? m_line.appendWrite(reg::StreamPeriod, streamPeriod()) : ZB_OK;
+    status |= m_line.appendRead(reg::BufferFree);
+    status |= m_line.execute();
+    if (first)
+        status |= m_line.fetchWrite();
+    status |= m_line.fetchRead(&free);
+    status |= m_line.finishReply();
+    return status == ZB_OK;
 }
 
 bool SessionWorker::stimulusActive() const

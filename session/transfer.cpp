@@ -25,41 +25,44 @@ bool knownToBootloader(int address)
 
 } // namespace
 
+/// One exchange for all of them, asked a second time when no good reply came.
+ZbStatus SessionWorker::readRegisters(std::initializer_list<int> addresses, std::initializer_list<long *> values)
+{
+    ZbStatus status = 0;
+    askAgain([&] {
+        status = 0;
+        for (int address : addresses)
+            status |= m_line.appendRead(address);
+        status |= m_line.execute();
+        for (long *value : values)
+            status |= m_line.fetchRead(value);
+        status |= m_line.finishReply();
+        return status == ZB_OK;
+    });
+    return status;
+}
+
 ZbStatus SessionWorker::readParameters(int address1, long &value1)
 {
-    m_line.appendRead(address1);
-    m_line.execute();
-    const ZbStatus status = m_line.fetchRead(&value1);
-    return status | m_line.finishReply();
+    return readRegisters({address1}, {&value1});
 }
 
 ZbStatus SessionWorker::readParameters(int address1, long &value1, int address2, long &value2)
 {
-    m_line.appendRead(address1);
-    m_line.appendRead(address2);
-    m_line.execute();
-    m_line.fetchRead(&value1);
-    const ZbStatus status = m_line.fetchRead(&value2);
-    return status | m_line.finishReply();
+    return readRegisters({address1, address2}, {&value1, &value2});
 }
 
 ZbStatus SessionWorker::readParameters(int address1, long &value1, int address2, long &value2, int address3,
                                        long &value3)
 {
-    m_line.appendRead(address1);
-    m_line.appendRead(address2);
-    m_line.appendRead(address3);
-    m_line.execute();
-    m_line.fetchRead(&value1);
-    m_line.fetchRead(&value2);
-    const ZbStatus status = m_line.fetchRead(&value3);
-    return status | m_line.finishReply();
+    return readRegisters({address1, address2, address3}, {&value1, &value2, &value3});
 }
 
 ZbStatus SessionWorker::requestParamStruct(const SingleParam &param)
 {
-    const ZbStatus status = m_line.appendRead(param.addr) | m_line.appendRead(param.addr | reg::MinimumFlag) |
-                            m_line.appendRead(param.addr | reg::MaximumFlag);
+    ZbStatus status = m_line.appendRead(param.addr);
+    status |= m_line.appendRead(param.addr | reg::MinimumFlag);
+    status |= m_line.appendRead(param.addr | reg::MaximumFlag);
     if (!statusIsClean())
         qCDebug(sessionLog) << "err1" << m_line.status();
     return status;
@@ -68,8 +71,10 @@ ZbStatus SessionWorker::requestParamStruct(const SingleParam &param)
 bool SessionWorker::fillParamStruct(SingleParam &param)
 {
     long value = 0, min = 0, max = 0;
-    const ZbStatus status =
-        m_line.fetchRead(&value) | m_line.fetchRead(&min) | m_line.fetchRead(&max) | m_line.finishReply();
+    ZbStatus status = m_line.fetchRead(&value);
+    status |= m_line.fetchRead(&min);
+    status |= m_line.fetchRead(&max);
+    status |= m_line.finishReply();
     if (!statusIsClean())
         qCDebug(sessionLog) << "err2" << m_line.status();
     if (status != ZB_OK)
@@ -82,9 +87,31 @@ bool SessionWorker::fillParamStruct(SingleParam &param)
 
 bool SessionWorker::readRecord(SingleParam &param)
 {
-    const ZbStatus requested = requestParamStruct(param);
-    const ZbStatus executed = m_line.execute();
-    return fillParamStruct(param) && (requested | executed) == ZB_OK;
+    return askAgain([&] {
+        const ZbStatus requested = requestParamStruct(param);
+        const ZbStatus executed = m_line.execute();
+        return fillParamStruct(param) && (requested | executed) == ZB_OK;
+    });
+}
+
+/// All records into `list`; false when it broke off.
+bool SessionWorker::readRecords(Parameters &list)
+{
+    for (int index = 0; index < list.getParamCount(); ++index) {
+        if (m_queue.isClosing())
+            return false;
+        serveWaitingDisable();
+        SingleParam param = list.getParam(index);
+        if (inFirmwareUpgradeMode() && !knownToBootloader(param.addr))
+            continue;
+        if (!isParamAvailableInCurrentDevice(param)) {
+            param.value = -1.0;
+        } else if (!readRecord(param)) {
+            return false;
+        }
+        list.replaceParam(param, index);
+    }
+    return true;
 }
 
 void SessionWorker::getParams(const TaskRequest &)
@@ -96,46 +123,82 @@ void SessionWorker::getParams(const TaskRequest &)
         handOvers = m_data.parameterHandOvers;
         list = m_data.wanted.parameters;
     }
-    int index = 0;
-    for (; index < list.getParamCount() && !m_queue.isClosing(); ++index) {
-        serveWaitingDisable();
-        SingleParam param = list.getParam(index);
-        if (inFirmwareUpgradeMode() && !knownToBootloader(param.addr))
-            continue;
-        if (!isParamAvailableInCurrentDevice(param)) {
-            param.value = -1.0;
-        } else if (!readRecord(param)) {
-            break;
-        }
-        list.replaceParam(param, index);
-        if (param.name == QLatin1String("CM"))
-            m_controlMode = truncateToInt32(param.value);
-    }
+    const int strays = m_line.meter().strays;
+    bool whole = readRecords(list);
+    // What should not have been on the line may have been taken for an answer before it was found.
+    if (whole && strays != m_line.meter().strays)
+        whole = readRecords(list);
+    // A part, or the former drive's values, must not pass for the drive's.
+    if (!whole)
+        return;
     {
         std::lock_guard<std::mutex> lock(m_data.mutex);
+        m_data.drive = list;
         // A set that was handed over meanwhile is newer than what this read began with.
         if (m_data.parameterHandOvers == handOvers)
             m_data.wanted.parameters = list;
     }
-    // The answer to a read that failed brings a part; nobody may take it for the whole.
-    if (index == list.getParamCount() && !inFirmwareUpgradeMode())
-        m_data.valuesComplete = true;
+    m_data.driveWasRead = true;
+    m_controlMode = truncateToInt32(list.getParam(QStringLiteral("CM")).value);
+    m_data.valuesComplete = !inFirmwareUpgradeMode();
+    emit m_session.driveParametersChanged(list);
     emit m_session.parametersRetreived(list, false);
 }
 
-bool SessionWorker::writeAndFetch(int address, long value)
+SessionWorker::Reply SessionWorker::write(int address, long value)
 {
     const ZbStatus appended = m_line.appendWrite(address, value);
     const ZbStatus executed = m_line.execute();
+    // With the length control at 3 each of the two items is answered by a byte: its outcome.
+    m_outcomeIsKnown = executed == ZB_OK && m_line.bytesLeft() == 2;
+    long outcome = 0;
+    ZbStatus fetched = m_line.fetchWrite(&outcome);
     // A late reply to something longer must not pass for an acknowledgement.
-    const ZbStatus fetched = m_line.fetchWrite() | m_line.finishReply();
-    return (appended | executed | fetched) == ZB_OK;
+    fetched |= m_line.finishReply();
+    if ((appended | executed | fetched) != ZB_OK)
+        return Reply::None;
+    return m_outcomeIsKnown && outcome == reg::OutcomeRefused ? Reply::Refused : Reply::Done;
+}
+
+SessionWorker::Reply SessionWorker::writeSetting(int address, long value)
+{
+    Reply reply = Reply::None;
+    askAgain([&] {
+        reply = write(address, value);
+        return reply != Reply::None;
+    });
+    return reply;
+}
+
+/// A setting, and whether it was refused also where a stop that was served in between has changed how writes are
+/// answered. With the error latch set every write is followed by a question anyway.
+SessionWorker::Reply SessionWorker::writeAndLook(int address, long value)
+{
+    const Reply reply = writeSetting(address, value);
+    long bits = 0;
+    if (reply != Reply::Done || m_outcomeIsKnown || m_errorLatch || readParameters(reg::ErrorBits, bits) != ZB_OK)
+        return reply;
+    return bits != 0 ? Reply::Refused : reply;
+}
+
+SessionWorker::Reply SessionWorker::writeCommand(int address, long value, const QString &refusal)
+{
+    const Reply reply = write(address, value);
+    if (reply == Reply::None)
+        return reply;
+    long bits = 0;
+    if (readParameters(reg::ErrorBits, bits) != ZB_OK || (bits == 0 && reply == Reply::Done))
+        return reply;
+    writeSetting(reg::ErrorBits, 0);
+    m_errorLatch = true;
+    const auto reasons = static_cast<quint32>(bits != 0 ? bits : reg::ErrorCommandFailed);
+    tell(MessageKind::Refused, refusal.arg(refusalReasons(reasons)));
+    return Reply::Refused;
 }
 
 bool SessionWorker::setParameter(int address, long value)
 {
-    writeAndFetch(address, value);
-    reportWrite(undefinedParam(address, static_cast<int>(value)));
+    reportWrite(undefinedParam(address, static_cast<int>(value)), write(address, value));
     return true;
 }
 
@@ -144,28 +207,94 @@ bool SessionWorker::refuseCommand(const QString &name, int address)
 {
     if (!reg::isCommandRegister(address))
         return false;
-    emit m_session.error(Connection::tr("%1 was not written: register %2 is a command to the drive and not a setting.")
-                             .arg(name.toHtmlEscaped())
-                             .arg(address));
+    tell(MessageKind::NotWritten,
+         Connection::tr("%1 was not written: register %2 is a command to the drive and not a setting.")
+             .arg(name.toHtmlEscaped())
+             .arg(address));
     return true;
+}
+
+/// What the bus has no room for is left out, or it would arrive as something else.
+bool SessionWorker::refuseValue(const SingleParam &param, double deviceValue)
+{
+    if (BusLine::canCarry(param.addr, deviceValue))
+        return false;
+    tell(MessageKind::NotWritten,
+         Connection::tr("%1 was not written: %2 in register %3 is more than the bus can carry.")
+             .arg(param.name.toHtmlEscaped(), QString::number(deviceValue, 'g', 10))
+             .arg(param.addr));
+    return true;
+}
+
+/// With the limits that the drive has told, which are not always those of the set that is written.
+SingleParam SessionWorker::withDriveLimits(SingleParam param) const
+{
+    std::lock_guard<std::mutex> lock(m_data.mutex);
+    const SingleParam held = m_data.drive.getParam(param.name);
+    param.min = m_data.driveWasRead && held.addr == param.addr ? held.min : 0.0;
+    param.max = m_data.driveWasRead && held.addr == param.addr ? held.max : 0.0;
+    return param;
 }
 
 void SessionWorker::writeRecord(const SingleParam &param)
 {
-    if (refuseCommand(param.name, param.addr))
+    const double deviceValue = param.convertToDeviceScale(param.value);
+    if (refuseCommand(param.name, param.addr) || refuseValue(param, deviceValue))
         return;
-    writeAndFetch(param.addr, toBusValue(param.convertToDeviceScale(param.value)));
-    reportWrite(param);
+    const Reply reply = writeAndLook(param.addr, static_cast<long>(deviceValue));
+    noteWrite(param.name, reply);
+    if (!reportWrite(withDriveLimits(param), reply) && reply == Reply::Done)
+        noteHeld(param);
+}
+
+/// Keeps account of how far a write has come, for the text about one that broke off.
+void SessionWorker::noteWrite(const QString &name, Reply reply)
+{
+    if (reply == Reply::None && m_brokenOffWrite.isEmpty())
+        m_brokenOffWrite = brokenOffWriteText(m_lastWritten);
+    else if (reply == Reply::Done && m_brokenOffWrite.isEmpty())
+        m_lastWritten = name;
+}
+
+/// The drive has acknowledged this value.
+void SessionWorker::noteHeld(const SingleParam &param)
+{
+    {
+        std::lock_guard<std::mutex> lock(m_data.mutex);
+        SingleParam held = m_data.drive.getParam(param.name);
+        if (held.addr == param.addr) {
+            held.value = param.value;
+            m_data.drive.replaceParam(held);
+        }
+    }
+    if (param.name != QLatin1String("CM"))
+        return;
+    const int mode = truncateToInt32(param.value);
+    if (param.value != m_controlMode)
+        emit m_session.controlModeChanged(mode);
+    m_controlMode = mode;
 }
 
 void SessionWorker::setParams(const TaskRequest &request)
 {
+    qCDebug(sessionLog, "   SET PARAMS");
+    m_lastWritten.clear();
+    m_brokenOffWrite.clear();
+    const Reply prepared = writeSetting(reg::ReturnLength, reg::ReturnsOutcome);
+    noteWrite(QString(), prepared);
+    reportWrite(undefinedParam(reg::ReturnLength, reg::ReturnsOutcome), prepared);
+    writeRecords(request.parameters);
+    // Else what comes later would be told as its failure.
+    if (statusIsClean())
+        m_brokenOffWrite.clear();
+    emit m_session.driveParametersChanged(m_session.driveParameters());
+}
+
+void SessionWorker::writeRecords(const Parameters &list)
+{
     // Closing gives the whole session five seconds; a write that the user chose on the way out has most of them.
     constexpr TaskQueue::Milliseconds closingGrace(2000);
 
-    qCDebug(sessionLog, "   SET PARAMS");
-    const Parameters &list = request.parameters;
-    setParameter(reg::ReturnLength, reg::ReturnsOutcome);
     for (int index = 0; index < list.getParamCount(); ++index) {
         if (m_line.isDead() || m_queue.isClosing(closingGrace))
             return;
@@ -174,15 +303,8 @@ void SessionWorker::setParams(const TaskRequest &request)
         if (!isParamAvailableInCurrentDevice(param))
             continue;
         qCDebug(sessionLog) << "       SET PARAM " << index << param.name << param.value;
-        if (param.readonly)
-            continue;
-        if (param.name == QLatin1String("CM")) {
-            const int mode = truncateToInt32(param.value);
-            if (param.value != m_controlMode)
-                emit m_session.controlModeChanged(mode);
-            m_controlMode = mode;
-        }
-        writeRecord(param);
+        if (!param.readonly)
+            writeRecord(param);
     }
     for (unsigned slot = 1; slot <= 3; ++slot)
         setOverriddenParam(list, slot);
@@ -197,9 +319,13 @@ void SessionWorker::setOverriddenParam(const Parameters &list, unsigned slot)
     if (address.value == 0.0 || std::isnan(address.value))
         return;
     qCDebug(sessionLog) << "overriding " << address.value << " to " << value.value;
-    const long target = toBusValue(address.value);
-    if (refuseCommand(address.name, static_cast<qint16>(target)))
+    SingleParam target = undefinedParam(static_cast<qint16>(toBusValue(address.value)), 0);
+    target.value = value.value;
+    SingleParam named = target;
+    named.name = address.name;
+    if (refuseCommand(named.name, target.addr) || refuseValue(named, value.value))
         return;
-    writeAndFetch(static_cast<qint16>(target), toBusValue(value.value));
-    reportWrite(undefinedParam(static_cast<qint16>(target), static_cast<int>(toBusValue(value.value))));
+    const Reply reply = writeAndLook(target.addr, static_cast<long>(value.value));
+    noteWrite(address.name, reply);
+    reportWrite(target, reply);
 }
