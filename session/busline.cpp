@@ -6,6 +6,7 @@ namespace {
 constexpr long minWriteValue = -(1L << 29);
 constexpr long maxWriteValue = (1L << 29) - 1;
 constexpr int registerBits = 0x3FFF;
+constexpr int babblesAfter = 3; // requests in a row that found something on the line
 constexpr TaskQueue::Milliseconds closingLimit(2400);
 
 bool isFailure(ZbStatus status)
@@ -19,7 +20,8 @@ bool BusLine::open(const QString &portName, int timeoutMs)
     close();
     m_status = 0;
     m_appended = 0;
-    m_lastFailed = false;
+    m_lastFailed = m_mayComeLate = false;
+    m_straysInARow = 0;
     startTask();
     m_timeoutMs = timeoutMs;
     zbSetTimeout(static_cast<std::uint16_t>(timeoutMs));
@@ -53,7 +55,7 @@ ZbStatus BusLine::recordAppend(ZbStatus status)
 ZbStatus BusLine::recordDecoding(ZbStatus status)
 {
     if (isFailure(status) && !m_lastFailed) {
-        m_lastFailed = true;
+        m_lastFailed = m_mayComeLate = true; // it answered something else
         ++m_meter.errors;
     }
     return record(status);
@@ -135,14 +137,18 @@ ZbStatus BusLine::exchange(ZbStatus (*roundTrip)(ZbHandle, std::uint8_t))
         return record(isFailure(appended) ? appended : ZB_ERR_COMMUNICATION);
     }
     dropStrays();
+    if (m_straysInARow >= babblesAfter && !m_stopping) {
+        countFailure();
+        zbResetZB485variables(m_handle);
+        return record(ZB_ERR_COMMUNICATION);
+    }
     m_wasSent = true;
     ++m_meter.exchanges;
     const ZbStatus status = record(roundTrip(m_handle, m_node));
     m_lastFailed = isFailure(status);
+    m_mayComeLate = m_lastFailed && wasSilent();
     if (m_lastFailed) {
-        ++m_meter.errors;
-        ++m_failures;
-        ++m_failuresInARow;
+        countFailure();
         // A failed send leaves its items queued; they would go out in front of the next batch.
         zbResetZB485variables(m_handle);
     } else if (!m_stopping) {
@@ -151,12 +157,20 @@ ZbStatus BusLine::exchange(ZbStatus (*roundTrip)(ZbHandle, std::uint8_t))
     return status;
 }
 
+void BusLine::countFailure()
+{
+    m_lastFailed = true;
+    ++m_meter.errors;
+    ++m_failures;
+    ++m_failuresInARow;
+}
+
 void BusLine::dropStrays()
 {
     int dropped = 0;
     zbDiscardInput(m_handle, &dropped);
-    if (dropped > 0)
-        ++m_meter.strays;
+    m_straysInARow = dropped > 0 ? m_straysInARow + 1 : 0;
+    m_meter.strays += dropped > 0;
 }
 
 ZbStatus BusLine::fetch(long *value)

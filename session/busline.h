@@ -36,7 +36,8 @@ public:
 
     /// Forgets the exchanges that went unanswered.
     void startTask() { m_failuresInARow = m_failures = 0; }
-    /// Three exchanges in a row without a good reply, or four in one task. From then on nothing is sent until the next
+    /// Three exchanges in a row without a good reply, or four in one task. A line that is not quiet before any of three
+    /// requests has no good replies: what looks like one may belong to another request. From then on nothing is sent until the next
     /// task: 57 writes to a dead line would take a minute.
     bool isDead() const;
     /// Between these a stop is being sent: also on a line that counts as dead, and without reviving it for the task
@@ -61,8 +62,9 @@ public:
     void beginRepeat(const Mark &before);
     /// When the second answer was good.
     void forgive(const Mark &before);
-    /// How long after a failure a late reply to it is waited for before anything is asked again.
-    TaskQueue::Milliseconds lateness() const { return TaskQueue::Milliseconds(m_timeoutMs / 2); }
+    /// How long after a failure a late reply to it is waited for before anything is asked again. Not where one came,
+    /// damaged: the line has been quiet since.
+    TaskQueue::Milliseconds lateness() const { return TaskQueue::Milliseconds(m_mayComeLate ? m_timeoutMs : 0); }
     const LineMeter &meter() const { return m_meter; }
 
     /// Each returns its own status. An item that does not fit, or a register or value with more bits than a write item
@@ -101,6 +103,7 @@ private:
     ZbStatus exchange(ZbStatus (*roundTrip)(ZbHandle, std::uint8_t));
     bool maySend() const;
     void dropStrays();
+    void countFailure();
 
     const TaskQueue &m_queue;
     ZbHandle m_handle = -1;
@@ -110,7 +113,9 @@ private:
     int m_failuresInARow = 0;
     int m_failures = 0; ///< in this task
     bool m_lastFailed = false;
-    bool m_wasSent = false; ///< the last batch, which was not spoiled
+    bool m_wasSent = false;     ///< the last batch, which was not spoiled
+    bool m_mayComeLate = false; ///< the reply to it
+    int m_straysInARow = 0;
     bool m_stopping = false;
     int m_timeoutMs = 0;
     int m_openError = 0;

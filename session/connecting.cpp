@@ -25,6 +25,7 @@ QList<int> scanAddresses()
 
 bool SessionWorker::openLine(const QString &portName, int timeoutMs)
 {
+    m_asksAgain = false;
     if (m_line.open(portName, timeoutMs))
         return true;
     qCDebug(sessionLog, "connect failed");
@@ -76,6 +77,7 @@ void SessionWorker::connectDrive(const TaskRequest &request)
     if (!openLine(request.portName, m_data.replyTimeoutMs))
         return;
     qCDebug(sessionLog) << "connected" << m_line.handle();
+    m_asksAgain = true;
     m_line.setNodeAddress(request.nodeAddress);
     if (!identify(request.nodeAddress)) {
         m_line.close();

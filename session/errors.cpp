@@ -21,7 +21,7 @@ bool SessionWorker::askAgain(const std::function<bool()> &ask)
     const BusLine::Mark before = m_line.mark();
     if (ask())
         return true;
-    if (!m_line.mayRepeat())
+    if (!m_asksAgain || !m_line.mayRepeat())
         return false;
     m_line.beginRepeat(before);
     letLateRepliesPass();

@@ -187,6 +187,7 @@ private:
     BusLine m_line;
 
     bool m_quit = false;
+    bool m_asksAgain = false;             ///< not in a search, where silence is an answer
     bool m_errorLatch = false;            ///< set by every error text: from then on each write is checked
     bool m_communicationReported = false; ///< since connecting: one text about the line is enough
     quint32 m_deviceErrors = 0;           ///< register 13 as last queried

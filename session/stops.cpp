@@ -180,6 +180,7 @@ void SessionWorker::disableWithoutConnection()
     qCDebug(sessionLog) << "disabling without a connection" << port << node;
     DisableOutcome outcome = DisableOutcome::NoPort;
     if (m_line.open(port, m_data.replyTimeoutMs)) {
+        m_asksAgain = true;
         m_line.setNodeAddress(node);
         outcome = disableAndReadBack();
         if (m_streamWasLost && outcome != DisableOutcome::NoAnswer)

@@ -198,7 +198,8 @@ SessionWorker::Reply SessionWorker::writeCommand(int address, long value, const 
 
 bool SessionWorker::setParameter(int address, long value)
 {
-    reportWrite(undefinedParam(address, static_cast<int>(value)), write(address, value));
+    write(address, value);
+    reportWrite(undefinedParam(address, static_cast<int>(value)));
     return true;
 }
 

@@ -18,6 +18,7 @@ constexpr KindName Kinds[] = {
     {LineFault::Drop, "drop", "a byte of every reply is lost (AT: which, from 0)"},
     {LineFault::Flip, "flip", "a bit of a byte is inverted (AT: which byte)"},
     {LineFault::Double, "double", "a byte arrives twice (AT: which)"},
+    {LineFault::Twice, "twice", "the whole reply arrives twice, in one piece"},
     {LineFault::Cut, "cut", "the reply ends early (AT: bytes that arrive)"},
     {LineFault::Late, "late", "the reply comes late (AT: milliseconds)"},
     {LineFault::Missing, "missing", "the drive executes, but its reply is lost"},
@@ -84,6 +85,11 @@ LineFault::Kind LineDamage::nextExchange()
 
 Bytes LineDamage::damaged(Bytes reply, LineFault::Kind kind)
 {
+    if (kind == LineFault::Twice) {
+        const Bytes once = reply;
+        reply.insert(reply.end(), once.begin(), once.end());
+        return reply;
+    }
     const std::size_t at = pick(reply.size());
     if (at >= reply.size())
         return reply;

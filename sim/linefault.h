@@ -19,6 +19,7 @@ struct LineFault
         Drop,      ///< the reply lacks its byte `at`
         Flip,      ///< one bit of byte `at` is inverted
         Double,    ///< byte `at` arrives twice
+        Twice,     ///< the whole reply arrives twice, in one piece
         Cut,       ///< the reply ends before byte `at`
         Late,      ///< the reply comes `at` milliseconds late
         Missing,   ///< executed, but the reply is lost
