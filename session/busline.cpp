@@ -81,12 +81,6 @@ bool BusLine::mayRepeat() const
     return m_lastFailed && m_wasSent && !isDead() && !m_queue.isClosing() && !isGone();
 }
 
-void BusLine::beginRepeat(const Mark &before)
-{
-    ++m_meter.repeats;
-    m_status = before.status;
-}
-
 void BusLine::forgive(const Mark &before)
 {
     m_status = before.status;

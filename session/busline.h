@@ -37,8 +37,8 @@ public:
     /// Forgets the exchanges that went unanswered.
     void startTask() { m_failuresInARow = m_failures = 0; }
     /// Three exchanges in a row without a good reply, or four in one task. A line that is not quiet before any of three
-    /// requests has no good replies: what looks like one may belong to another request. From then on nothing is sent until the next
-    /// task: 57 writes to a dead line would take a minute.
+    /// requests has no good replies: what looks like one may belong to another request. From then on nothing is sent
+    /// until the next task: 57 writes to a dead line would take a minute.
     bool isDead() const;
     /// Between these a stop is being sent: also on a line that counts as dead, and without reviving it for the task
     /// that goes on afterwards.
@@ -58,9 +58,8 @@ public:
     Mark mark() const { return {m_status, m_failures}; }
     /// Whether asking again may help: the request went out, no good reply came, and the line is not given up.
     bool mayRepeat() const;
-    /// Before asking again.
-    void beginRepeat(const Mark &before);
-    /// When the second answer was good.
+    void countRepeat() { ++m_meter.repeats; }
+    /// Back to a mark.
     void forgive(const Mark &before);
     /// How long after a failure a late reply to it is waited for before anything is asked again. Not where one came,
     /// damaged: the line has been quiet since.

@@ -109,7 +109,8 @@ void SessionWorker::restartDrive(const TaskRequest &)
 void SessionWorker::restartToDFU(const TaskRequest &)
 {
     if (!modelHasCapability(m_data.deviceType, DeviceCapability::RestartToDFU)) {
-        tell(MessageKind::Note, Connection::tr("This drive cannot be restarted in firmware upgrade mode by a command."));
+        tell(MessageKind::Note,
+             Connection::tr("This drive cannot be restarted in firmware upgrade mode by a command."));
         return;
     }
     sendRestartToDFU();

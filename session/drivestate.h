@@ -38,7 +38,7 @@ struct LineMeter
 /// functions (statustexts.h) read it, Connection::statePolled hands it out.
 struct DriveState
 {
-    quint32 sequence = 0; ///< counts the good polls of the program, from 1
+    quint32 sequence = 0;                         ///< counts the good polls of the program, from 1
     std::chrono::steady_clock::time_point when{}; ///< of the reply
     LineMeter line;
 

@@ -3,8 +3,6 @@
 #include "sessionregisters.h"
 #include "sessionworker.h"
 
-#include <thread>
-
 void SessionWorker::tell(MessageKind kind, const QString &text)
 {
     emit m_session.error(text);
@@ -23,8 +21,13 @@ bool SessionWorker::askAgain(const std::function<bool()> &ask)
         return true;
     if (!m_asksAgain || !m_line.mayRepeat())
         return false;
-    m_line.beginRepeat(before);
-    letLateRepliesPass();
+    const BusLine::Mark failed = m_line.mark();
+    m_line.forgive({before.status, failed.failures});
+    if (!letLateRepliesPass()) {
+        m_line.forgive(failed);
+        return false;
+    }
+    m_line.countRepeat();
     const BusLine::Mark repeat = m_line.mark(); // a stop that was served meanwhile may have failed
     if (!ask())
         return false;
@@ -32,21 +35,22 @@ bool SessionWorker::askAgain(const std::function<bool()> &ask)
     return true;
 }
 
-/// A reply that is merely late must not answer what is asked next. A stop does not wait for it.
-void SessionWorker::letLateRepliesPass()
+/// A reply that is merely late must not answer what is asked next. A stop does not wait for it; false where that cannot
+/// be served in here, so that what is being done has to end for it.
+bool SessionWorker::letLateRepliesPass()
 {
     const auto deadline = std::chrono::steady_clock::now() + m_line.lateness();
     for (;;) {
         switch (m_queue.pauseUntil(deadline)) {
         case TaskQueue::Wake::TimeOver:
-            return;
+            return true;
         case TaskQueue::Wake::Disable:
-            if (!isConnected()) // it waits for the end of the task
-                return;
+            if (!isConnected())
+                return false;
             serveWaitingDisable();
             break;
         case TaskQueue::Wake::Closing:
-            return;
+            return false;
         }
     }
 }

@@ -79,8 +79,9 @@ QString busErrorText(bool connected, quint32 busStatus, quint32 deviceErrors, co
 
 QString lineTroubleText(bool silent)
 {
-    return silent ? SessionText::tr("The drive did not answer: check its power and the cable.")
-                  : SessionText::tr("The drive's answer came damaged: check the cable, its shield and the termination.");
+    return silent
+               ? SessionText::tr("The drive did not answer: check its power and the cable.")
+               : SessionText::tr("The drive's answer came damaged: check the cable, its shield and the termination.");
 }
 
 QString noConnectionText(bool silent, int nodeAddress)

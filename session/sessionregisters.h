@@ -102,8 +102,9 @@ constexpr int FlashEraseAndResetSettings = 11;
 
 /// A write to one of these moves, stops, restarts or erases a drive, or clears the fault that keeps an enabled one from
 /// moving: they are no settings.
-constexpr int commandRegisters[] = {IncrementalSetpoint, AbsoluteSetpoint, SystemCommand, SoftEnable, ForceEnable,
-                                    Homing,              FlashCommand,     FlashPipe,     FaultRegister};
+constexpr int commandRegisters[] = {IncrementalSetpoint, AbsoluteSetpoint, SystemCommand,
+                                    SoftEnable,          ForceEnable,      Homing,
+                                    FlashCommand,        FlashPipe,        FaultRegister};
 
 constexpr bool isCommandRegister(int address)
 {

@@ -12,9 +12,10 @@
 #include <initializer_list>
 #include <optional>
 
-/// One source file a topic: sessionworker.cpp (loop, pauses), errors.cpp, stops.cpp, connecting.cpp, identification.cpp, transfer.cpp,
-/// statuspoll.cpp, scope.cpp, stimulus.cpp, flashing.cpp, drivecommands.cpp, settingsfiles.cpp. A new task is a row in
-/// the table of sessionworker.cpp. Signals are Connection's, emitted from here.
+/// One source file a topic: sessionworker.cpp (loop, pauses), errors.cpp, stops.cpp, connecting.cpp,
+/// identification.cpp, transfer.cpp, statuspoll.cpp, scope.cpp, stimulus.cpp, flashing.cpp, drivecommands.cpp,
+/// settingsfiles.cpp. A new task is a row in the table of sessionworker.cpp. Signals are Connection's, emitted from
+/// here.
 class SessionWorker
 {
 public:
@@ -47,7 +48,7 @@ private:
     /// For pure reads, and writes that say the same twice: asks once more, silently, when no good reply came. `ask`
     /// makes one exchange and returns whether it was good.
     bool askAgain(const std::function<bool()> &ask);
-    void letLateRepliesPass();
+    bool letLateRepliesPass();
     /// Every text for the user, from where it arises.
     void tell(MessageKind kind, const QString &text);
     void checkZBErrors();
@@ -194,18 +195,18 @@ private:
     bool m_errorsAreOld = false;          ///< until the connect task ends: see checkZBErrors
 
     std::optional<std::chrono::steady_clock::time_point> m_disableSent; ///< until its outcome was announced
-    bool m_stopIsUnconfirmed = false; ///< in this connection
-    bool m_mayBeEnabled = false;      ///< as far as polls and commands tell
-    bool m_streamWasLost = false;     ///< a connection ended without the stop of its stream being acknowledged
-    QString m_lastWritten;            ///< name of the record that the running write has surely brought to the drive
-    bool m_outcomeIsKnown = false;    ///< of the last write that was answered
-    QString m_brokenOffWrite;         ///< what to say about the running write when its connection ends
+    bool m_stopIsUnconfirmed = false;                                   ///< in this connection
+    bool m_mayBeEnabled = false;                                        ///< as far as polls and commands tell
+    bool m_streamWasLost = false;  ///< a connection ended without the stop of its stream being acknowledged
+    QString m_lastWritten;         ///< name of the record that the running write has surely brought to the drive
+    bool m_outcomeIsKnown = false; ///< of the last write that was answered
+    QString m_brokenOffWrite;      ///< what to say about the running write when its connection ends
 
     int m_firmwareVersion = 0; ///< the bootloader's in firmware-upgrade mode
     int m_coreVersion = 0;
     int m_controlMode = 0; ///< CM as last read or written
 
-    DriveState m_state; ///< of the last good poll; its sequence number goes on over all connections
+    DriveState m_state;               ///< of the last good poll; its sequence number goes on over all connections
     bool m_polled = false;            ///< since connecting
     bool m_permanentStop = false;     ///< in the last poll
     bool m_setpointAnnounced = false; ///< since connecting

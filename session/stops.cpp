@@ -50,6 +50,11 @@ void SessionWorker::disableDrive()
     m_disableSent = Clock::now();
     m_stopIsUnconfirmed = !acknowledged;
     announceDisable(acknowledged);
+    // The end of this connection has been told already, which would leave this unsaid.
+    if (!acknowledged && m_communicationReported)
+        tell(MessageKind::UnconfirmedStop,
+             Connection::tr("The drive did not confirm the disable: it may still be powered. Esc tries again; the sure "
+                            "way is the machine's own stop."));
     // A reply that was lost leaves a doubt about the one that came: what the drive shows ends it.
     if (acknowledged && m_line.meter().errors != errorsBefore)
         poll();
@@ -186,8 +191,7 @@ void SessionWorker::disableWithoutConnection()
         if (m_streamWasLost && outcome != DisableOutcome::NoAnswer)
             m_streamWasLost = !sendStop(reg::SystemCommand, reg::CommandStopStream);
     }
-    const QString trouble =
-        outcome == DisableOutcome::NoPort ? openErrorText(port, m_line.openError()) : QString();
+    const QString trouble = outcome == DisableOutcome::NoPort ? openErrorText(port, m_line.openError()) : QString();
     m_line.close();
     m_line.clearStatus();
     emit m_session.disableAnswered(outcome == DisableOutcome::Disabled || outcome == DisableOutcome::StillEnabled);

@@ -24,8 +24,7 @@ bool isMotion(const QueuedTask &entry)
 
 bool isStop(const QueuedTask &entry)
 {
-    return entry.isDisable() || entry.task == Connection::TaskStopStimulus ||
-           entry.task == Connection::TaskAbortHoming;
+    return entry.isDisable() || entry.task == Connection::TaskStopStimulus || entry.task == Connection::TaskAbortHoming;
 }
 
 bool survivesDisconnect(const QueuedTask &entry)
@@ -48,9 +47,8 @@ template <typename Entries> void removeRepeatedStops(Entries &entries)
 {
     for (const Connection::Task task : {Connection::TaskStopStimulus, Connection::TaskAbortHoming}) {
         bool found = false;
-        removeIf(entries, [&found, task](const QueuedTask &entry) {
-            return entry.task == task && std::exchange(found, true);
-        });
+        removeIf(entries,
+                 [&found, task](const QueuedTask &entry) { return entry.task == task && std::exchange(found, true); });
     }
 }
 

@@ -70,9 +70,10 @@ VersionVerdict refusedAsOutdated(const DriveIdentity &drive, const QString &text
     VersionVerdict verdict = refused(text + restartNotice);
     verdict.restartToDFU = true;
     verdict.notRestartedText =
-        refused(text + SessionText::tr("<br/><br/><b>Device could not be restarted in firmware upgrade mode: it did not "
-                                       "confirm the command and is probably still in normal mode. Try connecting "
-                                       "again.</b>"))
+        refused(text +
+                SessionText::tr("<br/><br/><b>Device could not be restarted in firmware upgrade mode: it did not "
+                                "confirm the command and is probably still in normal mode. Try connecting "
+                                "again.</b>"))
             .errorText;
     return verdict;
 }

@@ -37,10 +37,10 @@ struct VersionVerdict
 {
     bool accepted = false;
     bool restartToDFU = false; ///< refused; restart the drive into firmware-upgrade mode, then tell the user
-    QString errorText; ///< HTML for the user; with `accepted` a recommendation; empty when there is nothing to say. With
-                       ///< `restartToDFU` it says that the drive has been restarted
+    QString errorText; ///< HTML for the user; with `accepted` a recommendation; empty when there is nothing to say.
+                       ///< With `restartToDFU` it says that the drive has been restarted
     QString notRestartedText; ///< instead of errorText when it was not
-    QString statusText; ///< connection text of a refusal; empty when accepted
+    QString statusText;       ///< connection text of a refusal; empty when accepted
 };
 
 /// First record for the family of a type id, null when the family is not supported.

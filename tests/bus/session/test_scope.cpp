@@ -68,8 +68,8 @@ TEST_F(Scope, ArmsWithTwoExchangesAndDownloadsInFiftyOfFortyWords)
     EXPECT_EQ(sent[52].substr(2 * 3 * 39), "4007cf") << "1999";
     EXPECT_THAT(log().captureButton, ElementsAre(QString("Start capture"), QString("Scope waiting.."),
                                                  QString("Downloading.."), QString("Start capture")));
-    EXPECT_THAT(log().captures, ElementsAre(CaptureState::Idle, CaptureState::Waiting, CaptureState::Downloading,
-                                            CaptureState::Idle));
+    EXPECT_THAT(log().captures,
+                ElementsAre(CaptureState::Idle, CaptureState::Waiting, CaptureState::Downloading, CaptureState::Idle));
 }
 
 TEST_F(Scope, PutsEveryWordIntoItsChannelAtItsTime)

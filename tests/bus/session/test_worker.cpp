@@ -167,8 +167,8 @@ TEST_F(Worker, ADisableIsSentUntilItIsAcknowledgedAtMostThreeTimes)
             bus().clearFaults();
         // Its loss was mended, and what the drive shows ends the doubt; or it is the end of the connection.
         ASSERT_TRUE(heardInTheEnd ? waitUntil([this] { return !log().outcomes.isEmpty(); }) : waitForDisconnect());
-        EXPECT_THAT(log().outcomes, testing::ElementsAre(heardInTheEnd ? DisableOutcome::Disabled
-                                                                       : DisableOutcome::NoAnswer));
+        EXPECT_THAT(log().outcomes,
+                    testing::ElementsAre(heardInTheEnd ? DisableOutcome::Disabled : DisableOutcome::NoAnswer));
         EXPECT_THAT(log().disables, testing::ElementsAre(heardInTheEnd));
         EXPECT_EQ(bus().read(5, 2533), heardInTheEnd ? 0 : 1);
         EXPECT_GE(received(disableWrite), heardInTheEnd ? 2 : 3);

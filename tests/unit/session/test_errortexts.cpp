@@ -110,9 +110,10 @@ TEST(ErrorText, ARefusedWriteNamesValueAndLimits)
     SingleParam gain = undefinedParam(202, 40000);
     gain.name = "KVP";
     gain.max = 30000;
-    EXPECT_EQ(refusedWriteText(8, &gain),
-              "The drive refused a write; the connection goes on.<br>Device errors: <br>* Value too high<br>Occurred "
-              "while setting parameter: name=KVP, addr=202, GUI value=40000, HW value=40000<br>This drive: 0 to 30000.");
+    EXPECT_EQ(
+        refusedWriteText(8, &gain),
+        "The drive refused a write; the connection goes on.<br>Device errors: <br>* Value too high<br>Occurred "
+        "while setting parameter: name=KVP, addr=202, GUI value=40000, HW value=40000<br>This drive: 0 to 30000.");
     gain.max = 0; // nobody has asked the drive
     EXPECT_FALSE(refusedWriteText(8, &gain).contains("This drive"));
 }
