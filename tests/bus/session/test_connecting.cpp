@@ -312,6 +312,21 @@ TEST_F(Connecting, ADriveThatIsTooOldIsOnlySaidToBeRestartedWhenItConfirmedThat)
     EXPECT_NE(bus().read(5, 2), 0);
 }
 
+TEST_F(Connecting, OneOddReadingOfTheVersionsRestartsNothing)
+{
+    bus().set(5, 6014, 1077);
+    bus().set(5, 6015, 1077);
+    bus().setTurnAround(std::chrono::milliseconds(30));
+    session().connectDevice(port(), DriveAddress);
+    ASSERT_TRUE(waitForRequests(5)); // the first reading was four
+    bus().set(5, 6014, 1078);
+    ASSERT_TRUE(waitUntil([this] { return !log().statuses.isEmpty(); }));
+    EXPECT_TRUE(log().statuses.last().connected);
+    EXPECT_TRUE(log().errors.isEmpty());
+    for (const std::string &payload : payloads())
+        EXPECT_NE(payload.substr(0, 4), "822a") << "register 554";
+}
+
 TEST_F(Connecting, ADamagedReplyIsAskedForOnceMoreAndADoubledOneAnswersNothingElse)
 {
     using F = sim::LineFault;

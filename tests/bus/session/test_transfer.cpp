@@ -155,9 +155,11 @@ TEST_F(Transfer, NoSettingsFileAndNoOverrideEnablesMovesOrRestartsADrive)
     EXPECT_EQ(session().isConnected(), true);
 }
 
-TEST_F(Transfer, AChangedControlModeIsAnnouncedOnceBeforeItIsWritten)
+TEST_F(Transfer, AChangedControlModeIsAnnouncedOnceTheDriveHasTakenIt)
 {
     const int other = held().getParam("CM").value == 1.0 ? 2 : 1;
+    apply(with("CM", 100)); // refused
+    EXPECT_THAT(log().controlModes, testing::IsEmpty());
     apply(with("CM", other));
     apply(with("CM", other));
     EXPECT_THAT(log().controlModes, ElementsAre(other));
@@ -423,6 +425,15 @@ TEST_F(TorvaTransfer, OnlyAKetaMeasures)
     session().command(Connection::TaskMeasure);
     ASSERT_TRUE(waitUntilIdle());
     EXPECT_THAT(log().errors, ElementsAre(QString("Measure function is available only in KETA drive models")));
+    EXPECT_TRUE(payloads().empty());
+}
+
+TEST_F(TorvaTransfer, OnlyADriveThatCanIsRestartedIntoUpgradeMode)
+{
+    session().command(Connection::TaskRestartToDFU);
+    ASSERT_TRUE(waitUntilIdle());
+    EXPECT_THAT(log().errors, SizeIs(1));
+    EXPECT_EQ(log().messages.last().kind, MessageKind::Note);
     EXPECT_TRUE(payloads().empty());
 }
 
