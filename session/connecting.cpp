@@ -48,11 +48,9 @@ void SessionWorker::resetDriveState()
     const quint32 sequence = m_state.sequence;
     m_state = DriveState();
     m_state.sequence = sequence;
-    m_polled = false;
-    m_permanentStop = false;
-    m_setpointAnnounced = false;
-    m_capturePending = false;
-    m_streamStarted = m_streaming = false;
+    m_announced = {};
+    m_capture = {};
+    m_stream = {};
     m_data.positionFeedback = 0;
     std::lock_guard<std::mutex> lock(m_data.mutex);
     m_data.stimulus.stop();
@@ -136,13 +134,13 @@ void SessionWorker::disconnectDrive(const TaskRequest &)
     m_line.startTask();
     // Not by setParameter: the end of a connection is no place for another error text.
     if (!inFirmwareUpgradeMode()) {
-        if (m_streaming)
+        if (m_stream.running)
             m_streamWasLost = !sendStop(reg::SystemCommand, reg::CommandStopStream);
         writeAndFetch(reg::BusWatchdog, 0);
     }
     if (m_disableSent)
         announceDisableOutcome(DisableOutcome::NoAnswer);
-    if (m_capturePending)
+    if (m_capture.pending)
         announceCapture(CaptureState::Idle);
     qCDebug(sessionLog) << "disconnecting" << m_line.handle();
     m_line.close();
@@ -157,6 +155,7 @@ void SessionWorker::disconnectDrive(const TaskRequest &)
         clearDeviceType(m_data.drive);
     }
     emit m_session.statusChanged(false, Connection::tr("Disconnected"));
+    stopWhatWasLeft();
 }
 
 void SessionWorker::scanBus(const TaskRequest &request)

@@ -62,7 +62,7 @@ void SessionWorker::stopStimulus(const TaskRequest &)
 {
     // Still streaming when it was lost: the end of the connection then stops it again.
     if (sendStop(reg::SystemCommand, reg::CommandStopStream))
-        m_streaming = false;
+        m_stream.running = false;
 }
 
 void SessionWorker::forgetStimulus()
@@ -71,7 +71,8 @@ void SessionWorker::forgetStimulus()
         std::lock_guard<std::mutex> lock(m_data.mutex);
         m_data.stimulus.stop();
     }
-    m_streaming = m_streamStarted = m_mayBeEnabled = false;
+    m_stream = {};
+    m_mayBeEnabled = false;
 }
 
 void SessionWorker::setAbsoluteSetpoint(const TaskRequest &request)

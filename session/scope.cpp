@@ -14,10 +14,10 @@ void SessionWorker::startCapture(const TaskRequest &request)
     }
     announceCapture(CaptureState::Waiting);
     // The download uses this copy: what is ticked while the recorder waits is for the next capture.
-    m_capture = request.capture;
+    m_capture.request = request.capture;
     initScope();
-    m_capturePending = statusIsClean();
-    if (!m_capturePending)
+    m_capture.pending = statusIsClean();
+    if (!m_capture.pending)
         announceCapture(CaptureState::Idle);
 }
 
@@ -40,22 +40,22 @@ void SessionWorker::announceCapture(CaptureState state)
 void SessionWorker::initScope()
 {
     const double base = m_data.baseFrequency;
-    const int divider = scopeDivider(base, m_capture.sampleRate);
-    m_samplePeriod = scopeSamplePeriod(base, divider);
+    const int divider = scopeDivider(base, m_capture.request.sampleRate);
+    m_capture.samplePeriod = scopeSamplePeriod(base, divider);
     qCDebug(sessionLog) << "Samplerate value " << divider;
-    m_line.appendWrite(reg::ScopeSources, scopeSourceMask(m_capture.channels));
+    m_line.appendWrite(reg::ScopeSources, scopeSourceMask(m_capture.request.channels));
     m_line.appendWrite(reg::ScopeDivider, divider);
     m_line.execute();
     m_line.fetchWrite();
     m_line.fetchWrite();
     m_line.finishReply();
-    writeAndFetch(reg::ScopeState, m_capture.triggerCode);
+    writeAndFetch(reg::ScopeState, m_capture.request.triggerCode);
 }
 
 void SessionWorker::downloadCapture(const TaskRequest &)
 {
     // Armed anew while this waited: the recorder's memory is no longer what was to be read.
-    if (m_capturePending)
+    if (m_capture.pending)
         return;
     // A picture of invented data is worse than none: without the whole memory there is no plot. A copy of a reply that
     // was still on the line may have been taken for the next one: then it is read once more, and the poll behind it
@@ -67,7 +67,7 @@ void SessionWorker::downloadCapture(const TaskRequest &)
         whole = downloadScope(scopeWordCount) && poll() && strays == m_line.meter().strays;
     }
     if (whole)
-        emit m_session.plotReady(m_capture.channels);
+        emit m_session.plotReady(m_capture.request.channels);
     announceCapture(CaptureState::Idle);
 }
 
@@ -86,9 +86,10 @@ bool SessionWorker::selectScopeMemory()
 bool SessionWorker::downloadScope(int words)
 {
     const auto isEnabled = [](const CaptureData &channel) { return channel.enabled; };
-    for (CaptureData &channel : m_capture.channels)
+    for (CaptureData &channel : m_capture.request.channels)
         channel.samples.clear();
-    if (std::none_of(m_capture.channels.cbegin(), m_capture.channels.cend(), isEnabled) || !selectScopeMemory())
+    if (std::none_of(m_capture.request.channels.cbegin(), m_capture.request.channels.cend(), isEnabled) ||
+        !selectScopeMemory())
         return false;
     for (int first = 0; first < words; first += scopeChunkWords) {
         if (m_queue.isClosing())
@@ -113,7 +114,7 @@ bool SessionWorker::downloadScopeWords(int first, int count)
         return (!std::exchange(again, true) || selectScopeMemory()) && askScopeWords(first, count, words);
     });
     for (int i = 0; whole && i < count; ++i)
-        storeCaptureSample(m_capture.channels, first + i, words.at(i), m_samplePeriod);
+        storeCaptureSample(m_capture.request.channels, first + i, words.at(i), m_capture.samplePeriod);
     return whole && statusIsClean();
 }
 

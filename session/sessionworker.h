@@ -76,6 +76,7 @@ private:
     DisableOutcome readBackEnable();
     void undoEnable();
     void disableWithoutConnection();
+    void stopWhatWasLeft(); ///< behind the end of a connection
 
     // --- Connecting (connecting.cpp) ---
     void connectDrive(const TaskRequest &request);
@@ -197,29 +198,39 @@ private:
     std::optional<std::chrono::steady_clock::time_point> m_disableSent; ///< until its outcome was announced
     bool m_stopIsUnconfirmed = false;                                   ///< in this connection
     bool m_mayBeEnabled = false;                                        ///< as far as polls and commands tell
-    bool m_streamWasLost = false;  ///< a connection ended without the stop of its stream being acknowledged
-    QString m_lastWritten;         ///< name of the record that the running write has surely brought to the drive
-    bool m_outcomeIsKnown = false; ///< of the last write that was answered
-    QString m_brokenOffWrite;      ///< what to say about the running write when its connection ends
+    bool m_enableIsToBeUndone = false; ///< by a new opening of the port, since the old one gave no answer
+    bool m_streamWasLost = false;      ///< a connection ended without the stop of its stream being acknowledged
+    QString m_lastWritten;             ///< name of the record that the running write has surely brought to the drive
+    bool m_outcomeIsKnown = false;     ///< of the last write that was answered
+    QString m_brokenOffWrite;          ///< what to say about the running write when its connection ends
 
     int m_firmwareVersion = 0; ///< the bootloader's in firmware-upgrade mode
     int m_coreVersion = 0;
     int m_controlMode = 0; ///< CM as last read or written
 
-    DriveState m_state;               ///< of the last good poll; its sequence number goes on over all connections
-    bool m_polled = false;            ///< since connecting
-    bool m_permanentStop = false;     ///< in the last poll
-    bool m_setpointAnnounced = false; ///< since connecting
-    qint32 m_announcedSetpoint = 0;
+    DriveState m_state; ///< of the last good poll; its sequence number goes on over all connections
 
-    CaptureRequest m_capture;    ///< as armed
-    double m_samplePeriod = 0.0; ///< s, of the armed capture
-    bool m_capturePending = false;
+    /// What has been said about the polls of this connection.
+    struct Announced
+    {
+        bool permanentStop = false;
+        std::optional<qint32> setpoint;
+    } m_announced;
 
-    bool m_streamStarted = false; ///< set-up items and the first setpoint were sent in this connection
-    bool m_streaming = false;     ///< setpoints were sent since the stream was last stopped
-    int m_streamStep = 0;         ///< items sent since the stream started
-    int m_streamInitialFree = 0;  ///< bytes free in the drive's buffer then
+    struct CaptureRun
+    {
+        CaptureRequest request;    ///< as armed
+        double samplePeriod = 0.0; ///< s
+        bool pending = false;      ///< armed and not read yet
+    } m_capture;
+
+    struct Stream
+    {
+        bool started = false; ///< set-up items and the first setpoint were sent in this connection
+        bool running = false; ///< setpoints were sent since the stream was last stopped
+        int step = 0;         ///< items sent since the stream started
+        int initialFree = 0;  ///< bytes free in the drive's buffer then
+    } m_stream;
 
     int m_uploadedWords = 0; ///< of the images of an upgrade, for its progress
     int m_uploadWords = 0;

@@ -74,19 +74,16 @@ void SessionWorker::announcePoll()
     emit m_session.statePolled(m_state);
     lookForDisable();
 
-    if (m_state.isPermanentStop() && !(m_polled && m_permanentStop))
+    if (m_state.isPermanentStop() && !m_announced.permanentStop)
         emit m_session.suggestDeviceRestart();
-    m_permanentStop = m_state.isPermanentStop();
-    m_polled = true;
-
-    if (!m_setpointAnnounced || m_announcedSetpoint != m_state.setpoint)
+    m_announced.permanentStop = m_state.isPermanentStop();
+    if (m_announced.setpoint != m_state.setpoint)
         emit m_session.setpointChanged(m_state.setpoint);
-    m_setpointAnnounced = true;
-    m_announcedSetpoint = m_state.setpoint;
+    m_announced.setpoint = m_state.setpoint;
 
-    qCDebug(sessionLog) << "Pend scope " << m_capturePending << m_state.scopeState;
-    if (m_capturePending && m_state.scopeState == 0) {
-        m_capturePending = false;
+    qCDebug(sessionLog) << "Pend scope " << m_capture.pending << m_state.scopeState;
+    if (m_capture.pending && m_state.scopeState == 0) {
+        m_capture.pending = false;
         announceCapture(CaptureState::Downloading);
         m_queue.push(Connection::TaskDownloadScope);
     }

@@ -4,6 +4,7 @@
 #include "sessionworker.h"
 
 #include <thread>
+#include <utility>
 
 namespace {
 
@@ -164,11 +165,34 @@ void SessionWorker::undoEnable()
         m_mayBeEnabled = false;
     } else {
         m_stopIsUnconfirmed = true;
+        m_enableIsToBeUndone = outcome == DisableOutcome::NoAnswer;
     }
     announceDisableOutcome(outcome);
     tell(outcome == DisableOutcome::Disabled ? MessageKind::Undone : MessageKind::UnconfirmedStop,
          undoneEnableText(outcome));
     m_queue.push(Connection::TaskUpdateStatus);
+}
+
+/// The session's own motion, and an enable that it could not take back, are not left to a connection that has gone:
+/// the port is opened once more. Nothing else disables a drive that the user has not told to.
+void SessionWorker::stopWhatWasLeft()
+{
+    if (std::exchange(m_enableIsToBeUndone, false)) {
+        disableWithoutConnection();
+        return;
+    }
+    QString port;
+    {
+        std::lock_guard<std::mutex> lock(m_data.mutex);
+        port = m_data.targetPort;
+    }
+    // A disable that waits comes first, and does this, too.
+    if (!m_streamWasLost || m_queue.contains(Connection::TaskApplyEnableState) ||
+        !m_line.open(port, m_data.replyTimeoutMs))
+        return;
+    m_streamWasLost = !sendStop(reg::SystemCommand, reg::CommandStopStream);
+    m_line.close();
+    m_line.clearStatus();
 }
 
 void SessionWorker::disableWithoutConnection()

@@ -164,6 +164,30 @@ TEST_F(Stops, ADisableWithoutAConnectionSaysWhatTheDriveShows)
     EXPECT_TRUE(connectTo()) << "and the next connection works";
 }
 
+TEST_F(Stops, AnEnableThatCouldNotBeTakenBackIsTakenBackThroughANewOpeningOfThePort)
+{
+    begin(false);
+    // Executed, but the answer is lost; then nothing is heard until the connection has ended.
+    bus().setFaults({{Fault::Missing, 4, 0, 1}, {Fault::Deaf, 4, 0, 5}});
+    enable();
+    ASSERT_TRUE(waitUntil([this] { return log().outcomes.size() == 2; }));
+    EXPECT_THAT(log().outcomes, ElementsAre(DisableOutcome::NoAnswer, DisableOutcome::Disabled));
+    EXPECT_FALSE(isEnabled());
+    EXPECT_FALSE(session().isConnected());
+}
+
+TEST_F(Stops, AStreamIsStoppedThroughANewOpeningOfThePort)
+{
+    begin(true);
+    session().setStimulus(100, 0.1, -100, 0.1, true);
+    ASSERT_TRUE(bus().waitForRegister(5, 6, [](int free) { return free < 1500; }));
+    ASSERT_TRUE(waitUntilIdle());
+    bus().setFaults({{Fault::Deaf, 4, 0, 6}}); // a poll, the stop and the watchdog
+    ASSERT_TRUE(waitForDisconnect());
+    EXPECT_TRUE(bus().waitForRegister(5, 6, 2048, std::chrono::seconds(2)));
+    EXPECT_TRUE(isEnabled()) << "nothing disables a drive by itself";
+}
+
 TEST_F(Stops, ADisableOnTheWayOutOpensThePortAnew)
 {
     begin(true);
