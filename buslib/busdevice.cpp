@@ -129,14 +129,15 @@ void zbBDDropOutput(int handle)
         device->transmitCount = 0;
 }
 
-void zbBDDropInput(int handle)
+int zbBDDropInput(int handle)
 {
     BusDevice *device = openDevice(handle);
     if (!device)
-        return;
+        return 0;
+    const int readAhead = device->receiveCount - device->receiveNext;
     device->receiveCount = 0;
     device->receiveNext = 0;
-    dropPortInput(device->port, dropLimit);
+    return readAhead + dropPortInput(device->port, dropLimit);
 }
 
 int zbBDIsGone(int handle)

@@ -50,8 +50,9 @@ int zbIsBDHandleOpen(int handle);
 /// Empties the transmit buffer without sending.
 void zbBDDropOutput(int handle);
 
-/// Drops received bytes without waiting for more: those of the record and at most 64 KiB from the port.
-void zbBDDropInput(int handle);
+/// Drops received bytes without waiting for more: those of the record and at most 64 KiB from the port. Returns how
+/// many it were.
+int zbBDDropInput(int handle);
 
 /// 1 once the port is gone (see isPortGone).
 int zbBDIsGone(int handle);

@@ -114,13 +114,23 @@ ZbStatus zbResetZB485variables(ZbHandle handle)
     return recordStatus(handle, ZB_OK);
 }
 
-ZbStatus zbDiscardInput(ZbHandle handle)
+ZbStatus zbDiscardInput(ZbHandle handle, int *count)
 {
+    if (count)
+        *count = 0;
     const BusState *bus = openBus(handle);
     if (!bus)
         return ZB_ERR_NODEVICE;
-    zbBDDropInput(bus->deviceHandle);
+    const int dropped = zbBDDropInput(bus->deviceHandle);
+    if (count)
+        *count = dropped;
     return recordStatus(handle, ZB_OK);
+}
+
+int zbBytesHeard(ZbHandle handle)
+{
+    const BusState *bus = openBus(handle);
+    return bus ? bus->bytesHeard : 0;
 }
 
 int zbIsLineGone(ZbHandle handle)

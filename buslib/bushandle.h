@@ -38,6 +38,7 @@ struct BusState
     std::uint8_t receivedAddress = noAddress;
     std::uint16_t runningChecksum = 0;
     std::uint16_t receivedChecksum = noChecksum;
+    int bytesHeard = 0;              ///< in the last receive, good or bad
     std::uint8_t packetComplete = 0; ///< a reply was assembled, or an error ended it
     std::uint8_t queueOverflow = 0;  ///< an item did not fit
     char name[64] = {};

@@ -201,6 +201,7 @@ ZbStatus zbReceiveReturnPacket(ZbHandle handle)
     if (!bus)
         return ZB_ERR_NODEVICE;
     zbDebug(handle, 3, "  Reading reply packet\n");
+    bus->bytesHeard = 0;
     const auto limit = std::chrono::steady_clock::now() + std::chrono::milliseconds(readTimeoutMs) + longestReply;
     do {
         std::uint8_t byte = 0;
@@ -210,6 +211,7 @@ ZbStatus zbReceiveReturnPacket(ZbHandle handle)
             return recordStatus(handle, ZB_ERR_COMMUNICATION);
         }
         zbDebug(handle, 3, "  got byte %02x \n", byte);
+        ++bus->bytesHeard;
         // Noise that trickles in would restart the wait with every byte, for minutes.
         if (std::chrono::steady_clock::now() > limit)
             return recordStatus(handle, zbReceiveErrorHandler(handle, true));

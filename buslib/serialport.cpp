@@ -203,16 +203,18 @@ bool requestLowLatency(int port)
     return ioctl(port, TIOCGSERIAL, &settings) == 0 && (settings.flags & ASYNC_LOW_LATENCY);
 }
 
-void dropPortInput(int port, int limit)
+int dropPortInput(int port, int limit)
 {
     std::uint8_t chunk[1024];
     pollfd request = {port, POLLIN, 0};
-    for (int dropped = 0; dropped < limit;) {
+    int dropped = 0;
+    while (dropped < limit) {
         if (poll(&request, 1, 0) <= 0 || !(request.revents & POLLIN))
-            return;
+            break;
         const int count = PollComport(port, chunk, sizeof chunk);
         if (count <= 0)
-            return; // a port that is gone is always "readable"
+            break; // a port that is gone is always "readable"
         dropped += count;
     }
+    return dropped;
 }

@@ -47,7 +47,7 @@ bool isPortGone(int port);
 /// Best effort. Returns whether the driver says it took the setting: some accept it and ignore it.
 bool requestLowLatency(int port);
 
-/// Drops what waits in the port's input without waiting for more, at most `limit` bytes.
-void dropPortInput(int port, int limit);
+/// Drops what waits in the port's input without waiting for more, at most `limit` bytes. Returns how many it were.
+int dropPortInput(int port, int limit);
 
 #endif

@@ -59,8 +59,12 @@ int zbGetVersion();
 ZbStatus zbResetZB485variables(ZbHandle handle);
 
 /// Reads and drops what is waiting on the line without waiting for more, at most 64 KiB. For a line on which a late
-/// reply could answer the next request. Returns ZB_OK or ZB_ERR_NODEVICE.
-ZbStatus zbDiscardInput(ZbHandle handle);
+/// reply could answer the next request. `count` (may be null) is how many bytes it were. Returns ZB_OK or
+/// ZB_ERR_NODEVICE.
+ZbStatus zbDiscardInput(ZbHandle handle, int *count = nullptr);
+
+/// Bytes that came in answer to the last request, whether they made a good reply or not: 0 tells silence from damage.
+int zbBytesHeard(ZbHandle handle);
 
 /// Non-zero once the adapter was pulled out (or the other end of a pseudo terminal closed); 0 on a line that is merely
 /// quiet, and for a closed handle. Never waits. After it sends fail with ZB_ERR_BUS and receives with

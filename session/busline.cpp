@@ -1,9 +1,12 @@
 #include "busline.h"
 
+#include <cerrno>
+
 namespace {
 constexpr long minWriteValue = -(1L << 29);
 constexpr long maxWriteValue = (1L << 29) - 1;
 constexpr int registerBits = 0x3FFF;
+constexpr int babblesAfter = 3; // requests in a row that found something on the line
 constexpr TaskQueue::Milliseconds closingLimit(2400);
 
 bool isFailure(ZbStatus status)
@@ -17,10 +20,13 @@ bool BusLine::open(const QString &portName, int timeoutMs)
     close();
     m_status = 0;
     m_appended = 0;
-    m_lastFailed = false;
+    m_lastFailed = m_mayComeLate = false;
+    m_straysInARow = 0;
     startTask();
+    m_timeoutMs = timeoutMs;
     zbSetTimeout(static_cast<std::uint16_t>(timeoutMs));
     m_handle = zbOpenBus(portName.toLocal8Bit().constData());
+    m_openError = isOpen() ? 0 : errno;
     if (isOpen())
         zbResetZB485variables(m_handle);
     return isOpen();
@@ -48,7 +54,10 @@ ZbStatus BusLine::recordAppend(ZbStatus status)
 /// A value that is missing or left over makes the reply the answer to something else.
 ZbStatus BusLine::recordDecoding(ZbStatus status)
 {
-    m_lastFailed |= isFailure(status);
+    if (isFailure(status) && !m_lastFailed) {
+        m_lastFailed = m_mayComeLate = true; // it answered something else
+        ++m_meter.errors;
+    }
     return record(status);
 }
 
@@ -60,6 +69,22 @@ bool BusLine::isDead() const
 bool BusLine::maySend() const
 {
     return (m_stopping || !isDead()) && !m_queue.isClosing(closingLimit);
+}
+
+bool BusLine::wasSilent() const
+{
+    return m_lastFailed && zbBytesHeard(m_handle) == 0;
+}
+
+bool BusLine::mayRepeat() const
+{
+    return m_lastFailed && m_wasSent && !isDead() && !m_queue.isClosing() && !isGone();
+}
+
+void BusLine::forgive(const Mark &before)
+{
+    m_status = before.status;
+    m_failures = before.failures;
 }
 
 ZbStatus BusLine::append(const QueueItem &item)
@@ -80,6 +105,12 @@ ZbStatus BusLine::appendWrite(int address, long value)
     return recordAppend(zbAppendSetParamCommandToQueue(m_handle, static_cast<std::int16_t>(address), value));
 }
 
+bool BusLine::canCarry(int address, double value)
+{
+    // Written so that a NaN fails it.
+    return value > minWriteValue - 1.0 && value < maxWriteValue + 1.0 && (address & ~registerBits) == 0;
+}
+
 ZbStatus BusLine::execute()
 {
     return exchange(zbExecuteCommandQueue);
@@ -94,23 +125,46 @@ ZbStatus BusLine::exchange(ZbStatus (*roundTrip)(ZbHandle, std::uint8_t))
 {
     const ZbStatus appended = m_appended;
     m_appended = 0;
+    m_wasSent = false;
     if (isFailure(appended) || !maySend()) {
         zbResetZB485variables(m_handle);
         return record(isFailure(appended) ? appended : ZB_ERR_COMMUNICATION);
     }
-    if (m_lastFailed)
-        zbDiscardInput(m_handle);
+    dropStrays();
+    if (m_straysInARow >= babblesAfter && !m_stopping) {
+        countFailure();
+        zbResetZB485variables(m_handle);
+        return record(ZB_ERR_COMMUNICATION);
+    }
+    m_wasSent = true;
+    ++m_meter.exchanges;
     const ZbStatus status = record(roundTrip(m_handle, m_node));
     m_lastFailed = isFailure(status);
+    m_mayComeLate = m_lastFailed && wasSilent();
     if (m_lastFailed) {
-        ++m_failures;
-        ++m_failuresInARow;
+        countFailure();
         // A failed send leaves its items queued; they would go out in front of the next batch.
         zbResetZB485variables(m_handle);
     } else if (!m_stopping) {
         m_failuresInARow = 0;
     }
     return status;
+}
+
+void BusLine::countFailure()
+{
+    m_lastFailed = true;
+    ++m_meter.errors;
+    ++m_failures;
+    ++m_failuresInARow;
+}
+
+void BusLine::dropStrays()
+{
+    int dropped = 0;
+    zbDiscardInput(m_handle, &dropped);
+    m_straysInARow = dropped > 0 ? m_straysInARow + 1 : 0;
+    m_meter.strays += dropped > 0;
 }
 
 ZbStatus BusLine::fetch(long *value)
@@ -123,10 +177,9 @@ ZbStatus BusLine::fetchRead(long *value)
     return recordDecoding(zbGetQueuedGetParamReturnValue(m_handle, value));
 }
 
-ZbStatus BusLine::fetchWrite()
+ZbStatus BusLine::fetchWrite(long *value)
 {
-    long ignored = 0;
-    return recordDecoding(zbGetQueuedSetParamReturnValue(m_handle, &ignored));
+    return recordDecoding(zbGetQueuedSetParamReturnValue(m_handle, value));
 }
 
 ZbStatus BusLine::finishReply()

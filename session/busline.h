@@ -3,6 +3,7 @@
 #ifndef BUSLINE_H
 #define BUSLINE_H
 
+#include "drivestate.h"
 #include "queueitem.h"
 #include "taskqueue.h"
 #include "zetabus.h"
@@ -20,8 +21,10 @@ public:
     ~BusLine() { close(); }
 
     /// Opens the bus with a read time-out in ms and starts clean: a reused handle still holds what its last user left
-    /// in its queue. False when there is no such port, no permission, or it is in use.
+    /// in its queue. False when there is no such port, no permission, or it is in use; see openError.
     bool open(const QString &portName, int timeoutMs);
+    /// The errno of the last open that failed.
+    int openError() const { return m_openError; }
     void close();
     bool isOpen() const { return m_handle >= 0; }
     int handle() const { return m_handle; }
@@ -33,30 +36,53 @@ public:
 
     /// Forgets the exchanges that went unanswered.
     void startTask() { m_failuresInARow = m_failures = 0; }
-    /// Three exchanges in a row without a good reply, or four in one task. From then on nothing is sent until the next
-    /// task: 57 writes to a dead line would take a minute.
+    /// Three exchanges in a row without a good reply, or four in one task. A line that is not quiet before any of three
+    /// requests has no good replies: what looks like one may belong to another request. From then on nothing is sent
+    /// until the next task: 57 writes to a dead line would take a minute.
     bool isDead() const;
     /// Between these a stop is being sent: also on a line that counts as dead, and without reviving it for the task
     /// that goes on afterwards.
     void beginStop() { m_stopping = true; }
     void endStop() { m_stopping = false; }
     bool lastExchangeFailed() const { return m_lastFailed; }
+    /// Whether nothing at all came in answer to the last request.
+    bool wasSilent() const;
+
+    /// What an exchange that is asked a second time goes back to, so that a failure which was mended is forgotten (but
+    /// stays in the meter).
+    struct Mark
+    {
+        ZbStatus status;
+        int failures;
+    };
+    Mark mark() const { return {m_status, m_failures}; }
+    /// Whether asking again may help: the request went out, no good reply came, and the line is not given up.
+    bool mayRepeat() const;
+    void countRepeat() { ++m_meter.repeats; }
+    /// Back to a mark.
+    void forgive(const Mark &before);
+    /// How long after a failure a late reply to it is waited for before anything is asked again. Not where one came,
+    /// damaged: the line has been quiet since.
+    TaskQueue::Milliseconds lateness() const { return TaskQueue::Milliseconds(m_mayComeLate ? m_timeoutMs : 0); }
+    const LineMeter &meter() const { return m_meter; }
 
     /// Each returns its own status. An item that does not fit, or a register or value with more bits than a write item
     /// carries, spoils the whole batch: `execute` then sends nothing and reports it.
     ZbStatus append(const QueueItem &item);
     ZbStatus appendRead(int address);
     ZbStatus appendWrite(int address, long value);
+    /// Whether a write item has room for the register and, truncated, the value; never for what is not a number.
+    static bool canCarry(int address, double value);
 
-    /// Sends the batch and receives its reply. After a failure what is left on the line is dropped first: a late reply
-    /// must not answer the next request.
+    /// Sends the batch and receives its reply. What waits on the line is dropped first: neither a late reply nor a
+    /// second copy of the last one may answer the next request.
     ZbStatus execute();
     /// The same for timed execution from the drive's command buffer.
     ZbStatus upload();
 
     ZbStatus fetch(long *value);
     ZbStatus fetchRead(long *value);
-    ZbStatus fetchWrite();
+    ZbStatus fetchWrite(long *value = nullptr);
     /// Ends the decoding of a reply: bytes that are left over make it the reply to something else, a failure.
     ZbStatus finishReply();
     /// Undecoded bytes of the last reply.
@@ -75,6 +101,8 @@ private:
     ZbStatus recordDecoding(ZbStatus status);
     ZbStatus exchange(ZbStatus (*roundTrip)(ZbHandle, std::uint8_t));
     bool maySend() const;
+    void dropStrays();
+    void countFailure();
 
     const TaskQueue &m_queue;
     ZbHandle m_handle = -1;
@@ -84,7 +112,13 @@ private:
     int m_failuresInARow = 0;
     int m_failures = 0; ///< in this task
     bool m_lastFailed = false;
+    bool m_wasSent = false;     ///< the last batch, which was not spoiled
+    bool m_mayComeLate = false; ///< the reply to it
+    int m_straysInARow = 0;
     bool m_stopping = false;
+    int m_timeoutMs = 0;
+    int m_openError = 0;
+    LineMeter m_meter;
 };
 
 #endif

@@ -1,4 +1,5 @@
 // Connecting, disconnecting and searching the bus.
+#include "errortexts.h"
 #include "sessionregisters.h"
 #include "sessionworker.h"
 
@@ -24,12 +25,15 @@ QList<int> scanAddresses()
 
 bool SessionWorker::openLine(const QString &portName, int timeoutMs)
 {
+    m_asksAgain = false;
     if (m_line.open(portName, timeoutMs))
         return true;
     qCDebug(sessionLog, "connect failed");
     emit m_session.statusChanged(false, Connection::tr("Connect failed"));
-    emit m_session.error(Connection::tr("Unable to connect. Possibly incompatible COM adapter selected or device is "
-                                        "already used by another application"));
+    tell(MessageKind::ConnectFailed,
+         Connection::tr("Unable to connect. Possibly incompatible COM adapter selected or device is "
+                        "already used by another application") +
+             QStringLiteral("<br>") + openErrorText(portName, m_line.openError()));
     return false;
 }
 
@@ -37,19 +41,29 @@ void SessionWorker::resetDriveState()
 {
     m_deviceErrors = 0;
     m_errorsAreOld = false;
-    m_data.valuesComplete = false;
+    m_data.valuesComplete = m_data.driveWasRead = false;
+    m_stopIsUnconfirmed = m_mayBeEnabled = false;
+    m_brokenOffWrite.clear();
     m_communicationReported = false;
+    const quint32 sequence = m_state.sequence;
     m_state = DriveState();
-    m_polled = false;
-    m_permanentStop = false;
-    m_setpointAnnounced = false;
-    m_capturePending = false;
-    m_streamStarted = m_streaming = false;
+    m_state.sequence = sequence;
+    m_announced = {};
+    m_capture = {};
+    m_stream = {};
     m_data.positionFeedback = 0;
     std::lock_guard<std::mutex> lock(m_data.mutex);
     m_data.stimulus.stop();
     // A forced enable is for the drive it was asked for.
     m_data.wanted.forceEnable = false;
+}
+
+void SessionWorker::rememberTarget(const TaskRequest &request)
+{
+    m_streamWasLost = false;
+    std::lock_guard<std::mutex> lock(m_data.mutex);
+    m_data.targetPort = request.portName;
+    m_data.targetNode = request.nodeAddress;
 }
 
 void SessionWorker::connectDrive(const TaskRequest &request)
@@ -61,29 +75,33 @@ void SessionWorker::connectDrive(const TaskRequest &request)
     if (!openLine(request.portName, m_data.replyTimeoutMs))
         return;
     qCDebug(sessionLog) << "connected" << m_line.handle();
+    m_asksAgain = true;
     m_line.setNodeAddress(request.nodeAddress);
     if (!identify(request.nodeAddress)) {
         m_line.close();
         m_data.firmwareUpgradeMode = false;
         return;
     }
+    rememberTarget(request);
     m_data.connected = true;
     m_errorsAreOld = true;
     emit m_session.statusChanged(true, Connection::tr("Connected"));
-    emit m_session.updateCaptureButtonText(Connection::tr("Start capture"));
-    if (inFirmwareUpgradeMode())
+    announceCapture(CaptureState::Idle);
+    if (inFirmwareUpgradeMode()) {
         announceFirmwareUpgradeMode();
-    else
-        setParameter(reg::BusWatchdog, 0);
+    } else {
+        writeSetting(reg::BusWatchdog, 0);
+        dropOldErrorBits();
+    }
 }
 
-void SessionWorker::refuse(const QString &statusText, const QString &errorText)
+void SessionWorker::refuse(MessageKind kind, const QString &statusText, const QString &errorText)
 {
     // First, since the window asks about capabilities when it hears of the refusal.
     m_data.deviceType = 0;
     m_line.clearStatus();
     emit m_session.statusChanged(false, statusText.isEmpty() ? Connection::tr("Connect failed") : statusText);
-    emit m_session.error(errorText);
+    tell(kind, errorText);
 }
 
 void SessionWorker::announceFirmwareUpgradeMode()
@@ -116,12 +134,14 @@ void SessionWorker::disconnectDrive(const TaskRequest &)
     m_line.startTask();
     // Not by setParameter: the end of a connection is no place for another error text.
     if (!inFirmwareUpgradeMode()) {
-        if (m_streaming)
-            writeAndFetch(reg::SystemCommand, reg::CommandStopStream);
+        if (m_stream.running)
+            m_streamWasLost = !sendStop(reg::SystemCommand, reg::CommandStopStream);
         writeAndFetch(reg::BusWatchdog, 0);
     }
-    if (m_capturePending)
-        emit m_session.updateCaptureButtonText(Connection::tr("Start capture"));
+    if (m_disableSent)
+        announceDisableOutcome(DisableOutcome::NoAnswer);
+    if (m_capture.pending)
+        announceCapture(CaptureState::Idle);
     qCDebug(sessionLog) << "disconnecting" << m_line.handle();
     m_line.close();
     m_line.clearStatus();
@@ -131,12 +151,11 @@ void SessionWorker::disconnectDrive(const TaskRequest &)
     resetDriveState();
     {
         std::lock_guard<std::mutex> lock(m_data.mutex);
-        SingleParam type = m_data.wanted.parameters.getParam(QStringLiteral("HWTYPE"));
-        // The address stays: a record without it could not be read at the next connection.
-        type.value = type.min = type.max = 0.0;
-        m_data.wanted.parameters.replaceParam(type);
+        clearDeviceType(m_data.wanted.parameters);
+        clearDeviceType(m_data.drive);
     }
     emit m_session.statusChanged(false, Connection::tr("Disconnected"));
+    stopWhatWasLeft();
 }
 
 void SessionWorker::scanBus(const TaskRequest &request)
@@ -170,10 +189,11 @@ void SessionWorker::scanBus(const TaskRequest &request)
     emit m_session.busy(false, true);
     if (gone || noisyAddresses >= 3) {
         emit m_session.statusChanged(false, Connection::tr("Connect failed"));
-        emit m_session.error(gone ? Connection::tr("Unable to connect. The adapter was pulled out during the search: "
-                                                   "plug it in and search again.")
-                                  : Connection::tr("The bus is never quiet, so no drive can be found on it. Check the "
-                                                   "wiring and that the port belongs to a Zetabus adapter."));
+        tell(MessageKind::ConnectFailed,
+             gone ? Connection::tr("Unable to connect. The adapter was pulled out during the search: "
+                                   "plug it in and search again.")
+                  : Connection::tr("The bus is never quiet, so no drive can be found on it. Check the "
+                                   "wiring and that the port belongs to a Zetabus adapter."));
         return;
     }
     emit m_session.availableBusNodes(nodes);

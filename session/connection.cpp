@@ -22,7 +22,11 @@ Connection::Connection(QObject *parent) : QThread(parent), d(std::make_unique<Pr
     qRegisterMetaType<Parameters>("Parameters");
     qRegisterMetaType<QList<CaptureData>>("QList<CaptureData>");
     qRegisterMetaType<QList<NodeType>>("QList<NodeType>");
-    d->data.wanted.parameters = driveParameterCatalogue();
+    qRegisterMetaType<DriveState>("DriveState");
+    qRegisterMetaType<CaptureState>("CaptureState");
+    qRegisterMetaType<DisableOutcome>("DisableOutcome");
+    qRegisterMetaType<Message>("Message");
+    d->data.wanted.parameters = d->data.drive = driveParameterCatalogue();
     d->data.wanted.capture.channels = scopeChannels();
     start();
 }
@@ -103,6 +107,9 @@ void Connection::setParams(const Parameters &list)
 {
     std::lock_guard<std::mutex> lock(d->data.mutex);
     d->data.wanted.parameters = list;
+    // Nobody else knows that the drive has gone: the set may come from one that was connected.
+    if (!d->data.connected)
+        clearDeviceType(d->data.wanted.parameters);
     ++d->data.parameterHandOvers;
 }
 
@@ -184,6 +191,13 @@ void Connection::setDebugValuesShown(bool shown)
     d->data.debugValuesShown = shown;
 }
 
+void Connection::setDisableTarget(const QString &portName, int nodeAddress)
+{
+    std::lock_guard<std::mutex> lock(d->data.mutex);
+    d->data.targetPort = portName;
+    d->data.targetNode = nodeAddress;
+}
+
 // --- Asking about the drive ---------------------------------------------------------------------------------------
 
 bool Connection::isConnected() const
@@ -233,7 +247,20 @@ bool Connection::deviceHasCapability(int capability) const
 
 double Connection::getActiveParamValue(const QString &name) const
 {
-    return d->data.parameters().getParam(name).value;
+    const bool ofTheDrive = d->data.connected && d->data.driveWasRead;
+    return (ofTheDrive ? driveParameters() : d->data.parameters()).getParam(name).value;
+}
+
+Parameters Connection::driveParameters() const
+{
+    std::lock_guard<std::mutex> lock(d->data.mutex);
+    return d->data.drive;
+}
+
+LineMeter Connection::lineMeter() const
+{
+    std::lock_guard<std::mutex> lock(d->data.mutex);
+    return d->data.lineMeter;
 }
 
 int Connection::positionFeedback() const

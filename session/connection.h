@@ -4,7 +4,11 @@
 #define CONNECTION_H
 
 #include "capturedata.h"
+#include "capturestate.h"
 #include "devicemodel.h"
+#include "disableoutcome.h"
+#include "drivestate.h"
+#include "message.h"
 #include "parameters.h"
 
 #include <QList>
@@ -109,6 +113,10 @@ public:
     void setWatchedParameter(int address);
     /// Whether the fault panel shows the drive's debug values.
     void setDebugValuesShown(bool shown);
+    /// Names the drive that a disable goes to while none is connected, for whoever wants to disable before connecting.
+    /// Connecting names it, too, and an ended connection leaves it named; until one of these, a disable without a
+    /// connection does nothing.
+    void setDisableTarget(const QString &portName, int nodeAddress);
 
     // --- Asking about the drive (any thread) ------------------------------------------------------------------
 
@@ -126,8 +134,14 @@ public:
     bool isKetaPro() const;
     /// False for every capability when no drive is connected.
     bool deviceHasCapability(int capability) const;
-    /// Display value of the first held record with this name, 0.0 when there is none.
+    /// Display value of the first record with this name, 0.0 when there is none: as the connected drive has it once it
+    /// was read, otherwise as handed over or loaded.
     double getActiveParamValue(const QString &name) const;
+    /// What was last read from the drive, or written and acknowledged; what is merely wanted is not in it. The bare
+    /// catalogue until something was read in this connection.
+    Parameters driveParameters() const;
+    /// How the line has done since the program started.
+    LineMeter lineMeter() const;
     /// Position feedback in counts, as last polled.
     int positionFeedback() const;
     /// Highest sample rate of the connected family's recorder, Hz.
@@ -163,8 +177,20 @@ signals:
     void controlModeChanged(int mode);
     /// A disable was sent; whether the drive answered it. What it did about it shows in the next enableStatePolled.
     void disableAnswered(bool acknowledged);
+    /// How a disable, or an enable that was taken back, ended: what the drive showed behind it.
+    void disableFinished(DisableOutcome outcome);
     /// Enable state in a status poll of a drive in normal mode.
     void enableStatePolled(bool enabled);
+
+    // The same as values, for whoever decides something: nobody takes the words above apart.
+    /// Every text of `error`, with its kind, right behind it.
+    void message(Message message);
+    /// A good poll, right behind the panels worded from it. `firmwareUpgradeMode` says that only the faults were read.
+    void statePolled(DriveState state);
+    /// driveParameters() has changed: behind a whole read and a write.
+    void driveParametersChanged(Parameters list);
+    /// Right behind each updateCaptureButtonText.
+    void captureStateChanged(CaptureState state);
 
 protected:
     void run() override;

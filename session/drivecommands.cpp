@@ -4,10 +4,13 @@
 #include "sessionworker.h"
 
 namespace {
-constexpr int restartPauseMs = 3500;
 constexpr int measurePauseMs = 8000;
 constexpr int lowestCoreThatMeasures = 1060;
-constexpr int disableAttempts = 3;
+
+QString refusedSetpoint(int setpoint)
+{
+    return Connection::tr("The drive refused the setpoint %1.<br>Device errors: <br>%2").arg(setpoint);
+}
 } // namespace
 
 void SessionWorker::clearFaults(const TaskRequest &)
@@ -19,56 +22,47 @@ void SessionWorker::clearFaults(const TaskRequest &)
 void SessionWorker::applyEnableState(const TaskRequest &request)
 {
     if (!request.enable) {
-        announceDisable(disableDrive());
+        disableDrive();
         return;
     }
+    m_stopIsUnconfirmed = false;
+    m_disableSent.reset();
+    m_mayBeEnabled = true;
     // Once only: what enables a drive is never repeated.
-    const bool enabled = writeAndFetch(reg::SoftEnable, 1);
+    const Reply enabled =
+        writeCommand(reg::SoftEnable, 1, Connection::tr("The drive refused to be enabled.<br>Device errors: <br>%1"));
+    if (enabled == Reply::None)
+        undoEnable();
     // Not past a disable that was asked for meanwhile, and not on a drive that did not answer.
-    if (request.forceEnable && enabled && !serveWaitingDisable())
-        writeAndFetch(reg::ForceEnable, reg::ForceEnableKey);
-}
-
-/// Until the drive acknowledges it: one request lost on the way must not leave the drive enabled. What went wrong in
-/// between stays in the status, to be reported.
-bool SessionWorker::disableDrive()
-{
-    bool acknowledged = false;
-    m_line.beginStop();
-    for (int attempt = 0; attempt < disableAttempts && !acknowledged; ++attempt)
-        acknowledged = writeAndFetch(reg::SoftEnable, 0);
-    m_line.endStop();
-    return acknowledged;
-}
-
-void SessionWorker::announceDisable(bool acknowledged)
-{
-    emit m_session.disableAnswered(acknowledged);
-    // Whoever pressed it wants to see soon whether it took effect.
-    if (!m_queue.contains(Connection::TaskUpdateStatus))
-        m_queue.push(Connection::TaskUpdateStatus);
+    if (!request.forceEnable || enabled != Reply::Done || serveWaitingDisable())
+        return;
+    if (writeCommand(reg::ForceEnable, reg::ForceEnableKey,
+                     Connection::tr("The drive refused to be enabled by force.<br>Device errors: <br>%1")) ==
+        Reply::None)
+        undoEnable();
 }
 
 void SessionWorker::saveToFlash(const TaskRequest &)
 {
-    writeAndFetch(reg::SystemCommand, reg::CommandSaveToFlash);
+    writeCommand(reg::SystemCommand, reg::CommandSaveToFlash,
+                 Connection::tr("The drive refused to save its settings to flash.<br>Device errors: <br>%1"));
 }
 
 void SessionWorker::startHoming(const TaskRequest &)
 {
-    writeAndFetch(reg::Homing, 1);
+    writeCommand(reg::Homing, 1, Connection::tr("The drive refused to start homing.<br>Device errors: <br>%1"));
 }
 
 void SessionWorker::abortHoming(const TaskRequest &)
 {
-    writeAndFetch(reg::Homing, 0);
+    sendStop(reg::Homing, 0);
 }
 
 void SessionWorker::stopStimulus(const TaskRequest &)
 {
     // Still streaming when it was lost: the end of the connection then stops it again.
-    if (writeAndFetch(reg::SystemCommand, reg::CommandStopStream))
-        m_streaming = false;
+    if (sendStop(reg::SystemCommand, reg::CommandStopStream))
+        m_stream.running = false;
 }
 
 void SessionWorker::forgetStimulus()
@@ -77,17 +71,18 @@ void SessionWorker::forgetStimulus()
         std::lock_guard<std::mutex> lock(m_data.mutex);
         m_data.stimulus.stop();
     }
-    m_streaming = m_streamStarted = false;
+    m_stream = {};
+    m_mayBeEnabled = false;
 }
 
 void SessionWorker::setAbsoluteSetpoint(const TaskRequest &request)
 {
-    setParameter(reg::AbsoluteSetpoint, request.setpoint);
+    writeCommand(reg::AbsoluteSetpoint, request.setpoint, refusedSetpoint(request.setpoint));
 }
 
 void SessionWorker::setIncrementalSetpoint(const TaskRequest &request)
 {
-    setParameter(reg::IncrementalSetpoint, request.setpoint);
+    writeCommand(reg::IncrementalSetpoint, request.setpoint, refusedSetpoint(request.setpoint));
 }
 
 void SessionWorker::setZero(const TaskRequest &)
@@ -102,7 +97,8 @@ void SessionWorker::restartDrive(const TaskRequest &)
 {
     emit m_session.busy(true, true);
     const bool told = writeAndFetch(reg::SystemCommand, reg::CommandRestart);
-    forgetStimulus(); // nothing moves by itself after a restart
+    if (told)
+        forgetStimulus(); // nothing moves by itself after a restart
     // Out of firmware-upgrade mode it comes back at an address of its own, which this connection does not know.
     if (inFirmwareUpgradeMode())
         m_queue.pushDisconnectFirst();
@@ -113,29 +109,36 @@ void SessionWorker::restartDrive(const TaskRequest &)
 
 void SessionWorker::restartToDFU(const TaskRequest &)
 {
-    restartToDFUMode();
+    if (!modelHasCapability(m_data.deviceType, DeviceCapability::RestartToDFU)) {
+        tell(MessageKind::Note,
+             Connection::tr("This drive cannot be restarted in firmware upgrade mode by a command."));
+        return;
+    }
+    sendRestartToDFU();
+    pause(restartPauseMs, Drive::Restarts);
 }
 
-void SessionWorker::restartToDFUMode()
+bool SessionWorker::sendRestartToDFU()
 {
-    writeAndFetch(reg::SystemCommand, reg::CommandRestartToDFU);
-    forgetStimulus();
-    if (isConnected() && statusIsClean()) {
+    const bool told = writeAndFetch(reg::SystemCommand, reg::CommandRestartToDFU);
+    if (told)
+        forgetStimulus();
+    if (told && isConnected()) {
         // From here on a bootloader answers, at its own address; it neither moves nor knows the watchdog.
         m_data.firmwareUpgradeMode = true;
         m_line.setNodeAddress(firmwareUpgradeNode);
     }
-    pause(restartPauseMs, Drive::Restarts);
+    return told;
 }
 
 void SessionWorker::measure(const TaskRequest &)
 {
     if (!deviceModelName(m_data.deviceType, false).contains(QLatin1String("KETA"))) {
-        emit m_session.error(Connection::tr("Measure function is available only in KETA drive models"));
+        tell(MessageKind::Note, Connection::tr("Measure function is available only in KETA drive models"));
         return;
     }
     if (m_coreVersion < lowestCoreThatMeasures) {
-        emit m_session.error(Connection::tr("Measure function requires newer firmware version"));
+        tell(MessageKind::Note, Connection::tr("Measure function requires newer firmware version"));
         return;
     }
     emit m_session.busy(true, false);
@@ -153,7 +156,8 @@ void SessionWorker::measure(const TaskRequest &)
         return; // a bad line gets its own message
     if (result != reg::MeasureSucceeded) {
         const QString page = makerWikiPage(QStringLiteral("/wiki/Measure_motor_resistance_and_inductance_in_Velbrin"));
-        emit m_session.error(
+        tell(
+            MessageKind::Refused,
             Connection::tr("Measurement failed. Ensure that all required conditions are met. See <i>%1</i>").arg(page));
         return;
     }

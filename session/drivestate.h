@@ -6,16 +6,42 @@
 
 #include "queueitem.h"
 
+#include <QMetaType>
 #include <QString>
 #include <QVector>
 #include <array>
+#include <chrono>
 
 class Parameters;
 
+/// Bits of the status register that more than its wording depends on.
+constexpr qint32 statusBitRecovering = 4;
+constexpr qint32 statusBitRun = 8;
+constexpr qint32 statusBitEnabled = 16;
+constexpr qint32 statusBitFaultStopped = 32;
+constexpr qint32 statusBitTorqueOff = 128;
+constexpr qint32 statusBitReady = 256;
+constexpr qint32 statusBitBraking = 1024;
+constexpr qint32 statusBitHoming = 2048;
+constexpr qint32 statusBitPermanentStop = 32768;
+
+/// How a line does. Counts since the program started.
+struct LineMeter
+{
+    int exchanges = 0;
+    int errors = 0;  ///< exchanges without a good reply
+    int repeats = 0; ///< requests sent a second time, silently, because of that
+    int strays = 0;  ///< times that something waited on the line where nothing should have
+};
+
 /// A snapshot of the drive, in display units where a unit is named. A plain value: the worker fills it, the wording
-/// functions (statustexts.h) read it.
+/// functions (statustexts.h) read it, Connection::statePolled hands it out.
 struct DriveState
 {
+    quint32 sequence = 0;                         ///< counts the good polls of the program, from 1
+    std::chrono::steady_clock::time_point when{}; ///< of the reply
+    LineMeter line;
+
     // What the poll reads.
     qint32 statusRegister = 0;
     qint32 faultRegister = 0;
@@ -47,12 +73,21 @@ struct DriveState
     double limitSwitchFunction = 0.0; ///< not 0 when the feed-enable inputs can stop the drive
     int watchedAddress = 0;           ///< register shown under the faults; 0 for none
     bool debugValuesShown = false;
-};
 
-/// Bits of the status register that more than its wording depends on.
-constexpr qint32 statusBitRun = 8;
-constexpr qint32 statusBitEnabled = 16;
-constexpr qint32 statusBitPermanentStop = 32768;
+    /// By whatever enables this drive, command or input; also one that has taken the enable command and not acted yet.
+    bool isEnabled() const { return has(statusBitEnabled) || isSoftEnabled(); }
+    bool isSoftEnabled() const { return (softEnable & 1) != 0; } ///< the enable command is in effect
+    bool isRunning() const { return has(statusBitRun); }         ///< the motor is powered
+    bool isReady() const { return has(statusBitReady); }         ///< follows its setpoint
+    bool isRecovering() const { return has(statusBitRecovering); }
+    bool isBraking() const { return has(statusBitBraking); }
+    bool isHoming() const { return has(statusBitHoming); }
+    bool isFaultStopped() const { return has(statusBitFaultStopped); }
+    bool isPermanentStop() const { return has(statusBitPermanentStop); } ///< until the next restart
+    bool isTorqueOff() const { return has(statusBitTorqueOff); }         ///< the safe-torque-off input
+    bool has(qint32 statusBit) const { return (statusRegister & statusBit) != 0; }
+};
+Q_DECLARE_METATYPE(DriveState)
 
 /// Takes the settings that the wording depends on out of a parameter list: FBR, and LFS or (where the list has none)
 /// LSF. A setting that the list lacks counts as 0.

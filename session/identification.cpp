@@ -6,66 +6,86 @@
 
 bool SessionWorker::identify(int nodeAddress)
 {
-    long mode = 0;
-    if (nodeAddress != firmwareUpgradeNode) {
-        readParameters(reg::OperatingMode, mode);
-        if (refuseUncleanLine())
-            return false;
-    }
-    m_data.firmwareUpgradeMode = mode == 0;
-    return checkFWversion();
-}
-
-/// A value that was not read cleanly decides nothing: noise must never restart a running drive into firmware-upgrade
-/// mode, which is what too old a version would do.
-bool SessionWorker::refuseUncleanLine()
-{
-    if (m_line.status() == 0 || m_line.status() == ZB_OK)
-        return false;
-    const QString text = busErrorText(true, m_line.status(), 0);
-    m_errorLatch = true;
-    refuse(QString(), text);
-    return true;
-}
-
-bool SessionWorker::checkFWversion()
-{
-    long type = 0, firmware = 0, firmwareCompanion = 0, protocol = 0, protocolCompanion = 0;
-    readParameters(reg::DeviceType, type, reg::FirmwareVersion, firmware, reg::FirmwareCompatible, firmwareCompanion);
-    if (refuseUncleanLine())
-        return false;
-    readParameters(reg::ProtocolVersion, protocol, reg::ProtocolCompatible, protocolCompanion);
-    if (refuseUncleanLine())
-        return false;
-    setDeviceSpecificVariables(static_cast<int>(type));
-
-    long core = 0, coreCompanion = 0;
-    if (!inFirmwareUpgradeMode() && supportedVersionOf(static_cast<int>(type))) {
-        readParameters(reg::CoreVersion, core, reg::CoreCompatible, coreCompanion);
-        if (refuseUncleanLine())
-            return false;
-    }
-    m_firmwareVersion = static_cast<int>(firmware);
-    m_coreVersion = static_cast<int>(core);
-
     DriveIdentity drive;
+    bool read = readIdentity(nodeAddress, drive);
+    // What would turn a drive away, restart it, or take it for a bootloader must not hang on one reading: noise must
+    // never restart a running drive.
+    const bool unexpected = drive.firmwareUpgradeMode && nodeAddress != firmwareUpgradeNode;
+    if (read && (unexpected || !checkVersions(drive).accepted))
+        read = readSameIdentityTwice(nodeAddress, drive);
+    if (!read) {
+        refuseLine(nodeAddress);
+        return false;
+    }
+    m_data.firmwareUpgradeMode = drive.firmwareUpgradeMode;
+    m_firmwareVersion = drive.firmwareVersion;
+    m_coreVersion = drive.coreVersion;
+    setDeviceSpecificVariables(drive.deviceType);
+    return judge(drive);
+}
+
+/// False when any of it was not read cleanly: such a value decides nothing.
+bool SessionWorker::readIdentity(int nodeAddress, DriveIdentity &drive)
+{
+    long mode = 0, type = 0, firmware = 0, firmwareCompanion = 0, protocol = 0, protocolCompanion = 0;
+    if (nodeAddress != firmwareUpgradeNode && readParameters(reg::OperatingMode, mode) != ZB_OK)
+        return false;
+    if (readParameters(reg::DeviceType, type, reg::FirmwareVersion, firmware, reg::FirmwareCompatible,
+                       firmwareCompanion) != ZB_OK ||
+        readParameters(reg::ProtocolVersion, protocol, reg::ProtocolCompatible, protocolCompanion) != ZB_OK)
+        return false;
+    long core = 0, coreCompanion = 0;
+    if (mode != 0 && supportedVersionOf(static_cast<int>(type)) &&
+        readParameters(reg::CoreVersion, core, reg::CoreCompatible, coreCompanion) != ZB_OK)
+        return false;
     drive.deviceType = static_cast<int>(type);
-    drive.firmwareVersion = m_firmwareVersion;
+    drive.firmwareVersion = static_cast<int>(firmware);
     drive.firmwareCompanion = static_cast<int>(firmwareCompanion);
-    drive.coreVersion = m_coreVersion;
+    drive.coreVersion = static_cast<int>(core);
     drive.coreCompanion = static_cast<int>(coreCompanion);
     drive.protocolVersion = static_cast<int>(protocol);
     drive.protocolCompanion = static_cast<int>(protocolCompanion);
-    drive.firmwareUpgradeMode = inFirmwareUpgradeMode();
-    const VersionVerdict verdict = checkVersions(drive);
-    if (!verdict.accepted) {
-        refuse(verdict.statusText, verdict.errorText);
-        if (verdict.restartToDFU)
-            restartToDFUMode();
-    } else if (!verdict.errorText.isEmpty()) {
-        emit m_session.error(verdict.errorText);
+    drive.firmwareUpgradeMode = mode == 0;
+    return true;
+}
+
+/// Reads on until two readings in a row agree.
+bool SessionWorker::readSameIdentityTwice(int nodeAddress, DriveIdentity &drive)
+{
+    for (int attempt = 0; attempt < 2; ++attempt) {
+        const DriveIdentity before = drive;
+        if (!readIdentity(nodeAddress, drive))
+            return false;
+        if (drive == before)
+            return true;
     }
-    return verdict.accepted;
+    return false;
+}
+
+void SessionWorker::refuseLine(int nodeAddress)
+{
+    m_errorLatch = true;
+    const QString text = busErrorText(true, m_line.status(), 0);
+    const QString plain = text.isEmpty() ? Connection::tr("The drive's answers contradict each other: try again, and "
+                                                          "check that no two drives have the same address.")
+                                         : noConnectionText(m_line.wasSilent(), nodeAddress);
+    refuse(MessageKind::ConnectFailed, QString(), text.isEmpty() ? plain : text + QStringLiteral("<br>") + plain);
+}
+
+bool SessionWorker::judge(const DriveIdentity &drive)
+{
+    const VersionVerdict verdict = checkVersions(drive);
+    if (verdict.accepted) {
+        if (!verdict.errorText.isEmpty())
+            tell(MessageKind::Note, verdict.errorText);
+        return true;
+    }
+    const bool restarted = verdict.restartToDFU && sendRestartToDFU();
+    const bool failed = verdict.restartToDFU && !restarted;
+    refuse(MessageKind::Identity, verdict.statusText, failed ? verdict.notRestartedText : verdict.errorText);
+    if (restarted)
+        pause(restartPauseMs, Drive::Restarts);
+    return false;
 }
 
 void SessionWorker::setDeviceSpecificVariables(int typeId)

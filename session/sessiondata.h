@@ -23,11 +23,16 @@ struct SessionData
     TaskRequest wanted;              ///< what the setters stored; its `parameters` are the session's list
     unsigned parameterHandOvers = 0; ///< counts setParams: a read that was overtaken by one leaves the list alone
     SquareWave stimulus;
+    Parameters drive; ///< see Connection::driveParameters
+    LineMeter lineMeter;
+    QString targetPort; ///< of the drive that a disable goes to while none is connected; empty when none is known
+    int targetNode = 0;
     int watchedParameter = 0;
     bool debugValuesShown = false;
 
     std::atomic<bool> workerEnded{false};
     std::atomic<bool> connected{false};
+    std::atomic<bool> driveWasRead{false};   ///< something of it, in this connection
     std::atomic<bool> valuesComplete{false}; ///< see Connection::valuesAreComplete
     std::atomic<bool> firmwareUpgradeMode{false};
     std::atomic<int> deviceType{0};
@@ -42,5 +47,16 @@ struct SessionData
         return wanted.parameters;
     }
 };
+
+/// Takes the type of the drive out of a set: it belongs to nobody any more. The record keeps its address, or the type
+/// could not be read at the next connection.
+inline void clearDeviceType(Parameters &list)
+{
+    SingleParam type = list.getParam(QStringLiteral("HWTYPE"));
+    if (type.name == QLatin1String("NULL"))
+        return;
+    type.value = type.min = type.max = 0.0;
+    list.replaceParam(type);
+}
 
 #endif

@@ -17,6 +17,8 @@ constexpr int ReturnLength = 10;      ///< length control: one of the Returns...
 constexpr int ErrorBits = 13;         ///< what writes went wrong since it was last cleared; write 0 to clear
 constexpr int BusWatchdog = 15;       ///< 0 switches the bus watchdog off
 
+constexpr int ErrorCommandFailed = 1; ///< in ErrorBits
+
 constexpr int MinimumFlag = 0x4000; ///< added to a register in the selector: its minimum instead of its value
 constexpr int MaximumFlag = 0x8000; ///< added to a register in the selector: its maximum instead of its value
 
@@ -24,6 +26,7 @@ constexpr int Returns30Bits = 0;  ///< 4 bytes an item, signed
 constexpr int Returns22Bits = 1;  ///< 3 bytes an item, signed
 constexpr int Returns14Bits = 2;  ///< 2 bytes an item, signed
 constexpr int ReturnsOutcome = 3; ///< 1 byte an item: 1 done, 2 refused
+constexpr int OutcomeRefused = 2;
 
 // --- Identity -----------------------------------------------------------------------------------------------------
 constexpr int SerialNumber = 6002;
@@ -97,9 +100,11 @@ constexpr int FlashProgramCore = 5;
 constexpr int FlashWriteProtect = 7;
 constexpr int FlashEraseAndResetSettings = 11;
 
-/// A write to one of these moves, stops, restarts or erases a drive: they are no settings.
-constexpr int commandRegisters[] = {IncrementalSetpoint, AbsoluteSetpoint, SystemCommand, SoftEnable,
-                                    ForceEnable,         Homing,           FlashCommand,  FlashPipe};
+/// A write to one of these moves, stops, restarts or erases a drive, or clears the fault that keeps an enabled one from
+/// moving: they are no settings.
+constexpr int commandRegisters[] = {IncrementalSetpoint, AbsoluteSetpoint, SystemCommand,
+                                    SoftEnable,          ForceEnable,      Homing,
+                                    FlashCommand,        FlashPipe,        FaultRegister};
 
 constexpr bool isCommandRegister(int address)
 {

@@ -1,11 +1,7 @@
 #include "sessionworker.h"
 
-#include "errortexts.h"
-#include "sessionregisters.h"
-
 #include <algorithm>
 #include <iterator>
-#include <thread>
 
 Q_LOGGING_CATEGORY(sessionLog, "velbrin.session", QtInfoMsg)
 
@@ -84,14 +80,20 @@ void SessionWorker::perform(const QueuedTask &entry)
 {
     const TaskRule *rule = ruleOf(entry.task);
     if (!rule) {
-        emit m_session.error(Connection::tr("Invalid comm task"));
+        tell(MessageKind::Note, Connection::tr("Invalid comm task"));
         return;
     }
-    if ((rule->needsDrive && !isConnected()) || (inFirmwareUpgradeMode() && !rule->inFirmwareUpgradeMode))
-        return;
-    m_line.startTask();
-    (this->*rule->handler)(entry.request);
-    finishTask();
+    if (entry.isDisable() && !isConnected()) {
+        disableWithoutConnection();
+    } else {
+        if ((rule->needsDrive && !isConnected()) || (inFirmwareUpgradeMode() && !rule->inFirmwareUpgradeMode))
+            return;
+        m_line.startTask();
+        (this->*rule->handler)(entry.request);
+        finishTask();
+    }
+    std::lock_guard<std::mutex> lock(m_data.mutex);
+    m_data.lineMeter = m_line.meter();
 }
 
 void SessionWorker::finishTask()
@@ -123,6 +125,9 @@ bool SessionWorker::pause(int milliseconds, Drive drive)
         case TaskQueue::Wake::TimeOver:
             return true;
         case TaskQueue::Wake::Disable:
+            // Without a connection it is the next task, which this pause must not hold up.
+            if (!isConnected())
+                return true;
             if (drive == Drive::Restarts)
                 disableRestartingDrive(deadline);
             else
@@ -134,104 +139,14 @@ bool SessionWorker::pause(int milliseconds, Drive drive)
     }
 }
 
-bool SessionWorker::serveWaitingDisable()
-{
-    QueuedTask entry;
-    if (!m_queue.takeDisable(entry))
-        return false;
-    if (!isConnected() || inFirmwareUpgradeMode())
-        return false;
-    applyEnableState(entry.request);
-    return true;
-}
-
-/// A drive that restarts is deaf for a while: it is told again until it answers or the pause is over.
-void SessionWorker::disableRestartingDrive(std::chrono::steady_clock::time_point deadline)
-{
-    QueuedTask entry;
-    if (!m_queue.takeDisable(entry) || !isConnected() || inFirmwareUpgradeMode())
-        return;
-    const bool restarts = statusIsClean(); // otherwise the restart itself went wrong, which is still to be reported
-    bool acknowledged = disableDrive();
-    while (!acknowledged && restarts && !m_queue.isClosing() && std::chrono::steady_clock::now() < deadline) {
-        // A port that has gone fails at once; do not spin on it.
-        std::this_thread::sleep_for(std::chrono::milliseconds(20));
-        acknowledged = disableDrive();
-    }
-    if (acknowledged && restarts) { // it was deaf for a while, as it had to be
-        m_line.startTask();
-        m_line.clearStatus();
-    }
-    announceDisable(acknowledged);
-}
-
 void SessionWorker::debug() const
 {
     if (!statusIsClean())
         qCDebug(sessionLog) << "status" << m_line.status();
 }
 
-bool SessionWorker::statusIsClean() const
-{
-    return (m_line.status() & ~ZB_OK) == 0;
-}
-
-void SessionWorker::checkZBErrors()
-{
-    m_deviceErrors = 0;
-    m_line.appendRead(reg::ErrorBits);
-    m_line.appendWrite(reg::ErrorBits, 0);
-    m_line.execute();
-    long bits = 0;
-    m_line.fetchRead(&bits);
-    m_line.fetchWrite();
-    m_line.finishReply();
-    m_deviceErrors = static_cast<quint32>(bits);
-    // What is there when a connection begins is another master's doing, or our own of before the latch was set: with
-    // the latch it would end this connection before it has done anything. The drive has forgotten it now.
-    if (m_errorsAreOld && m_deviceErrors != 0) {
-        qCDebug(sessionLog) << "error bits from before this connection" << m_deviceErrors;
-        m_deviceErrors = 0;
-    }
-}
-
-QString SessionWorker::stringifyZBBusErrors(const SingleParam *param)
-{
-    const QString text = busErrorText(isConnected(), m_line.status(), m_deviceErrors, param);
-    m_line.clearStatus();
-    m_deviceErrors = 0;
-    if (!text.isEmpty()) {
-        m_errorLatch = true;
-        m_queue.pushDisconnectFirst();
-    }
-    return text;
-}
-
-void SessionWorker::reportErrors(const SingleParam *param)
-{
-    const bool communication = !statusIsClean();
-    const QString text = stringifyZBBusErrors(param);
-    if (text.isEmpty() || (communication && m_communicationReported))
-        return;
-    m_communicationReported |= communication;
-    emit m_session.error(text);
-}
-
-void SessionWorker::reportWrite(const SingleParam &param)
-{
-    if (!m_errorLatch)
-        return;
-    checkZBErrors();
-    reportErrors(&param);
-}
-
 void SessionWorker::quit(const TaskRequest &)
 {
     qCDebug(sessionLog) << "quit comm" << m_line.handle();
     m_quit = true;
-}
-
-void SessionWorker::checkErrors(const TaskRequest &)
-{
-    checkZBErrors();
 }

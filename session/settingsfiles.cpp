@@ -5,7 +5,7 @@ void SessionWorker::saveSettingsFile(const TaskRequest &request)
 {
     const QString message = request.parameters.saveToFile(request.settingsFileName);
     if (!message.isEmpty())
-        emit m_session.error(message);
+        tell(MessageKind::FileFailed, message);
 }
 
 void SessionWorker::loadSettingsFile(const TaskRequest &request)
@@ -13,9 +13,10 @@ void SessionWorker::loadSettingsFile(const TaskRequest &request)
     // The list as it is now, not as it was when the file was asked for: a full read may have come in between.
     Parameters list = m_data.parameters();
     const QString message = list.loadFromFile(request.settingsFileName);
+    const bool taken = message.isEmpty() || message.startsWith(QLatin1String("Warning"));
     if (!message.isEmpty())
-        emit m_session.error(message);
-    if (!message.isEmpty() && !message.startsWith(QLatin1String("Warning")))
+        tell(taken ? MessageKind::FileWarning : MessageKind::FileFailed, message);
+    if (!taken)
         return;
     {
         std::lock_guard<std::mutex> lock(m_data.mutex);

@@ -4,68 +4,87 @@
 
 void SessionWorker::updateStatus(const TaskRequest &)
 {
+    poll();
+}
+
+bool SessionWorker::poll()
+{
     DriveState state = m_state;
     {
         std::lock_guard<std::mutex> lock(m_data.mutex);
-        takeWordingSettings(m_data.wanted.parameters, state);
+        // As the drive has them: what is merely wanted changes nothing about how fast it turns.
+        takeWordingSettings(m_data.drive, state);
         state.watchedAddress = m_data.watchedParameter;
         state.debugValuesShown = m_data.debugValuesShown;
     }
     state.deviceType = m_data.deviceType;
     state.firmwareUpgradeMode = inFirmwareUpgradeMode();
+    const StatusPoll plan(state);
+    if (!askAgain([&] { return askPoll(plan, state); }) || !statusIsClean())
+        return false;
+    state.sequence = m_state.sequence + 1; // a stop served while asking again may have polled, too
+    state.when = std::chrono::steady_clock::now();
+    state.line = m_line.meter();
+    m_state = state;
+    announcePoll();
+    return true;
+}
 
-    const StatusPoll poll(state);
-    const QVector<QueueItem> items = poll.items();
+bool SessionWorker::askPoll(const StatusPoll &plan, DriveState &state)
+{
+    const QVector<QueueItem> items = plan.items();
+    ZbStatus status = 0;
     for (const QueueItem &item : items)
-        m_line.append(item);
-    m_line.execute();
+        status |= m_line.append(item);
+    status |= m_line.execute();
     QVector<qint32> values;
     for (int i = 0; i < items.size(); ++i) {
         long value = 0;
-        m_line.fetch(&value);
+        status |= m_line.fetch(&value);
         values << static_cast<qint32>(value);
     }
-    m_line.finishReply();
-    if (m_line.status() != ZB_OK || !poll.store(values, state))
-        return;
-    m_state = state;
-    announcePoll();
+    status |= m_line.finishReply();
+    return status == ZB_OK && plan.store(values, state);
+}
+
+void SessionWorker::announcePanels()
+{
+    bool inactivityReason = false;
+    const QString none = Connection::tr("Not available in firmware upgrade mode");
+    const bool running = !m_state.firmwareUpgradeMode;
+    // In this order: the fault panel ends with the legend for the marks of all three.
+    const QString inputs = running ? getDigitalInsString(m_state, inactivityReason) : none;
+    const QString status = running ? getStatusRegString(m_state, inactivityReason) : none;
+    const QString faults = getFaultRegString(m_state, inactivityReason);
+    emit m_session.physInputsUpdated(inputs);
+    emit m_session.statusRegisterUpdated(status);
+    emit m_session.faultRegisterUpdated(faults);
 }
 
 void SessionWorker::announcePoll()
 {
-    bool inactivityReason = false;
+    if (!m_state.firmwareUpgradeMode)
+        m_data.positionFeedback = m_state.position;
+    announcePanels();
     if (m_state.firmwareUpgradeMode) {
-        const QString none = Connection::tr("Not available in firmware upgrade mode");
-        emit m_session.physInputsUpdated(none);
-        emit m_session.statusRegisterUpdated(none);
-        emit m_session.faultRegisterUpdated(getFaultRegString(m_state, inactivityReason));
+        emit m_session.statePolled(m_state);
         return;
     }
-    const QString inputs = getDigitalInsString(m_state, inactivityReason);
-    const QString status = getStatusRegString(m_state, inactivityReason);
-    const QString faults = getFaultRegString(m_state, inactivityReason);
-    m_data.positionFeedback = m_state.position;
-    emit m_session.physInputsUpdated(inputs);
-    emit m_session.statusRegisterUpdated(status);
-    emit m_session.faultRegisterUpdated(faults);
-    emit m_session.enableStatePolled((m_state.statusRegister & statusBitEnabled) != 0 || (m_state.softEnable & 1) != 0);
+    emit m_session.enableStatePolled(m_state.isEnabled());
+    emit m_session.statePolled(m_state);
+    lookForDisable();
 
-    const bool permanentStop = (m_state.statusRegister & statusBitPermanentStop) != 0;
-    if (permanentStop && !(m_polled && m_permanentStop))
+    if (m_state.isPermanentStop() && !m_announced.permanentStop)
         emit m_session.suggestDeviceRestart();
-    m_permanentStop = permanentStop;
-    m_polled = true;
-
-    if (!m_setpointAnnounced || m_announcedSetpoint != m_state.setpoint)
+    m_announced.permanentStop = m_state.isPermanentStop();
+    if (m_announced.setpoint != m_state.setpoint)
         emit m_session.setpointChanged(m_state.setpoint);
-    m_setpointAnnounced = true;
-    m_announcedSetpoint = m_state.setpoint;
+    m_announced.setpoint = m_state.setpoint;
 
-    qCDebug(sessionLog) << "Pend scope " << m_capturePending << m_state.scopeState;
-    if (m_capturePending && m_state.scopeState == 0) {
-        m_capturePending = false;
-        emit m_session.updateCaptureButtonText(Connection::tr("Downloading.."));
+    qCDebug(sessionLog) << "Pend scope " << m_capture.pending << m_state.scopeState;
+    if (m_capture.pending && m_state.scopeState == 0) {
+        m_capture.pending = false;
+        announceCapture(CaptureState::Downloading);
         m_queue.push(Connection::TaskDownloadScope);
     }
 }

@@ -70,7 +70,6 @@ constexpr Flag pinFlags[] = {
 
 constexpr Flag softEnableFlag = {QT_TRANSLATE_NOOP("Connection", "Soft enable"), 1, true, true};
 constexpr Flag physEnableFlag = {QT_TRANSLATE_NOOP("Connection", "Phys enable"), 1, true, true};
-// The feed inputs stop the drive only where limit switches are in use.
 constexpr Flag feedEnableFlags[] = {
     {QT_TRANSLATE_NOOP("Connection", "Pos feed enable"), 2, true, true},
     {QT_TRANSLATE_NOOP("Connection", "Neg feed enable"), 4, true, true},
@@ -79,6 +78,34 @@ constexpr Flag otherControlFlags[] = {
     {QT_TRANSLATE_NOOP("Connection", "Home switch"), 8, false, true},
     {QT_TRANSLATE_NOOP("Connection", "Clear faults"), 16, false, true},
 };
+
+/// Keeps the drive, which does not run, from running.
+bool isReasonForInactivity(const DriveState &state, bool isSet, bool isReason, bool expected)
+{
+    return !state.isRunning() && isReason && isSet != expected;
+}
+
+DriveFlag flagValue(const DriveState &state, const Flag &flag, qint32 value)
+{
+    const bool isSet = (value & flag.mask) != 0;
+    return {SessionText::tr(flag.label), isSet, isReasonForInactivity(state, isSet, flag.isReason, flag.expected)};
+}
+
+template <std::size_t count>
+QList<DriveFlag> flagValues(const DriveState &state, const Flag (&flags)[count], qint32 value)
+{
+    QList<DriveFlag> result;
+    for (const Flag &flag : flags)
+        result.append(flagValue(state, flag, value));
+    return result;
+}
+
+/// The feed inputs stop the drive only where limit switches are in use.
+Flag feedEnableFlag(const DriveState &state, Flag flag)
+{
+    flag.isReason = state.limitSwitchFunction != 0.0;
+    return flag;
+}
 
 QString flagLine(const DriveState &state, const Flag &flag, qint32 value, bool &inactivityReason)
 {
@@ -115,12 +142,34 @@ QString formatDigitalStateAsString(const DriveState &state, const QString &label
 {
     const bool set = (value & mask) != 0;
     QString marker;
-    if (!(state.statusRegister & statusBitRun) && isReason && set != expected) {
+    if (isReasonForInactivity(state, set, isReason, expected)) {
         marker = QStringLiteral("<b><font style=\"color:#e00\"> !</font></b>");
         inactivityReason = true;
     }
     const QString circle = set ? QStringLiteral("&#9679;") : QStringLiteral("&#9675;");
     return circle + QStringLiteral("&nbsp;&nbsp;") + label + marker + QStringLiteral("<br>");
+}
+
+QList<DriveFlag> statusFlagsOf(const DriveState &state)
+{
+    return state.firmwareUpgradeMode ? QList<DriveFlag>() : flagValues(state, statusFlags, state.statusRegister);
+}
+
+QList<DriveFlag> faultFlagsOf(const DriveState &state)
+{
+    return flagValues(state, faultFlags, state.faultRegister);
+}
+
+QList<DriveFlag> inputFlagsOf(const DriveState &state)
+{
+    if (state.firmwareUpgradeMode)
+        return {};
+    QList<DriveFlag> result = flagValues(state, pinFlags, state.digitalInputs);
+    result << flagValue(state, softEnableFlag, state.softEnable)
+           << flagValue(state, physEnableFlag, state.controlInputs);
+    for (const Flag &flag : feedEnableFlags)
+        result << flagValue(state, feedEnableFlag(state, flag), state.controlInputs);
+    return result + flagValues(state, otherControlFlags, state.controlInputs);
 }
 
 QString getStatusRegString(const DriveState &state, bool &inactivityReason)
@@ -166,10 +215,8 @@ QString getDigitalInsString(const DriveState &state, bool &inactivityReason)
     text += QStringLiteral("<br>");
     text += flagLine(state, softEnableFlag, state.softEnable, inactivityReason);
     text += flagLine(state, physEnableFlag, state.controlInputs, inactivityReason);
-    for (Flag flag : feedEnableFlags) {
-        flag.isReason = state.limitSwitchFunction != 0.0;
-        text += flagLine(state, flag, state.controlInputs, inactivityReason);
-    }
+    for (const Flag &flag : feedEnableFlags)
+        text += flagLine(state, feedEnableFlag(state, flag), state.controlInputs, inactivityReason);
     text += flagLines(state, otherControlFlags, state.controlInputs, inactivityReason);
     text += QStringLiteral("<br>");
     text += SessionText::tr("Analog in 1&nbsp;&nbsp;%1 V <br>").arg(fixed(state.analogIn1, 2));

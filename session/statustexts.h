@@ -9,6 +9,21 @@
 
 #include "drivestate.h"
 
+#include <QList>
+
+/// A flag of one of the panels, as a value.
+struct DriveFlag
+{
+    QString label; ///< translated, as in the panel
+    bool isSet = false;
+    bool isReason = false; ///< keeps the drive from running: marked "!" in the panel
+};
+
+/// The flags of the panels, in their order. A bootloader has faults only.
+QList<DriveFlag> statusFlagsOf(const DriveState &state);
+QList<DriveFlag> faultFlagsOf(const DriveState &state);
+QList<DriveFlag> inputFlagsOf(const DriveState &state);
+
 /// One line for the flag `value & mask`. `isReason`: whether the flag can keep the drive from running; `expected`: the
 /// state that the flag has on a drive that is ready.
 QString formatDigitalStateAsString(const DriveState &state, const QString &label, qint32 value, int mask, bool isReason,

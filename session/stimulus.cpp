@@ -7,32 +7,36 @@ void SessionWorker::streamStimulus(const TaskRequest &)
 {
     if (!stimulusActive())
         return; // switched off while this task waited
-    if (!m_streamStarted)
-        m_streamStep = 0;
-    const bool first = m_streamStep == 0;
-    if (first)
-        m_line.appendWrite(reg::StreamPeriod, streamPeriod());
-    m_line.appendRead(reg::BufferFree);
-    m_line.execute();
-    if (first)
-        m_line.fetchWrite();
+    if (!m_stream.started)
+        m_stream.step = 0;
+    const bool first = m_stream.step == 0;
     long free = 0;
-    m_line.fetchRead(&free);
-    m_line.finishReply();
-    if (!statusIsClean())
+    if (!askAgain([&] { return readBufferFree(first, free); }) || !statusIsClean())
         return;
     if (first)
-        m_streamInitialFree = static_cast<int>(free);
+        m_stream.initialFree = static_cast<int>(free);
     qCDebug(sessionLog) << "buffree " << free;
 
-    const int chunks = streamChunkCount(static_cast<int>(free), streamThreshold(m_streamInitialFree));
+    const int chunks = streamChunkCount(static_cast<int>(free), streamThreshold(m_stream.initialFree));
     for (int chunk = 0; chunk < chunks && !m_queue.isClosing(); ++chunk) {
         // A disable drops a waiting stream task; it ends one that runs, too.
         if (serveWaitingDisable() || !stimulusActive())
             return;
         uploadStreamChunk();
     }
-    m_line.readBufferClock();
+    askAgain([this] { return m_line.readBufferClock() == ZB_OK; });
+}
+
+bool SessionWorker::readBufferFree(bool first, long &free)
+{
+    ZbStatus status = first ? m_line.appendWrite(reg::StreamPeriod, streamPeriod()) : ZB_OK;
+    status |= m_line.appendRead(reg::BufferFree);
+    status |= m_line.execute();
+    if (first)
+        status |= m_line.fetchWrite();
+    status |= m_line.fetchRead(&free);
+    status |= m_line.finishReply();
+    return status == ZB_OK;
 }
 
 bool SessionWorker::stimulusActive() const
@@ -43,7 +47,7 @@ bool SessionWorker::stimulusActive() const
 
 void SessionWorker::uploadStreamChunk()
 {
-    m_streaming = true;
+    m_stream.running = true;
     for (int i = 0; i < streamChunkItems; ++i) {
         m_line.append(nextStreamItem());
         debug();
@@ -61,11 +65,11 @@ void SessionWorker::uploadStreamChunk()
 
 QueueItem SessionWorker::nextStreamItem()
 {
-    const int step = m_streamStep++;
+    const int step = m_stream.step++;
     if (isStreamSetUpStep(step))
         return streamSetUp[step];
     // Not cleared by stopping: the drive keeps its return selection and target register, so that a later start in the
     // same connection goes on with setpoints.
-    m_streamStarted = true;
+    m_stream.started = true;
     return streamSetpointItem(m_session.getStimulus());
 }

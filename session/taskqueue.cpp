@@ -24,7 +24,7 @@ bool isMotion(const QueuedTask &entry)
 
 bool isStop(const QueuedTask &entry)
 {
-    return entry.isDisable() || entry.task == Connection::TaskStopStimulus;
+    return entry.isDisable() || entry.task == Connection::TaskStopStimulus || entry.task == Connection::TaskAbortHoming;
 }
 
 bool survivesDisconnect(const QueuedTask &entry)
@@ -42,13 +42,14 @@ template <typename Entries, typename Condition> void removeIf(Entries &entries, 
     entries.erase(std::remove_if(entries.begin(), entries.end(), condition), entries.end());
 }
 
-/// Leaves one stream stop, the first; there is never more than one disable.
+/// Leaves one stop of each kind, the first; there is never more than one disable.
 template <typename Entries> void removeRepeatedStops(Entries &entries)
 {
-    bool found = false;
-    removeIf(entries, [&found](const QueuedTask &entry) {
-        return entry.task == Connection::TaskStopStimulus && std::exchange(found, true);
-    });
+    for (const Connection::Task task : {Connection::TaskStopStimulus, Connection::TaskAbortHoming}) {
+        bool found = false;
+        removeIf(entries,
+                 [&found, task](const QueuedTask &entry) { return entry.task == task && std::exchange(found, true); });
+    }
 }
 
 } // namespace

@@ -59,8 +59,8 @@ public:
     /// - anything else is appended.
     void push(QueuedTask entry);
     void push(Connection::Task task);
-    /// Queues the disconnect after an error (or when the drive has gone): at the head, behind waiting disables and
-    /// stream stops; once.
+    /// Queues the disconnect after an error (or when the drive has gone): at the head, behind waiting disables, stream
+    /// stops and aborts of homing; once.
     void pushDisconnectFirst();
     /// Queues a disconnect, the files that still wait to be saved and the quit task; ends every pause from now on.
     void close();

@@ -1,20 +1,8 @@
-// Parameters between the session's list and the drive.
-#include "errortexts.h"
+// Reading from the drive: registers, and the session's list of parameters.
 #include "sessionregisters.h"
 #include "sessionworker.h"
 
-#include <cmath>
-#include <limits>
-
 namespace {
-
-using LongRange = std::numeric_limits<long>;
-
-/// As a number for the bus; what is not a number, or far out of range, becomes one that the line refuses to send.
-long toBusValue(double deviceValue)
-{
-    return std::abs(deviceValue) < 4294967296.0 ? static_cast<long>(deviceValue) : LongRange::max();
-}
 
 /// Part of the identity that a bootloader knows, too.
 bool knownToBootloader(int address)
@@ -25,41 +13,44 @@ bool knownToBootloader(int address)
 
 } // namespace
 
+/// One exchange for all of them, asked a second time when no good reply came.
+ZbStatus SessionWorker::readRegisters(std::initializer_list<int> addresses, std::initializer_list<long *> values)
+{
+    ZbStatus status = 0;
+    askAgain([&] {
+        status = 0;
+        for (int address : addresses)
+            status |= m_line.appendRead(address);
+        status |= m_line.execute();
+        for (long *value : values)
+            status |= m_line.fetchRead(value);
+        status |= m_line.finishReply();
+        return status == ZB_OK;
+    });
+    return status;
+}
+
 ZbStatus SessionWorker::readParameters(int address1, long &value1)
 {
-    m_line.appendRead(address1);
-    m_line.execute();
-    const ZbStatus status = m_line.fetchRead(&value1);
-    return status | m_line.finishReply();
+    return readRegisters({address1}, {&value1});
 }
 
 ZbStatus SessionWorker::readParameters(int address1, long &value1, int address2, long &value2)
 {
-    m_line.appendRead(address1);
-    m_line.appendRead(address2);
-    m_line.execute();
-    m_line.fetchRead(&value1);
-    const ZbStatus status = m_line.fetchRead(&value2);
-    return status | m_line.finishReply();
+    return readRegisters({address1, address2}, {&value1, &value2});
 }
 
 ZbStatus SessionWorker::readParameters(int address1, long &value1, int address2, long &value2, int address3,
                                        long &value3)
 {
-    m_line.appendRead(address1);
-    m_line.appendRead(address2);
-    m_line.appendRead(address3);
-    m_line.execute();
-    m_line.fetchRead(&value1);
-    m_line.fetchRead(&value2);
-    const ZbStatus status = m_line.fetchRead(&value3);
-    return status | m_line.finishReply();
+    return readRegisters({address1, address2, address3}, {&value1, &value2, &value3});
 }
 
 ZbStatus SessionWorker::requestParamStruct(const SingleParam &param)
 {
-    const ZbStatus status = m_line.appendRead(param.addr) | m_line.appendRead(param.addr | reg::MinimumFlag) |
-                            m_line.appendRead(param.addr | reg::MaximumFlag);
+    ZbStatus status = m_line.appendRead(param.addr);
+    status |= m_line.appendRead(param.addr | reg::MinimumFlag);
+    status |= m_line.appendRead(param.addr | reg::MaximumFlag);
     if (!statusIsClean())
         qCDebug(sessionLog) << "err1" << m_line.status();
     return status;
@@ -68,8 +59,10 @@ ZbStatus SessionWorker::requestParamStruct(const SingleParam &param)
 bool SessionWorker::fillParamStruct(SingleParam &param)
 {
     long value = 0, min = 0, max = 0;
-    const ZbStatus status =
-        m_line.fetchRead(&value) | m_line.fetchRead(&min) | m_line.fetchRead(&max) | m_line.finishReply();
+    ZbStatus status = m_line.fetchRead(&value);
+    status |= m_line.fetchRead(&min);
+    status |= m_line.fetchRead(&max);
+    status |= m_line.finishReply();
     if (!statusIsClean())
         qCDebug(sessionLog) << "err2" << m_line.status();
     if (status != ZB_OK)
@@ -82,9 +75,31 @@ bool SessionWorker::fillParamStruct(SingleParam &param)
 
 bool SessionWorker::readRecord(SingleParam &param)
 {
-    const ZbStatus requested = requestParamStruct(param);
-    const ZbStatus executed = m_line.execute();
-    return fillParamStruct(param) && (requested | executed) == ZB_OK;
+    return askAgain([&] {
+        const ZbStatus requested = requestParamStruct(param);
+        const ZbStatus executed = m_line.execute();
+        return fillParamStruct(param) && (requested | executed) == ZB_OK;
+    });
+}
+
+/// All records into `list`; false when it broke off.
+bool SessionWorker::readRecords(Parameters &list)
+{
+    for (int index = 0; index < list.getParamCount(); ++index) {
+        if (m_queue.isClosing())
+            return false;
+        serveWaitingDisable();
+        SingleParam param = list.getParam(index);
+        if (inFirmwareUpgradeMode() && !knownToBootloader(param.addr))
+            continue;
+        if (!isParamAvailableInCurrentDevice(param)) {
+            param.value = -1.0;
+        } else if (!readRecord(param)) {
+            return false;
+        }
+        list.replaceParam(param, index);
+    }
+    return true;
 }
 
 void SessionWorker::getParams(const TaskRequest &)
@@ -96,110 +111,24 @@ void SessionWorker::getParams(const TaskRequest &)
         handOvers = m_data.parameterHandOvers;
         list = m_data.wanted.parameters;
     }
-    int index = 0;
-    for (; index < list.getParamCount() && !m_queue.isClosing(); ++index) {
-        serveWaitingDisable();
-        SingleParam param = list.getParam(index);
-        if (inFirmwareUpgradeMode() && !knownToBootloader(param.addr))
-            continue;
-        if (!isParamAvailableInCurrentDevice(param)) {
-            param.value = -1.0;
-        } else if (!readRecord(param)) {
-            break;
-        }
-        list.replaceParam(param, index);
-        if (param.name == QLatin1String("CM"))
-            m_controlMode = truncateToInt32(param.value);
-    }
+    const int strays = m_line.meter().strays;
+    bool whole = readRecords(list);
+    // What should not have been on the line may have been taken for an answer before it was found.
+    if (whole && strays != m_line.meter().strays)
+        whole = readRecords(list);
+    // A part, or the former drive's values, must not pass for the drive's.
+    if (!whole)
+        return;
     {
         std::lock_guard<std::mutex> lock(m_data.mutex);
+        m_data.drive = list;
         // A set that was handed over meanwhile is newer than what this read began with.
         if (m_data.parameterHandOvers == handOvers)
             m_data.wanted.parameters = list;
     }
-    // The answer to a read that failed brings a part; nobody may take it for the whole.
-    if (index == list.getParamCount() && !inFirmwareUpgradeMode())
-        m_data.valuesComplete = true;
+    m_data.driveWasRead = true;
+    m_controlMode = truncateToInt32(list.getParam(QStringLiteral("CM")).value);
+    m_data.valuesComplete = !inFirmwareUpgradeMode();
+    emit m_session.driveParametersChanged(list);
     emit m_session.parametersRetreived(list, false);
-}
-
-bool SessionWorker::writeAndFetch(int address, long value)
-{
-    const ZbStatus appended = m_line.appendWrite(address, value);
-    const ZbStatus executed = m_line.execute();
-    // A late reply to something longer must not pass for an acknowledgement.
-    const ZbStatus fetched = m_line.fetchWrite() | m_line.finishReply();
-    return (appended | executed | fetched) == ZB_OK;
-}
-
-bool SessionWorker::setParameter(int address, long value)
-{
-    writeAndFetch(address, value);
-    reportWrite(undefinedParam(address, static_cast<int>(value)));
-    return true;
-}
-
-/// Applying settings enables, moves and restarts nothing, whatever register a settings file or an override names.
-bool SessionWorker::refuseCommand(const QString &name, int address)
-{
-    if (!reg::isCommandRegister(address))
-        return false;
-    emit m_session.error(Connection::tr("%1 was not written: register %2 is a command to the drive and not a setting.")
-                             .arg(name.toHtmlEscaped())
-                             .arg(address));
-    return true;
-}
-
-void SessionWorker::writeRecord(const SingleParam &param)
-{
-    if (refuseCommand(param.name, param.addr))
-        return;
-    writeAndFetch(param.addr, toBusValue(param.convertToDeviceScale(param.value)));
-    reportWrite(param);
-}
-
-void SessionWorker::setParams(const TaskRequest &request)
-{
-    // Closing gives the whole session five seconds; a write that the user chose on the way out has most of them.
-    constexpr TaskQueue::Milliseconds closingGrace(2000);
-
-    qCDebug(sessionLog, "   SET PARAMS");
-    const Parameters &list = request.parameters;
-    setParameter(reg::ReturnLength, reg::ReturnsOutcome);
-    for (int index = 0; index < list.getParamCount(); ++index) {
-        if (m_line.isDead() || m_queue.isClosing(closingGrace))
-            return;
-        serveWaitingDisable();
-        const SingleParam param = list.getParam(index);
-        if (!isParamAvailableInCurrentDevice(param))
-            continue;
-        qCDebug(sessionLog) << "       SET PARAM " << index << param.name << param.value;
-        if (param.readonly)
-            continue;
-        if (param.name == QLatin1String("CM")) {
-            const int mode = truncateToInt32(param.value);
-            if (param.value != m_controlMode)
-                emit m_session.controlModeChanged(mode);
-            m_controlMode = mode;
-        }
-        writeRecord(param);
-    }
-    for (unsigned slot = 1; slot <= 3; ++slot)
-        setOverriddenParam(list, slot);
-}
-
-void SessionWorker::setOverriddenParam(const Parameters &list, unsigned slot)
-{
-    if (slot < 1 || slot > 3)
-        return;
-    const SingleParam address = list.getParam(QStringLiteral("overrideAddr%1").arg(slot));
-    const SingleParam value = list.getParam(QStringLiteral("overrideVal%1").arg(slot));
-    if (address.value == 0.0 || std::isnan(address.value))
-        return;
-    qCDebug(sessionLog) << "overriding " << address.value << " to " << value.value;
-    const long target = toBusValue(address.value);
-    if (refuseCommand(address.name, static_cast<qint16>(target)))
-        return;
-    writeAndFetch(static_cast<qint16>(target), toBusValue(value.value));
-    reportWrite(undefinedParam(static_cast<qint16>(target), static_cast<int>(toBusValue(value.value))));
 }

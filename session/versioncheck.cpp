@@ -69,6 +69,12 @@ VersionVerdict refusedAsOutdated(const DriveIdentity &drive, const QString &text
         return refused(text);
     VersionVerdict verdict = refused(text + restartNotice);
     verdict.restartToDFU = true;
+    verdict.notRestartedText =
+        refused(text +
+                SessionText::tr("<br/><br/><b>Device could not be restarted in firmware upgrade mode: it did not "
+                                "confirm the command and is probably still in normal mode. Try connecting "
+                                "again.</b>"))
+            .errorText;
     return verdict;
 }
 
@@ -177,6 +183,14 @@ VersionVerdict checkUpgradeMode(const DriveIdentity &drive)
 }
 
 } // namespace
+
+bool DriveIdentity::operator==(const DriveIdentity &other) const
+{
+    return deviceType == other.deviceType && firmwareVersion == other.firmwareVersion &&
+           firmwareCompanion == other.firmwareCompanion && coreVersion == other.coreVersion &&
+           coreCompanion == other.coreCompanion && protocolVersion == other.protocolVersion &&
+           protocolCompanion == other.protocolCompanion && firmwareUpgradeMode == other.firmwareUpgradeMode;
+}
 
 const SupportedVersion *supportedVersionOf(int deviceType)
 {

@@ -18,6 +18,8 @@ struct DriveIdentity
     int protocolVersion = 0; ///< register 3
     int protocolCompanion = 0;
     bool firmwareUpgradeMode = false;
+
+    bool operator==(const DriveIdentity &other) const;
 };
 
 /// Versions that a device family (type id / 1000) must have.
@@ -34,9 +36,11 @@ struct SupportedVersion
 struct VersionVerdict
 {
     bool accepted = false;
-    bool restartToDFU = false; ///< refused; restart the drive into firmware-upgrade mode after telling the user
-    QString errorText;  ///< HTML for the user; with `accepted` a recommendation; empty when there is nothing to say
-    QString statusText; ///< connection text of a refusal; empty when accepted
+    bool restartToDFU = false; ///< refused; restart the drive into firmware-upgrade mode, then tell the user
+    QString errorText; ///< HTML for the user; with `accepted` a recommendation; empty when there is nothing to say.
+                       ///< With `restartToDFU` it says that the drive has been restarted
+    QString notRestartedText; ///< instead of errorText when it was not
+    QString statusText;       ///< connection text of a refusal; empty when accepted
 };
 
 /// First record for the family of a type id, null when the family is not supported.

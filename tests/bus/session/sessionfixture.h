@@ -48,6 +48,11 @@ struct SessionLog : QObject
     QList<bool> busy;
     QList<bool> disables;
     QList<bool> enabled;
+    QList<Message> messages;
+    QList<DriveState> states;
+    QList<CaptureState> captures;
+    QList<DisableOutcome> outcomes;
+    QList<Parameters> held;
     int restartSuggestions = 0;
     int unsaved = 0;
 };
@@ -94,6 +99,16 @@ inline SessionLog::SessionLog(Connection &s)
         &s, &C::disableAnswered, this, [this](bool ok) { disables << ok; }, queued);
     connect(
         &s, &C::enableStatePolled, this, [this](bool on) { enabled << on; }, queued);
+    connect(
+        &s, &C::message, this, [this](Message m) { messages << m; }, queued);
+    connect(
+        &s, &C::statePolled, this, [this](DriveState d) { states << d; }, queued);
+    connect(
+        &s, &C::captureStateChanged, this, [this](CaptureState c) { captures << c; }, queued);
+    connect(
+        &s, &C::disableFinished, this, [this](DisableOutcome o) { outcomes << o; }, queued);
+    connect(
+        &s, &C::driveParametersChanged, this, [this](Parameters p) { held << p; }, queued);
     connect(
         &s, &C::suggestDeviceRestart, this, [this] { ++restartSuggestions; }, queued);
     connect(
@@ -216,13 +231,14 @@ protected:
         return waitUntil([&] { return QFileInfo::exists(mark); });
     }
 
-    /// Payloads that arrived, without those of the periodic poll.
+    /// Payloads that arrived, without those of the periodic poll and the questions whether a write was refused.
     std::vector<std::string> payloads()
     {
         std::vector<std::string> result;
         for (const sim::ReceivedRequest &request : bus().received()) {
             const std::string payload = hex(request.packet.payload);
-            if (payload.rfind("800a400000800940", 0) != 0 || payload.size() <= 60)
+            const bool isPoll = payload.rfind("800a400000800940", 0) == 0 && payload.size() > 60;
+            if (!isPoll && payload != wire("800a 400000 8009 40000d"))
                 result.push_back(payload);
         }
         return result;

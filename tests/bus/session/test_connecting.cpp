@@ -25,16 +25,17 @@ protected:
         session().getListOfBusNodes(port());
         return waitUntil([this] { return !log().nodes.isEmpty(); });
     }
-    void expectCannotOpen(const char *name)
+    void expectCannotOpen(const char *name, const char *why)
     {
         session().connectDevice(name, 5);
         session().getParams();
         session().checkErrors();
         ASSERT_TRUE(waitUntil([this] { return !log().errors.isEmpty(); })) << name;
-        EXPECT_THAT(log().errors, ElementsAre(cannotOpen));
+        EXPECT_THAT(log().errors, SizeIs(1));
         session().getListOfBusNodes(name);
         ASSERT_TRUE(waitUntil([this] { return log().errors.size() == 2; })) << name;
-        EXPECT_EQ(log().errors.last(), cannotOpen);
+        for (const QString &error : log().errors)
+            EXPECT_EQ(error, cannotOpen + "<br>" + QString(why).arg(name));
         ASSERT_THAT(log().statuses, SizeIs(2));
         EXPECT_EQ(log().statuses.last().text, "Connect failed");
         EXPECT_TRUE(log().read.isEmpty() && log().nodes.isEmpty());
@@ -216,11 +217,19 @@ TEST_F(Connecting, TasksWithoutADriveAreQuiet)
     EXPECT_EQ(log().errors.last(), "Invalid comm task");
 }
 
-TEST_F(Connecting, APortThatCannotBeOpenedIsSaidOnce)
+TEST_F(Connecting, APortThatCannotBeOpenedIsSaidOnceAndWhy)
 {
-    for (const char *name : {"/dev/ttyNotThere", "notAPort"}) {
+    const struct
+    {
+        const char *name, *why;
+    } cases[] = {
+        {"/dev/ttyNotThere", "There is no port %1: check that the adapter is plugged in."},
+        {"notAPort", "%1 is not a serial port."},
+    };
+    for (const auto &each : cases) {
         newSession();
-        expectCannotOpen(name);
+        expectCannotOpen(each.name, each.why);
+        EXPECT_EQ(log().messages.last().kind, MessageKind::ConnectFailed);
     }
 }
 
@@ -234,7 +243,7 @@ TEST_F(Connecting, APortThatAnotherProgramHasIsSaidOnceAndWorksWhenItIsGivenBack
         close(mine);
         return taken;
     }));
-    expectCannotOpen(port());
+    expectCannotOpen(port(), "%1 is in use by another program.");
     other.kill();
     ASSERT_TRUE(other.waitForFinished());
     EXPECT_TRUE(connectTo());
@@ -247,7 +256,8 @@ TEST_F(Connecting, APortWithoutPermissionIsSaidOnce)
     ASSERT_EQ(chmod(slave.c_str(), 0), 0);
     const bool root = geteuid() == 0; // root may open what it likes
     ASSERT_EQ(seteuid(root ? nobody : geteuid()), 0);
-    expectCannotOpen(port());
+    expectCannotOpen(port(), "There is no permission to use %1: ask for membership in the group that owns it, often "
+                             "\"dialout\", and log in again.");
     ASSERT_EQ(seteuid(root ? 0 : geteuid()), 0);
     ASSERT_EQ(chmod(slave.c_str(), 0600), 0);
     EXPECT_TRUE(connectTo());
@@ -289,29 +299,96 @@ TEST_P(OtherDrive, IsAccepted)
 }
 INSTANTIATE_TEST_SUITE_P(EveryProfile, OtherDrive, testing::Values("keta", "keta-pro", "keta-hc", "torva"));
 
-TEST_F(Connecting, NoiseDuringIdentificationNeverRestartsTheDrive)
+TEST_F(Connecting, ADriveThatIsTooOldIsOnlySaidToBeRestartedWhenItConfirmedThat)
 {
-    // What is left of the replies would make this drive look too old.
     bus().set(5, 6014, 1077);
     bus().set(5, 6015, 1077);
-    session().setReplyTimeout(100);
+    session().setReplyTimeout(200);
+    // Both readings of the identity, four requests each, come through.
+    bus().setFault({sim::LineFault::Deaf, sim::LineFault::AnyByte, 8, 1});
+    expectRefused("Connect failed", "Device could not be restarted in firmware upgrade mode");
+    EXPECT_THAT(log().errors.last().toStdString(), Not(HasSubstr("now has been restarted")));
+    EXPECT_EQ(received(wire("822a 00000040")), 1) << "once only";
+    EXPECT_NE(bus().read(5, 2), 0);
+}
+
+TEST_F(Connecting, OneOddReadingOfTheVersionsRestartsNothing)
+{
+    bus().set(5, 6014, 1077);
+    bus().set(5, 6015, 1077);
+    bus().setTurnAround(std::chrono::milliseconds(30));
+    session().connectDevice(port(), DriveAddress);
+    ASSERT_TRUE(waitForRequests(5)); // the first reading was four
+    bus().set(5, 6014, 1078);
+    ASSERT_TRUE(waitUntil([this] { return !log().statuses.isEmpty(); }));
+    EXPECT_TRUE(log().statuses.last().connected);
+    EXPECT_TRUE(log().errors.isEmpty());
+    for (const std::string &payload : payloads())
+        EXPECT_NE(payload.substr(0, 4), "822a") << "register 554";
+}
+
+TEST_F(Connecting, ADamagedReplyIsAskedForOnceMoreAndADoubledOneAnswersNothingElse)
+{
     using F = sim::LineFault;
-    for (F::Kind kind : {F::Drop, F::Flip, F::Double, F::Cut, F::Missing, F::Deaf, F::Late}) {
-        for (int exchange = 0; exchange < 4; ++exchange) {
-            F fault;
-            fault.kind = kind;
-            fault.at = kind == F::Late ? 300 : 9;
-            fault.skip = exchange;
-            fault.count = 1;
-            bus().setFault(fault);
-            log().errors.clear();
-            EXPECT_FALSE(connectTo());
-            ASSERT_TRUE(waitUntil([this] { return !log().errors.isEmpty(); }));
-            EXPECT_THAT(log().errors, SizeIs(1));
-            EXPECT_THAT(log().errors.last().toStdString(), HasSubstr("Communication error flags:"));
+    session().setReplyTimeout(200);
+    for (F::Kind kind : {F::Twice, F::Flip, F::Double, F::Missing, F::Late}) {
+        for (int exchange = 0; exchange < 6; ++exchange) {
+            bus().clearFaults();
+            session().command(Connection::TaskDisconnect);
+            ASSERT_TRUE(waitUntilIdle());
+            bus().clearReceived();
+            bus().setFault({kind, kind == F::Late ? 240 : 9, exchange, 1});
+            const int errorsBefore = session().lineMeter().errors;
+            const int straysBefore = session().lineMeter().strays;
+            EXPECT_TRUE(connectTo()) << kind << " at " << exchange;
+            session().command(Connection::TaskUpdateStatus); // finds what the last one left behind
+            ASSERT_TRUE(waitUntilIdle());
+            if (kind == F::Twice)
+                EXPECT_EQ(session().lineMeter().strays, straysBefore + 1) << exchange;
+            else
+                EXPECT_GT(session().lineMeter().errors, errorsBefore) << kind << " at " << exchange;
+            for (const std::string &payload : payloads()) {
+                const bool isRead = payload.rfind(wire("800a 400000 8009"), 0) == 0;
+                EXPECT_TRUE(isRead || payload == wire("800f 00000000") || payload == wire("800d 00000000")) << payload;
+            }
+            EXPECT_EQ(session().deviceType(), 11000);
+            EXPECT_FALSE(session().isInFirmwareUpgradeMode());
         }
     }
-    for (const std::string &payload : payloads())
-        EXPECT_EQ(payload.find("822a"), std::string::npos) << "register 554 was written";
-    EXPECT_NE(bus().read(5, 2), 0);
+    EXPECT_TRUE(log().errors.isEmpty()) << qPrintable(log().errors.join("\n"));
+}
+
+TEST_F(Connecting, WhoDoesNotAnswerAndWhoAnswersDamagedAreToldApart)
+{
+    using F = sim::LineFault;
+    session().setReplyTimeout(100);
+    const struct
+    {
+        F::Kind kind;
+        const char *text;
+    } cases[] = {
+        {F::Missing, "The port is open, but nobody answered at address 5"},
+        {F::Flip, "Something answered at address 5, but damaged"},
+    };
+    for (const auto &each : cases) {
+        newSession();
+        session().setReplyTimeout(100);
+        setFault(each.kind);
+        expectRefused("Connect failed", each.text);
+        EXPECT_TRUE(log().errors.last().startsWith("Communication error flags:"));
+        EXPECT_EQ(log().messages.last().kind, MessageKind::ConnectFailed);
+    }
+}
+
+TEST_F(Connecting, TheTypeStaysGoneAlsoWhenTheWindowHandsItsOwnSetOver)
+{
+    ASSERT_TRUE(connectTo());
+    ASSERT_TRUE(readAll());
+    session().command(Connection::TaskDisconnect);
+    ASSERT_TRUE(waitForDisconnect());
+    session().setParams(log().read.last());
+    EXPECT_EQ(session().getActiveParamValue("HWTYPE"), 0.0);
+    session().emitParameters();
+    ASSERT_TRUE(waitUntil([this] { return !log().loaded.isEmpty(); }));
+    EXPECT_EQ(log().loaded.last().getParam("HWTYPE").value, 0.0);
 }

@@ -68,6 +68,8 @@ TEST_F(Scope, ArmsWithTwoExchangesAndDownloadsInFiftyOfFortyWords)
     EXPECT_EQ(sent[52].substr(2 * 3 * 39), "4007cf") << "1999";
     EXPECT_THAT(log().captureButton, ElementsAre(QString("Start capture"), QString("Scope waiting.."),
                                                  QString("Downloading.."), QString("Start capture")));
+    EXPECT_THAT(log().captures,
+                ElementsAre(CaptureState::Idle, CaptureState::Waiting, CaptureState::Downloading, CaptureState::Idle));
 }
 
 TEST_F(Scope, PutsEveryWordIntoItsChannelAtItsTime)
@@ -100,6 +102,46 @@ TEST_F(Scope, PutsEveryWordIntoItsChannelAtItsTime)
         }
         EXPECT_EQ(channels[busVoltage].samples.first().second, 400.0);
     }
+}
+
+TEST_F(Scope, OneBadReplyOfADownloadChangesNoWord)
+{
+    using F = sim::LineFault;
+    session().command(Connection::TaskDisconnect);
+    ASSERT_TRUE(waitForDisconnect());
+    session().setReplyTimeout(200);
+    ASSERT_TRUE(connectTo());
+    arm(20000, captureAtOnce, selection({torqueSetpoint, busVoltage}));
+    ASSERT_TRUE(waitForPlot());
+    const auto whole = log().plots.last()[busVoltage].samples;
+    for (F::Kind kind : {F::Twice, F::Flip, F::Missing, F::Late}) {
+        ASSERT_TRUE(waitUntilIdle());
+        bus().setFault({kind, kind == F::Late ? 240 : 9, 10, 1});
+        log().plots.clear();
+        session().command(Connection::TaskDownloadScope);
+        ASSERT_TRUE(waitForPlot()) << kind;
+        EXPECT_EQ(log().plots.last()[busVoltage].samples, whole) << kind;
+    }
+    EXPECT_TRUE(log().errors.isEmpty());
+}
+
+TEST_F(Scope, ADownloadIsNotBelievedWhenThePollBehindItFails)
+{
+    arm(20000, captureAtOnce, selection({busVoltage}));
+    ASSERT_TRUE(waitForPlot());
+    log().plots.clear();
+    log().captures.clear();
+    bus().setTurnAround(std::chrono::milliseconds(5));
+    bus().clearReceived();
+    session().command(Connection::TaskDownloadScope);
+    ASSERT_TRUE(waitUntil([this] {
+        const std::vector<std::string> sent = payloads();
+        return !sent.empty() && sent.back().rfind("4007a8", 0) == 0; // the last forty words
+    }));
+    setFault(sim::LineFault::Cut);
+    ASSERT_TRUE(waitForDisconnect());
+    EXPECT_TRUE(log().plots.isEmpty());
+    EXPECT_EQ(log().captures.last(), CaptureState::Idle);
 }
 
 TEST_F(Scope, ArmingCopiesTheSelection)

@@ -2,6 +2,8 @@
 #include "sessionfixture.h"
 
 #include <QDir>
+#include <QRegularExpression>
+#include <cmath>
 
 using testing::Contains;
 using testing::ElementsAre;
@@ -133,6 +135,9 @@ TEST_F(Transfer, OverrideSlotsFollowTheRecords)
 TEST_F(Transfer, NoSettingsFileAndNoOverrideEnablesMovesOrRestartsADrive)
 {
     Parameters list = with("overrideAddr1", 551);
+    SingleParam faults = list.getParam("overrideAddr2"); // clearing a fault sets an enabled drive going
+    faults.value = 552;
+    list.replaceParam(faults);
     SingleParam disguised = list.getParam("KVP"); // a file carries its own register for every setting
     disguised.addr = 2533;
     disguised.value = 1;
@@ -142,15 +147,19 @@ TEST_F(Transfer, NoSettingsFileAndNoOverrideEnablesMovesOrRestartsADrive)
     for (const std::string &payload : payloads()) {
         EXPECT_THAT(payload, Not(HasSubstr(wire("89e5")))); // 2533
         EXPECT_THAT(payload, Not(HasSubstr(wire("8227")))); // 551
+        EXPECT_THAT(payload, Not(HasSubstr(wire("8228")))); // 552
     }
-    ASSERT_THAT(log().errors, SizeIs(2));
+    ASSERT_THAT(log().errors, SizeIs(3));
+    EXPECT_EQ(log().messages.last().kind, MessageKind::NotWritten);
     EXPECT_EQ(log().errors[0], "KVP was not written: register 2533 is a command to the drive and not a setting.");
     EXPECT_EQ(session().isConnected(), true);
 }
 
-TEST_F(Transfer, AChangedControlModeIsAnnouncedOnceBeforeItIsWritten)
+TEST_F(Transfer, AChangedControlModeIsAnnouncedOnceTheDriveHasTakenIt)
 {
     const int other = held().getParam("CM").value == 1.0 ? 2 : 1;
+    apply(with("CM", 100)); // refused
+    EXPECT_THAT(log().controlModes, testing::IsEmpty());
     apply(with("CM", other));
     apply(with("CM", other));
     EXPECT_THAT(log().controlModes, ElementsAre(other));
@@ -165,52 +174,158 @@ TEST_F(Transfer, ASetHandedOverDuringAReadIsNotOverwrittenByIt)
     session().setParams(with("KVP", 999));
     const int before = log().read.size();
     ASSERT_TRUE(waitUntil([&] { return log().read.size() > before; }));
-    EXPECT_EQ(session().getActiveParamValue("KVP"), 999.0);
+    session().emitParameters();
+    ASSERT_TRUE(waitUntil([this] { return !log().loaded.isEmpty(); }));
+    EXPECT_EQ(log().loaded.last().getParam("KVP").value, 999.0);
+    EXPECT_EQ(session().getActiveParamValue("KVP"), bus().read(5, 202)) << "what is wanted is not what the drive has";
     EXPECT_EQ(log().read.last().getParam("KVP").value, bus().read(5, 202)) << "what was read is the drive's";
 }
 
-TEST_F(Transfer, AValueThatTheBusCannotCarryIsNotSentAsAnotherOne)
+TEST_F(Transfer, AValueThatTheBusCannotCarryIsNamedAndLeftOut)
 {
     const int before = bus().read(5, 202);
-    apply(with("KVP", 1e15));
-    ASSERT_TRUE(waitForDisconnect());
-    EXPECT_EQ(bus().read(5, 202), before);
-    ASSERT_THAT(log().errors, SizeIs(1));
-    EXPECT_THAT(log().errors.first().toStdString(), HasSubstr("InvalidParameter"));
+    for (double value : {1e15, 536870912.0, -536870913.0, std::nan("")}) {
+        log().errors.clear();
+        Parameters list = with("KVP", value);
+        SingleParam other = list.getParam("KVI");
+        other.value = 17;
+        list.replaceParam(other);
+        apply(list);
+        EXPECT_EQ(bus().read(5, 202), before) << value;
+        EXPECT_EQ(bus().read(5, 200), 17) << "the rest is written";
+        ASSERT_THAT(log().errors, SizeIs(1)) << value;
+        EXPECT_TRUE(log().errors.first().startsWith("KVP was not written: ")) << qPrintable(log().errors.first());
+        EXPECT_EQ(log().messages.last().kind, MessageKind::NotWritten);
+    }
+    EXPECT_TRUE(session().isConnected());
 }
 
-TEST_F(Transfer, ARefusedWriteIsToldWithItsRecordOnceErrorsAreLookedFor)
+TEST_F(Transfer, ARefusedWriteIsToldWithItsValueAndTheDrivesLimitsAndTheConnectionGoesOn)
 {
-    apply(with("KVP", 500000000)); // far above the maximum, and nobody asks the drive for errors yet
-    EXPECT_TRUE(log().errors.isEmpty());
-    session().checkErrors();
-    ASSERT_TRUE(waitForDisconnect());
-    EXPECT_THAT(log().errors, ElementsAre(QString("Communication error, disconnected.<br>Device errors: <br>"
-                                                  "* Value too high<br>")));
-
-    // From the first error on every write is followed by the question.
-    ASSERT_TRUE(connectTo());
-    apply(with("KVP", 500000000));
-    ASSERT_TRUE(waitForDisconnect());
-    ASSERT_THAT(log().errors, SizeIs(2));
-    EXPECT_THAT(log().errors.last().toStdString(),
-                HasSubstr("* Value too high<br>Occurred while setting parameter: name=KVP, addr=202, GUI value=5e+08"));
+    const SingleParam drives = held().getParam("KVP");
+    Parameters list = with("KVP", 500000000);
+    SingleParam behind = list.getParam("CAL");
+    behind.value = behind.min;
+    list.replaceParam(behind);
+    for (int pass = 0; pass < 2; ++pass) { // the second with a question behind every write
+        log().errors.clear();
+        apply(list);
+        ASSERT_THAT(log().errors, SizeIs(1)) << pass;
+        const std::string text = log().errors.first().toStdString();
+        EXPECT_THAT(text, HasSubstr("* Value too high<br>Occurred while setting parameter: name=KVP, addr=202, "
+                                    "GUI value=5e+08, HW value=5e+08"));
+        EXPECT_THAT(text, HasSubstr("This drive: " + std::to_string(int(drives.min)) + " to " +
+                                    std::to_string(int(drives.max))));
+        EXPECT_EQ(log().messages.last().kind, MessageKind::Refused);
+        EXPECT_TRUE(session().isConnected());
+        EXPECT_EQ(session().getActiveParamValue("KVP"), drives.value) << "what the drive has";
+        EXPECT_EQ(bus().read(5, 13), 0) << "nobody else gets the blame";
+    }
     EXPECT_THAT(payloads(), Contains(wire("800a 400000 8009 40000d 800d 00000000")));
+    EXPECT_EQ(log().statuses.size(), 1) << "connected";
 }
 
-TEST_F(Transfer, ErrorsFromBeforeAConnectionDoNotEndIt)
+TEST_F(Transfer, ARefusedCommandIsToldAtOnceAndTheNextOneGetsNoBlame)
 {
-    apply(with("KVP", 500000000));
-    session().checkErrors();
+    const struct
+    {
+        Connection::Task task;
+        const char *text;
+    } cases[] = {
+        {Connection::TaskStartHoming, "The drive refused to start homing."}, // it is not enabled
+        {Connection::TaskSetIncrementalSetpoint, "The drive refused the setpoint 536870911."},
+    };
+    session().setTargetSetpoint(536870911); // as far as it goes: there is nothing left to add
+    session().command(Connection::TaskSetAbsoluteSetpoint);
+    for (const auto &each : cases) {
+        log().errors.clear();
+        session().command(each.task);
+        session().command(Connection::TaskSaveToFlash);
+        ASSERT_TRUE(waitUntilIdle());
+        ASSERT_THAT(log().errors, SizeIs(1)) << each.text;
+        EXPECT_TRUE(log().errors.first().startsWith(each.text)) << qPrintable(log().errors.first());
+        EXPECT_THAT(log().errors.first().toStdString(), HasSubstr("* Invalid param value<br>"));
+        EXPECT_EQ(log().messages.last().kind, MessageKind::Refused);
+        EXPECT_TRUE(session().isConnected());
+    }
+}
+
+TEST_F(Transfer, ErrorsFromBeforeAConnectionGetNobodyTheBlame)
+{
+    for (int pass = 0; pass < 2; ++pass) { // the second with a question behind every write
+        session().command(Connection::TaskDisconnect);
+        ASSERT_TRUE(waitForDisconnect());
+        leaveErrorBit();
+        ASSERT_TRUE(connectTo());
+        session().command(Connection::TaskSaveToFlash);
+        ASSERT_TRUE(waitUntilIdle());
+        EXPECT_THAT(log().errors, SizeIs(pass));
+        log().statuses.clear();
+        if (pass == 0)
+            apply(with("KVP", 500000000));
+    }
+}
+
+TEST_F(Transfer, AWriteThatBrokeOffSaysWhatSurelyReachedTheDrive)
+{
+    session().command(Connection::TaskDisconnect);
     ASSERT_TRUE(waitForDisconnect());
-    leaveErrorBit();
+    session().setReplyTimeout(100);
     ASSERT_TRUE(connectTo());
     ASSERT_TRUE(waitUntilIdle());
-    EXPECT_TRUE(session().isConnected());
-    EXPECT_THAT(log().errors, SizeIs(1)) << "the first connection's";
-    apply(with("KVP", 500000000));
+    bus().setTurnAround(std::chrono::milliseconds(2));
+    session().setParams(held());
+    bus().clearReceived();
+    session().command(Connection::TaskSetParams);
+    ASSERT_TRUE(waitForRequests(8));
+    setFault(sim::LineFault::Deaf);
     ASSERT_TRUE(waitForDisconnect());
-    EXPECT_THAT(log().errors, SizeIs(2)) << "its own errors do";
+    ASSERT_THAT(log().errors, SizeIs(1));
+    const QRegularExpression pattern("part of the settings reached the drive\\. The last that surely did is (\\w+)\\.");
+    const QRegularExpressionMatch found = pattern.match(log().errors.first());
+    ASSERT_TRUE(found.hasMatch()) << qPrintable(log().errors.first());
+    EXPECT_EQ(log().messages.last().kind, MessageKind::LineLost);
+    // The record behind it was asked for twice, and never answered.
+    const int last = held().getParam(found.captured(1)).addr;
+    const std::vector<std::string> sent = payloads();
+    const auto written = std::find_if(sent.begin(), sent.end(), [&](const std::string &payload) {
+        return payload.rfind(fourHexDigits(last | 0x8000), 0) == 0;
+    });
+    ASSERT_LT(written - sent.begin() + 2, static_cast<long>(sent.size()));
+    EXPECT_EQ(*(written + 1), *(written + 2));
+}
+
+TEST_F(Transfer, WhatIsWantedChangesNothingAboutWhatTheDriveShows)
+{
+    bus().set(5, 955, 100);
+    session().setParams(with("FBR", held().getParam("FBR").value / 2));
+    const int before = log().states.size();
+    ASSERT_TRUE(waitUntil([&] { return log().states.size() > before + 1; }));
+    EXPECT_EQ(log().states.last().feedbackResolution, held().getParam("FBR").value);
+    EXPECT_EQ(session().getActiveParamValue("FBR"), held().getParam("FBR").value);
+    apply(with("FBR", held().getParam("FBR").value / 2));
+    EXPECT_EQ(log().held.last().getParam("FBR").value, held().getParam("FBR").value / 2) << "acknowledged";
+}
+
+TEST_F(Transfer, EverySingleFaultOfAReadAndAWriteIsMended)
+{
+    using F = sim::LineFault;
+    session().command(Connection::TaskDisconnect);
+    ASSERT_TRUE(waitForDisconnect());
+    session().setReplyTimeout(200);
+    ASSERT_TRUE(connectTo());
+    for (F::Kind kind : {F::Twice, F::Flip, F::Cut, F::Missing, F::Late}) {
+        for (int at : {0, 11, 30}) {
+            bus().setFault({kind, kind == F::Late ? 240 : 4, at, 1});
+            ASSERT_TRUE(readAll()) << kind;
+            EXPECT_EQ(log().read.last().getParam("KVP").value, bus().read(5, 202)) << kind << " at " << at;
+            EXPECT_EQ(log().read.last().getParam("MMS").value, held().getParam("MMS").value);
+            bus().setFault({kind, kind == F::Late ? 240 : 4, at, 1});
+            apply(with("KVP", 100 + at));
+            EXPECT_EQ(bus().read(5, 202), 100 + at) << kind << " at " << at;
+        }
+    }
+    EXPECT_TRUE(log().errors.isEmpty()) << qPrintable(log().errors.join("\n"));
 }
 
 TEST_F(Transfer, ValuesAreCompleteOnceEverythingWasReadInThisConnection)
@@ -227,21 +342,22 @@ TEST_F(Transfer, ValuesAreCompleteOnceEverythingWasReadInThisConnection)
     session().getParams();
     ASSERT_TRUE(waitForRequests(10));
     setFault(sim::LineFault::Cut);
-    ASSERT_TRUE(waitUntil([&] { return log().read.size() > before; }));
-    EXPECT_FALSE(session().valuesAreComplete()) << "only a part was read";
+    ASSERT_TRUE(waitForDisconnect());
+    EXPECT_EQ(log().read.size(), before) << "a part hands no values to anyone";
+    EXPECT_FALSE(session().valuesAreComplete());
 }
 
 TEST_F(Transfer, CommandsAreTheWritesTheyStandFor)
 {
     EXPECT_THAT(sentBy(Connection::TaskSetZero).front(), wire("822a 00000200"));
     EXPECT_THAT(sentBy(Connection::TaskSaveToFlash), ElementsAre(wire("822a 00000001")));
-    EXPECT_THAT(sentBy(Connection::TaskStartHoming), ElementsAre(wire("9d6c 00000001")));
     EXPECT_THAT(sentBy(Connection::TaskAbortHoming), ElementsAre(wire("9d6c 00000000")));
     EXPECT_THAT(sentBy(Connection::TaskClearFaults), ElementsAre(wire("8228 00000000")));
     session().setTargetSetpoint(-5);
     EXPECT_THAT(sentBy(Connection::TaskSetAbsoluteSetpoint), ElementsAre(wire("8227 3ffffffb")));
     EXPECT_THAT(sentBy(Connection::TaskSetIncrementalSetpoint), ElementsAre(wire("8226 3ffffffb")));
     EXPECT_THAT(log().errors, testing::IsEmpty());
+    EXPECT_EQ(sentBy(Connection::TaskStartHoming).front(), wire("9d6c 00000001"));
 }
 
 TEST_F(Transfer, ForceEnableIsUsedOnceAndNeverByADisable)
@@ -312,6 +428,15 @@ TEST_F(TorvaTransfer, OnlyAKetaMeasures)
     EXPECT_TRUE(payloads().empty());
 }
 
+TEST_F(TorvaTransfer, OnlyADriveThatCanIsRestartedIntoUpgradeMode)
+{
+    session().command(Connection::TaskRestartToDFU);
+    ASSERT_TRUE(waitUntilIdle());
+    EXPECT_THAT(log().errors, SizeIs(1));
+    EXPECT_EQ(log().messages.last().kind, MessageKind::Note);
+    EXPECT_TRUE(payloads().empty());
+}
+
 TEST_F(Transfer, SettingsTravelThroughAFile)
 {
     session().setParams(with("KVP", 123));
@@ -321,7 +446,6 @@ TEST_F(Transfer, SettingsTravelThroughAFile)
     session().command(Connection::TaskLoadSettingsFile);
     ASSERT_TRUE(waitUntil([this] { return !log().loaded.isEmpty(); }));
     EXPECT_EQ(log().loaded.last().getParam("KVP").value, 123.0);
-    EXPECT_EQ(session().getActiveParamValue("KVP"), 123.0);
     EXPECT_TRUE(log().errors.isEmpty());
 
     session().setSettingsFileName(QDir::currentPath()); // a folder
@@ -329,6 +453,5 @@ TEST_F(Transfer, SettingsTravelThroughAFile)
     session().command(Connection::TaskSaveSettingsFile);
     ASSERT_TRUE(waitUntil([this] { return log().errors.size() == 2; }));
     EXPECT_THAT(log().loaded, SizeIs(1));
-    EXPECT_EQ(session().getActiveParamValue("KVP"), 123.0);
     EXPECT_TRUE(session().isConnected());
 }

@@ -1,6 +1,7 @@
 #include "errortexts.h"
 #include "printqt.h"
 
+#include <cerrno>
 #include <gtest/gtest.h>
 
 namespace {
@@ -85,4 +86,34 @@ TEST(ErrorText, SaysSomethingAboutBitsItDoesNotKnow)
 {
     EXPECT_EQ(busErrorText(true, 64, 0), "Communication error, disconnected.");
     EXPECT_EQ(busErrorText(true, 1, 64), "Communication error, disconnected.");
+}
+
+TEST(ErrorText, TellsPortsThatCannotBeOpenedApart)
+{
+    const struct
+    {
+        int error;
+        const char *text;
+    } cases[] = {
+        {ENOENT, "There is no port COM1: check that the adapter is plugged in."},
+        {EBUSY, "COM1 is in use by another program."},
+        {ENOTTY, "COM1 is not a serial port."},
+        {EIO, "COM1 cannot be opened: Input/output error."},
+    };
+    for (const auto &each : cases)
+        EXPECT_EQ(openErrorText("COM1", each.error), each.text);
+    EXPECT_TRUE(openErrorText("COM1", EACCES).startsWith("There is no permission to use COM1"));
+}
+
+TEST(ErrorText, ARefusedWriteNamesValueAndLimits)
+{
+    SingleParam gain = undefinedParam(202, 40000);
+    gain.name = "KVP";
+    gain.max = 30000;
+    EXPECT_EQ(
+        refusedWriteText(8, &gain),
+        "The drive refused a write; the connection goes on.<br>Device errors: <br>* Value too high<br>Occurred "
+        "while setting parameter: name=KVP, addr=202, GUI value=40000, HW value=40000<br>This drive: 0 to 30000.");
+    gain.max = 0; // nobody has asked the drive
+    EXPECT_FALSE(refusedWriteText(8, &gain).contains("This drive"));
 }

@@ -62,7 +62,36 @@ QString valueLineAfter(const QString &text, const QString &label)
     return text.mid(begin, text.indexOf("<br>", begin) - begin);
 }
 
+/// A panel's flags, put together from the values.
+QString flagLines(const QList<DriveFlag> &flags)
+{
+    QString text;
+    for (const DriveFlag &flag : flags)
+        text += (flag.isSet ? on : off) + flag.label + (flag.isReason ? mark : QString()) + "<br>";
+    return text;
+}
+
 } // namespace
+
+TEST(DriveFlags, SayWhatThePanelsShow)
+{
+    DriveState state = keta();
+    for (const auto &[status, faults, inputs] :
+         {std::array<int, 3>{0, 0, 0}, {4096 + 16, 2 + 64, 1 + 4}, {8 + 16, 512, 2}, {32768, 8, 31}}) {
+        state.statusRegister = status;
+        state.faultRegister = faults;
+        state.controlInputs = state.digitalInputs = inputs;
+        state.softEnable = inputs & 1;
+        state.limitSwitchFunction = inputs & 4;
+        EXPECT_TRUE(statusPanel(state).text.startsWith(flagLines(statusFlagsOf(state)) + "<br>HV bus")) << status;
+        EXPECT_TRUE(faultPanel(state).text.startsWith(flagLines(faultFlagsOf(state)) + "<br>Fault location")) << faults;
+        EXPECT_EQ(inputPanel(state).text.remove("<br><br>").section("Analog in 1", 0, 0).remove("<br>"),
+                  flagLines(inputFlagsOf(state)).remove("<br>"))
+            << inputs;
+    }
+    state.firmwareUpgradeMode = true;
+    EXPECT_TRUE(statusFlagsOf(state).isEmpty() && inputFlagsOf(state).isEmpty());
+}
 
 TEST(StatusPanel, AllClear)
 {

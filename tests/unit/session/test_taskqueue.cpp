@@ -87,8 +87,8 @@ TEST(TaskQueue, ADisconnectClearsWhatWaitsButStopsAndTheUsersChoices)
     TaskQueue queue;
     queue.push(enableTask(true));
     queue.push(enableTask(false));
-    pushAll(queue, {4, 3, 9, 14, 27, 5, 26, 23, 1, 2});
-    EXPECT_THAT(queue.codes(), ElementsAre(11, 3, 14, 26, 2));
+    pushAll(queue, {4, 3, 9, 14, 27, 5, 16, 26, 23, 1, 2});
+    EXPECT_THAT(queue.codes(), ElementsAre(11, 3, 14, 16, 26, 2));
 }
 
 TEST(TaskQueue, ADisconnectWaitsBehindARestart)
@@ -103,11 +103,11 @@ TEST(TaskQueue, ADisconnectWaitsBehindARestart)
 TEST(TaskQueue, TheDisconnectAfterAnErrorGoesAheadOfAllButStops)
 {
     TaskQueue queue;
-    pushAll(queue, {3, 26, 4, 26});
+    pushAll(queue, {3, 26, 4, 26, 16, 16});
     queue.push(enableTask(false));
     queue.pushDisconnectFirst();
     queue.pushDisconnectFirst();
-    EXPECT_THAT(queue.codes(), ElementsAre(11, 26, 2, 3, 4));
+    EXPECT_THAT(queue.codes(), ElementsAre(11, 26, 16, 2, 3, 4));
 }
 
 TEST(TaskQueue, OneScanWaitsAtATimeTheNewest)

@@ -106,6 +106,8 @@ TEST(VersionCheck, RestartsAnOutdatedKetaIntoFirmwareUpgradeMode)
         "<br/><br/><b>Device now has been restarted in firmware upgrade mode. Try connecting again and "
         "installing a newer firmware to it.</b>",
         true);
+    EXPECT_TRUE(checkVersions(drive).notRestartedText.contains("could not be restarted in firmware upgrade mode"));
+    EXPECT_FALSE(checkVersions(drive).notRestartedText.contains("now has been restarted"));
     drive.firmwareCompanion = 1078;
     expectAccepted(drive);
 }

@@ -1,0 +1,314 @@
+// Every operation that promises a stop, with every single fault at every request: on a line that goes on working no
+// drive is left enabled. And a stop without a connection.
+#include "sessionfixture.h"
+
+#include <map>
+
+using testing::Contains;
+using testing::Each;
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::Not;
+using testing::SizeIs;
+using Fault = sim::LineFault;
+
+namespace {
+
+constexpr int replyTimeoutMs = 200;
+constexpr int tooLateMs = 240; // by the same proportion as 1.2 s is for a reply that may take one
+
+const std::string bothDisables = "89e50000000089e600000000"; // 2533 := 0, 2534 := 0
+
+const Fault::Kind singleFaults[] = {Fault::Missing, Fault::Deaf, Fault::Cut, Fault::Flip, Fault::Late, Fault::Twice};
+
+class Stops : public SessionFixture
+{
+protected:
+    void SetUp() override
+    {
+        SessionFixture::SetUp();
+        session().setReplyTimeout(replyTimeoutMs);
+    }
+    bool isEnabled() { return (bus().read(5, 553) & 16) != 0 || bus().read(5, 2533) != 0; }
+    void setEnabled(bool on)
+    {
+        bus().withDrive(5, [on](sim::VirtualDrive &drive) { drive.write(2533, on); });
+        ASSERT_TRUE(waitUntil([&] { return isEnabled() == on; }));
+    }
+    /// Connected and quiet; the drive enabled by the session's own poll, too.
+    void begin(bool enabled)
+    {
+        bus().clearFaults();
+        if (session().isConnected()) {
+            session().command(Connection::TaskDisconnect);
+            ASSERT_TRUE(waitUntilIdle());
+        }
+        setEnabled(enabled);
+        ASSERT_TRUE(connectTo());
+        session().command(Connection::TaskUpdateStatus);
+        ASSERT_TRUE(waitUntilIdle());
+        log().outcomes.clear();
+        log().errors.clear();
+        log().messages.clear();
+        bus().clearReceived();
+    }
+    void hit(Fault::Kind kind, int request) { bus().setFault({kind, kind == Fault::Late ? tooLateMs : 4, request, 1}); }
+    bool waitForOutcome()
+    {
+        return waitUntil([this] { return !log().outcomes.isEmpty(); });
+    }
+    MessageKind lastKind() { return log().messages.isEmpty() ? MessageKind::Note : log().messages.last().kind; }
+};
+
+} // namespace
+
+TEST_F(Stops, ADisableLeavesNoDriveEnabledWhateverHappensToOneReply)
+{
+    for (Fault::Kind kind : singleFaults) {
+        for (int request = 0; request < 3; ++request) {
+            begin(true);
+            hit(kind, request);
+            disable();
+            ASSERT_TRUE(waitForOutcome()) << kind << " at " << request;
+            EXPECT_THAT(log().outcomes, ElementsAre(DisableOutcome::Disabled)) << kind << " at " << request;
+            EXPECT_FALSE(isEnabled()) << kind << " at " << request;
+            EXPECT_TRUE(session().isConnected()) << "one damaged reply is no end";
+            EXPECT_TRUE(log().errors.isEmpty()) << qPrintable(log().errors.join('\n'));
+        }
+    }
+}
+
+TEST_F(Stops, AnEnableIsConfirmedOrUndone)
+{
+    int undone = 0;
+    for (Fault::Kind kind : singleFaults) {
+        for (int request = 0; request < 3; ++request) {
+            begin(false);
+            hit(kind, request);
+            enable();
+            session().command(Connection::TaskUpdateStatus);
+            ASSERT_TRUE(waitUntilIdle());
+            const bool confirmed = log().messages.isEmpty();
+            EXPECT_EQ(isEnabled(), confirmed) << kind << " at " << request;
+            EXPECT_EQ(received(wire("89e5 00000001")), 1) << "never repeated";
+            if (confirmed)
+                continue;
+            ++undone;
+            EXPECT_EQ(lastKind(), MessageKind::Undone);
+            EXPECT_THAT(log().outcomes, ElementsAre(DisableOutcome::Disabled));
+            EXPECT_THAT(log().errors.last().toStdString(), HasSubstr("It shows that it is not enabled."));
+        }
+    }
+    EXPECT_GE(undone, 5) << "each kind but the doubled reply hits the enable itself";
+}
+
+TEST_F(Stops, ADisableWithoutAConnectionLeavesNoDriveEnabledWhateverHappensToOneReply)
+{
+    session().setDisableTarget(port(), DriveAddress); // nothing was ever connected
+    for (Fault::Kind kind : singleFaults) {
+        for (int request = 0; request < 3; ++request) {
+            bus().clearFaults();
+            setEnabled(true);
+            log().outcomes.clear();
+            bus().clearReceived();
+            hit(kind, request);
+            disable();
+            ASSERT_TRUE(waitForOutcome());
+            EXPECT_THAT(log().outcomes, ElementsAre(DisableOutcome::Disabled)) << kind << " at " << request;
+            EXPECT_FALSE(isEnabled()) << kind << " at " << request;
+            EXPECT_THAT(payloads().front(), bothDisables) << "before anything else";
+            EXPECT_LE(received(bothDisables), 3);
+            ASSERT_TRUE(waitUntil([this] { return !log().messages.isEmpty(); }));
+            EXPECT_EQ(lastKind(), MessageKind::Note);
+        }
+    }
+    EXPECT_THAT(log().errors.last().toStdString(),
+                HasSubstr("was disabled without a connection. It shows that it is not"));
+    EXPECT_FALSE(session().isConnected());
+}
+
+TEST_F(Stops, ADisableWithoutAConnectionSaysWhatTheDriveShows)
+{
+    disable();
+    ASSERT_TRUE(waitUntilIdle());
+    EXPECT_TRUE(log().outcomes.isEmpty() && payloads().empty()) << "no drive is known";
+
+    begin(true); // connecting makes it known
+    setFault(Fault::Deaf);
+    ASSERT_TRUE(waitForDisconnect());
+    ASSERT_TRUE(waitUntil([this] { return !log().errors.isEmpty(); }));
+    EXPECT_TRUE(log().errors.first().startsWith("<b>The drive may still be powered.</b> Esc tries to disable it"));
+    EXPECT_EQ(lastKind(), MessageKind::LineLost);
+    EXPECT_TRUE(isEnabled()) << "nothing disables a drive by itself";
+    EXPECT_EQ(received(wire("89e5 00000000")) + received(bothDisables), 0);
+
+    disable();
+    ASSERT_TRUE(waitForOutcome());
+    EXPECT_THAT(log().outcomes, ElementsAre(DisableOutcome::NoAnswer));
+    ASSERT_TRUE(waitUntil([this] { return lastKind() == MessageKind::UnconfirmedStop; }));
+    EXPECT_EQ(received(bothDisables), 3);
+
+    bus().unplug();
+    disable();
+    ASSERT_TRUE(waitUntil([this] { return log().outcomes.size() == 2; }));
+    EXPECT_EQ(log().outcomes.last(), DisableOutcome::NoPort);
+    ASSERT_TRUE(waitUntil([this] { return log().messages.size() == 3; }));
+    EXPECT_EQ(lastKind(), MessageKind::UnconfirmedStop);
+
+    ASSERT_EQ(bus().plugIn(), "");
+    bus().clearFaults();
+    disable();
+    ASSERT_TRUE(waitUntil([this] { return log().outcomes.size() == 3; }));
+    EXPECT_EQ(log().outcomes.last(), DisableOutcome::Disabled);
+    EXPECT_FALSE(isEnabled());
+    EXPECT_TRUE(connectTo()) << "and the next connection works";
+}
+
+TEST_F(Stops, AnEnableThatCouldNotBeTakenBackIsTakenBackThroughANewOpeningOfThePort)
+{
+    begin(false);
+    // Executed, but the answer is lost; then nothing is heard until the connection has ended.
+    bus().setFaults({{Fault::Missing, 4, 0, 1}, {Fault::Deaf, 4, 0, 5}});
+    enable();
+    ASSERT_TRUE(waitUntil([this] { return log().outcomes.size() == 2; }));
+    EXPECT_THAT(log().outcomes, ElementsAre(DisableOutcome::NoAnswer, DisableOutcome::Disabled));
+    EXPECT_FALSE(isEnabled());
+    EXPECT_FALSE(session().isConnected());
+}
+
+TEST_F(Stops, AStreamIsStoppedThroughANewOpeningOfThePort)
+{
+    begin(true);
+    session().setStimulus(100, 0.1, -100, 0.1, true);
+    ASSERT_TRUE(bus().waitForRegister(5, 6, [](int free) { return free < 1500; }));
+    ASSERT_TRUE(waitUntilIdle());
+    bus().setFaults({{Fault::Deaf, 4, 0, 6}}); // a poll, the stop and the watchdog
+    ASSERT_TRUE(waitForDisconnect());
+    EXPECT_TRUE(bus().waitForRegister(5, 6, 2048, std::chrono::seconds(2)));
+    EXPECT_TRUE(isEnabled()) << "nothing disables a drive by itself";
+}
+
+TEST_F(Stops, ADisableOnTheWayOutOpensThePortAnew)
+{
+    begin(true);
+    bus().setFaults({{Fault::Missing, 4, 0, 2}});
+    ASSERT_TRUE(waitForDisconnect());
+    disable();
+    newSession(); // destroys the one before
+    EXPECT_FALSE(isEnabled());
+    EXPECT_EQ(received(bothDisables), 1);
+}
+
+TEST_F(Stops, ADisableDoesNotWaitForAConnectionThatDoesNotComeAbout)
+{
+    begin(true);
+    session().command(Connection::TaskDisconnect);
+    ASSERT_TRUE(waitUntilIdle());
+    bus().setFault({Fault::Deaf, 4, 0, 1});
+    bus().clearReceived();
+    session().setReplyTimeout(400);
+    session().connectDevice(port(), DriveAddress);
+    ASSERT_TRUE(waitForRequests(1));
+    disable();
+    ASSERT_TRUE(waitForOutcome());
+    const auto sent = bus().received();
+    ASSERT_GE(sent.size(), 2u);
+    EXPECT_EQ(hex(sent[1].packet.payload), bothDisables);
+    EXPECT_LT(sent[1].time - sent[0].time, std::chrono::milliseconds(600));
+    EXPECT_FALSE(isEnabled());
+}
+
+TEST_F(Stops, AStreamDoesNotOutliveItsConnectionWhateverHappensToOneReply)
+{
+    const struct
+    {
+        const char *name;
+        void (*end)(Connection &);
+    } ends[] = {
+        {"switched off", [](Connection &s) { s.setStimulus(100, 0.1, -100, 0.1, false); }},
+        {"disconnected", [](Connection &s) { s.command(Connection::TaskDisconnect); }},
+        {"restarted", [](Connection &s) { s.command(Connection::TaskRestartDrive); }},
+    };
+    for (const auto &each : ends) {
+        for (Fault::Kind kind : singleFaults) {
+            begin(true);
+            session().setStimulus(100, 0.1, -100, 0.1, true);
+            ASSERT_TRUE(bus().waitForRegister(5, 6, [](int free) { return free < 1500; }));
+            ASSERT_TRUE(waitUntilIdle());
+            hit(kind, 0);
+            each.end(session());
+            EXPECT_TRUE(bus().waitForRegister(5, 6, 2048, std::chrono::seconds(3))) << each.name << " " << kind;
+            session().setStimulus(100, 0.1, -100, 0.1, false);
+            ASSERT_TRUE(waitUntilIdle());
+            bus().powerCycle();
+            if (session().isConnected())
+                session().command(Connection::TaskDisconnect);
+            ASSERT_TRUE(waitUntilIdle());
+        }
+    }
+}
+
+TEST_F(Stops, AbortHomingSurvivesADisconnectAnErrorAndQuitting)
+{
+    const std::string abort = wire("9d6c 00000000");
+    const struct
+    {
+        const char *name;
+        bool onABadLine;
+        std::function<void()> end;
+    } ends[] = {
+        {"disconnect", false, [this] { session().command(Connection::TaskDisconnect); }},
+        {"error", true, [] {}},
+        {"quit", false, [this] { newSession(); }},
+    };
+    for (const auto &each : ends) {
+        begin(false);
+        if (each.onABadLine)
+            bus().setFaults({{Fault::Missing, 4, 0, 2}});
+        else
+            bus().setTurnAround(std::chrono::milliseconds(20));
+        session().getParams(); // busy with this
+        ASSERT_TRUE(waitForRequests(1));
+        session().command(Connection::TaskAbortHoming);
+        each.end();
+        EXPECT_TRUE(waitForPayload(abort)) << each.name;
+        bus().setTurnAround(std::chrono::milliseconds(0));
+        session().setReplyTimeout(replyTimeoutMs);
+        ASSERT_TRUE(waitUntilIdle());
+    }
+}
+
+TEST_F(Stops, OneDamagedReplyOfThePollIsNoEndAndIsCounted)
+{
+    for (Fault::Kind kind : singleFaults) {
+        begin(true);
+        const LineMeter before = session().lineMeter();
+        hit(kind, 0);
+        for (int poll = 0; poll < 3; ++poll)
+            session().command(Connection::TaskUpdateStatus);
+        ASSERT_TRUE(waitUntilIdle());
+        EXPECT_TRUE(session().isConnected());
+        EXPECT_TRUE(log().errors.isEmpty());
+        const LineMeter now = log().states.last().line;
+        EXPECT_EQ(now.errors - before.errors, kind == Fault::Twice ? 0 : 1) << kind;
+        EXPECT_EQ(now.repeats - before.repeats, kind == Fault::Twice ? 0 : 1) << kind;
+        EXPECT_EQ(now.strays - before.strays, kind == Fault::Twice || kind == Fault::Late ? 1 : 0) << kind;
+    }
+    const DriveState &last = log().states.last();
+    EXPECT_EQ(last.sequence, log().states.at(log().states.size() - 2).sequence + 1);
+    EXPECT_TRUE(last.isEnabled() && last.isSoftEnabled());
+}
+
+TEST_F(Stops, AStopGetsThroughBeforeALostReplyIsAskedForAgain)
+{
+    begin(true);
+    bus().setFaults({{Fault::Deaf, 4, 0, 1}});
+    ASSERT_TRUE(waitForRequests(1)); // a poll that nobody hears
+    disable();
+    ASSERT_TRUE(waitForOutcome());
+    const auto sent = bus().received();
+    ASSERT_GE(sent.size(), 2u);
+    EXPECT_EQ(hex(sent[1].packet.payload), wire("89e5 00000000"));
+    EXPECT_LT(sent[1].time - sent[0].time, std::chrono::milliseconds(replyTimeoutMs + 150));
+    EXPECT_FALSE(isEnabled());
+}
