@@ -33,11 +33,13 @@ as_root() {
     fi
 }
 
-# The packages of the list that this machine does not have.
+# missing_packages SECTION...: the packages under these headings of the list that this machine does not have.
 missing_packages() {
     local package
-    sed -e 's/#.*//' packaging/debian-packages.txt | while read -r package; do
-        [ -n "$package" ] || continue
+    awk -v wanted=" $* " '
+        { sub(/#.*/, "") }
+        /^\[.*\]$/ { here = index(wanted, " " substr($0, 2, length($0) - 2) " "); next }
+        here && NF { print $1 }' packaging/debian-packages.txt | while read -r package; do
         [ "$(dpkg-query -W -f '${db:Status-Status}' "$package" 2>/dev/null)" = installed ] || echo "$package"
     done
 }
@@ -45,21 +47,25 @@ missing_packages() {
 # apt-get without questions; waits a while for another one to finish.
 apt_get() { as_root env DEBIAN_FRONTEND=noninteractive apt-get -q -y -o DPkg::Lock::Timeout=300 "$@"; }
 
+# install_packages SECTION...
 install_packages() {
     if ! command -v dpkg-query >/dev/null; then
         echo "Not a Debian system: packaging/debian-packages.txt lists what has to be there."
         return
     fi
     local missing
-    missing=$(missing_packages | tr '\n' ' ')
+    missing=$(missing_packages "$@" | tr '\n' ' ')
     [ -n "$missing" ] || return 0
     step "Updating the list of packages" apt-update.log apt_get update
     # shellcheck disable=SC2086 # one word a package
     step "Installing $missing" apt-install.log apt_get install --no-install-recommends $missing
 }
 
-# build_preset NAME: configures and builds build/NAME.
+# build_preset NAME [TARGET...]: configures build/NAME, where that was not done before, and builds the targets, or what
+# the preset says.
 build_preset() {
-    step "Configuring $1" "configure-$1.log" cmake --preset "$1"
-    step "Building $1" "build-$1.log" cmake --build --preset "$1" -j "$(nproc)"
+    local name=$1
+    shift
+    [ -e "build/$name/build.ninja" ] || step "Configuring $name" "configure-$name.log" cmake --preset "$name"
+    step "Building $name" "build-$name.log" cmake --build --preset "$name" -j "$(nproc)" ${1:+--target "$@"}
 }
