@@ -172,6 +172,8 @@ private:
     void flashProgress(const QString &text);
     bool flashFailed(const QString &text);
     bool flashStepIsClean();
+    bool flashCommand(int command);
+    bool startFirmware();
     bool flashFirmwareIOSide(const QList<quint16> &image, bool resetToFactory);
     bool verifyIOSide();
     bool flashFirmwareTCSide(const QList<quint16> &image);
