@@ -82,6 +82,9 @@ private:
     void connectDrive(const TaskRequest &request);
     void disconnectDrive(const TaskRequest &);
     void scanBus(const TaskRequest &request);
+    enum class Heard { Nothing, Noise, Reply };
+    Heard askWho(int address, NodeType &node);
+    QList<NodeType> searchDrives(int &noisyExchanges);
     bool openLine(const QString &portName, int timeoutMs);
     void rememberTarget(const TaskRequest &request);
     void resetDriveState();
