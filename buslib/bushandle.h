@@ -36,7 +36,6 @@ struct BusState
     std::uint8_t packetBuffer[ZB_MAX_PAYLOAD + packetBufferPadding] = {}; ///< queued items, then the reply's payload
     std::uint8_t receivedCommandId = 0;
     std::uint8_t receivedAddress = noAddress;
-    int heardBytes = 0; ///< since the last request was sent, good or not
     std::uint16_t runningChecksum = 0;
     std::uint16_t receivedChecksum = noChecksum;
     int bytesHeard = 0;              ///< in the last receive, good or bad

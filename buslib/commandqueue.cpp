@@ -137,12 +137,6 @@ int zbReplyAddress(ZbHandle handle)
     return bus ? bus->receivedAddress : -1;
 }
 
-int zbBytesHeard(ZbHandle handle)
-{
-    const BusState *bus = openBus(handle);
-    return bus ? bus->heardBytes : -1;
-}
-
 ZbStatus zbGetBufferClock(ZbHandle handle, std::uint8_t address, std::uint16_t *clock)
 {
     ZbStatus status = zbSendZBCMD(handle, ZBCMD_GET_CLOCK, address, 0, nullptr);

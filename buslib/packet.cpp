@@ -185,7 +185,6 @@ ZbStatus zbSendZBCMD(ZbHandle handle, std::uint8_t cmdid, std::uint8_t address, 
     if (!bus)
         return ZB_ERR_NODEVICE;
     zbDebug(handle, 2, "> %s (id=%d, addr=%d, payload=%d)\n", cmdidToStr(cmdid), cmdid, address, payloadLength);
-    bus->heardBytes = 0;
     PacketWriter packet(handle, bus->deviceHandle);
     packet.append("ID ", cmdid);
     if (cmdid & payloadVariable)
@@ -211,7 +210,6 @@ ZbStatus zbReceiveReturnPacket(ZbHandle handle)
             zbDebug(handle, 3, "  zbRawCommand RX read byte failed\n");
             return recordStatus(handle, ZB_ERR_COMMUNICATION);
         }
-        ++bus->heardBytes;
         zbDebug(handle, 3, "  got byte %02x \n", byte);
         ++bus->bytesHeard;
         // Noise that trickles in would restart the wait with every byte, for minutes.

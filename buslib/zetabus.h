@@ -105,10 +105,6 @@ ZbStatus zbBytesReceived(ZbHandle handle, int *count);
 /// -1 for a handle that is not open.
 int zbReplyAddress(ZbHandle handle);
 
-/// Bytes that have arrived in answer to the last request until its reply was complete or given up: 0 tells silence from
-/// a reply that could not be read. -1 for a handle that is not open.
-int zbBytesHeard(ZbHandle handle);
-
 // --- Parameters -------------------------------------------------------------------------------------------------
 
 /// One parameter read: four items, 10 bytes. `parameterAddress` + 0x4000 reads the minimum, + 0x8000 the maximum.

@@ -81,10 +81,11 @@ std::optional<Parameters> loadFile(const DriveClient &client, const QString &fil
                                    QStringList &messages)
 {
     Parameters loaded = drive;
-    const QString text = loaded.loadFromFile(fileName);
+    LoadOutcome outcome = LoadOutcome::Refused;
+    const QString text = loaded.loadFromFile(fileName, &outcome);
     if (!text.isEmpty())
         messages.append(plainText(text));
-    if (!text.isEmpty() && !text.startsWith(QLatin1String("Warning")))
+    if (outcome == LoadOutcome::Refused)
         return std::nullopt;
     const QStringList kept = keepWhereFileHasNone(loaded, drive, modelName(client));
     if (!kept.isEmpty())

@@ -204,11 +204,6 @@ int BusLine::replyAddress() const
     return zbReplyAddress(m_handle);
 }
 
-bool BusLine::heardSomething() const
-{
-    return zbBytesHeard(m_handle) > 0;
-}
-
 ZbStatus BusLine::readBufferClock()
 {
     return exchange([](ZbHandle handle, std::uint8_t node) {

@@ -92,8 +92,6 @@ public:
     bool isGone() const;
     /// Who sent the reply of the last exchange, if that was good.
     int replyAddress() const;
-    /// Whether anything at all came back in the last exchange.
-    bool heardSomething() const;
 
     ZbStatus readBufferClock();
 

@@ -171,7 +171,7 @@ SessionWorker::Heard SessionWorker::askWho(int address, NodeType &node)
     long mode = 0;
     readParameters(reg::DeviceType, type, reg::OperatingMode, mode);
     if (m_line.status() != ZB_OK)
-        return m_line.heardSomething() ? Heard::Noise : Heard::Nothing;
+        return m_line.wasSilent() ? Heard::Nothing : Heard::Noise;
     node.address = m_line.replyAddress();
     node.firmwareUpgradeMode = node.address >= firstUpgradeNode || mode == 0;
     node.deviceType = static_cast<int>(type);

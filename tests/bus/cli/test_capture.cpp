@@ -174,7 +174,7 @@ TEST_F(CliCapture, FileThatCannotBeWrittenStopsItBeforeAnythingMoves)
 
     ran = onDrive({"capture", "--channels", "posmeas", "--csv", "/dev/full"});
     EXPECT_EQ(ran.status, 1);
-    EXPECT_EQ(ran.err, "Error writing to /dev/full: No space left on device.\n");
+    EXPECT_EQ(ran.err, "Error writing to /dev/full: Full disk.\n");
 }
 
 TEST_F(CliCapture, PlotPageHoldsAllThatItNeeds)
