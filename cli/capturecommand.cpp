@@ -134,7 +134,8 @@ Outcome capture(DriveClient &client, const CommandLine &line)
     if (!problem.isEmpty())
         return failed({problem});
     QStringList messages;
-    if (!connectToMove(client, line, messages))
+    const bool acts = order.excites() || order.enables;
+    if (!connectToMove(client, line, acts ? Use::Act : Use::Look, messages))
         return failed(messages);
     const double base = client.session().maxScopeSampleRate();
     problem = rateProblem(order, base);
@@ -154,6 +155,7 @@ Outcome capture(DriveClient &client, const CommandLine &line)
     if (!channels)
         return failed(messages);
     capture.channels = *channels;
+    client.close(); // a pipe may be read slowly, or not at all
     const QStringList problems = messages + files.save(capture);
     return {problems.isEmpty() ? ExitDone : ExitFailed, summary(capture), problems};
 }

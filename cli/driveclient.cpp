@@ -174,6 +174,7 @@ std::optional<Parameters> DriveClient::write(const Parameters &list)
 {
     if (!isUp())
         return std::nullopt;
+    beCareful();
     m_connection->setParams(list);
     m_connection->command(Connection::TaskSetParams);
     return readBack(tr("Writing the drive's settings"));
@@ -184,6 +185,7 @@ bool DriveClient::saveToFlash()
     if (!isUp())
         return false;
     // Saving has no answer of its own: the read behind it tells that it was carried out.
+    beCareful();
     m_connection->command(Connection::TaskSaveToFlash);
     return readBack(tr("Saving to the drive's flash")).has_value();
 }
@@ -216,10 +218,11 @@ bool DriveClient::waitForDrive(const QString &what, const std::function<bool(con
 
 void DriveClient::close()
 {
-    if (!m_connection)
+    if (m_closed)
         return;
-    if (m_breakOff) {
-        m_connection.reset(); // ends every pause and transfer
+    m_closed = true;
+    if (m_interrupted) {
+        m_connection.reset(); // ends every pause, and whatever only reads
     } else {
         m_connection->command(Connection::TaskDisconnect);
         m_connection->command(Connection::TaskQuit);
@@ -228,6 +231,13 @@ void DriveClient::close()
     }
     // The last signals of the session are still on their way.
     QCoreApplication::sendPostedEvents(this);
+    m_noForce.reset();
+}
+
+void DriveClient::beCareful()
+{
+    if (!m_noForce && !m_closed)
+        m_noForce.emplace();
 }
 
 void DriveClient::setOnInterrupt(OnInterrupt what, const QString &warning)
@@ -244,7 +254,6 @@ void DriveClient::interrupt()
         return;
     }
     m_interrupted = true;
-    m_breakOff = m_onInterrupt == OnInterrupt::AskOnceMore;
     if (m_onInterrupt != OnInterrupt::EndQuietly)
         say(tr("Interrupted."));
     m_loop.quit();

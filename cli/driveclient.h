@@ -5,6 +5,7 @@
 
 #include "connection.h"
 #include "drivereading.h"
+#include "interruption.h"
 #include "progress.h"
 
 #include <QEventLoop>
@@ -82,7 +83,11 @@ public:
     bool waitFor(const QString &what, const std::function<bool()> &done, int limitMs, Until until = Until::Interrupted);
     void say(const QString &text);
 
-    /// Ends the connection and the session. messages() is complete only then.
+    /// From here until close() has returned no signal ends the program by force: what was set going has to be stopped,
+    /// and what is being written finished.
+    void beCareful();
+
+    /// Ends the connection and the session, once. messages() is complete only then.
     void close();
     /// What the session and the steps had to say, as plain text.
     QStringList messages() const { return m_messages; }
@@ -114,7 +119,8 @@ private:
     OnInterrupt m_onInterrupt = OnInterrupt::Fail;
     QString m_warning;
     bool m_interrupted = false;
-    bool m_breakOff = false; ///< do not wait for what the drive has been asked for
+    bool m_closed = false;
+    std::optional<NoForce> m_noForce;
     QStringList m_messages;
     Received m_received;
 

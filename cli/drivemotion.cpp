@@ -26,9 +26,9 @@ bool isBlocked(const DriveReading &drive)
 
 } // namespace
 
-bool connectToMove(DriveClient &client, const CommandLine &line, QStringList &messages)
+bool connectToMove(DriveClient &client, const CommandLine &line, Use use, QStringList &messages)
 {
-    if (!connectToDrive(client, line, messages))
+    if (!connectToDrive(client, line, use, messages))
         return false;
     if (client.isInUpgradeMode()) {
         messages = QStringList(tr("The drive is in firmware-upgrade mode and cannot move there."));
@@ -67,6 +67,7 @@ bool disableDrive(DriveClient &client)
                    warning);
         return false;
     }
+    client.beCareful();
     const Received &received = client.received();
     client.received().disableAnswered.reset();
     client.session().setDriveEnableStatus(false);
@@ -92,6 +93,11 @@ bool disableDrive(DriveClient &client)
     return false;
 }
 
+DisableAtEnd::DisableAtEnd(DriveClient &client) : m_client(&client)
+{
+    client.beCareful();
+}
+
 bool DisableAtEnd::now()
 {
     DriveClient *client = std::exchange(m_client, nullptr);
@@ -100,6 +106,7 @@ bool DisableAtEnd::now()
 
 RunningStimulus::RunningStimulus(DriveClient &client, const Wave &wave) : m_client(client)
 {
+    client.beCareful();
     client.session().setStimulus(wave.target1, wave.delay1, wave.target2, wave.delay2, true);
 }
 

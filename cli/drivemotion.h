@@ -3,13 +3,15 @@
 #ifndef DRIVEMOTION_H
 #define DRIVEMOTION_H
 
+#include "drivesteps.h"
+
 #include <QStringList>
 
 class DriveClient;
 struct CommandLine;
 
 /// Connects to a drive in normal mode and learns its state.
-bool connectToMove(DriveClient &client, const CommandLine &line, QStringList &messages);
+bool connectToMove(DriveClient &client, const CommandLine &line, Use use, QStringList &messages);
 
 /// Enables the drive and waits until its motor is powered. When that does not happen the enable is taken back, so that
 /// no drive starts later by itself, and `messages` says what keeps it from running.
@@ -23,7 +25,7 @@ bool disableDrive(DriveClient &client);
 class DisableAtEnd
 {
 public:
-    explicit DisableAtEnd(DriveClient &client) : m_client(&client) {}
+    explicit DisableAtEnd(DriveClient &client);
     ~DisableAtEnd() { now(); }
     DisableAtEnd(const DisableAtEnd &) = delete;
     DisableAtEnd &operator=(const DisableAtEnd &) = delete;

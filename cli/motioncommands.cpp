@@ -62,7 +62,7 @@ QString listed(const QStringList &names)
 Outcome enable(DriveClient &client, const CommandLine &line)
 {
     QStringList messages;
-    if (!connectToMove(client, line, messages) || !enableDrive(client, messages))
+    if (!connectToMove(client, line, Use::Act, messages) || !enableDrive(client, messages))
         return failed(messages);
     Outcome outcome = done(client.drive());
     if (client.drive().recovering)
@@ -74,7 +74,7 @@ Outcome disable(DriveClient &client, const CommandLine &line)
 {
     QStringList messages;
     // The state is not asked for first: the disable is what matters.
-    if (!connectToDrive(client, line, messages))
+    if (!connectToDrive(client, line, Use::Look, messages))
         return failed(messages);
     if (client.isInUpgradeMode())
         return failed({tr("The drive is in firmware-upgrade mode and cannot move there.")});
@@ -84,7 +84,7 @@ Outcome disable(DriveClient &client, const CommandLine &line)
 Outcome clearFaults(DriveClient &client, const CommandLine &line)
 {
     QStringList messages;
-    if (!connectToMove(client, line, messages))
+    if (!connectToMove(client, line, Use::Act, messages))
         return failed(messages);
     client.session().clearDriveFaults();
     const auto areCleared = [](const DriveReading &drive) { return drive.faults.isEmpty(); };
@@ -115,7 +115,7 @@ bool abortHoming(DriveClient &client)
 Outcome home(DriveClient &client, const CommandLine &line)
 {
     QStringList messages;
-    if (!connectToMove(client, line, messages))
+    if (!connectToMove(client, line, Use::Act, messages))
         return failed(messages);
     if (!client.drive().running)
         return refused(tr("The drive is not enabled, so it was not asked to home."), client.drive());
@@ -123,6 +123,7 @@ Outcome home(DriveClient &client, const CommandLine &line)
     const auto seconds = number(line.value("time-out"), 0.0, longestWaitSeconds).value_or(defaultHomingSeconds);
     const auto isHoming = [](const DriveReading &drive) { return drive.homing; };
     const auto hasEnded = [](const DriveReading &drive) { return !drive.homing; };
+    client.beCareful();
     client.session().command(Connection::TaskStartHoming);
     const bool hasBegun = client.waitForDrive(tr("Starting to home"), isHoming, answerLimitMs);
     if (hasBegun && client.waitForDrive(tr("Homing"), hasEnded, int(seconds * 1000.0))) {
@@ -141,7 +142,7 @@ Outcome home(DriveClient &client, const CommandLine &line)
 Outcome setpoint(DriveClient &client, const CommandLine &line)
 {
     QStringList messages;
-    if (!connectToMove(client, line, messages))
+    if (!connectToMove(client, line, Use::Act, messages))
         return failed(messages);
     const bool isIncremental = line.has("incremental");
     const int value = line.arguments.first().toInt();
