@@ -25,12 +25,11 @@ std::vector<sim::DriveOptions> driveOptions(const QString &profiles)
 } // namespace
 
 VirtualPort::VirtualPort(const QString &profiles)
-    : m_folder(QDir::tempPath() + QLatin1String("/velbrin-XXXXXX")), m_previous(QDir::currentPath())
+    : m_folder(QStringLiteral("velbrin-cli-")), m_previous(QDir::currentPath())
 {
-    if (!m_folder.isValid()) {
-        m_error = m_folder.errorString();
+    m_error = m_folder.error();
+    if (!m_error.isEmpty())
         return;
-    }
     sim::BusOptions options;
     options.drives = driveOptions(profiles);
     options.linkPath = m_folder.filePath(portName()).toStdString();

@@ -2,6 +2,7 @@
 
 #include <cerrno>
 #include <cstdio>
+#include <cstdlib>
 #include <cstring>
 #include <fstream>
 #include <map>
@@ -81,15 +82,22 @@ std::string readSections(const std::string &path, Sections &sections)
 
 std::string writeWhole(const std::string &path, const std::string &contents)
 {
-    const std::string temporary = path + ".new";
+    // A name of its own: one that is known beforehand may be a link that somebody has planted.
+    std::string temporary = path + ".XXXXXX";
+    const int descriptor = mkstemp(temporary.data());
+    if (descriptor < 0)
+        return path + ": " + std::strerror(errno);
+    const mode_t mask = umask(0);
+    umask(mask);
+    fchmod(descriptor, 0666 & ~mask);
     const auto failed = [&] {
         const std::string error = temporary + ": " + std::strerror(errno);
         unlink(temporary.c_str());
         return error;
     };
-    std::FILE *file = std::fopen(temporary.c_str(), "w");
+    std::FILE *file = fdopen(descriptor, "w");
     if (!file)
-        return temporary + ": " + std::strerror(errno);
+        return failed();
     bool good = std::fwrite(contents.data(), 1, contents.size(), file) == contents.size();
     good = std::fflush(file) == 0 && fsync(fileno(file)) == 0 && good;
     good = std::fclose(file) == 0 && good;
