@@ -161,7 +161,7 @@ void SessionWorker::disconnectDrive(const TaskRequest &)
     stopWhatWasLeft();
 }
 
-/// One question to one address. The reply to a question before it may come instead of its own.
+/// One question to one address, and not a second one to the silent, who are most of them. The reply to a question before it may come instead of its own.
 SessionWorker::Heard SessionWorker::askWho(int address, NodeType &node)
 {
     m_line.startTask(); // silence is normal here
@@ -169,7 +169,12 @@ SessionWorker::Heard SessionWorker::askWho(int address, NodeType &node)
     m_line.setNodeAddress(address);
     long type = 0;
     long mode = 0;
-    readParameters(reg::DeviceType, type, reg::OperatingMode, mode);
+    m_line.appendRead(reg::DeviceType);
+    m_line.appendRead(reg::OperatingMode);
+    m_line.execute();
+    m_line.fetchRead(&type);
+    m_line.fetchRead(&mode);
+    m_line.finishReply();
     if (m_line.status() != ZB_OK)
         return m_line.wasSilent() ? Heard::Nothing : Heard::Noise;
     node.address = m_line.replyAddress();

@@ -104,28 +104,30 @@ bool SessionWorker::flashStepIsClean()
     return text.isEmpty() && !m_queue.isClosing();
 }
 
-/// One command of the upgrade, with the question how it went: a refusal shows in the error bits only.
+/// One command of the upgrade. What went wrong with it is left to flashStepIsClean, which tells it in the log.
+void SessionWorker::sendFlashCommand(int command)
+{
+    if (write(reg::FlashCommand, command) == Reply::Refused)
+        m_deviceErrors |= commandFailed;
+}
+
+/// The same with the question how it went: a refusal may show in the error bits only.
 bool SessionWorker::flashCommand(int command)
 {
-    setParameter(reg::FlashCommand, command);
+    sendFlashCommand(command);
+    const quint32 refused = m_deviceErrors;
     checkZBErrors();
+    m_deviceErrors |= refused;
     return flashStepIsClean();
 }
 
 /// Nobody can be asked behind a start, so the answer to the command itself has to tell.
 bool SessionWorker::startFirmware()
 {
-    setParameter(reg::ReturnLength, reg::ReturnsOutcome);
+    writeSetting(reg::ReturnLength, reg::ReturnsOutcome);
     if (!flashStepIsClean())
         return false;
-    m_line.appendWrite(reg::FlashCommand, reg::FlashStartFirmware);
-    m_line.execute();
-    long outcome = 0;
-    m_line.fetch(&outcome); // of the address
-    m_line.fetch(&outcome);
-    m_line.finishReply();
-    if (outcome == outcomeRefused)
-        m_deviceErrors |= commandFailed;
+    sendFlashCommand(reg::FlashStartFirmware);
     return flashStepIsClean();
 }
 
@@ -142,7 +144,7 @@ bool SessionWorker::flashFirmwareIOSide(const QList<quint16> &image, bool resetT
     if (!flashStepIsClean())
         return false;
     const bool resetSettings = resetToFactory && isKetaModel(m_data.deviceType);
-    setParameter(reg::FlashCommand, resetSettings ? reg::FlashEraseAndResetSettings : reg::FlashErase);
+    sendFlashCommand(resetSettings ? reg::FlashEraseAndResetSettings : reg::FlashErase);
     pause(erasePauseMs);
     checkZBErrors();
     if (!flashStepIsClean())
@@ -192,7 +194,7 @@ bool SessionWorker::flashFirmwareTCSide(const QList<quint16> &image)
     if (!uploadImage(image, false))
         return false;
     flashProgress(Connection::tr("Flashing TarnwellCore firmware (takes about 20 secs)..."));
-    setParameter(reg::FlashCommand, reg::FlashProgramCore);
+    sendFlashCommand(reg::FlashProgramCore);
     pause(programCorePauseMs);
     if (m_firmwareVersion >= firstThatVerifies) {
         // The value is deliberately not looked at: bit 7 speaks of the I/O side.
@@ -215,7 +217,7 @@ int SessionWorker::wordsToUpload(const QList<quint16> &image)
 
 bool SessionWorker::uploadImage(const QList<quint16> &image, bool programChunks)
 {
-    setParameter(reg::ReturnLength, reg::ReturnsOutcome);
+    writeSetting(reg::ReturnLength, reg::ReturnsOutcome);
     const int words = wordsToUpload(image);
     for (int first = 0; first < words; first += chunkWords) {
         if (m_queue.isClosing() || !uploadChunk(image, first, programChunks))

@@ -175,6 +175,7 @@ private:
     void flashProgress(const QString &text);
     bool flashFailed(const QString &text);
     bool flashStepIsClean();
+    void sendFlashCommand(int command);
     bool flashCommand(int command);
     bool startFirmware();
     bool flashFirmwareIOSide(const QList<quint16> &image, bool resetToFactory);
