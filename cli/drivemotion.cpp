@@ -2,6 +2,7 @@
 
 #include "driveclient.h"
 #include "drivesteps.h"
+#include "drivewords.h"
 
 #include <QCoreApplication>
 
@@ -10,8 +11,8 @@
 namespace {
 
 constexpr int enableLimitMs = 3000;
-constexpr int disableLimitMs = 5000; // a controlled stop takes its time
-constexpr int pollsForAnswer = 3;    // after so many the enable itself has to be seen gone
+constexpr int disableLimitMs = 20000; // on a line that answers nothing: the session gives up before
+constexpr int stopLimitMs = 5000;     // a controlled stop takes its time
 
 QString tr(const char *text)
 {
@@ -19,9 +20,9 @@ QString tr(const char *text)
 }
 
 /// States in which an enable cannot help, however long one waits.
-bool isBlocked(const DriveReading &drive)
+bool isBlocked(const DriveState &drive)
 {
-    return drive.faultStopped || drive.permanentStop || drive.torqueOff;
+    return drive.isFaultStopped() || drive.isPermanentStop() || drive.isTorqueOff();
 }
 
 } // namespace
@@ -39,16 +40,18 @@ bool connectToMove(DriveClient &client, const CommandLine &line, Use use, QStrin
 
 bool enableDrive(DriveClient &client, QStringList &messages)
 {
-    if (client.drive().running)
+    if (client.drive().isRunning())
         return true;
     DisableAtEnd notYet(client);
     client.session().setDriveEnableStatus(true);
     client.session().command(Connection::TaskApplyEnableState);
-    const auto isDecided = [](const DriveReading &drive) {
-        return drive.running || (drive.softEnabled && isBlocked(drive));
+    client.received().disableOutcome.reset();
+    const auto isDecided = [&client](const DriveState &drive) {
+        const bool wasTakenBack = client.received().disableOutcome.has_value();
+        return wasTakenBack || drive.isRunning() || (drive.isSoftEnabled() && isBlocked(drive));
     };
     client.waitForDrive(tr("Enabling"), isDecided, enableLimitMs);
-    if (client.isUp() && !client.wasInterrupted() && client.drive().running) {
+    if (client.isUp() && !client.wasInterrupted() && client.drive().isRunning()) {
         notYet.release();
         return true;
     }
@@ -59,34 +62,56 @@ bool enableDrive(DriveClient &client, QStringList &messages)
     return false;
 }
 
-bool disableDrive(DriveClient &client)
+namespace {
+
+/// One attempt, over the connection or, without one, through a new opening of the port.
+std::optional<DisableOutcome> askToDisable(DriveClient &client)
 {
-    const QString warning = tr("It may still be running or start to: use the machine's own stop.");
-    if (!client.isUp()) {
-        client.say(tr("The line to the drive is lost, so it could not be told to disable.") + QLatin1Char(' ') +
-                   warning);
-        return false;
-    }
-    client.beCareful();
-    const Received &received = client.received();
-    client.received().disableAnswered.reset();
+    client.received().disableOutcome.reset();
     client.session().setDriveEnableStatus(false);
     client.session().command(Connection::TaskApplyEnableState);
-    // Only a state that was read after the drive's answer says anything.
-    const auto isKnown = [&] { return client.isUp() && received.disableAnswered.has_value() && received.polls > 0; };
-    const auto isDecided = [&] {
-        const DriveReading drive = client.drive();
-        return client.isLost() || (isKnown() && !drive.enabled && !drive.running) ||
-               (isKnown() && drive.enabled && received.polls >= pollsForAnswer);
-    };
+    const auto isDecided = [&client] { return client.received().disableOutcome.has_value(); };
     client.waitFor(tr("Disabling"), isDecided, disableLimitMs, DriveClient::Until::Done);
-    const DriveReading drive = client.drive();
-    if (!isKnown() || drive.softEnabled)
-        client.say(tr("The drive has not confirmed that it is disabled.") + QLatin1Char(' ') + warning);
-    else if (drive.enabled)
+    return client.received().disableOutcome;
+}
+
+bool mayStillBePowered(const std::optional<DisableOutcome> &outcome)
+{
+    return !outcome || *outcome == DisableOutcome::NoAnswer || *outcome == DisableOutcome::NoPort;
+}
+
+/// The motor is let go of at the end of a controlled stop.
+bool waitUntilStopped(DriveClient &client)
+{
+    const auto hasStopped = [&client] { return client.received().polls > 0 && !client.drive().isRunning(); };
+    client.received().polls = 0;
+    client.waitFor(
+        tr("Disabling"), [&] { return !client.isUp() || hasStopped(); }, stopLimitMs, DriveClient::Until::Done);
+    return hasStopped() || !client.isUp(); // then it has shown at least that it is not enabled
+}
+
+} // namespace
+
+bool disableDrive(DriveClient &client)
+{
+    client.beCareful();
+    const bool wasUp = client.isUp();
+    std::optional<DisableOutcome> outcome = askToDisable(client);
+    // A line that was lost meanwhile may be well again.
+    if (mayStillBePowered(outcome) && wasUp) {
+        client.session().command(Connection::TaskDisconnect);
+        outcome = askToDisable(client);
+    }
+    if (mayStillBePowered(outcome))
+        client.say(tr("The drive has not confirmed that it is disabled. It may still be running or start to: use the "
+                      "machine's own stop."));
+    else if (*outcome == DisableOutcome::StillEnabled && (!client.isUp() || client.drive().isSoftEnabled()))
+        client.say(tr("The drive shows that it is still enabled. It may still be running or start to: use the machine's "
+                      "own stop."));
+    else if (*outcome == DisableOutcome::StillEnabled)
         client.say(tr("The drive took the disable command but stays enabled: by its settings, its enable input alone "
                       "decides."));
-    else if (drive.running)
+    else if (client.isUp() && !waitUntilStopped(client))
         client.say(tr("The drive is disabled, but its motor is still being stopped."));
     else
         return true;

@@ -17,8 +17,9 @@ bool connectToMove(DriveClient &client, const CommandLine &line, Use use, QStrin
 /// no drive starts later by itself, and `messages` says what keeps it from running.
 bool enableDrive(DriveClient &client, QStringList &messages);
 
-/// Disables the drive and waits until its state shows it; also when the command was interrupted. On failure messages()
-/// of the client tells in plain words that the drive may still move.
+/// Disables the drive and waits until its state shows it; also when the command was interrupted, and through a new
+/// opening of the port when there is no connection (any more). On failure messages() of the client tells in plain words
+/// that the drive may still move.
 bool disableDrive(DriveClient &client);
 
 /// Disables the drive when it goes out of scope, however the command ends, unless told to leave it alone.

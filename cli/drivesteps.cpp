@@ -55,13 +55,13 @@ QString nodeLine(const NodeType &node)
     return QStringLiteral("%1\t%2").arg(QString::number(node.address), who);
 }
 
-bool connectToDrive(DriveClient &client, const CommandLine &line, Use use, QStringList &messages)
+std::optional<int> nodeOf(DriveClient &client, const CommandLine &line, Use use, QStringList &messages)
 {
     if (line.node != 0)
-        return client.connectTo(line.node);
+        return line.node;
     const auto nodes = client.scan();
     if (!nodes)
-        return false;
+        return std::nullopt;
     if (nodes->isEmpty()) {
         messages = QStringList(tr("No drive answers on %1.").arg(client.port()));
     } else if (use == Use::Act && line.virtualDrives.isEmpty()) {
@@ -73,9 +73,15 @@ bool connectToDrive(DriveClient &client, const CommandLine &line, Use use, QStri
                                            : tr("The only address that answers cannot be read:"),
                          *nodes);
     } else {
-        return client.connectTo(nodes->first().address);
+        return nodes->first().address;
     }
-    return false;
+    return std::nullopt;
+}
+
+bool connectToDrive(DriveClient &client, const CommandLine &line, Use use, QStringList &messages)
+{
+    const auto node = nodeOf(client, line, use, messages);
+    return node && client.connectTo(*node);
 }
 
 std::optional<Parameters> readDrive(DriveClient &client, const CommandLine &line, Use use, QStringList &messages)
@@ -132,7 +138,7 @@ Outcome applySettings(DriveClient &client, const CommandLine &line, const Parame
         outcome.messages.append(line.has("to-flash") ? tr("The rest was applied; nothing was saved to flash.")
                                                      : tr("The rest was applied."));
     } else if (line.has("to-flash")) {
-        saved = client.saveToFlash();
+        saved = client.saveToFlash() && client.received().errors == errors;
         if (!saved) {
             outcome.status = ExitFailed;
             outcome.messages.append(tr("The settings were applied; whether they reached the flash is not known."));

@@ -27,9 +27,11 @@ enum class Use {
     Act,  ///< writes or moves: on a real bus the drive has to be named
 };
 
-/// Connects to --node, or to the only drive that answers, where that is enough. On failure `messages` says what the
-/// session does not.
+/// Connects to the drive at nodeOf(). On failure `messages` says what the session does not.
 bool connectToDrive(DriveClient &client, const CommandLine &line, Use use, QStringList &messages);
+
+/// The bus address to work with: --node, or that of the only drive that answers, where that is enough.
+std::optional<int> nodeOf(DriveClient &client, const CommandLine &line, Use use, QStringList &messages);
 
 /// Connects and reads all settings.
 std::optional<Parameters> readDrive(DriveClient &client, const CommandLine &line, Use use, QStringList &messages);

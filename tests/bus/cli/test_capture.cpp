@@ -227,7 +227,20 @@ TEST_F(CliCapture, LostLineSaysThatTheDriveMayStillRun)
     bus().unplug();
     const Ran ran = finish(process);
     EXPECT_EQ(ran.status, 1);
-    EXPECT_THAT(ran.err.toStdString(), HasSubstr("could not be told to disable. It may still be running or start to"));
+    EXPECT_THAT(ran.err.toStdString(), HasSubstr("has not confirmed that it is disabled. It may still be running or start to"));
+    EXPECT_FALSE(QFile::exists("none.csv"));
+}
+
+TEST_F(CliCapture, DisablesThroughANewOpeningWhenTheLineComesBack)
+{
+    QProcess process;
+    start(process, {"--port", port(), "--node", "5", "capture", "--enable", "--channels", "posmeas", "--trigger",
+                    "fault", "--stimulus", "0,0.1,100,0.1", "--csv", "none.csv"});
+    ASSERT_TRUE(bus().waitForRegister(DriveAddress, Setpoint, 100));
+    bus().unplug();
+    ASSERT_EQ(bus().plugIn(), "");
+    EXPECT_EQ(finish(process).status, 1);
+    EXPECT_TRUE(isOff());
     EXPECT_FALSE(QFile::exists("none.csv"));
 }
 
