@@ -25,6 +25,12 @@ bool isBlocked(const DriveState &drive)
     return drive.isFaultStopped() || drive.isPermanentStop() || drive.isTorqueOff();
 }
 
+/// Powered, and not on its way to a stop.
+bool isOn(const DriveState &drive)
+{
+    return drive.isRunning() && drive.isEnabled();
+}
+
 } // namespace
 
 bool connectToMove(DriveClient &client, const CommandLine &line, Use use, QStringList &messages)
@@ -40,18 +46,18 @@ bool connectToMove(DriveClient &client, const CommandLine &line, Use use, QStrin
 
 bool enableDrive(DriveClient &client, QStringList &messages)
 {
-    if (client.drive().isRunning())
+    if (isOn(client.drive()))
         return true;
     DisableAtEnd notYet(client);
     client.session().setDriveEnableStatus(true);
     client.session().command(Connection::TaskApplyEnableState);
     client.received().disableOutcome.reset();
-    const auto isDecided = [&client](const DriveState &drive) {
-        const bool wasTakenBack = client.received().disableOutcome.has_value();
-        return wasTakenBack || drive.isRunning() || (drive.isSoftEnabled() && isBlocked(drive));
+    const auto wasTakenBack = [&client] { return client.received().disableOutcome.has_value(); };
+    const auto isDecided = [&wasTakenBack](const DriveState &drive) {
+        return wasTakenBack() || isOn(drive) || (drive.isSoftEnabled() && isBlocked(drive));
     };
     client.waitForDrive(tr("Enabling"), isDecided, enableLimitMs);
-    if (client.isUp() && !client.wasInterrupted() && client.drive().isRunning()) {
+    if (client.isUp() && !client.wasInterrupted() && !wasTakenBack() && isOn(client.drive())) {
         notYet.release();
         return true;
     }

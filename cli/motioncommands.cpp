@@ -203,14 +203,19 @@ QList<Command> motionCommands()
               "drive stays enabled when the command has ended: nothing watches it then. \"disable\" ends it.\n"
               "\n"
               "Prints state, setpoint in use (setpoint units) and position feedback (counts), tab separated. When the\n"
-              "motor is not powered within 3 s, the enable is taken back and the reason told. Ctrl+C disables."),
+              "motor is not powered within 3 s, or the drive does not confirm it, the enable is taken back and the "
+              "reason told.\n"
+              "Ctrl+C disables."),
          0, 0, enable},
         {"disable", "", TEXT("disable the drive, and wait until its state shows it"),
-         TEXT("Give --node: the search for drives would take 2.5 s. Exit status 1 when the drive has not confirmed "
-              "that it\n"
-              "is disabled; it may then still be running. This is no emergency stop.\n"
+         TEXT("Goes out before anything else is asked. Give --node: the search for drives would take 2.5 s. Exit status "
+              "1 when\n"
+              "the drive has not confirmed that it is disabled; it may then still be running. This is no emergency "
+              "stop.\n"
               "\n"
-              "Prints state, setpoint in use (setpoint units) and position feedback (counts), tab separated."),
+              "Prints state, setpoint in use (setpoint units) and position feedback (counts), tab separated; only the "
+              "state\n"
+              "when the drive could be disabled but not identified."),
          0, 0, disable},
         {"clear-faults", "", TEXT("clear the drive's faults"),
          TEXT(
