@@ -14,16 +14,13 @@ std::string PortLink::make(const std::string &port)
     struct stat info
     {
     };
-    // A link to a pseudo terminal that has gone is a left-over of a run that was killed (its number may have come round
-    // to us); anything else belongs to somebody.
-    char text[256];
-    const ssize_t length = readlink(m_path.c_str(), text, sizeof text);
-    const std::string target(text, length > 0 ? static_cast<std::size_t>(length) : 0);
-    const bool isOurs = target == port || (!m_made.empty() && target == m_made);
-    if (target.rfind("/dev/pts/", 0) != 0 && lstat(m_path.c_str(), &info) == 0)
+    // A link to a pseudo terminal is a left-over of a run that was killed; anything else belongs to somebody.
+    char target[256];
+    const ssize_t length = readlink(m_path.c_str(), target, sizeof target);
+    const bool leftOver =
+        length > 0 && std::string(target, static_cast<std::size_t>(length)).rfind("/dev/pts/", 0) == 0;
+    if (lstat(m_path.c_str(), &info) == 0 && !leftOver)
         return m_path + ": already there, and not a link to a virtual drive";
-    if (!target.empty() && !isOurs && stat(target.c_str(), &info) == 0)
-        return m_path + ": a virtual drive is running there; remove the link if none is";
     unlink(m_path.c_str());
     if (symlink(port.c_str(), m_path.c_str()) != 0)
         return m_path + ": " + std::strerror(errno);

@@ -2,7 +2,6 @@
 
 #include <cerrno>
 #include <cstdio>
-#include <cstdlib>
 #include <cstring>
 #include <fstream>
 #include <map>
@@ -82,22 +81,15 @@ std::string readSections(const std::string &path, Sections &sections)
 
 std::string writeWhole(const std::string &path, const std::string &contents)
 {
-    // A name of its own: one that is known beforehand may be a link that somebody has planted.
-    std::string temporary = path + ".XXXXXX";
-    const int descriptor = mkstemp(temporary.data());
-    if (descriptor < 0)
-        return path + ": " + std::strerror(errno);
-    const mode_t mask = umask(0);
-    umask(mask);
-    fchmod(descriptor, 0666 & ~mask);
+    const std::string temporary = path + ".new";
     const auto failed = [&] {
         const std::string error = temporary + ": " + std::strerror(errno);
         unlink(temporary.c_str());
         return error;
     };
-    std::FILE *file = fdopen(descriptor, "w");
+    std::FILE *file = std::fopen(temporary.c_str(), "w");
     if (!file)
-        return failed();
+        return temporary + ": " + std::strerror(errno);
     bool good = std::fwrite(contents.data(), 1, contents.size(), file) == contents.size();
     good = std::fflush(file) == 0 && fsync(fileno(file)) == 0 && good;
     good = std::fclose(file) == 0 && good;
