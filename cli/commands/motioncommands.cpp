@@ -73,6 +73,7 @@ Outcome disable(DriveClient &client, const CommandLine &line)
     if (!client.connectTo(*node) || !client.liveState()) {
         if (!isDisabled)
             return failed();
+        client.close();
         client.forgetMessages(); // what keeps it from being identified is not what was asked for
         return {ExitDone, {{QStringLiteral("disabled")}, QJsonObject{{"state", "disabled"}}}, {}};
     }
@@ -81,6 +82,7 @@ Outcome disable(DriveClient &client, const CommandLine &line)
     // Once more, and with the reasons for what it shows.
     if (!disableDrive(client))
         return failed();
+    client.close();
     client.forgetMessages();
     return done(client.drive());
 }

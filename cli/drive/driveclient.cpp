@@ -181,10 +181,15 @@ bool DriveClient::saveToFlash()
 {
     if (!isUp())
         return false;
-    // Saving has no answer of its own: the read behind it tells that it was carried out.
     beCareful();
     m_connection->command(Connection::TaskSaveToFlash);
-    return readBack(tr("Saving to the drive's flash")).has_value();
+    // Saving has no answer of its own: a poll behind it tells that it was carried out. Two may already be on their way.
+    constexpr int pollsBehind = 3;
+    m_received.polls = 0;
+    for (int i = 0; i < pollsBehind; ++i)
+        m_connection->command(Connection::TaskUpdateStatus);
+    const auto answered = [this] { return m_received.polls >= pollsBehind; };
+    return waitForSession(tr("Saving to the drive's flash"), answered, transferLimitMs);
 }
 
 std::optional<DriveState> DriveClient::liveState()

@@ -239,8 +239,9 @@ TEST_F(CliCapture, DisablesThroughANewOpeningWhenTheLineComesBack)
     ASSERT_TRUE(bus().waitForRegister(DriveAddress, Setpoint, 100));
     bus().unplug();
     ASSERT_EQ(bus().plugIn(), "");
-    EXPECT_EQ(finish(process).status, 1);
-    EXPECT_TRUE(isOff());
+    const Ran ran = finish(process);
+    EXPECT_EQ(ran.status, 1);
+    EXPECT_TRUE(isOff()) << ran.err.toStdString();
     EXPECT_FALSE(QFile::exists("none.csv"));
 }
 
