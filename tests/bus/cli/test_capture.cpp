@@ -241,7 +241,9 @@ TEST_F(CliCapture, DisablesThroughANewOpeningWhenTheLineComesBack)
     ASSERT_EQ(bus().plugIn(), "");
     const Ran ran = finish(process);
     EXPECT_EQ(ran.status, 1);
-    EXPECT_TRUE(isOff()) << ran.err.toStdString();
+    EXPECT_EQ(bus().read(DriveAddress, SoftEnable), 0) << ran.err.toStdString();
+    EXPECT_TRUE(bus().waitForRegister(DriveAddress, Status, [](std::int32_t bits) { return !(bits & Running); }))
+        << "the end of a controlled stop";
     EXPECT_FALSE(QFile::exists("none.csv"));
 }
 
