@@ -1,5 +1,7 @@
 #include "captureplotter.h"
 
+#include "outputfile.h"
+
 #include <QDateTime>
 #include <QFile>
 #include <QLocale>
@@ -115,7 +117,7 @@ QString CapturePlotter::generatePlotPage(const QList<CaptureData> &captures, con
     return page;
 }
 
-bool CapturePlotter::saveCaptureDataCSV(const QList<CaptureData> &captures, const QString &fileName) const
+QByteArray CapturePlotter::captureDataCSV(const QList<CaptureData> &captures) const
 {
     const QList<CaptureData> enabled = enabledChannels(captures);
     const int rows = rowCount(enabled);
@@ -129,10 +131,11 @@ bool CapturePlotter::saveCaptureDataCSV(const QList<CaptureData> &captures, cons
             text += QLatin1Char(';') + number(channel.samples.at(row).second);
         text += QLatin1Char('\n');
     }
-    QFile file(fileName);
-    if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate | QIODevice::Text))
-        return false;
-    // Flushed here: a full disk shows only when the bytes really go out.
-    const QByteArray bytes = text.toLocal8Bit();
-    return file.write(bytes) == bytes.size() && file.flush();
+    return text.toLocal8Bit();
+}
+
+bool CapturePlotter::saveCaptureDataCSV(const QList<CaptureData> &captures, const QString &fileName) const
+{
+    OutputFile file(fileName);
+    return !fileName.isEmpty() && file.open().isEmpty() && file.write(captureDataCSV(captures)).isEmpty();
 }

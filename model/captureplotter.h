@@ -25,8 +25,9 @@ public:
     QString generatePlotPage(const QList<CaptureData> &captures, const QString &paramsHtml,
                              const QString &driveModel) const;
 
-    /// Semicolon-separated: a line of names, then one line per sample, time in seconds first. Returns false when the
-    /// file could not be opened or not be written to the end.
+    /// Semicolon-separated: a line of names, then one line per sample, time in seconds first.
+    QByteArray captureDataCSV(const QList<CaptureData> &captures) const;
+    /// The same as a file. False when it could not be written whole; an older file then stays as it was.
     bool saveCaptureDataCSV(const QList<CaptureData> &captures, const QString &fileName) const;
 };
 

@@ -34,26 +34,46 @@ QList<quint16> wordsAt(const QByteArray &bytes, qint64 begin, qint32 length)
 
 QString FirmwareFile::loadFile(const QString &fileName, int connectedType)
 {
+    m_refusal = read(fileName, connectedType);
+    switch (m_refusal) {
+    case Refusal::None:
+        return QString();
+    case Refusal::CannotOpen:
+        return tr("Can't open file");
+    case Refusal::UnknownType:
+        return tr("Unknown file type");
+    case Refusal::UnsupportedVersion:
+        return tr("Unsupported FW file version");
+    case Refusal::OtherDeviceType:
+        return tr("Selected firmware file not meant for the connected device type");
+    case Refusal::Corrupted:
+        break;
+    }
+    return tr("File corrupted");
+}
+
+FirmwareFile::Refusal FirmwareFile::read(const QString &fileName, int connectedType)
+{
     QFile file(fileName);
     if (!QFileInfo(fileName).isFile() || !file.open(QIODevice::ReadOnly))
-        return tr("Can't open file");
+        return Refusal::CannotOpen;
 
     // A header that is cut short reads as if zeros followed.
     QByteArray bytes = file.read(headerSize);
     const QByteArray header = bytes + QByteArray(headerSize - bytes.size(), '\0');
     if (numberAt<quint32>(header, 0) != magic)
-        return tr("Unknown file type");
+        return Refusal::UnknownType;
     fileVersion = numberAt<qint16>(header, 4);
     deviceType = numberAt<qint16>(header, 6);
     ioImageLength = numberAt<qint32>(header, 8);
     tcImageLength = numberAt<qint32>(header, 12);
     if (fileVersion != supportedVersion)
-        return tr("Unsupported FW file version");
+        return Refusal::UnsupportedVersion;
     if (deviceType / 1000 != connectedType / 1000)
-        return tr("Selected firmware file not meant for the connected device type");
+        return Refusal::OtherDeviceType;
     const qint64 fileSize = file.size();
     if (fileSize > largestFile)
-        return tr("File corrupted");
+        return Refusal::Corrupted;
 
     bytes += file.read(fileSize); // room for no more than there is
     const qint64 tcBegin = headerSize + std::max(ioImageLength / 2, 0) * qint64(2);
@@ -61,10 +81,10 @@ QString FirmwareFile::loadFile(const QString &fileName, int connectedType)
     ioImage += wordsAt(bytes, headerSize, ioImageLength);
     tcImage += wordsAt(bytes, tcBegin, tcImageLength);
     if (bytes.size() != tcEnd + checksumSize)
-        return tr("File corrupted");
+        return Refusal::Corrupted;
     const quint32 sum = std::accumulate(bytes.cbegin(), bytes.cend() - checksumSize, quint32(0),
                                         [](quint32 total, char byte) { return total + static_cast<quint8>(byte); });
     if (sum != numberAt<quint32>(bytes, static_cast<int>(tcEnd)))
-        return tr("File corrupted");
-    return QString();
+        return Refusal::Corrupted;
+    return Refusal::None;
 }

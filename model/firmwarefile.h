@@ -21,6 +21,9 @@ public:
     /// Returns an empty string or the reason to refuse. Pipes and devices are not opened, and files too large to be
     /// firmware (16 MiB) are not read.
     QString loadFile(const QString &fileName, int connectedType);
+    /// What the text of loadFile says, to decide by.
+    enum class Refusal { None, CannotOpen, UnknownType, UnsupportedVersion, OtherDeviceType, Corrupted };
+    Refusal refusal() const { return m_refusal; }
 
     void getTCcontents(bool &) {}     ///< does nothing
     void getHostFWcontents(bool &) {} ///< does nothing
@@ -32,6 +35,11 @@ public:
     qint16 deviceType = 0;
     qint32 ioImageLength = 0; ///< bytes
     qint32 tcImageLength = 0; ///< bytes
+
+private:
+    Refusal read(const QString &fileName, int connectedType);
+
+    Refusal m_refusal = Refusal::None;
 };
 
 #endif

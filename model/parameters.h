@@ -8,6 +8,13 @@
 #include <QCoreApplication>
 #include <QList>
 
+/// What became of a settings file.
+enum class LoadOutcome {
+    Taken,
+    TakenWithWarning, ///< the values are in the list, but not from a drive like the connected one
+    Refused,          ///< the list is unchanged
+};
+
 /// An implicitly shared list of SingleParam in catalogue order, which is the order of reading, writing, listing and
 /// saving. Copies may travel between threads; a copy has no lock and belongs to one thread at a time.
 class Parameters
@@ -38,15 +45,21 @@ public:
     // settingsfile.cpp
 
     /// Writes the settings file through a temporary file and a rename, so that a failure leaves an old file whole.
-    /// Returns an empty string, or the text to show.
+    /// Returns an empty string, or the text to show. In a list that no drive has filled (HWTYPE 0) some settings get
+    /// their start value, since their 0 means "None".
     QString saveToFile(const QString &fileName) const;
-    /// Takes the values of a settings file over. Returns an empty string; a text that begins with "Warning" when the
-    /// values were taken but the file comes from another device type; or an error text, with the list unchanged.
-    /// Numbers that are none, not finite, or a scaling of 0 are refused: they would end up in a drive. The file is only
-    /// read.
-    QString loadFromFile(const QString &fileName);
+    /// Takes the values of a settings file over. Returns an empty string, or the text to show: a warning (which begins
+    /// with "Warning") or why the file is refused. Numbers that are none, not finite, or a scaling of 0 are refused:
+    /// they would end up in a drive; so is a file that lacks its end. Of a file that was saved without a drive, what
+    /// nobody has set does not replace what a drive has. The file is only read.
+    QString loadFromFile(const QString &fileName, LoadOutcome *outcome = nullptr);
+
+    /// What a setting is taken to be until a drive has been read; 0 for most. Nobody's setting: never sent to a drive.
+    static double startValue(const QString &name);
 
 private:
+    QString load(const QString &fileName, LoadOutcome &outcome);
+
     QList<SingleParam> m_list;
 };
 

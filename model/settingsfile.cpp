@@ -25,6 +25,15 @@ const QString arrayName = QStringLiteral("TDT3Params");
 const QString identityNames[] = {QStringLiteral("FWVER"), QStringLiteral("TCFWVER"), QStringLiteral("HWSERIAL"),
                                  QStringLiteral("BUILDREVISION")};
 
+struct StartValue
+{
+    const char *name;
+    double value;
+};
+
+// The choices whose 0 would switch something off or is no sensible choice.
+constexpr StartValue startValues[] = {{"MT", 3}, {"FBD", 1}, {"TBW", 6}, {"AXT", 3}};
+
 struct NumberField
 {
     const char *key;
@@ -44,8 +53,22 @@ QByteArray numberText(double number)
     return QString::number(number, 'g', QLocale::FloatingPointShortest).toLatin1();
 }
 
+bool wasNeverRead(const SingleParam &p)
+{
+    return p.min == 0.0 && p.max == 0.0;
+}
+
+/// As it was before anybody has read or set it: 0, a start value, or -1 where the model lacks the setting.
+bool isUnset(const SingleParam &p)
+{
+    return wasNeverRead(p) && (p.value == 0.0 || p.value == -1.0 || p.value == Parameters::startValue(p.name));
+}
+
 QByteArray settingsText(const QList<SingleParam> &list)
 {
+    const bool noDrive = std::any_of(list.begin(), list.end(), [](const SingleParam &p) {
+        return p.name == QLatin1String("HWTYPE") && p.value == 0.0;
+    });
     QByteArray text = "[Header]\nDRCVersion=" + QByteArray::number(fileVersion) +
                       "\nVelbrinVersion=" + iniString(QString::fromLatin1(VELBRIN_VERSION)) +
                       "\nVelbrinVersionInt=" + QByteArray::number(VELBRIN_VERSION_INT) + "\n\n[TDT3Params]\n";
@@ -57,7 +80,8 @@ QByteArray settingsText(const QList<SingleParam> &list)
         text += entry + "scaling=" + numberText(p.scaling) + '\n';
         text += entry + "offset=" + numberText(p.offset) + '\n';
         text += entry + "readonly=" + (p.readonly ? "true" : "false") + '\n';
-        text += entry + "value=" + numberText(p.value) + '\n';
+        const bool atStart = noDrive && p.value == 0.0 && wasNeverRead(p);
+        text += entry + "value=" + numberText(atStart ? Parameters::startValue(p.name) : p.value) + '\n';
         text += entry + "min=" + numberText(p.min) + '\n';
         text += entry + "max=" + numberText(p.max) + '\n';
     }
@@ -80,10 +104,20 @@ std::optional<QByteArray> readPlainFile(const QString &fileName)
     return bytes;
 }
 
-/// A piece of the file as it may stand in a message, which is taken for HTML: never markup, never long.
+/// A text as it may stand in a message, which is taken for HTML or goes to a terminal: no markup, nothing that steers.
+QString harmless(QString text)
+{
+    const auto steers = [](QChar c) {
+        return c.category() == QChar::Other_Control || c.category() == QChar::Other_Format;
+    };
+    std::replace_if(text.begin(), text.end(), steers, QChar(u'?'));
+    return text.toHtmlEscaped();
+}
+
+/// The same with a piece of the file, which may be of any length.
 QString cited(const QString &piece)
 {
-    return piece.left(40).toHtmlEscaped();
+    return harmless(piece.left(40));
 }
 
 /// Fills `p` from one entry. Returns the key whose text is no usable number, or an empty string.
@@ -110,6 +144,9 @@ QString readEntry(const IniValues &ini, const QString &entry, SingleParam *p)
 
 QString typeWarning(int fileType, int connectedType)
 {
+    if (fileType == 0)
+        return Parameters::tr("Warning: the loaded file was saved without a drive. What nobody has typed into it are start "
+                              "values and nobody's settings: the drive's own stay in their place.");
     return Parameters::
         tr("Warning: the loaded file is saved on different device type <b>%1</b> while connected device type is "
            "<b>%2</b>. Some settings and their value ranges may be incompatible. Apply button might cause connection "
@@ -121,7 +158,11 @@ QString typeWarning(int fileType, int connectedType)
 class Loader
 {
 public:
-    explicit Loader(const QList<SingleParam> &current) : m_current(current), m_result(current) {}
+    /// `withoutDrive`: the file was saved when none had been read.
+    Loader(const QList<SingleParam> &current, bool withoutDrive)
+        : m_current(current), m_result(current), m_withoutDrive(withoutDrive)
+    {
+    }
 
     /// Returns an empty string or the reason to refuse the file.
     QString take(const IniValues &ini, int number);
@@ -133,6 +174,7 @@ private:
 
     const QList<SingleParam> m_current;
     QList<SingleParam> m_result;
+    const bool m_withoutDrive;
     bool m_mismatch = false;
     int m_fileType = 0;
     int m_connectedType = 0;
@@ -167,6 +209,8 @@ QString Loader::take(const IniValues &ini, int number)
 void Loader::replace(int index, const SingleParam &loaded)
 {
     const SingleParam &current = m_current.at(index);
+    if (m_withoutDrive && isUnset(loaded) && !wasNeverRead(current))
+        return;
     if (loaded.name != QLatin1String("HWTYPE")) {
         m_result[index] = loaded;
         m_result[index].devices = current.devices;
@@ -181,7 +225,41 @@ void Loader::replace(int index, const SingleParam &loaded)
     m_mismatch = m_mismatch || m_fileType != m_connectedType;
 }
 
+/// The number of the entry that a key "TDT3Params/3/name" belongs to; 0 for any other key.
+int entryOf(const QString &key)
+{
+    const bool isInArray = key.startsWith(arrayName + QLatin1Char('/'));
+    return isInArray ? key.section(QLatin1Char('/'), 1, 1).toInt() : 0;
+}
+
+/// Whether entries stand behind the last that "size" counts: a file whose size was cut in the middle of its digits
+/// would otherwise pass for a small one.
+bool hasMoreThan(int count, const IniValues &ini)
+{
+    return std::any_of(ini.keyBegin(), ini.keyEnd(), [count](const QString &key) { return entryOf(key) > count; });
+}
+
+bool wasSavedWithoutDrive(const IniValues &ini, int count)
+{
+    for (int number = 1; number <= count; ++number) {
+        const QString entry = arrayName + QStringLiteral("/%1/").arg(number);
+        const QString name = ini.value(entry + QStringLiteral("name"));
+        if (name.isNull())
+            return false; // the size may claim any number
+        if (name == QLatin1String("HWTYPE"))
+            return ini.value(entry + QStringLiteral("value")).toDouble() == 0.0;
+    }
+    return false;
+}
+
 } // namespace
+
+double Parameters::startValue(const QString &name)
+{
+    const auto found = std::find_if(std::begin(startValues), std::end(startValues),
+                                    [&name](const StartValue &start) { return name == QLatin1String(start.name); });
+    return found == std::end(startValues) ? 0.0 : found->value;
+}
 
 QString Parameters::saveToFile(const QString &fileName) const
 {
@@ -193,12 +271,19 @@ QString Parameters::saveToFile(const QString &fileName) const
     const bool possible = !target.exists() || target.isFile();
     if (possible && file.open(QIODevice::WriteOnly) && file.write(text) == text.size() && file.flush() && file.commit())
         return QString();
-    return tr("Error writing settings to file %1").arg(fileName);
+    return tr("Error writing settings to file %1").arg(harmless(fileName));
 }
 
-QString Parameters::loadFromFile(const QString &fileName)
+QString Parameters::loadFromFile(const QString &fileName, LoadOutcome *outcome)
 {
-    const QString readError = tr("Error reading settings from file %1.").arg(fileName);
+    LoadOutcome own = LoadOutcome::Refused;
+    return load(fileName, outcome ? *outcome : own);
+}
+
+QString Parameters::load(const QString &fileName, LoadOutcome &outcome)
+{
+    outcome = LoadOutcome::Refused;
+    const QString readError = tr("Error reading settings from file %1.").arg(harmless(fileName));
     const std::optional<QByteArray> bytes = readPlainFile(fileName);
     if (!bytes)
         return readError;
@@ -217,7 +302,9 @@ QString Parameters::loadFromFile(const QString &fileName)
     const int count = ini.value(arrayName + QStringLiteral("/size")).toInt(&counted);
     if (!counted || count < 0)
         return readError + note;
-    Loader loader(m_list);
+    if (hasMoreThan(count, ini))
+        return readError + tr(" It is incomplete: there are more settings in it than it counts.") + note;
+    Loader loader(m_list, wasSavedWithoutDrive(ini, count));
     for (int number = 1; number <= count; ++number) {
         // Ends at the first entry that is not there, whatever the size claims.
         const QString refusal = loader.take(ini, number);
@@ -227,5 +314,7 @@ QString Parameters::loadFromFile(const QString &fileName)
     if (!wellFormed)
         return readError + note;
     m_list = loader.result();
-    return loader.warning();
+    const QString warning = loader.warning();
+    outcome = warning.isEmpty() ? LoadOutcome::Taken : LoadOutcome::TakenWithWarning;
+    return warning;
 }

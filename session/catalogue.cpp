@@ -1,5 +1,7 @@
 #include "catalogue.h"
 
+#include "sessionregisters.h"
+
 namespace {
 
 struct CatalogueRow
@@ -111,4 +113,9 @@ Parameters driveParameterCatalogue()
         list.addParameter(p);
     }
     return list;
+}
+
+bool isCommandToDrive(int address)
+{
+    return reg::isCommandRegister(static_cast<qint16>(address)); // as it goes on the line
 }

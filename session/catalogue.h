@@ -9,4 +9,7 @@
 /// parameter add a row to the table in catalogue.cpp: everything else finds it by its mnemonic.
 Parameters driveParameterCatalogue();
 
+/// Whether a write to this register moves, stops, restarts or erases a drive: no setting, and no override, does that.
+bool isCommandToDrive(int address);
+
 #endif

@@ -4,12 +4,15 @@
 #include "sessionworker.h"
 
 #include <QElapsedTimer>
+#include <QMap>
 
 namespace {
 constexpr int scanTimeoutMs = 100; // what a silent address costs
 constexpr int lastScannedNode = 20;
 constexpr int firstUpgradeNode = 251;
 constexpr int lastNode = 255;
+constexpr int askedAtMost = 3; // times, until an address counts as unreadable
+constexpr int noisyLimit = 3;  // exchanges in a row
 
 /// Bus addresses in the order of the scan.
 QList<int> scanAddresses()
@@ -158,36 +161,72 @@ void SessionWorker::disconnectDrive(const TaskRequest &)
     stopWhatWasLeft();
 }
 
+/// One question to one address, and not a second one to the silent, who are most of them. The reply to a question before it may come instead of its own.
+SessionWorker::Heard SessionWorker::askWho(int address, NodeType &node)
+{
+    m_line.startTask(); // silence is normal here
+    m_line.clearStatus();
+    m_line.setNodeAddress(address);
+    long type = 0;
+    long mode = 0;
+    m_line.appendRead(reg::DeviceType);
+    m_line.appendRead(reg::OperatingMode);
+    m_line.execute();
+    m_line.fetchRead(&type);
+    m_line.fetchRead(&mode);
+    m_line.finishReply();
+    if (m_line.status() != ZB_OK)
+        return m_line.wasSilent() ? Heard::Nothing : Heard::Noise;
+    node.address = m_line.replyAddress();
+    node.firmwareUpgradeMode = node.address >= firstUpgradeNode || mode == 0;
+    node.deviceType = static_cast<int>(type);
+    return Heard::Reply;
+}
+
+/// Sorted by address, each once. What is not a good reply is asked again: it must neither hide a drive nor make the one
+/// beside it look like the only one. Ends early when the line has gone or never is quiet.
+QList<NodeType> SessionWorker::searchDrives(int &noisyExchanges)
+{
+    QMap<int, NodeType> found;
+    noisyExchanges = 0;
+    for (int address : scanAddresses()) {
+        int unreadable = 0;
+        bool isDecided = found.contains(address);
+        for (int attempt = 0; attempt < askedAtMost && !isDecided; ++attempt) {
+            if (m_queue.isClosing() || noisyExchanges >= noisyLimit || m_line.isGone())
+                return found.values();
+            QElapsedTimer timer;
+            timer.start();
+            NodeType node;
+            const Heard heard = askWho(address, node);
+            // A line that babbles instead of being silent costs seconds an exchange, and would go on doing so.
+            noisyExchanges = timer.elapsed() > 10 * scanTimeoutMs ? noisyExchanges + 1 : 0;
+            unreadable += heard == Heard::Noise;
+            // A late reply is listed for the drive that sent it, and its place in the line is asked anew.
+            if (heard == Heard::Reply)
+                found.insert(node.address, node);
+            isDecided = found.contains(address) || (heard == Heard::Nothing && unreadable == 0);
+        }
+        // Once may have been a spike on a silent line.
+        if (!found.contains(address) && unreadable > 1)
+            found.insert(address, NodeType{address, address >= firstUpgradeNode, 0, true});
+    }
+    return found.values();
+}
+
 void SessionWorker::scanBus(const TaskRequest &request)
 {
     if (isConnected() || !openLine(request.portName, scanTimeoutMs))
         return;
     emit m_session.busy(true, true);
-    QList<NodeType> nodes;
-    int noisyAddresses = 0;
-    for (int address : scanAddresses()) {
-        if (m_queue.isClosing() || noisyAddresses >= 3 || m_line.isGone())
-            break;
-        QElapsedTimer timer;
-        timer.start();
-        m_line.startTask(); // silence is normal here
-        m_line.clearStatus();
-        m_line.setNodeAddress(address);
-        long type = 0;
-        long mode = 0;
-        readParameters(reg::DeviceType, type, reg::OperatingMode, mode);
-        // A reply that comes after its time-out answers the next address: the drive is where it says it is.
-        const int sender = m_line.replyAddress();
-        if (m_line.status() == ZB_OK)
-            nodes << NodeType{sender, sender >= firstUpgradeNode || mode == 0, static_cast<int>(type)};
-        // A line that babbles instead of being silent costs seconds an address, and would go on doing so.
-        noisyAddresses = timer.elapsed() > 10 * scanTimeoutMs ? noisyAddresses + 1 : 0;
-    }
+    int noisyExchanges = 0;
+    const QList<NodeType> nodes = searchDrives(noisyExchanges);
+    const bool isNoisy = noisyExchanges >= noisyLimit;
     const bool gone = m_line.isGone();
     m_line.close();
     m_line.clearStatus();
     emit m_session.busy(false, true);
-    if (gone || noisyAddresses >= 3) {
+    if (gone || isNoisy) {
         emit m_session.statusChanged(false, Connection::tr("Connect failed"));
         tell(MessageKind::ConnectFailed,
              gone ? Connection::tr("Unable to connect. The adapter was pulled out during the search: "

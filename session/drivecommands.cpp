@@ -142,19 +142,22 @@ void SessionWorker::measure(const TaskRequest &)
         return;
     }
     emit m_session.busy(true, false);
-    writeAndFetch(reg::SystemCommand, reg::CommandMeasureMotor);
+    // What is in the error register from before would pass for a refusal of the command.
+    const bool told =
+        writeAndFetch(reg::ErrorBits, 0) && writeAndFetch(reg::SystemCommand, reg::CommandMeasureMotor);
+    const bool finished = told && pause(measurePauseMs);
+    long result = 0;
+    if (finished) {
+        readParameters(reg::MeasureResult, result);
+        checkZBErrors();
+    }
     // A command that was refused leaves the result of an earlier measurement as it is: no success of this one.
-    checkZBErrors();
     const bool refused = m_deviceErrors != 0;
     m_deviceErrors = 0; // told here, and no reason to disconnect
-    const bool finished = refused || (statusIsClean() && pause(measurePauseMs));
-    long result = 0;
-    if (finished && !refused)
-        readParameters(reg::MeasureResult, result);
     emit m_session.busy(false, false);
     if (!finished || !statusIsClean())
         return; // a bad line gets its own message
-    if (result != reg::MeasureSucceeded) {
+    if (refused || result != reg::MeasureSucceeded) {
         const QString page = makerWikiPage(QStringLiteral("/wiki/Measure_motor_resistance_and_inductance_in_Velbrin"));
         tell(
             MessageKind::Refused,

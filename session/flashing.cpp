@@ -62,13 +62,17 @@ bool SessionWorker::flash(const TaskRequest &request)
         return flashFailed(Connection::tr("Flashing TarnwellCore firmware failed. Power off, reconnect and try again. "
                                           "Ensure that firmware file is compatible with your device."));
     }
+    // Sent before anything is said: a drive that refuses the start stays without its firmware.
+    if (!startFirmware()) {
+        return flashFailed(Connection::tr("The new firmware was written, but the drive has not confirmed that it starts "
+                                          "it. Power off, reconnect and try again if it does not run."));
+    }
     emit m_session.firmwareUpgradeMsg(
         Connection::tr(
             "<b>All done with success!</b> Drive has been started with one-time bus address of 16 and you may "
             "connect to it now via Connect button. To return using normal device address, power off, change "
             "device address and power up again."),
         true, false);
-    setParameter(reg::FlashCommand, reg::FlashStartFirmware);
     // Nobody answers here any more: this connection is over.
     m_queue.pushDisconnectFirst();
     pause(startPauseMs);
@@ -100,6 +104,33 @@ bool SessionWorker::flashStepIsClean()
     return text.isEmpty() && !m_queue.isClosing();
 }
 
+/// One command of the upgrade. What went wrong with it is left to flashStepIsClean, which tells it in the log.
+void SessionWorker::sendFlashCommand(int command)
+{
+    if (write(reg::FlashCommand, command) == Reply::Refused)
+        m_deviceErrors |= commandFailed;
+}
+
+/// The same with the question how it went: a refusal may show in the error bits only.
+bool SessionWorker::flashCommand(int command)
+{
+    sendFlashCommand(command);
+    const quint32 refused = m_deviceErrors;
+    checkZBErrors();
+    m_deviceErrors |= refused;
+    return flashStepIsClean();
+}
+
+/// Nobody can be asked behind a start, so the answer to the command itself has to tell.
+bool SessionWorker::startFirmware()
+{
+    writeSetting(reg::ReturnLength, reg::ReturnsOutcome);
+    if (!flashStepIsClean())
+        return false;
+    sendFlashCommand(reg::FlashStartFirmware);
+    return flashStepIsClean();
+}
+
 bool SessionWorker::flashFirmwareIOSide(const QList<quint16> &image, bool resetToFactory)
 {
     const bool twoProcessors = hasIOSide();
@@ -107,8 +138,13 @@ bool SessionWorker::flashFirmwareIOSide(const QList<quint16> &image, bool resetT
                                 : Connection::tr("<b>Uploading firmware</b>"));
     flashProgress(twoProcessors ? Connection::tr("Erasing IO side firmware on device...")
                                 : Connection::tr("Erasing existing firmware on device..."));
+    // What went wrong before this upgrade would fail it after the erase, and leave the drive without a firmware.
+    checkZBErrors();
+    m_deviceErrors = 0;
+    if (!flashStepIsClean())
+        return false;
     const bool resetSettings = resetToFactory && isKetaModel(m_data.deviceType);
-    setParameter(reg::FlashCommand, resetSettings ? reg::FlashEraseAndResetSettings : reg::FlashErase);
+    sendFlashCommand(resetSettings ? reg::FlashEraseAndResetSettings : reg::FlashErase);
     pause(erasePauseMs);
     checkZBErrors();
     if (!flashStepIsClean())
@@ -123,7 +159,8 @@ bool SessionWorker::flashFirmwareIOSide(const QList<quint16> &image, bool resetT
 
 bool SessionWorker::verifyIOSide()
 {
-    setParameter(reg::FlashCommand, reg::FlashVerify);
+    if (!flashCommand(reg::FlashVerify))
+        return false;
     long faults = 0;
     readParameters(reg::FaultRegister, faults);
     if (!flashStepIsClean())
@@ -136,8 +173,7 @@ bool SessionWorker::verifyIOSide()
     }
     if (m_firmwareVersion >= firstThatProtects) {
         flashProgress(Connection::tr("Write protecting flash."));
-        setParameter(reg::FlashCommand, reg::FlashWriteProtect);
-        if (!flashStepIsClean())
+        if (!flashCommand(reg::FlashWriteProtect))
             return false;
     }
     flashProgress(hasIOSide() ? Connection::tr("I/O side flash contents verified and passed")
@@ -158,7 +194,7 @@ bool SessionWorker::flashFirmwareTCSide(const QList<quint16> &image)
     if (!uploadImage(image, false))
         return false;
     flashProgress(Connection::tr("Flashing TarnwellCore firmware (takes about 20 secs)..."));
-    setParameter(reg::FlashCommand, reg::FlashProgramCore);
+    sendFlashCommand(reg::FlashProgramCore);
     pause(programCorePauseMs);
     if (m_firmwareVersion >= firstThatVerifies) {
         // The value is deliberately not looked at: bit 7 speaks of the I/O side.
@@ -181,7 +217,7 @@ int SessionWorker::wordsToUpload(const QList<quint16> &image)
 
 bool SessionWorker::uploadImage(const QList<quint16> &image, bool programChunks)
 {
-    setParameter(reg::ReturnLength, reg::ReturnsOutcome);
+    writeSetting(reg::ReturnLength, reg::ReturnsOutcome);
     const int words = wordsToUpload(image);
     for (int first = 0; first < words; first += chunkWords) {
         if (m_queue.isClosing() || !uploadChunk(image, first, programChunks))

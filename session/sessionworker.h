@@ -82,6 +82,9 @@ private:
     void connectDrive(const TaskRequest &request);
     void disconnectDrive(const TaskRequest &);
     void scanBus(const TaskRequest &request);
+    enum class Heard { Nothing, Noise, Reply };
+    Heard askWho(int address, NodeType &node);
+    QList<NodeType> searchDrives(int &noisyExchanges);
     bool openLine(const QString &portName, int timeoutMs);
     void rememberTarget(const TaskRequest &request);
     void resetDriveState();
@@ -172,6 +175,9 @@ private:
     void flashProgress(const QString &text);
     bool flashFailed(const QString &text);
     bool flashStepIsClean();
+    void sendFlashCommand(int command);
+    bool flashCommand(int command);
+    bool startFirmware();
     bool flashFirmwareIOSide(const QList<quint16> &image, bool resetToFactory);
     bool verifyIOSide();
     bool flashFirmwareTCSide(const QList<quint16> &image);

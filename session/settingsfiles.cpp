@@ -12,8 +12,9 @@ void SessionWorker::loadSettingsFile(const TaskRequest &request)
 {
     // The list as it is now, not as it was when the file was asked for: a full read may have come in between.
     Parameters list = m_data.parameters();
-    const QString message = list.loadFromFile(request.settingsFileName);
-    const bool taken = message.isEmpty() || message.startsWith(QLatin1String("Warning"));
+    LoadOutcome outcome = LoadOutcome::Refused;
+    const QString message = list.loadFromFile(request.settingsFileName, &outcome);
+    const bool taken = outcome != LoadOutcome::Refused;
     if (!message.isEmpty())
         tell(taken ? MessageKind::FileWarning : MessageKind::FileFailed, message);
     if (!taken)

@@ -1,6 +1,6 @@
 #include "helpview.h"
 
-#include "wholefile.h"
+#include "outputfile.h"
 
 #include <QBuffer>
 #include <QCoreApplication>
@@ -266,7 +266,11 @@ private:
         QByteArray bytes;
         QBuffer buffer(&bytes);
         image.save(&buffer, "PNG");
-        end(bytes.isEmpty() ? HelpView::tr("the plot is too large for a picture") : writeWholeFile(m_file, bytes));
+        if (bytes.isEmpty())
+            return end(HelpView::tr("the plot is too large for a picture"));
+        OutputFile file(m_file);
+        const QString problem = file.open();
+        end(problem.isEmpty() ? file.write(bytes) : problem);
     }
 
     void end(const QString &failure)

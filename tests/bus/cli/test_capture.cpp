@@ -6,6 +6,8 @@
 #include <QJsonArray>
 #include <QJsonObject>
 
+#include <sys/stat.h>
+
 using testing::Contains;
 using testing::Each;
 using testing::ElementsAre;
@@ -127,7 +129,7 @@ TEST_F(CliCapture, FollowsAStimulusAndStopsItAtTheEnd)
 
 TEST_F(CliCapture, InterruptedStimulusIsStoppedAndTheDriveDisabled)
 {
-    for (const int signal : {SIGINT, SIGTERM}) {
+    for (const int signal : {SIGINT, SIGTERM, SIGQUIT}) {
         bus().withDrive(DriveAddress, [](sim::VirtualDrive &drive) { drive.write(551, 0); });
         ASSERT_TRUE(bus().waitForRegister(DriveAddress, Setpoint, 0));
         bus().clearReceived();
@@ -172,9 +174,15 @@ TEST_F(CliCapture, FileThatCannotBeWrittenStopsItBeforeAnythingMoves)
     EXPECT_THAT(ran.err.toStdString(), HasSubstr("/nowhere/a.csv cannot be written: "));
     EXPECT_TRUE(bus().received().empty());
 
+    ASSERT_EQ(mkfifo("pipe", 0600), 0); // that nobody reads
+    ran = onDrive({"capture", "--enable", "--channels", "posmeas", "--csv", "pipe"});
+    EXPECT_EQ(ran.status, 1);
+    EXPECT_THAT(ran.err.toStdString(), HasSubstr("pipe cannot be written: nobody reads from this pipe.\n"));
+    EXPECT_TRUE(bus().received().empty());
+
     ran = onDrive({"capture", "--channels", "posmeas", "--csv", "/dev/full"});
     EXPECT_EQ(ran.status, 1);
-    EXPECT_EQ(ran.err, "Error writing to /dev/full: No space left on device.\n");
+    EXPECT_EQ(ran.err, "Error writing to /dev/full: Full disk.\n");
 }
 
 TEST_F(CliCapture, PlotPageHoldsAllThatItNeeds)
@@ -184,6 +192,8 @@ TEST_F(CliCapture, PlotPageHoldsAllThatItNeeds)
     put("data/flot/jquery.js", "var jquery = '</script>';");
     put("data/flot/jquery.flot.js", "var flot = 1;");
     put("data/flot/jquery.flot.selection.js", "");
+    ASSERT_TRUE(QDir().mkpath("flot"));
+    put("flot/jquery.flot.js", "var strangers = 1;"); // a folder of downloads: the program's own goes first
     QProcess process;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert("VELBRIN_DATA", QDir::current().filePath("data"));
@@ -204,7 +214,7 @@ TEST_F(CliCapture, PlotPageHoldsAllThatItNeeds)
     for (const char *part : {"h1 { color: red; }", "var jquery = '<\\/script>';", "var flot = 1;", "var resize = 1;",
                              "var posmeas=[[0,", "Tarnwell Devices KETA", "KVP"})
         EXPECT_THAT(page, HasSubstr(part));
-    for (const char *part : {"../", "tdext:", "src="})
+    for (const char *part : {"../", "tdext:", "src=", "strangers"})
         EXPECT_THAT(page, Not(HasSubstr(part)));
 }
 
@@ -217,7 +227,23 @@ TEST_F(CliCapture, LostLineSaysThatTheDriveMayStillRun)
     bus().unplug();
     const Ran ran = finish(process);
     EXPECT_EQ(ran.status, 1);
-    EXPECT_THAT(ran.err.toStdString(), HasSubstr("could not be told to disable. It may still be running or start to"));
+    EXPECT_THAT(ran.err.toStdString(), HasSubstr("has not confirmed that it is disabled. It may still be running or start to"));
+    EXPECT_FALSE(QFile::exists("none.csv"));
+}
+
+TEST_F(CliCapture, DisablesThroughANewOpeningWhenTheLineComesBack)
+{
+    QProcess process;
+    start(process, {"--port", port(), "--node", "5", "capture", "--enable", "--channels", "posmeas", "--trigger",
+                    "fault", "--stimulus", "0,0.1,100,0.1", "--csv", "none.csv"});
+    ASSERT_TRUE(bus().waitForRegister(DriveAddress, Setpoint, 100));
+    bus().unplug();
+    ASSERT_EQ(bus().plugIn(), "");
+    const Ran ran = finish(process);
+    EXPECT_EQ(ran.status, 1);
+    EXPECT_EQ(bus().read(DriveAddress, SoftEnable), 0) << ran.err.toStdString();
+    EXPECT_TRUE(bus().waitForRegister(DriveAddress, Status, [](std::int32_t bits) { return !(bits & Running); }))
+        << "the end of a controlled stop";
     EXPECT_FALSE(QFile::exists("none.csv"));
 }
 

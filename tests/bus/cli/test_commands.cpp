@@ -44,6 +44,32 @@ TEST_F(CliTwoDrives, WithoutANodeSaysWhichDrivesThereAre)
     EXPECT_EQ(ran.err, "There are several drives; choose one with --node:\n3\tKETA\n7\tTORVA\n");
 }
 
+TEST_F(CliTwoDrives, ADriveThatCannotBeReadDoesNotMakeTheOtherTheOnlyOne)
+{
+    bus().setFault({sim::LineFault::Flip, 6, 0, 3});
+    Ran ran = run({"--port", port(), "read", "KVP"});
+    EXPECT_EQ(ran.status, 1);
+    EXPECT_EQ(ran.err,
+              "There are several drives; choose one with --node:\n3\tanswers that cannot be read\n7\tTORVA\n");
+    bus().setFault({sim::LineFault::Flip, 6, 0, 3});
+    ran = run({"--port", port(), "scan"});
+    EXPECT_EQ(ran.status, 0);
+    EXPECT_EQ(ran.out, "3\t\t\tunreadable\n7\tTORVA\t4000\tnormal\n");
+}
+
+TEST_F(Cli, WhatWritesOrMovesNeedsANameForItsDrive)
+{
+    const QString reason =
+        "This command writes to a drive or moves it: name the drive with --node. The search found:\n5\tKETA\n";
+    for (const QStringList &command : {QStringList{"write", "KVP=400"}, QStringList{"setpoint", "1"}}) {
+        const Ran ran = run(QStringList{"--port", port()} + command);
+        EXPECT_EQ(ran.status, 1);
+        EXPECT_EQ(ran.err, reason) << command.first().toStdString();
+    }
+    EXPECT_EQ(bus().read(DriveAddress, KVP), 360);
+    EXPECT_EQ(run({"--virtual-drive", "write", "KVP=400"}).out, "KVP\t400\t0\t32767\n") << "its own bus";
+}
+
 TEST_F(Cli, TheOnlyDriveNeedsNoNode)
 {
     const Ran ran = run({"--port", port(), "--json", "read", "KPP", "AXS"});
@@ -109,6 +135,8 @@ TEST_F(Cli, RefusesBeforeAnythingIsWritten)
         {"KPP=-1", "KPP=-1 is outside the drive's limits, 0 to 32767."},
         {"HWTYPE=4000", "HWTYPE is read-only."},
         {"TRF1=2", "TRF1 is not on this model (KETA)."},
+        {"overrideAddr1=554",
+         "overrideAddr1=554 is refused: that register is a command to the drive and not a setting."},
     };
     for (const auto &each : refused) {
         bus().clearReceived();
@@ -162,6 +190,23 @@ TEST_F(Cli, FileOfAModelThatLacksASettingLeavesTheDriveItsOwn)
     EXPECT_THAT(ran.err.toStdString(), HasSubstr("The file has no value for CEI"));
     onDrive({"load", "torva.drc"});
     EXPECT_EQ(bus().read(DriveAddress, inputLogic), 1);
+}
+
+TEST_F(Cli, FileThatWantsACommandWrittenIsNoSuccess)
+{
+    ASSERT_EQ(onDrive({"save", "axis.drc"}).status, 0);
+    QFile file("axis.drc");
+    ASSERT_TRUE(file.open(QIODevice::ReadWrite));
+    QByteArray text = file.readAll();
+    const int value = text.indexOf("value=", text.indexOf("overrideAddr2"));
+    text.replace(value, int(strlen("value=0")), "value=554");
+    file.seek(0);
+    file.write(text);
+    file.close();
+    const Ran ran = onDrive({"load", "axis.drc", "--to-flash"});
+    EXPECT_EQ(ran.status, 1);
+    EXPECT_THAT(ran.err.toStdString(), HasSubstr("overrideAddr2 was not written: register 554 is a command"));
+    EXPECT_THAT(ran.err.toStdString(), HasSubstr("nothing was saved to flash"));
 }
 
 TEST_F(Cli, BadFileIsRefusedAndNothingIsWritten)

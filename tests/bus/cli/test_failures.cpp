@@ -5,6 +5,8 @@
 #include <QDir>
 #include <QThread>
 
+#include <utime.h>
+
 using testing::HasSubstr;
 
 namespace {
@@ -185,7 +187,7 @@ TEST_F(CliFailure, FullDiskIsNoSuccess)
 
 TEST(CliInterrupted, LeavesNothingBehind)
 {
-    PrivateFolder folder;
+    PrivateFolder place;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert("TMPDIR", QDir::currentPath());
     QProcess process;
@@ -202,5 +204,29 @@ TEST(CliInterrupted, LeavesNothingBehind)
     const Ran ran = finish(process);
     EXPECT_EQ(ran.status, 1);
     EXPECT_EQ(ran.err, "Interrupted.\n");
+    EXPECT_TRUE(here.isEmpty());
+
+    // A killed one cannot tidy up; the next one does, but leaves a folder that is in use.
+    start(process, {"--virtual-drive", "status", "--watch"});
+    ASSERT_TRUE(bringsItsFolder());
+    ASSERT_TRUE(process.waitForReadyRead(20000));
+    const QString folder = here.entryList({"velbrin-*"}, QDir::Dirs).first();
+    const auto age = [&folder] {
+        const utimbuf longAgo = {1000000000, 1000000000};
+        ASSERT_EQ(utime(qPrintable(folder), &longAgo), 0);
+    };
+    const auto runAnother = [&environment] {
+        QProcess another;
+        another.setProcessEnvironment(environment);
+        start(another, {"--virtual-drive", "--node", "5", "read", "KVP"});
+        EXPECT_EQ(finish(another).status, 0);
+    };
+    age();
+    runAnother();
+    EXPECT_EQ(here.entryList({"velbrin-*"}, QDir::Dirs), QStringList(folder));
+    process.kill();
+    ASSERT_TRUE(process.waitForFinished());
+    age();
+    runAnother();
     EXPECT_TRUE(here.isEmpty());
 }

@@ -3,7 +3,12 @@
 
 #include "pseudoterminal.h"
 
+#include <QElapsedTimer>
 #include <QJsonObject>
+
+#include <fcntl.h>
+#include <sys/ioctl.h>
+#include <unistd.h>
 
 using testing::HasSubstr;
 
@@ -83,6 +88,34 @@ TEST_F(CliWatch, TerminalIsRedrawnInPlaceAndGivenBack)
         shown.push_back(static_cast<char>(byte));
     EXPECT_THAT(shown, HasSubstr("\x1b[?1049h\x1b[?25l"));
     EXPECT_THAT(shown, HasSubstr("\x1b[?25h\x1b[?1049l"));
+}
+
+TEST_F(CliWatch, AReaderThatHasStoppedDoesNotKeepItFromEnding)
+{
+    for (const int count : {1, 2}) {
+        int ends[2];
+        ASSERT_EQ(pipe(ends), 0);
+        fcntl(ends[0], F_SETPIPE_SZ, 4096); // a few reports fill it
+        QProcess process;
+        process.setStandardOutputFile(QString("/proc/%1/fd/%2").arg(getpid()).arg(ends[1]));
+        start(process, watch({"--json"}));
+        int waiting = 0;
+        for (int before = -1; before != waiting || waiting == 0;) {
+            before = waiting;
+            process.waitForFinished(1000); // three polls: when nothing is added to what waits, it is stuck
+            ioctl(ends[0], FIONREAD, &waiting);
+        }
+        QElapsedTimer timer;
+        timer.start();
+        for (int i = 0; i < count; ++i) {
+            sendSignal(process, i == 0 ? SIGINT : SIGTERM); // two of a kind may be taken for one
+            process.waitForFinished(200);
+        }
+        ASSERT_TRUE(process.state() == QProcess::NotRunning || process.waitForFinished(20000));
+        EXPECT_LT(timer.elapsed(), count == 1 ? 2700 : 1500);
+        close(ends[0]);
+        close(ends[1]);
+    }
 }
 
 TEST_F(CliWatch, LostLineAndClosedPipeEndIt)

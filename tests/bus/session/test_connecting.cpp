@@ -22,8 +22,9 @@ class Connecting : public SessionFixture
 protected:
     bool scan()
     {
+        const int before = log().nodes.size();
         session().getListOfBusNodes(port());
-        return waitUntil([this] { return !log().nodes.isEmpty(); });
+        return waitUntil([this, before] { return log().nodes.size() > before; });
     }
     void expectCannotOpen(const char *name, const char *why)
     {
@@ -107,6 +108,32 @@ TEST_F(TwoDrives, AScanAsksThe25AddressesInOrderAndListsWhatAnswers)
     EXPECT_TRUE(log().errors.isEmpty());
 }
 
+TEST_F(TwoDrives, AnAddressWhoseReplyWasDamagedIsAskedAgain)
+{
+    const struct
+    {
+        const char *name;
+        std::vector<sim::LineFault> faults;
+        std::vector<int> readable, unreadable;
+    } rows[] = {
+        {"a reply of each",
+         {{sim::LineFault::Flip, 6, 0, 1}, {sim::LineFault::Cut, 5, 0, 1}, {sim::LineFault::Double, 4, 1, 1}},
+         {3, 7},
+         {}},
+        {"the first never readable", {{sim::LineFault::Flip, 6, 0, 3}}, {7}, {3}},
+        {"none readable", {{sim::LineFault::Drop, 3}}, {}, {3, 7}},
+    };
+    for (const auto &row : rows) {
+        bus().setFaults(row.faults);
+        ASSERT_TRUE(scan()) << row.name;
+        std::vector<int> readable, unreadable;
+        for (const NodeType &node : log().nodes.last())
+            (node.unreadable ? unreadable : readable).push_back(node.address);
+        EXPECT_EQ(readable, row.readable) << row.name;
+        EXPECT_EQ(unreadable, row.unreadable) << row.name;
+    }
+}
+
 TEST_F(TwoDrives, AReplyThatComesAfterItsTimeoutIsListedForTheDriveThatSentIt)
 {
     bus().setFault({sim::LineFault::Late, 130, 0, 1}); // the one of address 3, while 4 is being asked
@@ -115,6 +142,13 @@ TEST_F(TwoDrives, AReplyThatComesAfterItsTimeoutIsListedForTheDriveThatSentIt)
     for (const NodeType &node : log().nodes.last())
         addresses << node.address;
     EXPECT_THAT(addresses, ElementsAre(3, 7));
+
+    bus().setFault({sim::LineFault::Late, 500, 1, 1}); // the one of address 7, while 11 is being asked
+    ASSERT_TRUE(scan());
+    addresses.clear();
+    for (const NodeType &node : log().nodes.last())
+        addresses << node.address;
+    EXPECT_THAT(addresses, ElementsAre(3, 7)) << "in order";
 }
 
 TEST_F(InUpgradeMode, ADriveInUpgradeModeIsFoundAndWelcomed)

@@ -135,22 +135,30 @@ template <Fault::Kind kind, int skip> void damage(sim::VirtualBus &bus)
 const char *const ketaFailed = "Flashing firmware failed. Power off, reconnect and try again.";
 const char *const coreFailed = "Flashing TarnwellCore firmware failed. Power off, reconnect and try again.";
 
-// The upgrade's exchanges: erase 0, query 1, length control 2, chunks 3 to 12 (of 320 words), verify 13.
+const char *const startFailed = "but the drive has not confirmed that it starts it.";
+
+// The upgrade's exchanges: query 0, erase 1, query 2, length control 3, chunks 4 to 13 (of 320 words), verify 14, query
+// 15, result 16, protect 17, query 18, length control 19, and then the start (20) or the core's chunks.
 const Failure failures[] = {
     {"EraseRefused", "keta", refuse<191, 1>, "Errors occurred: ", ketaFailed},
     {"UploadedWordRefused", "keta", refuse<192, -1, 100>, "* Command fail (NACK)", ketaFailed},
-    {"EraseUnanswered", "keta", damage<Fault::Missing, 0>, "Communication error flags:", ketaFailed},
-    {"LineLostAtTheFirstChunk", "keta", damage<Fault::Unplugged, 3>, "Communication error flags:", ketaFailed},
-    {"LineLostAtAMiddleChunk", "keta", damage<Fault::Missing, 7>, "Communication error flags:", ketaFailed},
-    {"LineLostAtTheLastChunk", "keta", damage<Fault::Unplugged, 12>, "Communication error flags:", ketaFailed},
-    {"VerificationUnanswered", "keta", damage<Fault::Missing, 14>, "Communication error flags:", ketaFailed},
+    {"EraseUnanswered", "keta", damage<Fault::Missing, 1>, "Communication error flags:", ketaFailed},
+    {"LineLostAtTheFirstChunk", "keta", damage<Fault::Unplugged, 4>, "Communication error flags:", ketaFailed},
+    {"LineLostAtAMiddleChunk", "keta", damage<Fault::Missing, 8>, "Communication error flags:", ketaFailed},
+    {"LineLostAtTheLastChunk", "keta", damage<Fault::Unplugged, 13>, "Communication error flags:", ketaFailed},
+    {"VerificationUnanswered", "keta", damage<Fault::Missing, 16>, "Communication error flags:", ketaFailed},
     {"VerificationFailed", "keta",
      [](sim::VirtualBus &bus) {
          bus.withDrive(5, [](sim::VirtualDrive &drive) { drive.bootloader().setVerificationFails(true); });
      },
      "did not pass device's verification", ketaFailed},
+    {"VerificationRefused", "keta", refuse<191, 3>, "Errors occurred: ", ketaFailed},
+    {"ProtectionRefused", "keta", refuse<191, 7>, "Errors occurred: ", ketaFailed},
+    {"ProtectionUnanswered", "keta", damage<Fault::Missing, 17>, "Communication error flags:", ketaFailed},
+    {"StartRefused", "keta", refuse<191, 4>, "* Command fail (NACK)", startFailed},
+    {"StartUnanswered", "keta", damage<Fault::Missing, 20>, "Communication error flags:", startFailed},
     {"CoreRefused", "torva", refuse<191, 5>, "Errors occurred: ", coreFailed},
-    {"LineLostInTheCore", "torva", damage<Fault::Unplugged, 18>, "Communication error flags:", coreFailed},
+    {"LineLostInTheCore", "torva", damage<Fault::Unplugged, 21>, "Communication error flags:", coreFailed},
 };
 
 class FailedUpgrade : public Flashing, public testing::WithParamInterface<Failure>
@@ -179,11 +187,13 @@ TEST_F(Flashing, ThirtyThreeWordsAreTwoChunksFilledUp)
     for (int i = 0; i < 31; ++i)
         secondChunk += "40eeee";
     const std::string program = "80bf 400002"; // register 191
+    const std::string query = "800a 400000 8009 40000d 800d 00000000";
     ASSERT_TRUE(waitForDisconnect());
     EXPECT_THAT(payloads(),
-                ElementsAre(wire("80bf 00000001"), wire("800a 400000 8009 40000d 800d 00000000"), wire("800a 00000003"),
-                            wire(firstChunk + program), wire(secondChunk + program), wire("80bf 00000003"),
-                            wire("800a 400000 8009 400228"), wire("80bf 00000007"), wire("80bf 00000004")));
+                ElementsAre(wire(query), wire("80bf 00000001"), wire(query), wire("800a 00000003"),
+                            wire(firstChunk + program), wire(secondChunk + program), wire("80bf 00000003"), wire(query),
+                            wire("800a 400000 8009 400228"), wire("80bf 00000007"), wire(query), wire("800a 00000003"),
+                            wire("80bf 00000004")));
     Words expected = image;
     expected.resize(64, 0xEEEE);
     EXPECT_THAT(programmed(), ElementsAreArray(expected));
@@ -196,9 +206,11 @@ TEST_F(Flashing, ThirtyThreeWordsAreTwoChunksFilledUp)
 TEST_F(Flashing, AFullProgressLineIsToldTwice)
 {
     ASSERT_TRUE(connectToBootloader());
+    leaveErrorBit(); // from before: no reason to fail this upgrade
     ASSERT_TRUE(flash(writeFirmware(11000, numberedWords(1024))));
     const std::vector<std::string> texts = told();
     EXPECT_EQ(std::count(texts.begin(), texts.end(), "Uploaded bytes: 2048"), 2);
+    EXPECT_FALSE(log().upgrade.last().failed);
 }
 
 TEST_F(Flashing, ABootloaderIsOnlyAskedForWhatItKnows)
@@ -231,7 +243,7 @@ TEST_F(Flashing, AKetaResetsItsSettingsWithTheErase)
 {
     ASSERT_TRUE(connectToBootloader());
     ASSERT_TRUE(flash(writeFirmware(11000, numberedWords(32)), true));
-    EXPECT_EQ(payloads().front(), wire("80bf 0000000b"));
+    EXPECT_EQ(payloads()[1], wire("80bf 0000000b"));
 }
 
 TEST_F(FlashingTorva, WritesBothProcessors)
@@ -239,7 +251,7 @@ TEST_F(FlashingTorva, WritesBothProcessors)
     ASSERT_TRUE(connectToBootloader());
     const Words io = numberedWords(64), core = numberedWords(96);
     ASSERT_TRUE(flash(writeFirmware(4000, io, core), true));
-    EXPECT_EQ(payloads().front(), wire("80bf 00000001")) << "the reset is a Keta's";
+    EXPECT_EQ(payloads()[1], wire("80bf 00000001")) << "the reset is a Keta's";
     EXPECT_THAT(told(), Contains("<b>STEP1: I/O side firmware</b>"));
     EXPECT_THAT(told(), Contains("I/O side flash contents verified and passed"));
     EXPECT_THAT(told(), Contains("<b>STEP2: TarnwellCore firmware</b>"));

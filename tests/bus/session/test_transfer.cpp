@@ -397,9 +397,11 @@ TEST_F(Transfer, TwoQuickSetpointsAreTwoDifferentOnes)
 
 TEST_F(Transfer, MeasuringReadsEverythingAgain)
 {
+    leaveErrorBit();
     session().command(Connection::TaskMeasure);
     ASSERT_TRUE(waitUntil([this] { return log().read.size() == 2; }));
-    EXPECT_EQ(payloads().front(), wire("822a 00000100"));
+    EXPECT_EQ(payloads()[0], wire("800d 00000000")) << "old error bits are no refusal";
+    EXPECT_EQ(payloads()[1], wire("822a 00000100"));
     EXPECT_THAT(log().busy, ElementsAre(true, false));
     EXPECT_EQ(log().unsaved, 1);
     EXPECT_TRUE(log().errors.isEmpty());
@@ -410,7 +412,7 @@ TEST_F(Transfer, ARefusedMeasurementDoesNotPassForTheOneBefore)
     session().command(Connection::TaskMeasure);
     ASSERT_TRUE(waitUntil([this] { return log().read.size() == 2; }));
     ASSERT_EQ(bus().read(5, 8104), 800);
-    leaveErrorBit();
+    bus().withDrive(5, [](sim::VirtualDrive &drive) { drive.refuseWrites(554, 256); });
     session().command(Connection::TaskMeasure);
     ASSERT_TRUE(waitUntilIdle());
     ASSERT_THAT(log().errors, SizeIs(1));

@@ -188,6 +188,36 @@ TEST_F(SettingsFile, FromAnotherDeviceTypeIsTakenWithAWarning)
     EXPECT_EQ(list.getParam("FWVER").value, -1) << "the identity of another drive is never taken over";
 }
 
+TEST_F(SettingsFile, SavedWithoutADriveLeavesADriveItsOwn)
+{
+    list.addParameter(493, "FBD", 1, 0, false, true, "Keta");
+    Parameters bare;
+    for (const char *name : {"HWTYPE", "KVP", "CEI", "FBD"})
+        bare.addParameter(1, name, 1, 0, false, true, "Keta");
+    SingleParam typed = bare.getParam("KVP");
+    typed.value = 7;
+    bare.replaceParam(typed);
+    ASSERT_EQ(bare.saveToFile(path), "");
+    LoadOutcome outcome = LoadOutcome::Refused;
+    ASSERT_EQ(list.loadFromFile(path, &outcome), "") << "nobody is connected";
+    EXPECT_EQ(outcome, LoadOutcome::Taken);
+    EXPECT_EQ(list.getParam("FBD").value, 1) << "0 would be no feedback device";
+    EXPECT_EQ(list.getParam("CEI").value, 0);
+
+    setType(11000);
+    for (const char *name : {"FBD", "CEI", "KVP"}) {
+        SingleParam held = list.getParam(name);
+        held.value = 5;
+        held.max = 6;
+        list.replaceParam(held);
+    }
+    EXPECT_TRUE(list.loadFromFile(path, &outcome).startsWith("Warning: the loaded file was saved without a drive."));
+    EXPECT_EQ(outcome, LoadOutcome::TakenWithWarning);
+    EXPECT_EQ(list.getParam("FBD").value, 5);
+    EXPECT_EQ(list.getParam("CEI").value, 5);
+    EXPECT_EQ(list.getParam("KVP").value, 7) << "somebody has typed it";
+}
+
 TEST_F(SettingsFile, ThatIsNoneIsRefusedWithNothingTakenOver)
 {
     const QByteArray array = "[TDT3Params]\n";
@@ -209,6 +239,9 @@ TEST_F(SettingsFile, ThatIsNoneIsRefusedWithNothingTakenOver)
         {header + array + good, cannotRead + note}, // cut short
         {header + array + good + "size=1\nnoise\n", cannotRead + note},
         {header + array + good + "size=-1\n", cannotRead + note},
+        {header + array + good + entry(2, "CEI", "1") + "size=1",
+         cannotRead + " It is incomplete: there are more settings in it than it counts." + note}, // of "size=12"
+        {header + array + entry(1, "\\x1b[2J", "1") + "size=1\n", unknown.arg("?[2J") + note},
         {header + array + good + entry(2, "BOGUS", "1") + "size=2\n", unknown.arg("BOGUS") + note},
         {header + array + good + "size=1000000000\n", unknown.arg("") + note},
         {QByteArray(9 << 20, '\n'), cannotRead},
@@ -220,7 +253,10 @@ TEST_F(SettingsFile, ThatIsNoneIsRefusedWithNothingTakenOver)
     for (const auto &f : files) {
         QElapsedTimer time;
         time.start();
-        EXPECT_EQ(load(f.bytes), f.message) << f.bytes.left(200).toStdString();
+        write(f.bytes);
+        LoadOutcome outcome = LoadOutcome::Taken;
+        EXPECT_EQ(list.loadFromFile(path, &outcome), f.message) << f.bytes.left(200).toStdString();
+        EXPECT_EQ(outcome, LoadOutcome::Refused);
         EXPECT_LT(time.elapsed(), 5000);
         expectUnchanged();
         EXPECT_EQ(content(), f.bytes) << "reading left the file alone";

@@ -5,12 +5,11 @@
 #include <QDir>
 
 VirtualPort::VirtualPort(const QString &profiles)
-    : m_folder(QDir::tempPath() + QLatin1String("/velbrin-XXXXXX")), m_previous(QDir::currentPath())
+    : m_folder(QStringLiteral("velbrin-cli-")), m_previous(QDir::currentPath())
 {
-    if (!m_folder.isValid()) {
-        m_error = m_folder.errorString();
+    m_error = m_folder.error();
+    if (!m_error.isEmpty())
         return;
-    }
     sim::BusOptions options;
     m_error = QString::fromStdString(sim::parseDrives(profiles.toStdString(), options.drives));
     if (!m_error.isEmpty())

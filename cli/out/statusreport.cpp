@@ -2,7 +2,9 @@
 
 #include "driveclient.h"
 #include "drivesteps.h"
+#include "drivewords.h"
 #include "plaintext.h"
+#include "statustexts.h"
 
 #include <QCoreApplication>
 #include <QJsonArray>
@@ -50,24 +52,31 @@ QList<StatusReport::Line> identityLines(const DriveClient &client, const Paramet
 
 } // namespace
 
-StatusReport statusReport(const DriveClient &client, const Parameters &list, const LiveState &live)
+StatusReport statusReport(const DriveClient &client, const Parameters &list, const DriveState &live)
 {
+    // In this order, as the last says what the marks in all of them mean.
+    bool isInactive = false;
+    const QString inputs = getDigitalInsString(live, isInactive);
+    const QString status = getStatusRegString(live, isInactive);
+    if (live.firmwareUpgradeMode)
+        isInactive = false;
+    const QStringList none(Connection::tr("Not available in firmware upgrade mode"));
     const auto lines = [](const QString &html) { return plainText(html).split(QLatin1Char('\n'), Qt::SkipEmptyParts); };
     return {identityLines(client, list),
-            {{"inputs", tr("Physical inputs"), lines(live.inputs)},
-             {"status", tr("Status"), lines(live.status)},
-             {"faults", tr("Fault register"), lines(live.faults)}},
-            readPanels(live)};
+            {{"inputs", tr("Physical inputs"), live.firmwareUpgradeMode ? none : lines(inputs)},
+             {"status", tr("Status"), live.firmwareUpgradeMode ? none : lines(status)},
+             {"faults", tr("Fault register"), lines(getFaultRegString(live, isInactive))}},
+            live};
 }
 
 Results toResults(const StatusReport &report)
 {
     Results results;
-    QJsonObject json{{"running", report.drive.running},
+    QJsonObject json{{"running", report.drive.isRunning()},
                      {"setpoint", report.drive.setpoint},
                      {"position", report.drive.position},
-                     {"activeFaults", QJsonArray::fromStringList(report.drive.faults)},
-                     {"reasons", QJsonArray::fromStringList(report.drive.reasons)}};
+                     {"activeFaults", QJsonArray::fromStringList(activeFaults(report.drive))},
+                     {"reasons", QJsonArray::fromStringList(inactivityReasons(report.drive))}};
     for (const StatusReport::Line &line : report.identity) {
         results.lines.append(line.caption + QLatin1Char('\t') + line.value.toString());
         json.insert(QLatin1String(line.key), QJsonValue::fromVariant(line.value));

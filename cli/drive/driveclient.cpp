@@ -50,17 +50,12 @@ void DriveClient::watchConnection()
         to.list = list;
         to.polls = 0;
     });
-    on(&Connection::physInputsUpdated, [&to](const QString &html) { to.live.inputs = html; });
-    on(&Connection::statusRegisterUpdated, [&to](const QString &html) { to.live.status = html; });
-    on(&Connection::faultRegisterUpdated, [&to](const QString &html) {
-        to.live.faults = html;
+    on(&Connection::statePolled, [&to](const DriveState &state) {
+        to.live = state;
         ++to.polls;
     });
-    on(&Connection::disableAnswered, [&to](bool acknowledged) {
-        to.disableAnswered = acknowledged;
-        to.polls = 0;
-    });
-    on(&Connection::updateCaptureButtonText, [&to](const QString &text) { to.captureState = text; });
+    on(&Connection::disableFinished, [&to](DisableOutcome outcome) { to.disableOutcome = outcome; });
+    on(&Connection::captureStateChanged, [&to](CaptureState state) { to.captureState = state; });
     on(&Connection::plotReady, [&to](const QList<CaptureData> &capture) { to.plot = capture; });
     on(&Connection::firmwareUpgradeMsg, [&to](const QString &html, bool done, bool failed) {
         if (to.upgradeMessage)
@@ -70,9 +65,11 @@ void DriveClient::watchConnection()
         if (to.uploadProgress)
             to.uploadProgress(sentBytes, totalBytes);
     });
-    on(&Connection::error, [this](const QString &html) {
-        ++m_received.errors;
-        say(plainText(html));
+    on(&Connection::message, [this](const Message &message) {
+        const bool isWrong = message.kind != MessageKind::Note && message.kind != MessageKind::FileWarning;
+        m_received.errors += isWrong;
+        if (isWrong || m_received.notes)
+            say(plainText(message.text));
     });
     on(&Connection::suggestDeviceRestart,
        [this] { say(tr("The drive is in permanent stop: save what it should keep, then restart it.")); });
@@ -109,12 +106,12 @@ bool DriveClient::waitFor(const QString &what, const std::function<bool()> &done
 }
 
 /// Waits for the session's answer or the loss of the line. What comes is due, so a time-out is worth a message.
-bool DriveClient::waitForSession(const QString &what, const std::function<bool()> &answered, int limitMs)
+bool DriveClient::waitForSession(const QString &what, const std::function<bool()> &answered, int limitMs, Until until)
 {
     const auto done = [this, &answered] { return isLost() || answered(); };
-    if (!waitFor(what, done, limitMs) && !m_interrupted)
+    if (!waitFor(what, done, limitMs, until) && !m_interrupted)
         say(tr("No answer from the drive session within %1 s (%2).").arg(limitMs / 1000).arg(what));
-    return answered() && !isLost() && !m_interrupted;
+    return answered() && !isLost() && (!m_interrupted || until == Until::Done);
 }
 
 std::optional<QList<NodeType>> DriveClient::scan()
@@ -126,13 +123,13 @@ std::optional<QList<NodeType>> DriveClient::scan()
     return waitForSession(tr("Searching drives"), answered, scanLimitMs) ? m_received.nodes : std::nullopt;
 }
 
-bool DriveClient::connectTo(int address)
+bool DriveClient::connectTo(int address, Until until)
 {
     m_address = address;
     m_received.link = Received::Link::None;
     m_connection->connectDevice(m_port, address);
     return waitForSession(
-        tr("Connecting"), [this] { return isUp(); }, connectLimitMs);
+        tr("Connecting"), [this] { return isUp(); }, connectLimitMs, until);
 }
 
 bool DriveClient::disconnectDrive()
@@ -174,6 +171,7 @@ std::optional<Parameters> DriveClient::write(const Parameters &list)
 {
     if (!isUp())
         return std::nullopt;
+    beCareful();
     m_connection->setParams(list);
     m_connection->command(Connection::TaskSetParams);
     return readBack(tr("Writing the drive's settings"));
@@ -183,18 +181,24 @@ bool DriveClient::saveToFlash()
 {
     if (!isUp())
         return false;
-    // Saving has no answer of its own: the read behind it tells that it was carried out.
+    beCareful();
     m_connection->command(Connection::TaskSaveToFlash);
-    return readBack(tr("Saving to the drive's flash")).has_value();
+    // Saving has no answer of its own: a poll behind it tells that it was carried out. Two may already be on their way.
+    constexpr int pollsBehind = 3;
+    m_received.polls = 0;
+    for (int i = 0; i < pollsBehind; ++i)
+        m_connection->command(Connection::TaskUpdateStatus);
+    const auto answered = [this] { return m_received.polls >= pollsBehind; };
+    return waitForSession(tr("Saving to the drive's flash"), answered, transferLimitMs);
 }
 
-std::optional<LiveState> DriveClient::liveState()
+std::optional<DriveState> DriveClient::liveState()
 {
     m_connection->command(Connection::TaskUpdateStatus);
     return nextLiveState();
 }
 
-std::optional<LiveState> DriveClient::nextLiveState()
+std::optional<DriveState> DriveClient::nextLiveState()
 {
     if (!isUp())
         return std::nullopt;
@@ -205,7 +209,7 @@ std::optional<LiveState> DriveClient::nextLiveState()
     return m_received.live;
 }
 
-bool DriveClient::waitForDrive(const QString &what, const std::function<bool(const DriveReading &)> &shown, int limitMs)
+bool DriveClient::waitForDrive(const QString &what, const std::function<bool(const DriveState &)> &shown, int limitMs)
 {
     m_received.polls = 0;
     m_connection->command(Connection::TaskUpdateStatus);
@@ -216,10 +220,11 @@ bool DriveClient::waitForDrive(const QString &what, const std::function<bool(con
 
 void DriveClient::close()
 {
-    if (!m_connection)
+    if (m_closed)
         return;
-    if (m_breakOff) {
-        m_connection.reset(); // ends every pause and transfer
+    m_closed = true;
+    if (m_interrupted) {
+        m_connection.reset(); // ends every pause, and whatever only reads
     } else {
         m_connection->command(Connection::TaskDisconnect);
         m_connection->command(Connection::TaskQuit);
@@ -228,6 +233,13 @@ void DriveClient::close()
     }
     // The last signals of the session are still on their way.
     QCoreApplication::sendPostedEvents(this);
+    m_noForce.reset();
+}
+
+void DriveClient::beCareful()
+{
+    if (!m_noForce && !m_closed)
+        m_noForce.emplace();
 }
 
 void DriveClient::setOnInterrupt(OnInterrupt what, const QString &warning)
@@ -244,7 +256,6 @@ void DriveClient::interrupt()
         return;
     }
     m_interrupted = true;
-    m_breakOff = m_onInterrupt == OnInterrupt::AskOnceMore;
     if (m_onInterrupt != OnInterrupt::EndQuietly)
         say(tr("Interrupted."));
     m_loop.quit();

@@ -38,6 +38,9 @@ QString refusal(const Parameters &drive, const Assignment &assignment, const QSt
         return tr("%1=%2 is outside the drive's limits, %3 to %4.")
             .arg(param.name, shortNumber(assignment.value), shortNumber(param.min), shortNumber(param.max));
     }
+    if (assignment.name.startsWith(QLatin1String("overrideAddr")) && isCommandToDrive(truncateToInt32(value)))
+        return tr("%1=%2 is refused: that register is a command to the drive and not a setting.")
+            .arg(param.name, shortNumber(assignment.value));
     return QString();
 }
 

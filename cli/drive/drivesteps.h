@@ -9,20 +9,32 @@
 #include <optional>
 
 class DriveClient;
+struct NodeType;
 struct CommandLine;
 
 /// Model name of the connected drive, as parameters know it.
 QString modelName(const DriveClient &client);
 /// "normal" or "upgrade".
 QString modeName(bool upgradeMode);
+/// Address and model of a drive that a search has found, tab separated.
+QString nodeLine(const NodeType &node);
 /// name, value, minimum, maximum of the named settings in their order; of all, in catalogue order, without names.
 Table settingsTable(const Parameters &list, const QStringList &names);
 
-/// Connects to --node, or to the only drive that answers. On failure `messages` says what the session does not.
-bool connectToDrive(DriveClient &client, const CommandLine &line, QStringList &messages);
+/// What a command connects for.
+enum class Use {
+    Look, ///< reads, or stops
+    Act,  ///< writes or moves: on a real bus the drive has to be named
+};
+
+/// Connects to the drive at nodeOf(). On failure `messages` says what the session does not.
+bool connectToDrive(DriveClient &client, const CommandLine &line, Use use, QStringList &messages);
+
+/// The bus address to work with: --node, or that of the only drive that answers, where that is enough.
+std::optional<int> nodeOf(DriveClient &client, const CommandLine &line, Use use, QStringList &messages);
 
 /// Connects and reads all settings.
-std::optional<Parameters> readDrive(DriveClient &client, const CommandLine &line, QStringList &messages);
+std::optional<Parameters> readDrive(DriveClient &client, const CommandLine &line, Use use, QStringList &messages);
 
 /// Loads a file over the drive's list. No value when the file was refused; a warning is a message.
 std::optional<Parameters> loadFile(const DriveClient &client, const QString &fileName, const Parameters &drive,

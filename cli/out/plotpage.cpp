@@ -39,8 +39,9 @@ void inlineFiles(QString &page, const char *reference, const char *begin, const 
 QString findFlotFolder()
 {
     const QString program = QCoreApplication::applicationDirPath();
-    const QString folders[] = {QDir::currentPath(), qEnvironmentVariable("VELBRIN_DATA"),
-                               program + QLatin1String("/../share/velbrin"), program + QLatin1String("/../data")};
+    // The working directory last: a folder of downloads must not put its scripts into the page.
+    const QString folders[] = {qEnvironmentVariable("VELBRIN_DATA"), program + QLatin1String("/../share/velbrin"),
+                               program + QLatin1String("/../data"), QDir::currentPath()};
     for (const QString &folder : folders) {
         // The sources have a "flot" folder too, but with the style sheet only.
         if (!folder.isEmpty() && QFile::exists(folder + QLatin1String("/flot/jquery.flot.js")))

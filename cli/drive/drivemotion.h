@@ -3,27 +3,30 @@
 #ifndef DRIVEMOTION_H
 #define DRIVEMOTION_H
 
+#include "drivesteps.h"
+
 #include <QStringList>
 
 class DriveClient;
 struct CommandLine;
 
 /// Connects to a drive in normal mode and learns its state.
-bool connectToMove(DriveClient &client, const CommandLine &line, QStringList &messages);
+bool connectToMove(DriveClient &client, const CommandLine &line, Use use, QStringList &messages);
 
 /// Enables the drive and waits until its motor is powered. When that does not happen the enable is taken back, so that
 /// no drive starts later by itself, and `messages` says what keeps it from running.
 bool enableDrive(DriveClient &client, QStringList &messages);
 
-/// Disables the drive and waits until its state shows it; also when the command was interrupted. On failure messages()
-/// of the client tells in plain words that the drive may still move.
+/// Disables the drive and waits until its state shows it; also when the command was interrupted, and through a new
+/// opening of the port when there is no connection (any more). On failure messages() of the client tells in plain words
+/// that the drive may still move.
 bool disableDrive(DriveClient &client);
 
 /// Disables the drive when it goes out of scope, however the command ends, unless told to leave it alone.
 class DisableAtEnd
 {
 public:
-    explicit DisableAtEnd(DriveClient &client) : m_client(&client) {}
+    explicit DisableAtEnd(DriveClient &client);
     ~DisableAtEnd() { now(); }
     DisableAtEnd(const DisableAtEnd &) = delete;
     DisableAtEnd &operator=(const DisableAtEnd &) = delete;

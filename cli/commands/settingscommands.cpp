@@ -21,9 +21,13 @@ QString tr(const char *text)
 Table nodeTable(const QList<NodeType> &nodes)
 {
     Table table{{"address", "model", "typeId", "mode"}, {}};
-    for (const NodeType &node : nodes)
-        table.rows.append({node.address, Connection::deviceModelName(node.deviceType, false), node.deviceType,
-                           modeName(node.firmwareUpgradeMode)});
+    for (const NodeType &node : nodes) {
+        if (node.unreadable)
+            table.rows.append({node.address, QString(), QVariant(), QStringLiteral("unreadable")});
+        else
+            table.rows.append({node.address, Connection::deviceModelName(node.deviceType, false), node.deviceType,
+                               modeName(node.firmwareUpgradeMode)});
+    }
     return table;
 }
 
@@ -41,7 +45,7 @@ Outcome scan(DriveClient &client, const CommandLine &)
 Outcome read(DriveClient &client, const CommandLine &line)
 {
     QStringList messages;
-    const auto list = readDrive(client, line, messages);
+    const auto list = readDrive(client, line, Use::Look, messages);
     if (!list)
         return failed(messages);
     for (const QString &name : line.arguments) {
@@ -54,7 +58,7 @@ Outcome read(DriveClient &client, const CommandLine &line)
 Outcome write(DriveClient &client, const CommandLine &line)
 {
     QStringList messages;
-    const auto drive = readDrive(client, line, messages);
+    const auto drive = readDrive(client, line, Use::Act, messages);
     if (!drive)
         return failed(messages);
     Parameters wanted = *drive;
@@ -77,7 +81,7 @@ Outcome write(DriveClient &client, const CommandLine &line)
 Outcome save(DriveClient &client, const CommandLine &line)
 {
     QStringList messages;
-    const auto list = readDrive(client, line, messages);
+    const auto list = readDrive(client, line, Use::Look, messages);
     if (!list)
         return failed(messages);
     const QString fileName = line.arguments.first();
@@ -90,7 +94,7 @@ Outcome save(DriveClient &client, const CommandLine &line)
 Outcome load(DriveClient &client, const CommandLine &line)
 {
     QStringList messages;
-    const auto drive = readDrive(client, line, messages);
+    const auto drive = readDrive(client, line, Use::Act, messages);
     if (!drive)
         return failed(messages);
     const auto wanted = loadFile(client, line.arguments.first(), *drive, messages);
@@ -107,7 +111,7 @@ Outcome load(DriveClient &client, const CommandLine &line)
 Outcome compare(DriveClient &client, const CommandLine &line)
 {
     QStringList messages;
-    const auto drive = readDrive(client, line, messages);
+    const auto drive = readDrive(client, line, Use::Look, messages);
     if (!drive)
         return failed(messages);
     const auto file = loadFile(client, line.arguments.first(), *drive, messages);
@@ -160,7 +164,8 @@ QList<Command> settingsCommands()
         {"scan", "", TEXT("the drives: address, model, type id, normal or upgrade"),
          TEXT("Asks the bus addresses 1 to 20 and 251 to 255, which takes 2.5 s. One line a drive, tab separated: "
               "address,\n"
-              "model, type id, \"normal\" or \"upgrade\" (in firmware-upgrade mode)."),
+              "model, type id, \"normal\" or \"upgrade\" (in firmware-upgrade mode). An address whose answers cannot be\n"
+              "read (two drives on it, a bad line) has neither model nor type id and is called \"unreadable\"."),
          0, 0, scan},
         {"read",
          "[NAME...]",

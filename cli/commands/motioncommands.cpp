@@ -5,6 +5,7 @@
 #include "driveclient.h"
 #include "drivemotion.h"
 #include "drivesteps.h"
+#include "drivewords.h"
 #include "numbers.h"
 
 #include <QCoreApplication>
@@ -22,31 +23,20 @@ QString tr(const char *text)
     return QCoreApplication::translate("MotionCommands", text);
 }
 
-QString stateWord(const DriveReading &drive)
-{
-    if (drive.faultStopped)
-        return QStringLiteral("fault");
-    if (drive.homing)
-        return QStringLiteral("homing");
-    if (drive.running)
-        return QStringLiteral("running");
-    return drive.enabled ? QStringLiteral("waiting") : QStringLiteral("disabled");
-}
-
-Outcome done(const DriveReading &drive)
+Outcome done(const DriveState &drive)
 {
     Results results;
     results.lines.append(QStringLiteral("%1\t%2\t%3").arg(stateWord(drive)).arg(drive.setpoint).arg(drive.position));
     results.json = QJsonObject{{"state", stateWord(drive)},
                                {"setpoint", drive.setpoint},
                                {"position", drive.position},
-                               {"faults", QJsonArray::fromStringList(drive.faults)},
-                               {"reasons", QJsonArray::fromStringList(drive.reasons)}};
+                               {"faults", QJsonArray::fromStringList(activeFaults(drive))},
+                               {"reasons", QJsonArray::fromStringList(inactivityReasons(drive))}};
     return {ExitDone, results, {}};
 }
 
 /// Refused, with what keeps the drive from running where that is why.
-Outcome refused(const QString &what, const DriveReading &drive)
+Outcome refused(const QString &what, const DriveState &drive)
 {
     const QString reason = inactivityText(drive);
     return failed(reason.isEmpty() ? QStringList(what) : QStringList{what, reason});
@@ -62,40 +52,56 @@ QString listed(const QStringList &names)
 Outcome enable(DriveClient &client, const CommandLine &line)
 {
     QStringList messages;
-    if (!connectToMove(client, line, messages) || !enableDrive(client, messages))
+    if (!connectToMove(client, line, Use::Act, messages) || !enableDrive(client, messages))
         return failed(messages);
     Outcome outcome = done(client.drive());
-    if (client.drive().recovering)
+    if (client.drive().isRecovering())
         outcome.messages.append(tr("The axis is on its way to the setpoint in use."));
     return outcome;
 }
 
+/// The disable goes out first, before anything that a bad line could keep from succeeding.
 Outcome disable(DriveClient &client, const CommandLine &line)
 {
     QStringList messages;
-    // The state is not asked for first: the disable is what matters.
-    if (!connectToDrive(client, line, messages))
+    const auto node = nodeOf(client, line, Use::Look, messages);
+    if (!node)
         return failed(messages);
+    client.received().notes = false;
+    client.session().setDisableTarget(client.port(), *node);
+    const bool isDisabled = disableDrive(client);
+    if (!client.connectTo(*node) || !client.liveState()) {
+        if (!isDisabled)
+            return failed();
+        client.close();
+        client.forgetMessages(); // what keeps it from being identified is not what was asked for
+        return {ExitDone, {{QStringLiteral("disabled")}, QJsonObject{{"state", "disabled"}}}, {}};
+    }
     if (client.isInUpgradeMode())
         return failed({tr("The drive is in firmware-upgrade mode and cannot move there.")});
-    return disableDrive(client) ? done(client.drive()) : failed();
+    // Once more, and with the reasons for what it shows.
+    if (!disableDrive(client))
+        return failed();
+    client.close();
+    client.forgetMessages();
+    return done(client.drive());
 }
 
 Outcome clearFaults(DriveClient &client, const CommandLine &line)
 {
     QStringList messages;
-    if (!connectToMove(client, line, messages))
+    if (!connectToMove(client, line, Use::Act, messages))
         return failed(messages);
     client.session().clearDriveFaults();
-    const auto areCleared = [](const DriveReading &drive) { return drive.faults.isEmpty(); };
+    const auto areCleared = [](const DriveState &drive) { return activeFaults(drive).isEmpty(); };
     client.waitForDrive(tr("Clearing faults"), areCleared, answerLimitMs);
     // A cause that is still there raises its fault again at once.
     if (!client.nextLiveState())
         return failed();
-    const DriveReading drive = client.drive();
-    if (!drive.faults.isEmpty())
-        return failed({tr("Still active: %1.").arg(listed(drive.faults))});
-    if (drive.permanentStop)
+    const DriveState drive = client.drive();
+    if (!activeFaults(drive).isEmpty())
+        return failed({tr("Still active: %1.").arg(listed(activeFaults(drive)))});
+    if (drive.isPermanentStop())
         return failed({tr("The faults are cleared, but the drive is in permanent stop until its next restart.")});
     return done(drive);
 }
@@ -103,10 +109,12 @@ Outcome clearFaults(DriveClient &client, const CommandLine &line)
 /// True when the drive has left homing for whatever reason.
 bool abortHoming(DriveClient &client)
 {
+    if (!client.isUp())
+        client.connectTo(client.address(), DriveClient::Until::Done);
     client.session().command(Connection::TaskAbortHoming);
     client.session().command(Connection::TaskUpdateStatus);
     client.received().polls = 0;
-    const auto hasEnded = [&client] { return client.received().polls > 0 && !client.drive().homing; };
+    const auto hasEnded = [&client] { return client.received().polls > 0 && !client.drive().isHoming(); };
     const auto isDecided = [&client, &hasEnded] { return client.isLost() || hasEnded(); };
     client.waitFor(tr("Aborting homing"), isDecided, answerLimitMs, DriveClient::Until::Done);
     return client.isUp() && hasEnded();
@@ -115,19 +123,20 @@ bool abortHoming(DriveClient &client)
 Outcome home(DriveClient &client, const CommandLine &line)
 {
     QStringList messages;
-    if (!connectToMove(client, line, messages))
+    if (!connectToMove(client, line, Use::Act, messages))
         return failed(messages);
-    if (!client.drive().running)
+    if (!client.drive().isRunning())
         return refused(tr("The drive is not enabled, so it was not asked to home."), client.drive());
 
     const auto seconds = number(line.value("time-out"), 0.0, longestWaitSeconds).value_or(defaultHomingSeconds);
-    const auto isHoming = [](const DriveReading &drive) { return drive.homing; };
-    const auto hasEnded = [](const DriveReading &drive) { return !drive.homing; };
+    const auto isHoming = [](const DriveState &drive) { return drive.isHoming(); };
+    const auto hasEnded = [](const DriveState &drive) { return !drive.isHoming(); };
+    client.beCareful();
     client.session().command(Connection::TaskStartHoming);
     const bool hasBegun = client.waitForDrive(tr("Starting to home"), isHoming, answerLimitMs);
     if (hasBegun && client.waitForDrive(tr("Homing"), hasEnded, int(seconds * 1000.0))) {
-        const DriveReading drive = client.drive();
-        return drive.running ? done(drive) : refused(tr("Homing was broken off by the drive."), drive);
+        const DriveState drive = client.drive();
+        return drive.isRunning() ? done(drive) : refused(tr("Homing was broken off by the drive."), drive);
     }
     if (!abortHoming(client))
         return failed({tr("The drive has not confirmed that homing is aborted. It may still be moving: use the "
@@ -141,7 +150,7 @@ Outcome home(DriveClient &client, const CommandLine &line)
 Outcome setpoint(DriveClient &client, const CommandLine &line)
 {
     QStringList messages;
-    if (!connectToMove(client, line, messages))
+    if (!connectToMove(client, line, Use::Act, messages))
         return failed(messages);
     const bool isIncremental = line.has("incremental");
     const int value = line.arguments.first().toInt();
@@ -152,7 +161,7 @@ Outcome setpoint(DriveClient &client, const CommandLine &line)
     client.session().setTargetSetpoint(value);
     client.session().command(isIncremental ? Connection::TaskSetIncrementalSetpoint
                                            : Connection::TaskSetAbsoluteSetpoint);
-    const auto isTaken = [target](const DriveReading &drive) { return drive.setpoint == target; };
+    const auto isTaken = [target](const DriveState &drive) { return drive.setpoint == target; };
     if (!client.waitForDrive(tr("Setting the setpoint"), isTaken, answerLimitMs))
         return failed(client.isUp() && !client.wasInterrupted()
                           ? QStringList(tr("The drive did not take it: its setpoint in use is %1. Does it take its "
@@ -160,7 +169,7 @@ Outcome setpoint(DriveClient &client, const CommandLine &line)
                                             .arg(client.drive().setpoint))
                           : QStringList());
     Outcome outcome = done(client.drive());
-    if (!client.drive().running)
+    if (!client.drive().isRunning())
         outcome.messages.append(tr("The drive is not running; the axis goes there when it does."));
     return outcome;
 }
@@ -196,14 +205,19 @@ QList<Command> motionCommands()
               "drive stays enabled when the command has ended: nothing watches it then. \"disable\" ends it.\n"
               "\n"
               "Prints state, setpoint in use (setpoint units) and position feedback (counts), tab separated. When the\n"
-              "motor is not powered within 3 s, the enable is taken back and the reason told. Ctrl+C disables."),
+              "motor is not powered within 3 s, or the drive does not confirm it, the enable is taken back and the "
+              "reason told.\n"
+              "Ctrl+C disables."),
          0, 0, enable},
         {"disable", "", TEXT("disable the drive, and wait until its state shows it"),
-         TEXT("Give --node: the search for drives would take 2.5 s. Exit status 1 when the drive has not confirmed "
-              "that it\n"
-              "is disabled; it may then still be running. This is no emergency stop.\n"
+         TEXT("Goes out before anything else is asked. Give --node: the search for drives would take 2.5 s. Exit status "
+              "1 when\n"
+              "the drive has not confirmed that it is disabled; it may then still be running. This is no emergency "
+              "stop.\n"
               "\n"
-              "Prints state, setpoint in use (setpoint units) and position feedback (counts), tab separated."),
+              "Prints state, setpoint in use (setpoint units) and position feedback (counts), tab separated; only the "
+              "state\n"
+              "when the drive could be disabled but not identified."),
          0, 0, disable},
         {"clear-faults", "", TEXT("clear the drive's faults"),
          TEXT(

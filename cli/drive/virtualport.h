@@ -3,8 +3,9 @@
 #ifndef VIRTUALPORT_H
 #define VIRTUALPORT_H
 
+#include "workfolder.h"
+
 #include <QString>
-#include <QTemporaryDir>
 #include <memory>
 
 namespace sim {
@@ -27,7 +28,7 @@ public:
     static QString portName() { return QStringLiteral("COM1"); }
 
 private:
-    QTemporaryDir m_folder;
+    WorkFolder m_folder;
     QString m_previous;
     QString m_error;
     std::unique_ptr<sim::VirtualBus> m_bus;

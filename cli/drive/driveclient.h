@@ -4,7 +4,7 @@
 #define DRIVECLIENT_H
 
 #include "connection.h"
-#include "drivereading.h"
+#include "interruption.h"
 #include "progress.h"
 
 #include <QEventLoop>
@@ -21,11 +21,12 @@ struct Received
     Link link = Link::None;
     std::optional<QList<NodeType>> nodes;
     std::optional<Parameters> list;
-    LiveState live;
+    DriveState live;
     int polls = 0; ///< of the live state
-    int errors = 0;
-    std::optional<bool> disableAnswered; ///< whether the drive acknowledged; the polls are counted anew from here
-    QString captureState;                ///< what the window's capture button would say
+    int errors = 0;     ///< messages that something went wrong
+    bool notes = true;  ///< whether what the session merely remarks is worth a message
+    std::optional<DisableOutcome> disableOutcome; ///< how a disable, or an enable that was taken back, ended
+    CaptureState captureState = CaptureState::Idle;
     std::optional<QList<CaptureData>> plot;
     std::function<void(const QString &html, bool done, bool failed)> upgradeMessage; ///< called when one arrives
     std::function<void(int sentBytes, int totalBytes)> uploadProgress;
@@ -45,7 +46,7 @@ public:
     /// The drives on the bus. Only while none is connected.
     std::optional<QList<NodeType>> scan();
     /// Connects to the drive at a bus address; one in firmware-upgrade mode counts, see isInUpgradeMode.
-    bool connectTo(int address);
+    bool connectTo(int address) { return connectTo(address, Until::Interrupted); }
     /// Behind everything that was asked before.
     bool disconnectDrive();
     bool isUp() const { return m_received.link == Received::Link::Up; }
@@ -64,13 +65,13 @@ public:
     bool saveToFlash();
 
     /// Asks for the live state and waits for it.
-    std::optional<LiveState> liveState();
+    std::optional<DriveState> liveState();
     /// Waits for the next live state, which comes three times a second.
-    std::optional<LiveState> nextLiveState();
+    std::optional<DriveState> nextLiveState();
     /// The state that came last.
-    DriveReading drive() const { return readPanels(m_received.live); }
+    const DriveState &drive() const { return m_received.live; }
     /// Asks for the live state, then looks at every state that comes, until one shows what is waited for.
-    bool waitForDrive(const QString &what, const std::function<bool(const DriveReading &)> &shown, int limitMs);
+    bool waitForDrive(const QString &what, const std::function<bool(const DriveState &)> &shown, int limitMs);
 
     // --- What steps are made of: see drivemotion.h, capturecommand.cpp, firmwarecommands.cpp ----------------------
 
@@ -78,11 +79,18 @@ public:
     Received &received() { return m_received; }
     Progress &progress() { return m_progress; }
     enum class Until { Interrupted, Done }; ///< whether being interrupted ends the wait; a stop has to be seen through
+    bool connectTo(int address, Until until);
     /// Waits until `done`, which is looked at whenever a signal has come. Returns it.
     bool waitFor(const QString &what, const std::function<bool()> &done, int limitMs, Until until = Until::Interrupted);
     void say(const QString &text);
+    /// Those so far: what went wrong has been mended.
+    void forgetMessages() { m_messages.clear(); }
 
-    /// Ends the connection and the session. messages() is complete only then.
+    /// From here until close() has returned no signal ends the program by force: what was set going has to be stopped,
+    /// and what is being written finished.
+    void beCareful();
+
+    /// Ends the connection and the session, once. messages() is complete only then.
     void close();
     /// What the session and the steps had to say, as plain text.
     QStringList messages() const { return m_messages; }
@@ -104,7 +112,8 @@ private:
     void watchConnection();
     /// Reads all settings, behind whatever has been queued before.
     std::optional<Parameters> readBack(const QString &what);
-    bool waitForSession(const QString &what, const std::function<bool()> &answered, int limitMs);
+    bool waitForSession(const QString &what, const std::function<bool()> &answered, int limitMs,
+                        Until until = Until::Interrupted);
 
     QString m_port;
     int m_address = 0;
@@ -114,7 +123,8 @@ private:
     OnInterrupt m_onInterrupt = OnInterrupt::Fail;
     QString m_warning;
     bool m_interrupted = false;
-    bool m_breakOff = false; ///< do not wait for what the drive has been asked for
+    bool m_closed = false;
+    std::optional<NoForce> m_noForce;
     QStringList m_messages;
     Received m_received;
 

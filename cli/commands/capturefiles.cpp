@@ -5,7 +5,6 @@
 
 #include <QCoreApplication>
 #include <QJsonObject>
-#include <QTemporaryFile>
 
 #include <algorithm>
 #include <functional>
@@ -15,14 +14,6 @@ namespace {
 QString tr(const char *text)
 {
     return QCoreApplication::translate("CaptureFiles", text);
-}
-
-QByteArray csvOf(const Capture &capture, QString &problem)
-{
-    QTemporaryFile file;
-    if (!file.open() || !CapturePlotter().saveCaptureDataCSV(capture.channels, file.fileName()))
-        problem = tr("A temporary file cannot be written: %1.").arg(file.errorString());
-    return problem.isEmpty() ? file.readAll() : QByteArray();
 }
 
 QByteArray pageOf(const Capture &capture, const QString &flotFolder, QString &problem)
@@ -58,7 +49,7 @@ QStringList CaptureFiles::save(const Capture &capture)
         if (!problem.isEmpty())
             problems.append(problem);
     };
-    write(m_csv, [&](QString &problem) { return csvOf(capture, problem); });
+    write(m_csv, [&](QString &) { return CapturePlotter().captureDataCSV(capture.channels); });
     write(m_page, [&](QString &problem) { return pageOf(capture, m_flotFolder, problem); });
     return problems;
 }

@@ -15,12 +15,11 @@ QString tr(const char *text)
     return QCoreApplication::translate("DriveSteps", text);
 }
 
-QStringList severalDrives(const QList<NodeType> &nodes)
+QStringList found(const QString &verdict, const QList<NodeType> &nodes)
 {
-    QStringList lines(tr("There are several drives; choose one with --node:"));
+    QStringList lines(verdict);
     for (const NodeType &node : nodes)
-        lines.append(QStringLiteral("%1\t%2").arg(QString::number(node.address),
-                                                  Connection::deviceModelName(node.deviceType, false)));
+        lines.append(nodeLine(node));
     return lines;
 }
 
@@ -49,23 +48,45 @@ Table settingsTable(const Parameters &list, const QStringList &names)
     return table;
 }
 
-bool connectToDrive(DriveClient &client, const CommandLine &line, QStringList &messages)
+QString nodeLine(const NodeType &node)
 {
-    if (line.node != 0)
-        return client.connectTo(line.node);
-    const auto nodes = client.scan();
-    if (!nodes)
-        return false;
-    if (nodes->isEmpty())
-        messages = QStringList(tr("No drive answers on %1.").arg(client.port()));
-    else if (nodes->size() > 1)
-        messages = severalDrives(*nodes);
-    return nodes->size() == 1 && client.connectTo(nodes->first().address);
+    const QString who =
+        node.unreadable ? tr("answers that cannot be read") : Connection::deviceModelName(node.deviceType, false);
+    return QStringLiteral("%1\t%2").arg(QString::number(node.address), who);
 }
 
-std::optional<Parameters> readDrive(DriveClient &client, const CommandLine &line, QStringList &messages)
+std::optional<int> nodeOf(DriveClient &client, const CommandLine &line, Use use, QStringList &messages)
 {
-    if (!connectToDrive(client, line, messages))
+    if (line.node != 0)
+        return line.node;
+    const auto nodes = client.scan();
+    if (!nodes)
+        return std::nullopt;
+    if (nodes->isEmpty()) {
+        messages = QStringList(tr("No drive answers on %1.").arg(client.port()));
+    } else if (use == Use::Act && line.virtualDrives.isEmpty()) {
+        // A search tells who answers now, not who was meant: a drive that is switched off leaves another the only one.
+        messages = found(tr("This command writes to a drive or moves it: name the drive with --node. The search found:"),
+                         *nodes);
+    } else if (nodes->size() > 1 || nodes->first().unreadable) {
+        messages = found(nodes->size() > 1 ? tr("There are several drives; choose one with --node:")
+                                           : tr("The only address that answers cannot be read:"),
+                         *nodes);
+    } else {
+        return nodes->first().address;
+    }
+    return std::nullopt;
+}
+
+bool connectToDrive(DriveClient &client, const CommandLine &line, Use use, QStringList &messages)
+{
+    const auto node = nodeOf(client, line, use, messages);
+    return node && client.connectTo(*node);
+}
+
+std::optional<Parameters> readDrive(DriveClient &client, const CommandLine &line, Use use, QStringList &messages)
+{
+    if (!connectToDrive(client, line, use, messages))
         return std::nullopt;
     if (client.isInUpgradeMode()) {
         messages = QStringList(tr("The drive is in firmware-upgrade mode and has no settings there."));
@@ -81,10 +102,11 @@ std::optional<Parameters> loadFile(const DriveClient &client, const QString &fil
                                    QStringList &messages)
 {
     Parameters loaded = drive;
-    const QString text = loaded.loadFromFile(fileName);
+    LoadOutcome outcome = LoadOutcome::Refused;
+    const QString text = loaded.loadFromFile(fileName, &outcome);
     if (!text.isEmpty())
         messages.append(plainText(text));
-    if (!text.isEmpty() && !text.startsWith(QLatin1String("Warning")))
+    if (outcome == LoadOutcome::Refused)
         return std::nullopt;
     const QStringList kept = keepWhereFileHasNone(loaded, drive, modelName(client));
     if (!kept.isEmpty())
@@ -94,6 +116,7 @@ std::optional<Parameters> loadFile(const DriveClient &client, const QString &fil
 
 Outcome applySettings(DriveClient &client, const CommandLine &line, const Parameters &wanted, const QStringList &names)
 {
+    const int errors = client.received().errors;
     const auto held = client.write(wanted);
     if (!held)
         return failed({tr("Broken off while writing: the drive may hold some of the new values in its working memory. "
@@ -106,13 +129,16 @@ Outcome applySettings(DriveClient &client, const CommandLine &line, const Parame
             tr("%1: %2 was not taken, the drive has %3.")
                 .arg(difference.name, shortNumber(difference.first), shortNumber(difference.second)));
     }
+    // The session has told why, and there may be nothing to compare: an override's value goes to another register.
+    if (client.received().errors != errors)
+        outcome.status = ExitFailed;
     bool saved = false;
-    if (!notTaken.rows.isEmpty()) {
+    if (!notTaken.rows.isEmpty() || outcome.status == ExitFailed) {
         outcome.status = ExitFailed;
         outcome.messages.append(line.has("to-flash") ? tr("The rest was applied; nothing was saved to flash.")
                                                      : tr("The rest was applied."));
     } else if (line.has("to-flash")) {
-        saved = client.saveToFlash();
+        saved = client.saveToFlash() && client.received().errors == errors;
         if (!saved) {
             outcome.status = ExitFailed;
             outcome.messages.append(tr("The settings were applied; whether they reached the flash is not known."));

@@ -87,6 +87,7 @@ Outcome flash(DriveClient &client, const CommandLine &line)
         DriveClient::OnInterrupt::AskOnceMore,
         tr("An upgrade is running. Breaking it off leaves the drive without a firmware until the next "
            "upgrade. Ask once more to break it off."));
+    client.beCareful();
     client.session().setFirmwareFileName(line.arguments.first(), resetsSettings);
     client.session().command(Connection::TaskFlashFirmware);
     client.waitFor(
@@ -113,13 +114,13 @@ bool reconnect(DriveClient &client, int address, QStringList &messages)
     if (address != 0)
         return client.connectTo(address);
     CommandLine anyDrive;
-    return connectToDrive(client, anyDrive, messages);
+    return connectToDrive(client, anyDrive, Use::Look, messages);
 }
 
 Outcome restart(DriveClient &client, const CommandLine &line)
 {
     QStringList messages;
-    if (!connectToDrive(client, line, messages))
+    if (!connectToDrive(client, line, Use::Act, messages))
         return failed(messages);
     const bool toUpgradeMode = line.has("upgrade-mode");
     const bool wasInUpgradeMode = client.isInUpgradeMode();

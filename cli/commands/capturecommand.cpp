@@ -5,6 +5,7 @@
 #include "captureorder.h"
 #include "commandline.h"
 #include "driveclient.h"
+#include "drivewords.h"
 
 #include <QCoreApplication>
 
@@ -33,8 +34,8 @@ QString rateProblem(const CaptureOrder &order, double highest)
 /// After --enable: waits until the drive stands at its setpoint.
 bool waitUntilReady(DriveClient &client, QStringList &messages)
 {
-    const auto isReady = [](const DriveReading &drive) { return drive.ready && !drive.recovering; };
-    const auto isDecided = [&isReady](const DriveReading &drive) { return isReady(drive) || !drive.running; };
+    const auto isReady = [](const DriveState &drive) { return drive.isReady() && !drive.isRecovering(); };
+    const auto isDecided = [&isReady](const DriveState &drive) { return isReady(drive) || !drive.isRunning(); };
     client.waitForDrive(tr("Waiting until the drive is ready"), isDecided, readyLimitMs);
     if (client.isUp() && !client.wasInterrupted() && isReady(client.drive()))
         return true;
@@ -46,7 +47,7 @@ bool waitUntilReady(DriveClient &client, QStringList &messages)
 /// An excitation needs a drive that somebody has enabled.
 bool canExcite(const DriveClient &client, const CaptureOrder &order, QStringList &messages)
 {
-    if (!order.excites() || client.drive().running)
+    if (!order.excites() || client.drive().isRunning())
         return true;
     messages += QStringList{tr("The drive is not enabled, so nothing would move: enable it first, or give --enable."),
                             inactivityText(client.drive())};
@@ -56,7 +57,7 @@ bool canExcite(const DriveClient &client, const CaptureOrder &order, QStringList
 void arm(DriveClient &client, const CaptureOrder &order, double rate)
 {
     client.received().plot.reset();
-    client.received().captureState.clear();
+    client.received().captureState = CaptureState::Idle;
     client.session().setupCapture(rate, order.trigger, order.channels);
     client.session().command(Connection::TaskInitScope);
 }
@@ -71,9 +72,8 @@ void step(DriveClient &client, const CaptureOrder &order)
 
 bool waitForRecorder(DriveClient &client, double seconds, QStringList &messages)
 {
-    const QString downloading = Connection::tr("Downloading..");
-    const auto isFull = [&client, &downloading] {
-        return client.received().captureState == downloading || client.received().plot;
+    const auto isFull = [&client] {
+        return client.received().captureState == CaptureState::Downloading || client.received().plot;
     };
     const auto done = [&client, &isFull] { return client.isLost() || isFull(); };
     if (client.waitFor(tr("Scope waiting"), done, int(std::ceil(seconds * 1000.0))) && !client.isLost())
@@ -86,7 +86,9 @@ bool waitForRecorder(DriveClient &client, double seconds, QStringList &messages)
 
 std::optional<QList<CaptureData>> download(DriveClient &client)
 {
-    const auto done = [&client] { return client.isLost() || client.received().plot; };
+    const auto done = [&client] {
+        return client.isLost() || client.received().plot || client.received().captureState == CaptureState::Idle;
+    };
     client.waitFor(tr("Downloading"), done, downloadLimitMs);
     return client.wasInterrupted() ? std::nullopt : client.received().plot;
 }
@@ -134,7 +136,8 @@ Outcome capture(DriveClient &client, const CommandLine &line)
     if (!problem.isEmpty())
         return failed({problem});
     QStringList messages;
-    if (!connectToMove(client, line, messages))
+    const bool acts = order.excites() || order.enables;
+    if (!connectToMove(client, line, acts ? Use::Act : Use::Look, messages))
         return failed(messages);
     const double base = client.session().maxScopeSampleRate();
     problem = rateProblem(order, base);
@@ -154,6 +157,7 @@ Outcome capture(DriveClient &client, const CommandLine &line)
     if (!channels)
         return failed(messages);
     capture.channels = *channels;
+    client.close(); // a pipe may be read slowly, or not at all
     const QStringList problems = messages + files.save(capture);
     return {problems.isEmpty() ? ExitDone : ExitFailed, summary(capture), problems};
 }

@@ -26,7 +26,9 @@ const QList<Option> commonOptions = {
          "Without hardware: virtual drives such as keta,torva; keta alone if none are named; keta:flexible=45+noise on "
          "an axis that misbehaves (velbrin-sim --help lists how). They live as long as the command; velbrin-sim keeps "
          "them.")},
-    {"node", "N", TEXT("Bus address, 1 to 255; not needed where there is only one drive.")},
+    {"node", "N",
+     TEXT("Bus address, 1 to 255. Needed by every command that writes to a drive or moves it; the others find the only "
+          "drive by themselves.")},
     {"json", nullptr, TEXT("Print results as JSON.")},
     // Not in the help: a real drive that is not waited for is lost in the middle of a restart or an erase.
     {"pause-scale", "FACTOR", nullptr},

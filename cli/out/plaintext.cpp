@@ -4,6 +4,8 @@
 #include <QRegularExpression>
 #include <QStringList>
 
+#include <algorithm>
+
 namespace {
 
 QRegularExpression expression(const char *pattern)
@@ -67,6 +69,10 @@ QString plainText(const QString &html)
     text.replace(lineBreak, QStringLiteral("\n"));
     text.remove(tag);
     text = replaceEach(text, entity, entityCharacter);
+    // A file's text must not steer the terminal.
+    std::replace_if(
+        text.begin(), text.end(), [](QChar c) { return c.category() == QChar::Other_Control && c != u'\n'; },
+        QChar(u'?'));
     QStringList lines;
     for (const QString &line : text.split(QLatin1Char('\n'))) {
         if (!line.trimmed().isEmpty())

@@ -61,7 +61,7 @@ FirmwareInfo readFirmwareInfo(const QString &fileName)
 
     const qint64 size = QFileInfo(fileName).size();
     const qint64 expected = headerBytes + info.ioImageBytes + info.coreImageBytes + checksumBytes;
-    const bool isRead = info.problem.isEmpty() || info.problem == FirmwareFile::tr("File corrupted");
+    const bool isRead = info.problem.isEmpty() || file.refusal() == FirmwareFile::Refusal::Corrupted;
     if (isRead && size == expected)
         info.checksum = info.problem.isEmpty() ? FirmwareInfo::Checksum::Right : FirmwareInfo::Checksum::Wrong;
     else if (isRead)

@@ -40,7 +40,7 @@ Outcome watch(DriveClient &client, const CommandLine &line, const Parameters &li
 Outcome status(DriveClient &client, const CommandLine &line)
 {
     QStringList messages;
-    if (!connectToDrive(client, line, messages))
+    if (!connectToDrive(client, line, Use::Look, messages))
         return failed(messages);
     const auto list = client.read();
     if (!list)

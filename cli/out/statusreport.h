@@ -3,7 +3,7 @@
 #ifndef STATUSREPORT_H
 #define STATUSREPORT_H
 
-#include "drivereading.h"
+#include "drivestate.h"
 #include "results.h"
 
 class DriveClient;
@@ -26,10 +26,10 @@ struct StatusReport
     };
     QList<Line> identity;
     QList<Panel> panels; ///< inputs, status, faults
-    DriveReading drive;
+    DriveState drive;
 };
 
-StatusReport statusReport(const DriveClient &client, const Parameters &list, const LiveState &live);
+StatusReport statusReport(const DriveClient &client, const Parameters &list, const DriveState &live);
 
 Results toResults(const StatusReport &report);
 

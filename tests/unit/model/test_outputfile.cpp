@@ -1,0 +1,89 @@
+#include "outputfile.h"
+
+#include "captureplotter.h"
+#include "printqt.h"
+
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <csignal>
+#include <sys/resource.h>
+#include <sys/stat.h>
+
+namespace {
+
+/// No file grows beyond 100 bytes while this lives: what a full disk does, for a test that has no disk to fill.
+class SmallDisk
+{
+public:
+    SmallDisk() : m_handler(std::signal(SIGXFSZ, SIG_IGN))
+    {
+        getrlimit(RLIMIT_FSIZE, &m_before);
+        const rlimit small = {100, m_before.rlim_max};
+        setrlimit(RLIMIT_FSIZE, &small);
+    }
+    ~SmallDisk()
+    {
+        setrlimit(RLIMIT_FSIZE, &m_before);
+        std::signal(SIGXFSZ, m_handler);
+    }
+
+private:
+    rlimit m_before{};
+    void (*m_handler)(int);
+};
+
+QByteArray contents(const QString &name)
+{
+    QFile file(name);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+} // namespace
+
+TEST(OutputFile, LeavesTheOldOneWhereTheDiskIsFull)
+{
+    const QTemporaryDir folder;
+    const QString name = folder.filePath("old.csv");
+    CaptureData channel;
+    channel.enabled = true;
+    for (int i = 0; i < 100; ++i)
+        channel.samples.append({i, i});
+    {
+        QFile old(name);
+        ASSERT_TRUE(old.open(QIODevice::WriteOnly) && old.write("old") == 3);
+    }
+    {
+        const SmallDisk disk;
+        OutputFile file(name);
+        ASSERT_EQ(file.open(), "");
+        EXPECT_TRUE(file.write(QByteArray(200, 'x')).startsWith("Error writing to " + name + ": "));
+        EXPECT_FALSE(CapturePlotter().saveCaptureDataCSV({channel}, name));
+    }
+    EXPECT_EQ(contents(name), "old");
+    EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files | QDir::Hidden), QStringList("old.csv"));
+
+    OutputFile full("/dev/full");
+    ASSERT_EQ(full.open(), "");
+    EXPECT_EQ(full.write("x"), "Error writing to /dev/full: Full disk.");
+}
+
+TEST(OutputFile, DoesNotWaitForTheReaderOfAPipe)
+{
+    const QTemporaryDir folder;
+    const QString name = folder.filePath("pipe");
+    ASSERT_EQ(mkfifo(QFile::encodeName(name).constData(), 0600), 0);
+    OutputFile unread(name);
+    EXPECT_EQ(unread.open(), name + " cannot be written: nobody reads from this pipe.");
+
+    QFile reader(name);
+    ASSERT_TRUE(reader.open(QIODevice::ReadWrite | QIODevice::Unbuffered)); // the one way not to wait for a writer
+    OutputFile read(name);
+    ASSERT_EQ(read.open(), "");
+    EXPECT_EQ(read.write("samples"), "");
+    EXPECT_EQ(reader.read(7), "samples");
+}
