@@ -128,12 +128,18 @@ std::vector<AxisFit> fitsOf(const AxisRecord &record, const std::vector<Run> &ru
 bool isSpringy(const AxisRecord &record, const std::vector<Run> &runs, const AxisFit &stiff)
 {
     const double expected = stiff.value[AxisFit::Acceleration];
-    for (const Beside beside : {Beside::Compliance, Beside::Place}) {
-        const std::optional<AxisFit> fit = fitAxis(record, runs, shortestLength(record), beside);
-        const double difference = fit ? std::abs(fit->value[AxisFit::Acceleration] - expected) : 0.0;
-        if (fit && difference > contradiction * fit->error[AxisFit::Acceleration] &&
-            difference > smallestContradiction * expected)
-            return true;
+    for (const std::size_t factor : {1, 2}) {
+        for (const Beside beside : {Beside::Compliance, Beside::Place}) {
+            const std::optional<AxisFit> fit = fitAxis(record, runs, factor * shortestLength(record), beside);
+            if (!fit)
+                continue;
+            const double difference = std::abs(fit->value[AxisFit::Acceleration] - expected);
+            const double error = fit->error[AxisFit::Acceleration];
+            // A long bump leaves little to tell the two apart by: only a sharp answer counts.
+            const bool isSharp = factor == 1 || error < smallestContradiction * expected;
+            if (isSharp && difference > contradiction * error && difference > smallestContradiction * expected)
+                return true;
+        }
     }
     return false;
 }
