@@ -7,6 +7,7 @@
 
 namespace {
 
+constexpr double twoPi = 6.283185307179586;
 constexpr double speedWindow = 0.002;    ///< s on either side
 constexpr double slowestShare = 0.03;    ///< of the highest speed
 constexpr double slowestSteps = 1.5;     ///< encoder steps in the time over which speed is taken
@@ -14,12 +15,18 @@ constexpr double fewestCounts = 100.0;   ///< a run shorter than this is no moti
 constexpr Eigen::Index fewestBumps = 12; ///< in all
 constexpr std::size_t bumpsInLength = 4; ///< overlap: a bump begins every quarter of its length
 
-/// A bump (1 - u^2)^3 for u in [-1, 1] with its differences, one entry a sample of its support.
+constexpr double bumpPower = 4.0;
+
+/// A bump (1 - u^2)^4 for u in [-1, 1] and its first three differences, one entry a sample of its support. Moved over
+/// to the bump, a derivative of the position is exact, whatever the encoder's steps.
 struct Bump
 {
     explicit Bump(std::size_t length);
 
-    std::vector<double> weight, slope, curvature; ///< the latter two per sample and per sample squared
+    /// Average of the derivative of this order of `values`, per sample to that power.
+    double derivative(const double *values, int order) const;
+
+    std::vector<double> difference[4];
     double sum = 0.0;
 };
 
@@ -27,15 +34,25 @@ Bump::Bump(std::size_t length)
 {
     const auto at = [length](double k) {
         const double u = std::clamp(2.0 * k / double(length) - 1.0, -1.0, 1.0);
-        return std::pow(1.0 - u * u, 3.0);
+        return std::pow(1.0 - u * u, bumpPower);
     };
-    for (std::size_t k = 0; k <= length; ++k) {
-        const double here = at(double(k)), before = at(double(k) - 1.0), after = at(double(k) + 1.0);
-        weight.push_back(here);
-        slope.push_back((after - before) / 2.0);
-        curvature.push_back(after - 2.0 * here + before);
-        sum += here;
+    for (std::size_t i = 0; i <= length; ++i) {
+        const double k = double(i);
+        difference[0].push_back(at(k));
+        difference[1].push_back((at(k + 1) - at(k - 1)) / 2.0);
+        difference[2].push_back(at(k + 1) - 2.0 * at(k) + at(k - 1));
+        difference[3].push_back((at(k + 2) - 2.0 * at(k + 1) + 2.0 * at(k - 1) - at(k - 2)) / 2.0);
+        sum += difference[0].back();
     }
+}
+
+double Bump::derivative(const double *values, int order) const
+{
+    double total = 0.0;
+    // From its first value: far from zero the sums would lose digits.
+    for (std::size_t i = 0; i < difference[order].size(); ++i)
+        total += difference[order][i] * (order == 0 ? values[i] : values[i] - values[0]);
+    return (order % 2 == 0 ? total : -total) / sum;
 }
 
 /// The model's columns, and one for what is fitted beside it.
@@ -44,32 +61,30 @@ using Row = Eigen::Matrix<double, AxisFit::Count + 1, 1>;
 struct Equations
 {
     std::vector<Row> rows;
-    std::vector<double> accelerations;
+    std::vector<double> right;
     bool forward = false, backward = false;
 };
 
 /// One equation: averages under a bump that begins at sample `begin` of a run.
 void addEquation(Equations &equations, const AxisRecord &record, const Bump &bump, std::size_t begin, const Run &run,
-                 Beside beside)
+                 Explains explains, const Beside &beside)
 {
-    const double h = record.period, s = bump.sum;
-    double acceleration = 0.0, speed = 0.0, current = 0.0, currentSlope = 0.0, currentCurvature = 0.0, place = 0.0;
-    const double origin = record.position[run.begin];
-    for (std::size_t k = 0; k < bump.weight.size(); ++k) {
-        const double position = record.position[begin + k] - origin, torque = record.torque[begin + k];
-        acceleration += bump.curvature[k] * position;
-        speed -= bump.slope[k] * position;
-        place += bump.weight[k] * position;
-        current += bump.weight[k] * torque;
-        currentSlope -= bump.slope[k] * torque;
-        currentCurvature += bump.curvature[k] * torque;
-    }
-    const double valueBeside = beside == Beside::Place ? place / s : currentCurvature / (s * h * h);
+    const double h = record.period;
+    const double *const position = &record.position[begin], *const torque = &record.torque[begin];
+    const double acceleration = bump.derivative(position, 2) / (h * h), speed = bump.derivative(position, 1) / h;
+    const double current = bump.derivative(torque, 0);
+    const double forward = run.direction > 0 ? 1.0 : 0.0, backward = run.direction < 0 ? -1.0 : 0.0;
     Row row;
-    row << current / s, run.direction > 0 ? -1.0 : 0.0, run.direction < 0 ? 1.0 : 0.0, -speed / (s * h),
-        -currentSlope / (s * h), valueBeside;
+    if (explains == Explains::Current) {
+        row << acceleration, forward, backward, speed, bump.derivative(position, 3) / (h * h * h), 0.0;
+        equations.right.push_back(current);
+    } else {
+        row << current, -forward, -backward, -speed, -bump.derivative(torque, 1) / h, 0.0;
+        equations.right.push_back(acceleration);
+    }
+    if (!beside.values.empty())
+        row[AxisFit::Count] = bump.derivative(&beside.values[begin], beside.order);
     equations.rows.push_back(row);
-    equations.accelerations.push_back(acceleration / (s * h * h));
     (run.direction > 0 ? equations.forward : equations.backward) = true;
 }
 
@@ -98,15 +113,43 @@ std::optional<Solution> solve(Eigen::MatrixXd left, const Eigen::VectorXd &right
     return solution;
 }
 
-/// A fitted coefficient over the first one, with its standard deviation (error propagation to first order).
-void setRatio(AxisFit &fit, int parameter, const Solution &solution)
+/// Coefficients of a = A i - A D - A V v - A d i', as the model's parameters, with their errors to first order.
+AxisFit fitOfAcceleration(const Solution &solution)
 {
+    AxisFit fit;
     const Eigen::MatrixXd &covariance = solution.covariance;
-    const double gain = solution.value[0], ratio = solution.value[parameter] / gain;
-    const double variance = covariance(parameter, parameter) - 2.0 * ratio * covariance(0, parameter) +
-                            ratio * ratio * covariance(0, 0);
-    fit.value[parameter] = ratio;
-    fit.error[parameter] = std::sqrt(std::max(variance, 0.0)) / std::abs(gain);
+    const double gain = solution.value[0];
+    fit.value[AxisFit::Acceleration] = gain;
+    fit.error[AxisFit::Acceleration] = std::sqrt(covariance(0, 0));
+    for (int i = AxisFit::DragForward; i < AxisFit::Count; ++i) {
+        const double ratio = solution.value[i] / gain;
+        const double variance = covariance(i, i) - 2.0 * ratio * covariance(0, i) + ratio * ratio * covariance(0, 0);
+        fit.value[i] = ratio;
+        fit.error[i] = std::sqrt(std::max(variance, 0.0)) / std::abs(gain);
+    }
+    fit.dragCovariance = covariance(AxisFit::DragForward, AxisFit::DragBackward) / (gain * gain);
+    if (solution.value.size() > AxisFit::Count) {
+        fit.beside = solution.value[AxisFit::Count];
+        fit.besideError = std::sqrt(covariance(AxisFit::Count, AxisFit::Count));
+    }
+    return fit;
+}
+
+/// Coefficients of i = a / A + D + V v + d/A a', as the model's parameters.
+AxisFit fitOfCurrent(const Solution &solution)
+{
+    AxisFit fit;
+    for (int i = 0; i < AxisFit::Count; ++i) {
+        fit.value[i] = solution.value[i];
+        fit.error[i] = std::sqrt(solution.covariance(i, i));
+    }
+    const double gain = 1.0 / solution.value[0];
+    fit.value[AxisFit::Acceleration] = gain;
+    fit.error[AxisFit::Acceleration] *= gain * gain;
+    fit.value[AxisFit::DeadTime] *= gain;
+    fit.error[AxisFit::DeadTime] *= std::abs(gain);
+    fit.dragCovariance = solution.covariance(AxisFit::DragForward, AxisFit::DragBackward);
+    return fit;
 }
 
 } // namespace
@@ -147,37 +190,61 @@ std::vector<Run> runsOf(const std::vector<double> &speed, double period)
     return runs;
 }
 
+Beside compliance(const AxisRecord &record)
+{
+    return {record.torque, 2};
+}
+
+Beside place(const AxisRecord &record, const std::vector<Run> &runs)
+{
+    std::vector<double> distance(record.position.size(), 0.0);
+    for (const Run &run : runs) {
+        for (std::size_t k = run.begin; k < run.end; ++k)
+            distance[k] = record.position[k] - record.position[run.begin];
+    }
+    return {distance, 0};
+}
+
+Beside swingingLoad(const AxisRecord &record, double hertz)
+{
+    // Exact from sample to sample while the motor stands; it moves little in between.
+    const double angle = twoPi * hertz * record.period, cosine = std::cos(angle), sine = std::sin(angle);
+    std::vector<double> lags;
+    double lag = 0.0, quarter = 0.0; // the load's distance behind the motor, and its speed over the angular frequency
+    for (std::size_t k = 0; k < record.position.size(); ++k) {
+        lag += k > 0 ? record.position[k] - record.position[k - 1] : 0.0;
+        lags.push_back(lag * twoPi * hertz * twoPi * hertz);
+        const double next = lag * cosine - quarter * sine;
+        quarter = quarter * cosine + lag * sine;
+        lag = next;
+    }
+    return {lags, 0};
+}
+
 std::optional<AxisFit> fitAxis(const AxisRecord &record, const std::vector<Run> &runs, std::size_t length,
-                               Beside beside)
+                               Explains explains, const Beside &beside)
 {
     const Bump bump(length);
     const std::size_t hop = std::max<std::size_t>(1, length / bumpsInLength);
     Equations equations;
     for (const Run &run : runs) {
         for (std::size_t begin = run.begin; begin + length < run.end; begin += hop)
-            addEquation(equations, record, bump, begin, run, beside);
+            addEquation(equations, record, bump, begin, run, explains, beside);
     }
     const auto count = static_cast<Eigen::Index>(equations.rows.size());
     if (count < fewestBumps || !equations.forward || !equations.backward)
         return std::nullopt;
-
-    const int columns = beside == Beside::Nothing ? int(AxisFit::Count) : AxisFit::Count + 1;
+    const int columns = beside.values.empty() ? int(AxisFit::Count) : AxisFit::Count + 1;
     Eigen::MatrixXd left(count, columns);
     for (Eigen::Index i = 0; i < count; ++i)
         left.row(i) = equations.rows[static_cast<std::size_t>(i)].head(columns).transpose();
-    const std::optional<Solution> solution = solve(
-        left, Eigen::VectorXd::Map(equations.accelerations.data(), count), double(count) * 2.0 / bumpsInLength);
-    if (!solution)
+    // Neighbouring bumps share most of their samples: about two of a length are worth one each.
+    const double independent = double(count) * 2.0 / bumpsInLength;
+    const std::optional<Solution> solution =
+        solve(left, Eigen::VectorXd::Map(equations.right.data(), count), independent);
+    if (!solution || solution->value[0] == 0.0)
         return std::nullopt;
-
-    AxisFit fit;
-    const double gain = solution->value[0];
-    fit.value[AxisFit::Acceleration] = gain;
-    fit.error[AxisFit::Acceleration] = std::sqrt(solution->covariance(0, 0));
-    for (int parameter = AxisFit::DragForward; parameter < AxisFit::Count; ++parameter)
-        setRatio(fit, parameter, *solution);
-    fit.dragCovariance = solution->covariance(AxisFit::DragForward, AxisFit::DragBackward) / (gain * gain);
-    return fit;
+    return explains == Explains::Current ? fitOfCurrent(*solution) : fitOfAcceleration(*solution);
 }
 
 double resimulatedSpeedError(const AxisRecord &record, const std::vector<Run> &runs, const std::vector<double> &speed,
@@ -186,6 +253,8 @@ double resimulatedSpeedError(const AxisRecord &record, const std::vector<Run> &r
     const double h = record.period;
     const std::vector<double> &torque = record.torque;
     const std::size_t reach = speedReach(h);
+    const double gain = fit.value[AxisFit::Acceleration];
+    const double slowing = gain * fit.value[AxisFit::Viscous] * h / 2.0; // at the mean speed of a sample
     double squares = 0.0, highest = 0.0;
     std::size_t count = 0;
     for (const Run &run : runs) {
@@ -196,8 +265,8 @@ double resimulatedSpeedError(const AxisRecord &record, const std::vector<Run> &r
         for (std::size_t k = run.begin; k < run.end; ++k) {
             const double slope = k > 0 ? (torque[k] - torque[k - 1]) / h : 0.0;
             const double mean = k > 0 ? (torque[k] + torque[k - 1]) / 2.0 : torque[k];
-            const double push = mean - fit.value[AxisFit::DeadTime] * slope - drag - fit.value[AxisFit::Viscous] * simulated;
-            const double faster = simulated + fit.value[AxisFit::Acceleration] * push * h;
+            const double push = mean - fit.value[AxisFit::DeadTime] * slope - drag;
+            const double faster = (simulated * (1.0 - slowing) + gain * push * h) / (1.0 + slowing);
             place += (simulated + faster) / 2.0 * h;
             simulated = faster;
             position.push_back(place);

@@ -31,19 +31,37 @@ struct AxisFit
     double error[Count] = {};
     /// Covariance of the drags, for their sum and difference, A^2.
     double dragCovariance = 0.0;
+    /// Coefficient of what was fitted beside the model, as an acceleration for each unit of it, when acceleration was
+    /// explained.
+    double beside = 0.0;
+    double besideError = 0.0;
 };
 
-/// Something that a stiff axis does not have. Fitting it as well shows whether it is there.
-enum class Beside {
-    Nothing,
-    Compliance, ///< a push with the current's curvature: below its resonance a springy axis looks lighter or heavier
-    Place,      ///< a push that grows with the distance from where the run began: a spring
+/// Which side of the equation the residuals are on. Errors of the other side's columns pull the acceleration per torque
+/// down when acceleration is explained (sampled current is not all of the current), up when current is (encoder steps):
+/// the truth lies between the two (R. Frisch, "Statistical Confluence Analysis", 1934).
+enum class Explains { Acceleration, Current };
+
+/// A push that a stiff axis does not have. Fitting it as well shows whether it is there.
+struct Beside
+{
+    std::vector<double> values; ///< one a sample; empty: nothing is fitted beside the model
+    int order = 0;              ///< which derivative of them pushes
 };
+
+/// Below its resonance a springy axis is pushed with the current's curvature, too.
+Beside compliance(const AxisRecord &record);
+/// A spring to where each run began.
+Beside place(const AxisRecord &record, const std::vector<Run> &runs);
+/// A load on a spring, swinging at this frequency while the motor is held: how far it lags behind the measured motion,
+/// from rest at the first sample, times the angular frequency squared. Its coefficient is -1 times load over motor
+/// inertia.
+Beside swingingLoad(const AxisRecord &record, double hertz);
 
 /// Fits with bumps of `length` samples. Nothing when there are not enough of them in both directions, or when they do
 /// not determine the parameters.
 std::optional<AxisFit> fitAxis(const AxisRecord &record, const std::vector<Run> &runs, std::size_t length,
-                               Beside beside = Beside::Nothing);
+                               Explains explains, const Beside &beside = {});
 
 /// The fitted model driven by the recorded current through all runs, each from a start speed that fits best: RMS of the
 /// difference to the measured speed, both smoothed alike, as share of the highest speed.

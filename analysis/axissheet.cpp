@@ -16,11 +16,12 @@ constexpr double highestGain = 32767.0;
 constexpr double shortestBump = 0.006; ///< s
 constexpr std::size_t fewestSamples = 12;
 constexpr double sigmas = 2.0;
-constexpr double widestPlusMinus = 0.05; ///< of the acceleration
+constexpr double widestPlusMinus = 0.03; ///< of the acceleration
 constexpr double largestSpeedError = 0.007;
 constexpr double roundingNoise = 0.29; ///< RMS of a value that is rounded to whole counts
-constexpr double contradiction = 2.0;  ///< standard deviations between two fits of one number
+constexpr double contradiction = 1.6;  ///< standard deviations between two fits of one number
 constexpr double smallestContradiction = 0.03; ///< of the acceleration
+constexpr double swings[] = {6, 8, 11, 15, 20, 28, 40, 60, 85, 120}; ///< Hz
 constexpr double longestInLimit = 0.05; ///< share of the moving time
 
 AxisSheet refused(const QString &reason)
@@ -67,17 +68,25 @@ QString refusalOfMotion(const AxisRecord &record, const std::vector<Run> &runs)
     return QString();
 }
 
-/// Two standard deviations of the second fit, and the largest distance to the other ones.
-Estimate combined(const std::vector<AxisFit> &fits, double (*value)(const AxisFit &), double (*error)(const AxisFit &))
+/// The same move, fitted in several ways.
+struct Fits
 {
-    const AxisFit &middle = fits[1];
+    std::vector<AxisFit> all;
+    std::size_t first = 0, second = 0; ///< those whose mean is the answer
+};
+
+/// The mean of the two best fits; two of its standard deviations, and the largest distance to any other fit.
+Estimate combined(const Fits &fits, double (*value)(const AxisFit &), double (*error)(const AxisFit &))
+{
+    const AxisFit &first = fits.all[fits.first], &second = fits.all[fits.second];
+    const double mean = (value(first) + value(second)) / 2.0;
     double spread = 0.0;
-    for (const AxisFit &fit : fits)
-        spread = std::max(spread, std::abs(value(fit) - value(middle)));
-    return {value(middle), std::hypot(sigmas * error(middle), spread)};
+    for (const AxisFit &fit : fits.all)
+        spread = std::max(spread, std::abs(value(fit) - mean));
+    return {mean, std::hypot(sigmas * std::max(error(first), error(second)), spread)};
 }
 
-template <int parameter> Estimate combined(const std::vector<AxisFit> &fits)
+template <int parameter> Estimate combined(const Fits &fits)
 {
     return combined(
         fits, [](const AxisFit &fit) { return fit.value[parameter]; },
@@ -112,34 +121,53 @@ std::size_t shortestLength(const AxisRecord &record)
     return std::max(fewestSamples, static_cast<std::size_t>(std::lround(shortestBump / record.period)));
 }
 
-/// Fits with bumps of one, two and three times the shortest length; the longest is missing where the move is short.
-std::vector<AxisFit> fitsOf(const AxisRecord &record, const std::vector<Run> &runs)
+/// Bumps of one, two and three times the shortest length; the longest is missing where the move is short. Nothing when
+/// only the shortest can be had. At twice the length both sides are explained.
+std::optional<Fits> fitsOf(const AxisRecord &record, const std::vector<Run> &runs)
 {
-    std::vector<AxisFit> fits;
-    for (const std::size_t factor : {1, 2, 3}) {
-        const std::optional<AxisFit> fit = fitAxis(record, runs, factor * shortestLength(record));
+    const std::size_t length = shortestLength(record);
+    const std::optional<AxisFit> ofAcceleration = fitAxis(record, runs, 2 * length, Explains::Acceleration);
+    const std::optional<AxisFit> ofCurrent = fitAxis(record, runs, 2 * length, Explains::Current);
+    if (!ofAcceleration || !ofCurrent)
+        return std::nullopt;
+    Fits fits{{*ofAcceleration, *ofCurrent}, 0, 1};
+    for (const std::size_t factor : {1, 3}) {
+        const std::optional<AxisFit> fit = fitAxis(record, runs, factor * length, Explains::Acceleration);
         if (fit)
-            fits.push_back(*fit);
+            fits.all.push_back(*fit);
     }
     return fits;
 }
 
-/// Whether the acceleration becomes another one as soon as the fit may use what only a springy axis has.
-bool isSpringy(const AxisRecord &record, const std::vector<Run> &runs, const AxisFit &stiff)
+/// Whether the acceleration becomes another one when the fit may use `beside` as well.
+bool changesWith(const Beside &beside, const AxisRecord &record, const std::vector<Run> &runs, double expected)
 {
-    const double expected = stiff.value[AxisFit::Acceleration];
     for (const std::size_t factor : {1, 2}) {
-        for (const Beside beside : {Beside::Compliance, Beside::Place}) {
-            const std::optional<AxisFit> fit = fitAxis(record, runs, factor * shortestLength(record), beside);
-            if (!fit)
-                continue;
-            const double difference = std::abs(fit->value[AxisFit::Acceleration] - expected);
-            const double error = fit->error[AxisFit::Acceleration];
-            // A long bump leaves little to tell the two apart by: only a sharp answer counts.
-            const bool isSharp = factor == 1 || error < smallestContradiction * expected;
-            if (isSharp && difference > contradiction * error && difference > smallestContradiction * expected)
-                return true;
-        }
+        const std::optional<AxisFit> fit =
+            fitAxis(record, runs, factor * shortestLength(record), Explains::Acceleration, beside);
+        if (!fit)
+            continue;
+        const double difference = std::abs(fit->value[AxisFit::Acceleration] - expected);
+        const double error = fit->error[AxisFit::Acceleration];
+        // A long bump leaves little to tell the two apart by: only a sharp answer counts.
+        const bool isSharp = factor == 1 || error < smallestContradiction * expected;
+        if (isSharp && difference > contradiction * error && difference > smallestContradiction * expected)
+            return true;
+    }
+    return false;
+}
+
+/// Whether the record knows something that only a springy axis has.
+bool isSpringy(const AxisRecord &record, const std::vector<Run> &runs, double expected)
+{
+    if (changesWith(compliance(record), record, runs, expected) ||
+        changesWith(place(record, runs), record, runs, expected))
+        return true;
+    for (const double hertz : swings) {
+        const std::optional<AxisFit> fit =
+            fitAxis(record, runs, shortestLength(record), Explains::Acceleration, swingingLoad(record, hertz));
+        if (fit && -fit->beside > smallestContradiction && -fit->beside > 3.0 * fit->besideError)
+            return true;
     }
     return false;
 }
@@ -165,28 +193,28 @@ AxisSheet axisSheet(const AxisRecord &record)
     const QString motionRefusal = refusalOfMotion(record, runs);
     if (!motionRefusal.isEmpty())
         return refused(motionRefusal);
-    const std::vector<AxisFit> fits = fitsOf(record, runs);
-    if (fits.size() < 2)
+    const std::optional<Fits> fits = fitsOf(record, runs);
+    if (!fits)
         return refused(AnalysisText::tr("There is not enough motion in this record: move further, or capture at a "
                                         "higher sample rate."));
     AxisSheet sheet;
-    sheet.acceleration = combined<AxisFit::Acceleration>(fits);
+    sheet.acceleration = combined<AxisFit::Acceleration>(*fits);
     if (!(sheet.acceleration.value > 0.0))
         return refused(AnalysisText::tr("The axis does not accelerate in the direction of its torque: check the "
                                         "feedback direction, and whether anything else moves it."));
     if (!(sheet.acceleration.plusMinus <= widestPlusMinus * sheet.acceleration.value) ||
-        isSpringy(record, runs, fits[1]))
+        isSpringy(record, runs, sheet.acceleration.value))
         return refused(AnalysisText::tr("Parts of the move contradict each other: the axis is springy or has backlash, "
                                         "or the record is too noisy. One inertia does not describe it."));
-    sheet.speedError = resimulatedSpeedError(record, runs, speed, fits[1]);
+    sheet.speedError = resimulatedSpeedError(record, runs, speed, fits->all.front());
     if (!(sheet.speedError <= allowedSpeedError(record, speed)))
         return refused(AnalysisText::tr("The speed that follows from the recorded torque is not the speed that was "
                                         "measured: one inertia with friction does not describe this axis."));
-    sheet.dragForward = combined<AxisFit::DragForward>(fits);
-    sheet.dragBackward = combined<AxisFit::DragBackward>(fits);
-    sheet.dryFriction = combined(fits, dragMean<1>, dragMeanError<1>);
-    sheet.hangingLoad = combined(fits, dragMean<-1>, dragMeanError<-1>);
-    sheet.viscousFriction = combined<AxisFit::Viscous>(fits);
+    sheet.dragForward = combined<AxisFit::DragForward>(*fits);
+    sheet.dragBackward = combined<AxisFit::DragBackward>(*fits);
+    sheet.dryFriction = combined(*fits, dragMean<1>, dragMeanError<1>);
+    sheet.hangingLoad = combined(*fits, dragMean<-1>, dragMeanError<-1>);
+    sheet.viscousFriction = combined<AxisFit::Viscous>(*fits);
     proposeGains(sheet, record.cycleRate);
     return sheet;
 }

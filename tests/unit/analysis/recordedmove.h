@@ -21,18 +21,19 @@ inline CaptureData recordedChannel(const char *key, double scale)
 struct Move
 {
     const char *profile = "keta";
-    int counts = 1900;   ///< forth and back
+    int counts = 1900;    ///< forth and back
     int holdCycles = 400; ///< at each end
-    int divider = 7;     ///< of the recorder: 7 is 2500 Hz on Keta
+    int divider = 7;      ///< of the recorder: 7 is 2500 Hz on Keta
     double loadTorque = 0.0; ///< Nm
-    std::map<int, int> settings;
+    std::map<int, int> settings = {};
+    sim::Machine machine = {};
     bool returns = true;
 };
 
 /// Torque achieved and setpoint, position achieved.
 inline CaptureRecord recordMove(const Move &move)
 {
-    sim::VirtualDrive drive(*sim::findProfile(move.profile));
+    sim::VirtualDrive drive(*sim::findProfile(move.profile), 5, move.machine);
     for (const auto &[address, value] : move.settings)
         drive.write(address, value);
     drive.axis().inputs().loadTorque = move.loadTorque;
