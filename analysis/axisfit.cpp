@@ -255,6 +255,8 @@ double resimulatedSpeedError(const AxisRecord &record, const std::vector<Run> &r
     const std::size_t reach = speedReach(h);
     const double gain = fit.value[AxisFit::Acceleration];
     const double slowing = gain * fit.value[AxisFit::Viscous] * h / 2.0; // at the mean speed of a sample
+    const auto samplesOfCycle =
+        static_cast<std::size_t>(std::clamp(std::round(1.0 / (record.cycleRate * h)), 1.0, 16.0));
     double squares = 0.0, highest = 0.0;
     std::size_t count = 0;
     for (const Run &run : runs) {
@@ -272,17 +274,24 @@ double resimulatedSpeedError(const AxisRecord &record, const std::vector<Run> &r
             position.push_back(place);
         }
         const std::vector<double> smooth = speedOf(position, h);
-        double mean = 0.0;
-        std::vector<double> differences;
+        std::vector<double> differences, starts; // and what one more of start speed would be by then
+        double start = 0.0, weight = 0.0;
         for (std::size_t k = reach; k + reach < smooth.size(); ++k) {
             differences.push_back(smooth[k] - speed[run.begin + k]);
-            mean += differences.back();
+            starts.push_back(std::pow((1.0 - slowing) / (1.0 + slowing), double(k)));
+            start += differences.back() * starts.back();
+            weight += starts.back() * starts.back();
             highest = std::max(highest, std::abs(speed[run.begin + k]));
         }
-        mean /= std::max<double>(1.0, double(differences.size())); // the start speed that fits best
-        for (const double difference : differences)
-            squares += (difference - mean) * (difference - mean);
-        count += differences.size();
+        start /= std::max(weight, 1e-300); // the one that fits best
+        // Sampled faster than the drive measures, a position stands for some samples: each is late by another time.
+        for (std::size_t k = 0; k + samplesOfCycle <= differences.size(); ++k) {
+            double together = 0.0;
+            for (std::size_t i = 0; i < samplesOfCycle; ++i)
+                together += (differences[k + i] - start * starts[k + i]) / double(samplesOfCycle);
+            squares += together * together;
+            ++count;
+        }
     }
     return count > 0 && highest > 0.0 ? std::sqrt(squares / double(count)) / highest : 1.0;
 }

@@ -16,9 +16,11 @@ constexpr double highestGain = 32767.0;
 constexpr double shortestBump = 0.006; ///< s
 constexpr std::size_t fewestSamples = 12;
 constexpr double sigmas = 2.0;
-constexpr double widestPlusMinus = 0.03; ///< of the acceleration
-constexpr double largestSpeedError = 0.007;
+constexpr double widestPlusMinus = 0.015;     ///< of the acceleration, with a quiet encoder
+constexpr double widestWithNoise = 0.03;
+constexpr double largestSpeedError = 0.002;
 constexpr double roundingNoise = 0.29; ///< RMS of a value that is rounded to whole counts
+constexpr double harmlessNoise = 0.6; ///< counts RMS
 constexpr double contradiction = 1.6;  ///< standard deviations between two fits of one number
 constexpr double smallestContradiction = 0.03; ///< of the acceleration
 constexpr double swings[] = {6, 8, 11, 15, 20, 28, 40, 60, 85, 120}; ///< Hz
@@ -139,9 +141,31 @@ std::optional<Fits> fitsOf(const AxisRecord &record, const std::vector<Run> &run
     return fits;
 }
 
+/// RMS of what the encoder adds to the position, counts: steps and noise. A fourth difference takes all motion away and
+/// leaves 70 times the square of it; the median of its size is 0.6745 of a normal distribution's deviation.
+double encoderNoise(const std::vector<double> &x)
+{
+    std::vector<double> sizes;
+    for (std::size_t k = 4; k < x.size(); ++k)
+        sizes.push_back(std::abs(x[k] - 4.0 * x[k - 1] + 6.0 * x[k - 2] - 4.0 * x[k - 3] + x[k - 4]));
+    if (sizes.empty())
+        return roundingNoise;
+    const auto middle = sizes.begin() + static_cast<std::ptrdiff_t>(sizes.size() / 2);
+    std::nth_element(sizes.begin(), middle, sizes.end());
+    return std::max(roundingNoise, *middle / (0.6745 * std::sqrt(70.0)));
+}
+
+/// 1 for a quiet encoder, more for a noisy one.
+double noiseFactor(const AxisRecord &record)
+{
+    return std::max(1.0, encoderNoise(record.position) / harmlessNoise);
+}
+
 /// Whether the acceleration becomes another one when the fit may use `beside` as well.
 bool changesWith(const Beside &beside, const AxisRecord &record, const std::vector<Run> &runs, double expected)
 {
+    // Encoder noise that the drive answers with torque is in both: it pulls such a fit away from the truth.
+    const double deviations = contradiction * noiseFactor(record);
     for (const std::size_t factor : {1, 2}) {
         const std::optional<AxisFit> fit =
             fitAxis(record, runs, factor * shortestLength(record), Explains::Acceleration, beside);
@@ -151,7 +175,7 @@ bool changesWith(const Beside &beside, const AxisRecord &record, const std::vect
         const double error = fit->error[AxisFit::Acceleration];
         // A long bump leaves little to tell the two apart by: only a sharp answer counts.
         const bool isSharp = factor == 1 || error < smallestContradiction * expected;
-        if (isSharp && difference > contradiction * error && difference > smallestContradiction * expected)
+        if (isSharp && difference > deviations * error && difference > smallestContradiction * expected)
             return true;
     }
     return false;
@@ -172,14 +196,15 @@ bool isSpringy(const AxisRecord &record, const std::vector<Run> &runs, double ex
     return false;
 }
 
-/// Share of the highest speed; more where the move is so slow that the encoder's steps show.
+/// Share of the highest speed; more where the move is so slow, or the encoder so noisy, that the difference is not the
+/// model's.
 double allowedSpeedError(const AxisRecord &record, const std::vector<double> &speed)
 {
     double highest = 0.0;
     for (const double value : speed)
         highest = std::max(highest, std::abs(value));
     const double time = 2.0 * double(speedReach(record.period)) * record.period;
-    return std::hypot(largestSpeedError, 2.0 * std::sqrt(2.0) * roundingNoise / (time * highest));
+    return std::hypot(largestSpeedError, 2.0 * std::sqrt(2.0) * encoderNoise(record.position) / (time * highest));
 }
 
 } // namespace
@@ -202,7 +227,8 @@ AxisSheet axisSheet(const AxisRecord &record)
     if (!(sheet.acceleration.value > 0.0))
         return refused(AnalysisText::tr("The axis does not accelerate in the direction of its torque: check the "
                                         "feedback direction, and whether anything else moves it."));
-    if (!(sheet.acceleration.plusMinus <= widestPlusMinus * sheet.acceleration.value) ||
+    const double widest = std::min(widestPlusMinus * noiseFactor(record), widestWithNoise);
+    if (!(sheet.acceleration.plusMinus <= widest * sheet.acceleration.value) ||
         isSpringy(record, runs, sheet.acceleration.value))
         return refused(AnalysisText::tr("Parts of the move contradict each other: the axis is springy or has backlash, "
                                         "or the record is too noisy. One inertia does not describe it."));
