@@ -59,10 +59,10 @@ TEST(AxisSheet, PlusMinusHoldsTheTruthInNinetyFiveOfAHundred)
     for (unsigned seed = 0; seed < 100; ++seed) {
         std::mt19937 random(seed);
         Move move;
-        move.counts = 1200 + int(random() % 700);
+        move.counts = 1600 + int(random() % 350);
         move.holdCycles = 250 + int(random() % 80);
         move.loadTorque = 0.05 * (double(random() % 2001) / 1000.0 - 1.0);
-        move.machine.encoderNoise = 0.1 * (seed % 5);
+        move.machine.encoderNoise = 0.5 * (seed % 5); // counts
         move.machine.seed = seed;
         const AxisSheet sheet = axisSheet(recordMove(move));
         if (!sheet.isUsable())
@@ -74,7 +74,7 @@ TEST(AxisSheet, PlusMinusHoldsTheTruthInNinetyFiveOfAHundred)
         drags += covers(sheet.dragForward, dryFriction + load) && covers(sheet.dragBackward, dryFriction - load) ? 1 : 0;
         viscous += covers(sheet.viscousFriction, viscousFriction) ? 1 : 0;
         EXPECT_LT(sheet.acceleration.plusMinus, 0.03 * acceleration) << "a range that holds everything is no range";
-        EXPECT_LT(sheet.dryFriction.plusMinus, 0.5 * dryFriction);
+        EXPECT_LT(sheet.dryFriction.plusMinus, dryFriction);
     }
     EXPECT_GE(accelerations, 95);
     EXPECT_GE(frictions, 95);
