@@ -63,9 +63,4 @@ Beside swingingLoad(const AxisRecord &record, double hertz);
 std::optional<AxisFit> fitAxis(const AxisRecord &record, const std::vector<Run> &runs, std::size_t length,
                                Explains explains, const Beside &beside = {});
 
-/// The fitted model driven by the recorded current through all runs, each from a start speed that fits best: RMS of the
-/// difference to the measured speed, both smoothed alike, as share of the highest speed.
-double resimulatedSpeedError(const AxisRecord &record, const std::vector<Run> &runs, const std::vector<double> &speed,
-                             const AxisFit &fit);
-
 #endif

@@ -2,6 +2,7 @@
 
 #include "analysistext.h"
 #include "axisfit.h"
+#include "resimulation.h"
 #include "traces.h"
 
 #include <algorithm>
@@ -16,15 +17,14 @@ constexpr double highestGain = 32767.0;
 constexpr double shortestBump = 0.006; ///< s
 constexpr std::size_t fewestSamples = 12;
 constexpr double sigmas = 2.0;
-constexpr double widestPlusMinus = 0.015;     ///< of the acceleration, with a quiet encoder
+constexpr double widestPlusMinus = 0.015; ///< of the acceleration, with a quiet encoder
 constexpr double widestWithNoise = 0.03;
 constexpr double largestSpeedError = 0.002;
-constexpr double roundingNoise = 0.29; ///< RMS of a value that is rounded to whole counts
-constexpr double harmlessNoise = 0.6; ///< counts RMS
-constexpr double contradiction = 1.6;  ///< standard deviations between two fits of one number
+constexpr double harmlessNoise = 0.6;          ///< counts RMS
+constexpr double contradiction = 1.6;          ///< standard deviations between two fits of one number
 constexpr double smallestContradiction = 0.03; ///< of the acceleration
 constexpr double swings[] = {6, 8, 11, 15, 20, 28, 40, 60, 85, 120}; ///< Hz
-constexpr double longestInLimit = 0.05; ///< share of the moving time
+constexpr double longestInLimit = 0.05;                              ///< share of the moving time
 
 AxisSheet refused(const QString &reason)
 {
@@ -59,7 +59,8 @@ double shareInLimit(const AxisRecord &record, const std::vector<Run> &runs)
 QString refusalOfMotion(const AxisRecord &record, const std::vector<Run> &runs)
 {
     const auto runsTo = [&runs](int direction) {
-        return std::any_of(runs.begin(), runs.end(), [direction](const Run &run) { return run.direction == direction; });
+        return std::any_of(runs.begin(), runs.end(),
+                           [direction](const Run &run) { return run.direction == direction; });
     };
     if (runs.empty())
         return AnalysisText::tr("There is not enough motion in this record: move at least some hundred counts.");
@@ -139,20 +140,6 @@ std::optional<Fits> fitsOf(const AxisRecord &record, const std::vector<Run> &run
             fits.all.push_back(*fit);
     }
     return fits;
-}
-
-/// RMS of what the encoder adds to the position, counts: steps and noise. A fourth difference takes all motion away and
-/// leaves 70 times the square of it; the median of its size is 0.6745 of a normal distribution's deviation.
-double encoderNoise(const std::vector<double> &x)
-{
-    std::vector<double> sizes;
-    for (std::size_t k = 4; k < x.size(); ++k)
-        sizes.push_back(std::abs(x[k] - 4.0 * x[k - 1] + 6.0 * x[k - 2] - 4.0 * x[k - 3] + x[k - 4]));
-    if (sizes.empty())
-        return roundingNoise;
-    const auto middle = sizes.begin() + static_cast<std::ptrdiff_t>(sizes.size() / 2);
-    std::nth_element(sizes.begin(), middle, sizes.end());
-    return std::max(roundingNoise, *middle / (0.6745 * std::sqrt(70.0)));
 }
 
 /// 1 for a quiet encoder, more for a noisy one.

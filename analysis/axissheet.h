@@ -6,16 +6,19 @@
 /// dead time d between the recorded current and the recorded position, the drag D+ where it moves forward and -D- where
 /// it moves backward, and the viscous friction V. It is fitted in the weak form: multiplied by smooth bumps of a few
 /// milliseconds and integrated by parts, so that nothing is differentiated and the encoder's steps do not matter
-/// (M. Shinbrot, "On the analysis of linear and nonlinear systems", Trans. ASME 79, 1957; S. L. Brunton, D. A. Messenger
-/// and D. M. Bortz, "Weak SINDy", 2021). Only stretches in which it keeps moving in one direction count: at rest dry
-/// friction can be anything.
+/// (M. Shinbrot, "On the analysis of linear and nonlinear systems", Trans. ASME 79, 1957; S. L. Brunton, D. A.
+/// Messenger and D. M. Bortz, "Weak SINDy", 2021). Only stretches in which it keeps moving in one direction count: at
+/// rest dry friction can be anything.
 ///
 /// What one move cannot tell apart: an axis that drags more forward than backward, and one that is pulled backward by a
 /// load. Half the sum of the drags is called dry friction, half the difference hanging load.
 ///
-/// Every +- holds two standard deviations of the fit's residuals, and how far fits with shorter and longer bumps are
-/// apart. A springy axis gives each length another answer: that, and a speed which the fitted model does not reproduce
-/// from the recorded current, is why a sheet is refused. How well the regression fits its own data is not asked.
+/// Every value is the mean of two fits, one that explains the acceleration and one that explains the current; every +-
+/// holds two standard deviations of their residuals, and how far these two and fits with shorter and longer bumps are
+/// apart. A sheet is refused when they are too far apart, when the acceleration becomes another one as soon as the fit
+/// may use what only a springy axis has, when a load that swings slowly explains the record better, and when the speed
+/// that the fitted model makes of the recorded current is not the measured one. How well the regression fits its own
+/// data is not asked. A resonance just above what the record shows can stay hidden: see the README of this room.
 #ifndef AXISSHEET_H
 #define AXISSHEET_H
 
@@ -48,11 +51,11 @@ struct AxisSheet
 {
     QString refusal; ///< why there is no sheet, one sentence to show; then nothing below counts
 
-    Estimate acceleration; ///< counts/s^2 per A
-    Estimate dragForward;  ///< A that moving forward slowly takes, load included
-    Estimate dragBackward; ///< A that moving backward slowly takes, load included
-    Estimate dryFriction;  ///< A, (forward + backward) / 2
-    Estimate hangingLoad;  ///< A that holds it, (forward - backward) / 2: positive when it pulls backward
+    Estimate acceleration;    ///< counts/s^2 per A
+    Estimate dragForward;     ///< A that moving forward slowly takes, load included
+    Estimate dragBackward;    ///< A that moving backward slowly takes, load included
+    Estimate dryFriction;     ///< A, (forward + backward) / 2
+    Estimate hangingLoad;     ///< A that holds it, (forward - backward) / 2: positive when it pulls backward
     Estimate viscousFriction; ///< A per count/s
     double speedError = 0.0;  ///< RMS of re-simulated against measured speed, share of the highest speed
 

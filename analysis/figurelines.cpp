@@ -21,7 +21,8 @@ QString withUnit(double value, const QString &unit)
 
 QString withRange(const Estimate &estimate, double scale, const QString &unit)
 {
-    const QString range = tr("%1 ± %2").arg(text(estimate.value * scale), QString::number(estimate.plusMinus * scale, 'g', 2));
+    const QString range =
+        tr("%1 ± %2").arg(text(estimate.value * scale), QString::number(estimate.plusMinus * scale, 'g', 2));
     return unit.isEmpty() ? range : tr("%1 %2").arg(range, unit);
 }
 
@@ -40,14 +41,15 @@ QList<FigureLine> figureLines(const StepFigures &figures)
         {"riseTime", QT_TRANSLATE_NOOP("Analysis", "Rise time, 10 to 90 %"), figures.riseTime, 1000.0, tr("ms")},
         {"timeTo90", QT_TRANSLATE_NOOP("Analysis", "Time to 90 %"), figures.timeTo90, 1000.0, tr("ms")},
         {"overshoot", QT_TRANSLATE_NOOP("Analysis", "Overshoot"), figures.overshoot, 1.0, QStringLiteral("%")},
-        {"settlingTime", QT_TRANSLATE_NOOP("Analysis", "Settling time, within 2 %"), figures.settlingTime, 1000.0, tr("ms")},
+        {"settlingTime", QT_TRANSLATE_NOOP("Analysis", "Settling time, within 2 %"), figures.settlingTime, 1000.0,
+         tr("ms")},
         {"peakError", QT_TRANSLATE_NOOP("Analysis", "Peak tracking error"), figures.peakError, 1.0, figures.unit},
         {"rmsError", QT_TRANSLATE_NOOP("Analysis", "RMS tracking error"), figures.rmsError, 1.0, figures.unit},
         {"timeInCurrentLimit", QT_TRANSLATE_NOOP("Analysis", "Limited by MMC for"), figures.timeInCurrentLimit, 1000.0,
          tr("ms")},
         {"ringing", QT_TRANSLATE_NOOP("Analysis", "Ringing"), figures.ringing, 1.0, tr("Hz")},
-        {"ringingResolution", QT_TRANSLATE_NOOP("Analysis", "Resolution of the ringing"), figures.ringingResolution, 1.0,
-         tr("Hz")},
+        {"ringingResolution", QT_TRANSLATE_NOOP("Analysis", "Resolution of the ringing"), figures.ringingResolution,
+         1.0, tr("Hz")},
     };
     QList<FigureLine> lines;
     for (const auto &row : rows) {

@@ -188,15 +188,14 @@ Figure Step::timeInLimit() const
 
 void Step::measureRinging(StepFigures &figures) const
 {
-    const auto arrived =
-        std::find_if(m_share.begin(), m_share.end(), [](double share) { return share >= risesTo; });
+    const auto arrived = std::find_if(m_share.begin(), m_share.end(), [](double share) { return share >= risesTo; });
     const auto first = static_cast<std::size_t>(arrived - m_share.begin()) + m_start;
     Samples tail;
     for (std::size_t i = first; i < m_record.measured.size(); ++i)
         tail.push_back(m_record.measured[i] - m_record.setpoint[i]);
     const std::optional<Ringing> found = findRinging(tail, m_record.period, m_record.resolution);
-    const QString reason = arrived == m_share.end() ? figures.timeTo90.reason
-                                                    : AnalysisText::tr("Not defined: the tail does not ring.");
+    const QString reason =
+        arrived == m_share.end() ? figures.timeTo90.reason : AnalysisText::tr("Not defined: the tail does not ring.");
     figures.ringing = found ? number(found->frequency) : none(reason);
     figures.ringingResolution = found ? number(found->resolution) : none(reason);
 }
@@ -211,8 +210,7 @@ StepFigures stepFigures(const StepRecord &record)
     const Step step(record);
     if (!step.hasChange())
         return withoutFigures(record, AnalysisText::tr("Not defined: the setpoint does not change in this record."));
-    StepFigures figures =
-        withoutFigures(record, AnalysisText::tr("Not defined: the setpoint ends where it began."));
+    StepFigures figures = withoutFigures(record, AnalysisText::tr("Not defined: the setpoint ends where it began."));
     step.measureErrors(figures);
     figures.timeInCurrentLimit = step.timeInLimit();
     if (!step.hasHeight())

@@ -54,10 +54,10 @@ struct StepRecord
     /// Setpoint before the first sample, where it is known: a recorder that a change starts may have missed the sample
     /// before it.
     std::optional<double> before;
-    double resolution = 1.0; ///< smallest difference between two measured values
+    double resolution = 1.0;                ///< smallest difference between two measured values
     double currentResolution = 1.0 / 560.0; ///< A
-    QString unit;            ///< of setpoint and measured, e.g. "cnts"
-    QString channel;         ///< key of the measured channel, e.g. "posmeas"
+    QString unit;                           ///< of setpoint and measured, e.g. "cnts"
+    QString channel;                        ///< key of the measured channel, e.g. "posmeas"
 };
 
 struct StepFigures

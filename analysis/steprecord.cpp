@@ -61,14 +61,17 @@ std::optional<StepRecord> recordOf(const CaptureRecord &capture, const Pair &pai
 std::optional<double> knownBefore(const CaptureRecord &capture, const StepRecord &record)
 {
     const bool startedByChange = capture.trigger == setpointRises || capture.trigger == setpointChanges;
-    if (!startedByChange || capture.motion.kind == CaptureMotion::Kind::None || record.channel != QLatin1String("posmeas"))
+    if (!startedByChange || capture.motion.kind == CaptureMotion::Kind::None ||
+        record.channel != QLatin1String("posmeas"))
         return std::nullopt;
-    const double countsPerUnit = capture.setting(QStringLiteral("MUL"), 1.0) / capture.setting(QStringLiteral("DIV"), 1.0);
+    const double countsPerUnit =
+        capture.setting(QStringLiteral("MUL"), 1.0) / capture.setting(QStringLiteral("DIV"), 1.0);
     const double from = capture.motion.from * countsPerUnit, to = capture.motion.to * countsPerUnit;
     // Also on the way back of a square wave.
     if (record.setpoint.front() == to)
         return from;
-    if (record.setpoint.front() == from && capture.motion.kind == CaptureMotion::Kind::SquareWave && !changes(record.setpoint))
+    if (record.setpoint.front() == from && capture.motion.kind == CaptureMotion::Kind::SquareWave &&
+        !changes(record.setpoint))
         return to;
     return std::nullopt;
 }
@@ -84,8 +87,8 @@ StepRecord stepRecordOf(const CaptureRecord &capture)
         if (record)
             found.insert(pair.controlMode == mode ? found.begin() : found.end(), std::move(*record));
     }
-    const auto moving = std::find_if(found.begin(), found.end(),
-                                     [](const StepRecord &record) { return changes(record.setpoint); });
+    const auto moving =
+        std::find_if(found.begin(), found.end(), [](const StepRecord &record) { return changes(record.setpoint); });
     StepRecord record = moving != found.end() ? *moving : found.empty() ? StepRecord() : found.front();
     record.period = capture.samplePeriod;
     record.torqueSetpoint = traceOf(capture, QStringLiteral("torqueref"), record.setpoint.size());

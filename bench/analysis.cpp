@@ -49,8 +49,8 @@ CaptureRecord record()
     for (int word = 0; word < sim::Recorder::Words; ++word) {
         drive.write(sim::reg::RecorderAddress, word);
         CaptureData &channel = capture.channels[word % channelCount];
-        channel.samples.append({channel.samples.size() * capture.samplePeriod,
-                                drive.read(sim::reg::RecorderWord) * channel.scale});
+        channel.samples.append(
+            {channel.samples.size() * capture.samplePeriod, drive.read(sim::reg::RecorderWord) * channel.scale});
     }
     return capture;
 }

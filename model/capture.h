@@ -31,8 +31,8 @@ struct DriveIdentity
     int type = 0;  ///< register 6020
     int serial = 0;
     int address = 0;
-    int firmware = 0;     ///< TarnwellCore version, e.g. 1078
-    int ioFirmware = 0;   ///< of the I/O side
+    int firmware = 0;   ///< TarnwellCore version, e.g. 1078
+    int ioFirmware = 0; ///< of the I/O side
     int buildRevision = 0;
 };
 
@@ -47,9 +47,9 @@ struct CaptureRecord
     CaptureMotion motion;
     Parameters settings; ///< values and limits of the drive at that time; empty when not known
     DriveIdentity drive;
-    QString program;  ///< version of the program that made it
-    QDateTime time;   ///< of the capture
-    QString note;     ///< the user's own words: text, never markup
+    QString program; ///< version of the program that made it
+    QDateTime time;  ///< of the capture
+    QString note;    ///< the user's own words: text, never markup
 
     /// The enabled channel with this key, or null.
     const CaptureData *channel(const QString &key) const;

@@ -21,9 +21,9 @@ inline CaptureData recordedChannel(const char *key, double scale)
 struct Move
 {
     const char *profile = "keta";
-    int counts = 1900;    ///< forth and back
-    int holdCycles = 400; ///< at each end
-    int divider = 7;      ///< of the recorder: 7 is 2500 Hz on Keta
+    int counts = 1900;       ///< forth and back
+    int holdCycles = 400;    ///< at each end
+    int divider = 7;         ///< of the recorder: 7 is 2500 Hz on Keta
     double loadTorque = 0.0; ///< Nm
     std::map<int, int> settings = {};
     sim::Machine machine = {};

@@ -71,7 +71,8 @@ TEST(AxisSheet, PlusMinusHoldsTheTruthInNinetyFiveOfAHundred)
         accelerations += covers(sheet.acceleration, acceleration) ? 1 : 0;
         frictions += covers(sheet.dryFriction, dryFriction) ? 1 : 0;
         loads += covers(sheet.hangingLoad, load) ? 1 : 0;
-        drags += covers(sheet.dragForward, dryFriction + load) && covers(sheet.dragBackward, dryFriction - load) ? 1 : 0;
+        drags +=
+            covers(sheet.dragForward, dryFriction + load) && covers(sheet.dragBackward, dryFriction - load) ? 1 : 0;
         viscous += covers(sheet.viscousFriction, viscousFriction) ? 1 : 0;
         EXPECT_LT(sheet.acceleration.plusMinus, 0.03 * acceleration) << "a range that holds everything is no range";
         EXPECT_LT(sheet.dryFriction.plusMinus, dryFriction);
@@ -128,8 +129,7 @@ TEST(AxisSheet, RefusesWithTheReason)
     EXPECT_EQ(refusalOf(tiny), "There is not enough motion in this record: move at least some hundred counts.");
     EXPECT_EQ(refusalOf(slow),
               "There is not enough motion in this record: move further, or capture at a higher sample rate.");
-    EXPECT_EQ(refusalOf(limited),
-              "The current stood in its limit (MMC) for much of the move: move more gently.");
+    EXPECT_EQ(refusalOf(limited), "The current stood in its limit (MMC) for much of the move: move more gently.");
 
     CaptureRecord capture = recordMove(Move());
     for (auto &sample : capture.channels[1].samples)

@@ -1,4 +1,5 @@
-// The figures of a step against a second calculation, which takes whole samples and knows the truth of what was made up.
+// The figures of a step against a second calculation, which takes whole samples and knows the truth of what was made
+// up.
 #include "madeuprecords.h"
 
 #include <gtest/gtest.h>

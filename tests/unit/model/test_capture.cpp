@@ -129,7 +129,9 @@ TEST(Capture, ComesBackFromItsBlockAndItsPageToTheLastBit)
         CapturePlotter().generatePlotPage(plain.channels, plain.settings.getParamsHTMLList(), plain.drive.model);
     const QString whole = capturePage(plain);
     const QString element = whole.mid(whole.indexOf("<script type=\"application/json\""));
-    EXPECT_EQ(QString(whole).remove(element.left(element.indexOf("</script>\n") + 10)).remove(QRegularExpression("[0-9.]+ [0-9:]+<")),
+    EXPECT_EQ(QString(whole)
+                  .remove(element.left(element.indexOf("</script>\n") + 10))
+                  .remove(QRegularExpression("[0-9.]+ [0-9:]+<")),
               QString(bare).remove(QRegularExpression("[0-9.]+ [0-9:]+<")));
 }
 
@@ -140,7 +142,8 @@ TEST(Capture, NamesOfAForeignFileAreNoScriptInThePage)
                    &foreign),
               QString());
     const QString page = capturePage(foreign);
-    EXPECT_TRUE(page.contains("label: \"&lt;/script&gt;&lt;script&gt;alert(1)&lt;/script&gt;&lt;!-- &quot;'&#92; &amp;amp;"));
+    EXPECT_TRUE(
+        page.contains("label: \"&lt;/script&gt;&lt;script&gt;alert(1)&lt;/script&gt;&lt;!-- &quot;'&#92; &amp;amp;"));
     EXPECT_FALSE(page.contains("<script>alert"));
 }
 
