@@ -145,7 +145,7 @@ std::optional<Fits> fitsOf(const AxisRecord &record, const std::vector<Run> &run
 /// 1 for a quiet encoder, more for a noisy one.
 double noiseFactor(const AxisRecord &record)
 {
-    return std::max(1.0, encoderNoise(record.position) / harmlessNoise);
+    return std::max(1.0, encoderNoise(record) / harmlessNoise);
 }
 
 /// Whether the acceleration becomes another one when the fit may use `beside` as well.
@@ -191,7 +191,7 @@ double allowedSpeedError(const AxisRecord &record, const std::vector<double> &sp
     for (const double value : speed)
         highest = std::max(highest, std::abs(value));
     const double time = 2.0 * double(speedReach(record.period)) * record.period;
-    return std::hypot(largestSpeedError, 2.0 * std::sqrt(2.0) * encoderNoise(record.position) / (time * highest));
+    return std::hypot(largestSpeedError, 2.0 * std::sqrt(2.0) * encoderNoise(record) / (time * highest));
 }
 
 } // namespace

@@ -9,6 +9,12 @@ using Samples = std::vector<double>;
 
 constexpr double roundingNoise = 0.29; ///< RMS of a value that is rounded to whole counts
 
+/// Sampled faster than the drive measures, a position stands for so many samples, each of them late by another time.
+std::size_t samplesOfCycle(const AxisRecord &record)
+{
+    return static_cast<std::size_t>(std::clamp(std::round(1.0 / (record.cycleRate * record.period)), 1.0, 16.0));
+}
+
 /// What viscous friction takes off the speed in one sample, half of it before and half of it after (trapezoidal rule).
 double slowing(const AxisRecord &record, const AxisFit &fit)
 {
@@ -56,9 +62,7 @@ double resimulatedSpeedError(const AxisRecord &record, const std::vector<Run> &r
 {
     const std::size_t reach = speedReach(record.period);
     const double half = slowing(record, fit);
-    // Sampled faster than the drive measures, a position stands for some samples: each is late by another time.
-    const auto together =
-        static_cast<std::size_t>(std::clamp(std::round(1.0 / (record.cycleRate * record.period)), 1.0, 16.0));
+    const std::size_t together = samplesOfCycle(record);
     double squares = 0.0, highest = 0.0;
     std::size_t count = 0;
     for (const Run &run : runs) {
@@ -82,12 +86,14 @@ double resimulatedSpeedError(const AxisRecord &record, const std::vector<Run> &r
 
 /// A fourth difference takes all motion away and leaves 70 times the square of the noise; the median of its size is
 /// 0.6745 of a normal distribution's deviation.
-double encoderNoise(const std::vector<double> &position)
+double encoderNoise(const AxisRecord &record)
 {
-    const std::vector<double> &x = position;
+    const Samples &x = record.position;
+    const std::size_t step = samplesOfCycle(record);
     Samples sizes;
-    for (std::size_t k = 4; k < x.size(); ++k)
-        sizes.push_back(std::abs(x[k] - 4.0 * x[k - 1] + 6.0 * x[k - 2] - 4.0 * x[k - 3] + x[k - 4]));
+    for (std::size_t k = 4 * step; k < x.size(); ++k)
+        sizes.push_back(
+            std::abs(x[k] - 4.0 * x[k - step] + 6.0 * x[k - 2 * step] - 4.0 * x[k - 3 * step] + x[k - 4 * step]));
     if (sizes.empty())
         return roundingNoise;
     const auto middle = sizes.begin() + static_cast<std::ptrdiff_t>(sizes.size() / 2);

@@ -11,6 +11,6 @@ double resimulatedSpeedError(const AxisRecord &record, const std::vector<Run> &r
                              const AxisFit &fit);
 
 /// RMS of what the encoder adds to the position, counts: its steps and its noise. At least that of the steps.
-double encoderNoise(const std::vector<double> &position);
+double encoderNoise(const AxisRecord &record);
 
 #endif

@@ -1,6 +1,8 @@
 // The axis sheet against the virtual motor, whose inertia and friction are known.
+#include "axisfit.h"
 #include "axissheet.h"
 #include "recordedmove.h"
+#include "resimulation.h"
 
 #include <gtest/gtest.h>
 
@@ -111,8 +113,53 @@ TEST(AxisSheet, ASpringyAxisIsRefusedOrToldWithinFivePercent)
             }
         }
     }
+    // Resonances so high, and gains so low, that all fits nearly agree on what is 7 to 10 % too little.
+    const struct
+    {
+        double hertz, ratio;
+        int velocityP, velocityI, positionP, counts, holdCycles;
+    } rows[] = {{167, 1.4, 123, 119, 63, 1540, 273},
+                {225, 1.1, 215, 200, 58, 1212, 302},
+                {220, 0.7, 289, 255, 74, 1182, 270},
+                {166, 1.1, 107, 80, 48, 1945, 230}};
+    for (const auto &row : rows) {
+        Move move;
+        move.counts = row.counts;
+        move.holdCycles = row.holdCycles;
+        move.settings = {{VelocityP, row.velocityP}, {VelocityI, row.velocityI}, {PositionP, row.positionP}};
+        move.machine.springHz = row.hertz;
+        move.machine.inertiaRatio = row.ratio;
+        EXPECT_FALSE(axisSheet(recordMove(move)).isUsable()) << row.hertz;
+    }
     EXPECT_GT(refused, 150);
     EXPECT_GT(told, 5) << "a very stiff coupling is as good as none";
+}
+
+TEST(AxisSheet, ReSimulationTellsAWrongModelFromARightOne)
+{
+    for (const int divider : {7, 3}) { // as often as the drive measures, and twice as often
+        Move move;
+        move.divider = divider;
+        move.holdCycles = divider == 3 ? 160 : 300;
+        const AxisRecord record = axisRecordOf(recordMove(move));
+        const std::vector<double> speed = speedOf(record.position, record.period);
+        const auto runs = runsOf(speed, record.period);
+        ASSERT_GE(runs.size(), 2u);
+        const std::optional<AxisFit> fit = fitAxis(record, runs, divider == 3 ? 60 : 30, Explains::Current);
+        ASSERT_TRUE(fit);
+        EXPECT_LT(resimulatedSpeedError(record, runs, speed, *fit), 0.002);
+        for (const auto &[parameter, factor] :
+             {std::pair(AxisFit::Acceleration, 1.1), std::pair(AxisFit::DragForward, 1.5),
+              std::pair(AxisFit::DragBackward, 0.5), std::pair(AxisFit::Viscous, 6.0)}) {
+            AxisFit wrong = *fit;
+            wrong.value[parameter] *= factor;
+            EXPECT_GT(resimulatedSpeedError(record, runs, speed, wrong), 0.005) << parameter;
+        }
+        EXPECT_LT(encoderNoise(record), 0.6);
+    }
+    Move noisy;
+    noisy.machine.encoderNoise = 2.0;
+    EXPECT_NEAR(encoderNoise(axisRecordOf(recordMove(noisy))), 2.0, 0.5);
 }
 
 TEST(AxisSheet, RefusesWithTheReason)

@@ -32,7 +32,7 @@ CaptureData channel(const char *key, const char *name, const char *unit, double 
     return c;
 }
 
-const char evil[] = "</script><script>alert(1)</script><!-- \"'\\ &amp; \xE2\x80\xA8 ä";
+const char evil[] = "</script></SCRIPT ><script>alert(1)</script><!-- \"'\\ &amp; \xE2\x80\xA8 ä";
 
 CaptureRecord capture()
 {
@@ -120,6 +120,8 @@ TEST(Capture, ComesBackFromItsBlockAndItsPageToTheLastBit)
     EXPECT_FALSE(page.contains("alert(1)</script>"));
     EXPECT_EQ(page.count("<script>alert"), 0);
     EXPECT_EQ(page.count("id=\"velbrin-capture\""), 1);
+    const QByteArray block = captureBlockOf(page);
+    EXPECT_FALSE(block.isEmpty() || block.contains('<') || block.contains('>') || block.contains('&'));
     EXPECT_TRUE(page.trimmed().endsWith("</html>"));
 
     // What the plotter writes for a plain capture is unchanged but for the block.
@@ -142,8 +144,8 @@ TEST(Capture, NamesOfAForeignFileAreNoScriptInThePage)
                    &foreign),
               QString());
     const QString page = capturePage(foreign);
-    EXPECT_TRUE(
-        page.contains("label: \"&lt;/script&gt;&lt;script&gt;alert(1)&lt;/script&gt;&lt;!-- &quot;'&#92; &amp;amp;"));
+    EXPECT_TRUE(page.contains(
+        "label: \"&lt;/script&gt;&lt;/SCRIPT &gt;&lt;script&gt;alert(1)&lt;/script&gt;&lt;!-- &quot;'&#92; &amp;amp;"));
     EXPECT_FALSE(page.contains("<script>alert"));
 }
 
