@@ -28,6 +28,7 @@ struct Move
     std::map<int, int> settings = {};
     sim::Machine machine = {};
     bool returns = true;
+    bool withSetpoint = false; ///< the position setpoint instead of the torque achieved
 };
 
 /// Torque achieved and setpoint, position achieved.
@@ -39,7 +40,7 @@ inline CaptureRecord recordMove(const Move &move)
     drive.axis().inputs().loadTorque = move.loadTorque;
     drive.write(sim::reg::SoftEnable, 1);
     drive.advanceCycles(1000);
-    drive.write(sim::reg::RecorderSources, 0x2 | 0x4 | 0x40);
+    drive.write(sim::reg::RecorderSources, 0x2 | (move.withSetpoint ? 0x20 : 0x4) | 0x40);
     drive.write(sim::reg::RecorderDivider, move.divider);
     drive.write(sim::reg::RecorderState, 4); // at once
     bool isForth = false;
@@ -55,6 +56,8 @@ inline CaptureRecord recordMove(const Move &move)
     capture.samplePeriod = (move.divider + 1.0) / drive.profile().recorderRate;
     capture.channels = {recordedChannel("torqueref", 1.0 / 560), recordedChannel("torquemeas", 1.0 / 560),
                         recordedChannel("posmeas", 1.0)};
+    if (move.withSetpoint)
+        capture.channels[1] = recordedChannel("posreference", 1.0);
     for (int word = 0; word < sim::Recorder::Words; ++word) {
         CaptureData &channel = capture.channels[word % 3];
         drive.write(sim::reg::RecorderAddress, word);

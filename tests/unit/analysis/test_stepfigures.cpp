@@ -1,6 +1,8 @@
 // The figures of a step against a second calculation, which takes whole samples and knows the truth of what was made
 // up.
+#include "figurelines.h"
 #include "madeuprecords.h"
+#include "recordedmove.h"
 
 #include <gtest/gtest.h>
 
@@ -174,4 +176,63 @@ TEST(StepFigures, ChannelsOfACaptureAreChosenByControlModeAndMotion)
                         channel("posmeas", "cnts", {32700, -32766, -32736})};
     EXPECT_EQ(stepRecordOf(capture).measured, (std::vector<double>{32700, 32770, 32800}));
     EXPECT_EQ(stepRecordOf(capture).setpoint.back(), 32800);
+}
+
+TEST(StepFigures, OfTheVirtualMotorAreWhatItsDescriptionSays)
+{
+    const struct
+    {
+        int positionP, from, to; // overshoot, %
+    } rows[] = {{120, 0, 0}, {240, 3, 8}, {480, 50, 70}};
+    for (const auto &row : rows) {
+        Move move;
+        move.counts = 1000;
+        move.holdCycles = 2000;
+        move.withSetpoint = true;
+        move.settings = {{sim::reg::PositionP, row.positionP}};
+        const StepFigures figures = stepFigures(recordMove(move));
+        ASSERT_TRUE(figures.overshoot.value) << figures.overshoot.reason.toStdString();
+        EXPECT_GE(*figures.overshoot.value, row.from);
+        EXPECT_LE(*figures.overshoot.value, row.to);
+        EXPECT_EQ(figures.timeInCurrentLimit.value, 0.0);
+        if (row.positionP == 120) {
+            EXPECT_NEAR(*figures.timeTo90.value, 0.032, 0.004);
+            EXPECT_LE(figures.settlingTime.value.value_or(1.0), 0.070);
+            EXPECT_EQ(*figures.peakError.value, 1000.0);
+            EXPECT_FALSE(figures.ringing.value);
+        }
+    }
+    Move weak;
+    weak.counts = 1000;
+    weak.holdCycles = 2000;
+    weak.withSetpoint = true;
+    weak.settings = {{sim::reg::PeakCurrent, 2000}};
+    EXPECT_GT(*stepFigures(recordMove(weak)).timeInCurrentLimit.value, 0.002);
+}
+
+TEST(StepFigures, AreShownWithUnitsOrReasons)
+{
+    StepRecord record = makeUp(Made::Saturated, 1).record;
+    record.unit = QStringLiteral("cnts");
+    const StepFigures figures = stepFigures(record);
+    const QList<FigureLine> lines = figureLines(figures);
+    const QJsonObject json = toJson(figures);
+    ASSERT_EQ(lines.size(), 9);
+    for (const FigureLine &line : lines) {
+        ASSERT_TRUE(json.contains(line.name)) << line.name.toStdString();
+        EXPECT_EQ(line.isDefined, json.value(line.name).isDouble()) << line.name.toStdString();
+        if (!line.isDefined) {
+            EXPECT_EQ(line.value, json.value("reason").toObject().value(line.name).toString());
+        }
+    }
+    EXPECT_EQ(lines[6].value, QString::number(*figures.timeInCurrentLimit.value * 1000, 'g', 4) + " ms");
+    EXPECT_TRUE(lines[4].value.endsWith(" cnts"));
+
+    AxisSheet sheet;
+    sheet.acceleration = {1.6e6, 3.2e3};
+    EXPECT_EQ(axisLines(sheet, 10000).first().value, "160 ± 0.32 rev/s² per A");
+    EXPECT_EQ(axisLines(sheet).first().value, "1.6e+06 ± 3.2e+03 counts/s² per A");
+    sheet.refusal = QStringLiteral("Why.");
+    ASSERT_EQ(axisLines(sheet).size(), 1);
+    EXPECT_EQ(axisLines(sheet).first().value, "Why.");
 }
