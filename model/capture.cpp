@@ -1,0 +1,17 @@
+#include "capture.h"
+
+#include <algorithm>
+
+const CaptureData *CaptureRecord::channel(const QString &key) const
+{
+    const auto found = std::find_if(channels.cbegin(), channels.cend(), [&key](const CaptureData &channel) {
+        return channel.enabled && channel.key == key;
+    });
+    return found == channels.cend() ? nullptr : &*found;
+}
+
+double CaptureRecord::setting(const QString &name, double fallback) const
+{
+    const SingleParam found = settings.getParam(name);
+    return found.name == name ? found.value : fallback;
+}

@@ -1,0 +1,68 @@
+#include "capturefile.h"
+
+#include "capturejson.h"
+#include "capturepage.h"
+#include "captureplotter.h"
+#include "capturetext.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+namespace {
+
+constexpr qint64 largestFile = 8 << 20; // a page with all its scripts has some 400 KB
+
+QString tr(const char *text)
+{
+    return QCoreApplication::translate("CaptureRecord", text);
+}
+
+QString readBytes(const QString &fileName, QByteArray &bytes)
+{
+    QFile file(fileName);
+    // A pipe or a device would be waited for.
+    if (QFileInfo(fileName).exists() && !QFileInfo(fileName).isFile())
+        return tr("The capture cannot be opened: it is not a plain file.");
+    if (!file.open(QIODevice::ReadOnly))
+        return tr("The capture cannot be opened: %1.").arg(file.errorString());
+    if (file.size() > largestFile)
+        return tr("The file is far too large to be a capture.");
+    bytes = file.read(largestFile);
+    return file.error() == QFileDevice::NoError ? QString()
+                                                : tr("The capture cannot be read: %1.").arg(file.errorString());
+}
+
+} // namespace
+
+QString readCaptureFile(const QString &fileName, const QList<CaptureData> &known, CaptureRecord *capture)
+{
+    QByteArray bytes;
+    const QString problem = readBytes(fileName, bytes);
+    if (!problem.isEmpty())
+        return problem;
+    if (bytes.startsWith("\xef\xbb\xbf")) // a byte order mark that an editor or a spreadsheet has put there
+        bytes.remove(0, 3);
+    const QByteArray start = bytes.left(1000).trimmed();
+    if (start.startsWith('{'))
+        return captureFromJson(bytes, capture);
+    if (!start.startsWith('<'))
+        return captureFromText(bytes, known, capture);
+    const QByteArray block = captureBlockOf(bytes);
+    return block.isEmpty() ? tr("This page holds no capture. Pages that were saved by older versions of Velbrin cannot "
+                                "be opened again.")
+                           : captureFromJson(block, capture);
+}
+
+QString capturePage(const CaptureRecord &capture, const QJsonObject &extra)
+{
+    QList<CaptureData> channels = capture.channels;
+    for (CaptureData &channel : channels) {
+        // The name stands in a script's text, which the chart takes for HTML.
+        channel.name = channel.name.toHtmlEscaped();
+        channel.name.replace(QLatin1Char('\\'), QLatin1String("&#92;")).replace(QLatin1Char('\n'), QLatin1Char(' '));
+        channel.name.replace(QLatin1Char('\r'), QLatin1Char(' '));
+    }
+    const QString page = CapturePlotter().generatePlotPage(channels, capture.settings.getParamsHTMLList(),
+                                                           capture.drive.model.toHtmlEscaped());
+    return withCaptureBlock(page, captureToJson(capture, extra));
+}
