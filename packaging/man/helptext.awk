@@ -26,7 +26,7 @@ function startSection(name) {
 }
 
 function printEntry(line, deep,    gap) {
-    if (section != "OPTIONS" && section != "COMMANDS" && section != "ARGUMENTS")
+    if (section == "SYNOPSIS" || section == "DESCRIPTION")
         startSection("OPTIONS")
     setNesting(deep)
     gap = index(line, "  ")
