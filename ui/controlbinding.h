@@ -22,10 +22,11 @@ public:
     explicit ControlBinding(QWidget *root) : m_root(root) {}
 
     /// Shows a parameter in its control: range, then value, held within the range; a bit field in all of its controls.
+    /// Limits that a drive has reported (`fromDrive`) stand in the control's tool tip.
     /// Limits that no drive has reported yet (both 0) leave the control's own range, widened where the value lies
     /// outside. A value that a combo box has no item for gets an item "Value n". Returns false when there is no
     /// control of that name.
-    bool fill(const SingleParam &p);
+    bool fill(const SingleParam &p, bool fromDrive = false);
     /// The parameter's value as its control stands. Labels, read-only parameters, parameters without a control and
     /// withdrawn ones give back the held value: nothing can be edited there.
     double collect(const SingleParam &p) const;
@@ -43,7 +44,9 @@ private:
 
     QWidget *m_root;
     QHash<QString, Filled> m_filled;
-    QHash<QWidget *, QString> m_ownToolTips; ///< of the controls and captions that are withdrawn
+    void showToolTip(QWidget *widget, const QString &addition, bool withdrawn);
+
+    QHash<QWidget *, QString> m_ownToolTips; ///< as the forms have them
     QSet<QString> m_withdrawn;               ///< mnemonics
 };
 

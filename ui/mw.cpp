@@ -8,6 +8,7 @@
 #include "firmwaredialog.h"
 #include "helpview.h"
 #include "mwforms.h"
+#include "numberbox.h"
 #include "pagetable.h"
 #include "statepanels.h"
 #include "ui_overrideparams.h"
@@ -18,12 +19,14 @@
 #include <QSettings>
 #include <QShortcut>
 #include <QTimer>
+#include <QToolTip>
 
 namespace {
 
 constexpr int APPLY_INTERVAL_MS = 1000;
 constexpr int HELP_TIMEOUT_MS = 60000;
 constexpr int QUESTION_RETRY_MS = 100;
+constexpr int REFUSAL_MS = 15000;
 constexpr QSize PAGE_ITEM_SIZE(79, 96);
 constexpr int SINE_AND_COSINE_ORDERS = 12;
 
@@ -63,6 +66,7 @@ MW::MW(const Options &options, QWidget *parent)
     on_AXT_currentIndexChanged(0);
     hideForGood();
     connectDynamicSpinboxLabels();
+    connectNumberFields();
     updateUnitLabels();
     new WheelGuard(this);
     populateConnectionPortList();
@@ -211,6 +215,20 @@ void MW::connectSession()
     connect(m_form->FBR, changed, this, &MW::updateUnitLabels);
     connect(m_form->AXS, QOverload<double>::of(&QDoubleSpinBox::valueChanged), this, &MW::updateUnitLabels);
     connect(m_form->AXT, QOverload<int>::of(&QComboBox::currentIndexChanged), this, &MW::updateUnitLabels);
+}
+
+void MW::connectNumberFields()
+{
+    const auto fields = findChildren<NumberField *>();
+    for (NumberField *field : fields) {
+        connect(field, &NumberField::refused, this, [this, field](const QString &why) {
+            statusBar()->showMessage(why, REFUSAL_MS);
+            // Where the user looks, too; a box would take the keyboard away from the next field.
+            if (const auto *box = qobject_cast<QWidget *>(field->parent()); box && box->isVisible())
+                QToolTip::showText(box->mapToGlobal(QPoint(0, box->height())), why.toHtmlEscaped(), nullptr, QRect(),
+                                   REFUSAL_MS);
+        });
+    }
 }
 
 void MW::connectStatePanels()

@@ -16,6 +16,7 @@
 #include <QPointer>
 #include <QUrl>
 #include <functional>
+#include <initializer_list>
 #include <memory>
 
 class BusyDialog;
@@ -26,6 +27,7 @@ class FirmwareDialog;
 class QCloseEvent;
 class QLabel;
 class QPushButton;
+class QSpinBox;
 class QTimer;
 class StatePanels;
 class Ui_overrideParams;
@@ -146,6 +148,7 @@ private:
     void buildHelpAndStatus();
     void connectSession();
     void connectStatePanels();
+    void connectNumberFields();
     void createShortcuts();
     void hideForGood();
     void fillTorqueFunctions();
@@ -178,7 +181,11 @@ private:
 
     // Apply, save, files
     void clearChangesPending();
-    void commitEditedField();
+    /// Whether what was being typed, if anything was, could be taken.
+    bool commitEditedField();
+    /// Says why the number that was typed last into one of these fields was refused, once: whoever is about to move a
+    /// drive by them asks first.
+    bool anyNumberRefused(std::initializer_list<const QWidget *> boxes);
     bool valuesHaveArrived(const QString &refusal);
     bool applyToDrive();
     bool areParamsChanged();
@@ -193,7 +200,7 @@ private:
 
     // Testing, actions, help
     void stopStimulus();
-    void sendSetpoint(const QWidget *button, int target, Connection::Task task);
+    void sendSetpoint(const QWidget *button, QSpinBox *target, Connection::Task task);
     bool askToKeepUpgrading();
     void showBootloaderIdentity();
     void restartAndReconnect(Connection::Task restartTask);

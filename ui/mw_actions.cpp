@@ -58,33 +58,36 @@ void MW::on_abort_homing_clicked()
     m_connection.command(Connection::TaskAbortHoming);
 }
 
-void MW::sendSetpoint(const QWidget *button, int target, Connection::Task task)
+void MW::sendSetpoint(const QWidget *button, QSpinBox *target, Connection::Task task)
 {
     // The shortcuts reach the slots even when the buttons are disabled.
     if (!button->isEnabled())
         return;
-    m_connection.setTargetSetpoint(target);
+    // Not the old target in place of one that was typed and refused.
+    if (!commitEditedField() || anyNumberRefused({target}))
+        return;
+    m_connection.setTargetSetpoint(target->value());
     m_connection.command(task);
 }
 
 void MW::on_setAbs1_clicked()
 {
-    sendSetpoint(m_form->setAbs1, m_form->stimulusTarget1->value(), Connection::TaskSetAbsoluteSetpoint);
+    sendSetpoint(m_form->setAbs1, m_form->stimulusTarget1, Connection::TaskSetAbsoluteSetpoint);
 }
 
 void MW::on_setInc1_clicked()
 {
-    sendSetpoint(m_form->setInc1, m_form->stimulusTarget1->value(), Connection::TaskSetIncrementalSetpoint);
+    sendSetpoint(m_form->setInc1, m_form->stimulusTarget1, Connection::TaskSetIncrementalSetpoint);
 }
 
 void MW::on_setAbs2_clicked()
 {
-    sendSetpoint(m_form->setAbs2, m_form->stimulusTarget2->value(), Connection::TaskSetAbsoluteSetpoint);
+    sendSetpoint(m_form->setAbs2, m_form->stimulusTarget2, Connection::TaskSetAbsoluteSetpoint);
 }
 
 void MW::on_setInc2_clicked()
 {
-    sendSetpoint(m_form->setInc2, m_form->stimulusTarget2->value(), Connection::TaskSetIncrementalSetpoint);
+    sendSetpoint(m_form->setInc2, m_form->stimulusTarget2, Connection::TaskSetIncrementalSetpoint);
 }
 
 // No guard, as with disabling.

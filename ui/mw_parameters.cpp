@@ -66,7 +66,7 @@ void MW::fillControls(bool bareCatalogue)
         // Zeros that nobody read stay out of the controls; labels say that nothing was read yet.
         if (bareCatalogue && !p.readonly)
             continue;
-        if (!m_binding.fill(p) && p.name != QLatin1String("HWTYPE") && p.name != QLatin1String("UID"))
+        if (!m_binding.fill(p, m_connection.isConnected()) && p.name != QLatin1String("HWTYPE") && p.name != QLatin1String("UID"))
             qDebug().noquote() << p.name + QLatin1String(" NOT FOUND");
         // Without a drive there is no model to lack anything: a file can be looked through and edited.
         m_binding.setSupported(p.name, supported || typeId <= 0);

@@ -41,6 +41,13 @@ void MW::on_stimulusDelay2_editingFinished()
 
 void MW::on_stimulusEnabled_stateChanged(int)
 {
+    // No motion to an old target in place of one that was typed and refused.
+    if (m_form->stimulusEnabled->isChecked() &&
+        anyNumberRefused({m_form->stimulusTarget1, m_form->stimulusDelay1, m_form->stimulusTarget2,
+                          m_form->stimulusDelay2})) {
+        m_form->stimulusEnabled->setChecked(false);
+        return;
+    }
     on_stimulusTarget1_editingFinished();
 }
 
