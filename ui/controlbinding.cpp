@@ -156,6 +156,7 @@ bool ControlBinding::fill(const SingleParam &p, bool fromDrive)
     if (NumberField *field = NumberField::of(control)) {
         const bool known = fromDrive && hasLimits(p);
         field->setLimitsAreDrives(known);
+        field->refresh();
         showToolTip(control, known ? field->driveLimitsText() : QString(), m_withdrawn.contains(p.name));
     }
     return true;

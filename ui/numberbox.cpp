@@ -116,7 +116,18 @@ void NumberField::replaceRefused(QString &text)
     m_refusal = why(typed, number);
     // Behind the toolkit's reading of the field.
     QMetaObject::invokeMethod(
-        this, [this, refusal = m_refusal] { emit refused(refusal); }, Qt::QueuedConnection);
+        this,
+        [this, refusal = m_refusal] {
+            refresh();
+            emit refused(refusal);
+        },
+        Qt::QueuedConnection);
+}
+
+// The toolkit changes the line in silence when it shows a value.
+void NumberField::refresh()
+{
+    mark(m_line->displayText());
 }
 
 /// Without the unit, which the toolkit puts behind whatever is typed; somebody may have typed it as well.

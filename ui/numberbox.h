@@ -56,6 +56,9 @@ public:
     /// Whether a number is being typed that the box does not have yet.
     bool holdsNewNumber() const;
 
+    /// To be called when the box was given a value, so that no mark stays from what was typed before.
+    void refresh();
+
     // What the boxes pass on.
     QValidator::State validate(const QString &text) const;
     double numberOf(const QString &text) const;
