@@ -157,6 +157,7 @@ void MW::buildHelpAndStatus()
     m_errorWindow = new ErrorWindow(this);
     connect(m_errorWindow, &ErrorWindow::vitalMessage, this,
             [this](const QString &line) { statusBar()->showMessage(line); });
+    connect(m_errorWindow, &ErrorWindow::linkActivated, this, &MW::browserLinkClicked);
     m_connectionStatusLabel = new QLabel(tr("Not connected"));
     m_connectionStatusLabel->setObjectName(QStringLiteral("connectionStatus"));
     m_connectionStatusLabel->setMargin(2);
@@ -189,7 +190,7 @@ void MW::connectSession()
     // The worker emits on its own thread; everything arrives here through the event loop.
     const auto type = Qt::QueuedConnection;
     connect(&m_connection, &Connection::statusChanged, this, &MW::connectionStatusChanged, type);
-    connect(&m_connection, &Connection::error, m_errorWindow, &ErrorWindow::showMessage, type);
+    connect(&m_connection, &Connection::message, m_errorWindow, &ErrorWindow::tell, type);
     connect(&m_connection, &Connection::parametersRetreived, this, &MW::paramsRetreived, type);
     connect(&m_connection, &Connection::plotReady, this, &MW::plotCapture, type);
     connect(&m_connection, &Connection::updateCaptureButtonText, this, &MW::changeScopeButtonText, type);
@@ -206,8 +207,23 @@ void MW::connectSession()
     m_disableWatch = new DisableWatch(this);
     connect(m_disableWatch, &DisableWatch::report, this,
             [this](const QString &text) { statusBar()->showMessage(text); });
-    connect(m_disableWatch, &DisableWatch::unconfirmed, m_errorWindow, &ErrorWindow::showMessage);
+    connect(m_disableWatch, &DisableWatch::outdated, this, [this](const QString &last, const QString &text) {
+        if (statusBar()->currentMessage() == last)
+            statusBar()->showMessage(text);
+    });
+    connect(m_disableWatch, &DisableWatch::unconfirmed, this, [this](const QString &text) {
+        m_errorWindow->tell({MessageKind::UnconfirmedStop, text});
+    });
     connect(&m_connection, &Connection::enableStatePolled, m_disableWatch, &DisableWatch::enableStatePolled, type);
+    connect(&m_connection, &Connection::enableStatePolled, this, &MW::enableStatePolled, type);
+    connect(&m_connection, &Connection::disableFinished, m_disableWatch, &DisableWatch::disableFinished, type);
+    connect(
+        &m_connection, &Connection::driveParametersChanged, this,
+        [this](const Parameters &list) {
+            m_driveParams = list;
+            updateUnitLabels();
+        },
+        type);
 
     const auto changed = QOverload<int>::of(&QSpinBox::valueChanged);
     connect(m_form->MUL, changed, this, &MW::updateUnitLabels);

@@ -162,6 +162,7 @@ private:
     void chooseNode();
     void connectToNode(int address);
     void enableDriveControls(bool connected);
+    void updateSaveToFileButton();
     /// Whether a drive is connected that has settings and moves: not one that runs its bootloader.
     bool driveRunsItsFirmware() const;
     void showMaximumSampleRate();
@@ -176,7 +177,10 @@ private:
     void doParamSanityChecks();
     void updateControlVisibility();
     void updateAllRules();
+    /// For values beside their controls: as the pages have the scale.
     struct UnitConversion unitConversion() const;
+    /// For what the drive does: as it has the scale. Without one, as the pages have it.
+    struct UnitConversion driveUnitConversion() const;
     void askToResetPosition();
 
     // Apply, save, files
@@ -204,6 +208,7 @@ private:
     bool askToKeepUpgrading();
     void showBootloaderIdentity();
     void restartAndReconnect(Connection::Task restartTask);
+    void enableStatePolled(bool enabled);
     void loadHelp();
     /// The page of the same name among the offline pages once help is offline; any other address stays as it is.
     QUrl offlineCopyOf(const QUrl &url) const;
@@ -239,7 +244,8 @@ private:
     };
     QList<Question> m_questions;
 
-    Parameters m_params; ///< the set last shown in the pages
+    Parameters m_params;      ///< what the user wants: the set shown in the pages, edits included
+    Parameters m_driveParams; ///< what the drive has: last read from it or acknowledged by it
     ControlBinding m_binding{this};
     PendingChanges m_pending;
     QList<QLabel *> m_unitLabels; ///< labels that show their control in machine units
@@ -252,6 +258,8 @@ private:
     QList<NodeType> m_foundNodes;
     QPointer<QDialog> m_nodeDialog;
     bool m_nodeQuestionWaits = false;
+    QString m_lastPort; ///< of the drive that was connected last, empty before the first
+    int m_lastAddress = 0;
 
     int m_currentPage = 0;
     bool m_helpEnabled = true;     ///< false while a plot is shown
@@ -259,6 +267,8 @@ private:
     bool m_changesPending = false; ///< controls hold values that the drive has not been given
     bool m_paramsSaved = true;     ///< the drive's flash holds what was last applied
     bool m_valuesArrived = false;  ///< this connection's full read has filled the controls
+    enum class EnableState { Unknown, Enabled, Disabled } m_enableState = EnableState::Unknown; ///< by the last poll
+    bool m_disconnectWhenDisabled = false; ///< the maker asks for it, and the drive is enabled
     bool m_anySetArrived = false;  ///< the first set is the bare catalogue, whose zeros are nobody's settings
     bool m_showAdvanced = false;
     bool m_reconnectAfterUpgrade = false;

@@ -38,7 +38,9 @@ void MW::on_disable_drive_clicked()
         statusBar()->showMessage(tr("Nothing to disable: the drive is in firmware upgrade mode, which drives no motor"),
                                  upgradeModeNoteMs);
     else
-        m_disableWatch->disableAsked(m_connection.isConnected());
+        m_disableWatch->disableAsked(m_connection.isConnected() ? DisableWatch::Reach::Connected
+                                     : m_lastAddress != 0       ? DisableWatch::Reach::LastKnown
+                                                                : DisableWatch::Reach::Nobody);
 }
 
 void MW::on_clear_faults_clicked()

@@ -188,7 +188,12 @@ bool MW::checkIfParamsSavedAndAskUser()
 
 void MW::on_save_settings_to_file_clicked()
 {
-    commitEditedField();
+    // The shortcut reaches the slot even when the button is disabled.
+    if (m_connection.isConnected() && !valuesHaveArrived(tr("Nothing saved: the settings of this drive have not been "
+                                                            "read yet")))
+        return;
+    if (!commitEditedField())
+        return;
     const QString file = askFile(QFileDialog::AcceptSave, tr("Save settings to file"),
                                  m_lastDirectory + QLatin1String("/settings.drc"), tr("Drive settings (*.drc)"),
                                  QStringLiteral("drc")); // without it the open dialog would not list the file

@@ -1,5 +1,4 @@
 // Pages and the view beside them: online help, its offline copy, or the plot of a capture.
-#include "errorwindow.h"
 #include "helpview.h"
 #include "makerlinks.h"
 #include "mw.h"
@@ -66,9 +65,6 @@ void MW::helpLoadingTimeouted()
     qDebug() << "   LOAD TIMEOUTED";
     m_helpTimer->stop();
     m_offlineHelp = true;
-    m_errorWindow->showMessage(tr("Loading of online documentation Wiki failed (no internet?), displaying an offline "
-                                  "copy. It is advised to check out latest documentation at <a>%1</a>.")
-                                   .arg(makerWikiBase()));
     m_helpView->stopLoading();
     pageChanged();
 }

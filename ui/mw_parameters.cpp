@@ -37,6 +37,7 @@ void MW::paramsRetreived(Parameters params, bool loadedFromFile)
         m_pending.fileLoaded();
     else
         m_pending.settle(m_params);
+    updateSaveToFileButton();
     updateUnitLabels();
     updateAllRules();
     updateApplyButtonState();
@@ -211,7 +212,7 @@ void MW::doParamSanityChecks()
     in.controlMode = m_form->CM->currentIndex();
     in.limitVelocity = units.velocity(m_form->CVL->value());
     in.faultVelocity = units.velocity(m_form->FEV->value(), false, true);
-    m_errorWindow->showMessage(sanityWarnings(in));
+    m_errorWindow->note(sanityWarnings(in));
 }
 
 // --- The drive changed its control mode --------------------------------------------------------------------------
@@ -224,7 +225,7 @@ void MW::deviceControlModeChanged(int newmode)
         m_connection.command(Connection::TaskSetZero);
         return; // answered for good: a second reset through the question would add nothing
     }
-    const int oneRevolution = 4 * m_form->FBR->value();
+    const double oneRevolution = 4 * m_driveParams.getParam(QStringLiteral("FBR")).value;
     if (m_resetChoice == ResetChoice::Ask && newmode == 0 && std::abs(m_connection.positionFeedback()) > oneRevolution)
         askWhenFree([this] { askToResetPosition(); });
 }

@@ -18,6 +18,21 @@ UnitConversion MW::unitConversion() const
     return units;
 }
 
+UnitConversion MW::driveUnitConversion() const
+{
+    if (!driveRunsItsFirmware() || !m_valuesArrived)
+        return unitConversion();
+    const auto value = [this](const char *name) { return m_driveParams.getParam(QLatin1String(name)).value; };
+    UnitConversion units;
+    units.pif = value("PIF") > 0 ? value("PIF") : m_loopFrequency;
+    units.fbr = value("FBR");
+    units.axs = value("AXS");
+    units.mul = value("MUL");
+    units.div = value("DIV");
+    units.unit = axisUnits(int(value("AXT"))).plural;
+    return units;
+}
+
 double MW::convertHWtoMachineVelocityUnits(double hwunits, bool isSetpoint, bool rawHWscale)
 {
     return unitConversion().velocity(hwunits, isSetpoint, rawHWscale);
@@ -49,7 +64,7 @@ QString MW::convertHWrefToUnitsLabel(double ref)
     active.controlMode = int(std::lround(m_connection.getActiveParamValue(QStringLiteral("CM"))));
     active.cvl = m_connection.getActiveParamValue(QStringLiteral("CVL"));
     active.mmc = m_connection.getActiveParamValue(QStringLiteral("MMC"));
-    return unitConversion().setpointLabel(ref, active);
+    return driveUnitConversion().setpointLabel(ref, active);
 }
 
 void MW::connectDynamicSpinboxLabels()

@@ -1,0 +1,84 @@
+#include "nodedialog.h"
+
+#include "makerlinks.h"
+#include "ui_selectbusnode.h"
+
+#include <QPushButton>
+#include <QTimer>
+
+namespace {
+
+QString rowText(const NodeType &node)
+{
+    if (node.unreadable)
+        return NodeDialog::tr("Something at bus address %1 whose answers are damaged").arg(node.address);
+    const QString model = Connection::deviceModelName(node.deviceType, true);
+    return (node.firmwareUpgradeMode ? NodeDialog::tr("%1 at bus address %2 in firmware upgrade mode")
+                                     : NodeDialog::tr("%1 at bus address %2"))
+        .arg(model)
+        .arg(node.address);
+}
+
+} // namespace
+
+NodeDialog::NodeDialog(const QList<NodeType> &nodes, int lastAddress, QWidget *parent)
+    : QDialog(parent), m_nodes(nodes), m_form(new Ui_selectBusNode)
+{
+    m_form->setupUi(this);
+    m_form->label_2->setText(
+        m_form->label_2->text().replace(QLatin1String("https://wiki.tarnwell.example"), makerWikiBase()));
+    QPushButton *again = m_form->buttonBox->addButton(tr("Search again"), QDialogButtonBox::ActionRole);
+    connect(again, &QPushButton::clicked, this, [this] { done(SearchAgain); });
+    connect(m_form->nodeList, &QListWidget::itemSelectionChanged, this, &NodeDialog::updateOpenButton);
+    addRows(lastAddress);
+    if (m_nodes.isEmpty()) {
+        sayWhatToCheck();
+        again->setDefault(true);
+        again->setFocus();
+    }
+    updateOpenButton();
+}
+
+NodeDialog::~NodeDialog() = default;
+
+int NodeDialog::chosenAddress() const
+{
+    const auto chosen = m_form->nodeList->selectedItems();
+    return chosen.isEmpty() ? 0 : m_nodes[m_form->nodeList->row(chosen.first())].address;
+}
+
+void NodeDialog::addRows(int lastAddress)
+{
+    QListWidget *list = m_form->nodeList;
+    int chosen = m_nodes.size() == 1 && !m_nodes.first().unreadable ? 0 : -1;
+    for (const NodeType &node : std::as_const(m_nodes)) {
+        list->addItem(rowText(node));
+        if (node.address == lastAddress && !node.unreadable)
+            chosen = list->count() - 1;
+    }
+    list->setFocus();
+    if (chosen >= 0)
+        list->setCurrentRow(chosen);
+    else // the keyboard makes the first row current without choosing it, and the first Down would skip it
+        QTimer::singleShot(0, list, [list] {
+            if (list->selectedItems().isEmpty())
+                list->setCurrentItem(nullptr);
+        });
+}
+
+void NodeDialog::sayWhatToCheck()
+{
+    m_form->nodeList->hide();
+    m_form->buttonBox->button(QDialogButtonBox::Open)->hide();
+    m_form->label->setText(tr("No drive answered. Check that:"
+                              "<ul><li>the drive has its supply, also the logic supply if it has one</li>"
+                              "<li>the bus cable is plugged in at both ends, and the last drive has its terminator</li>"
+                              "<li>the chosen port is that of the Zetabus adapter</li>"
+                              "<li>no two drives are set to the same address, and each address is 1 to 20</li></ul>"));
+    m_form->label->setWordWrap(true);
+}
+
+void NodeDialog::updateOpenButton()
+{
+    m_form->buttonBox->button(QDialogButtonBox::Open)->setEnabled(chosenAddress() != 0);
+}
