@@ -162,6 +162,16 @@ bool ControlBinding::fill(const SingleParam &p, bool fromDrive)
     return true;
 }
 
+void ControlBinding::keepStartValue(const SingleParam &p, int startValue)
+{
+    QWidget *control = findControl(m_root, p.name);
+    if (auto *combo = qobject_cast<QComboBox *>(control))
+        selectComboValue(combo, startValue);
+    double shown = 0.0;
+    if (readControl(control, shown))
+        m_filled.insert(p.name, {shown, p.value});
+}
+
 double ControlBinding::collect(const SingleParam &p) const
 {
     const auto &bitField = bitFieldControls(p.name);

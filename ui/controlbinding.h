@@ -27,6 +27,9 @@ public:
     /// outside. A value that a combo box has no item for gets an item "Value n". Returns false when there is no
     /// control of that name.
     bool fill(const SingleParam &p, bool fromDrive = false);
+    /// Leaves a parameter that nobody has read or set as the form has it, a combo box at the start value. The control
+    /// stands for the held value, not for what it shows, until somebody edits it.
+    void keepStartValue(const SingleParam &p, int startValue);
     /// The parameter's value as its control stands. Labels, read-only parameters, parameters without a control and
     /// withdrawn ones give back the held value: nothing can be edited there.
     double collect(const SingleParam &p) const;
@@ -42,10 +45,10 @@ private:
         double exact; ///< what came in, within the drive's limits
     };
 
-    QWidget *m_root;
-    QHash<QString, Filled> m_filled;
     void showToolTip(QWidget *widget, const QString &addition, bool withdrawn);
 
+    QWidget *m_root;
+    QHash<QString, Filled> m_filled;
     QHash<QWidget *, QString> m_ownToolTips; ///< as the forms have them
     QSet<QString> m_withdrawn;               ///< mnemonics
 };

@@ -204,6 +204,9 @@ void MW::on_save_settings_to_file_clicked()
     m_connection.setParams(m_params);
     m_connection.setSettingsFileName(file);
     m_connection.command(Connection::TaskSaveSettingsFile);
+    if (m_params.getParam(QStringLiteral("HWTYPE")).value <= 0)
+        m_errorWindow->note(tr("This file is saved without a drive: what nobody has typed into it are start values of "
+                               "this program, not the settings of a drive."));
 }
 
 void MW::on_load_settings_from_file_clicked()

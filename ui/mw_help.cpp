@@ -65,6 +65,11 @@ void MW::helpLoadingTimeouted()
     qDebug() << "   LOAD TIMEOUTED";
     m_helpTimer->stop();
     m_offlineHelp = true;
+    // A line that stays, instead of a box at every start of whoever works without a network.
+    m_form->offlineHelpNotification->setText(
+        tr("Loading of online documentation Wiki failed (no internet?), displaying an offline copy. It is advised to "
+           "check out latest documentation at <a>%1</a>.")
+            .arg(makerWikiBase().toHtmlEscaped()));
     m_helpView->stopLoading();
     pageChanged();
 }

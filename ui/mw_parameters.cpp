@@ -65,8 +65,10 @@ void MW::fillControls(bool bareCatalogue)
         if (!p.auxFlag && bitFieldControls(p.name).isEmpty())
             continue;
         // Zeros that nobody read stay out of the controls; labels say that nothing was read yet.
-        if (bareCatalogue && !p.readonly)
+        if (bareCatalogue && !p.readonly) {
+            m_binding.keepStartValue(p, int(Parameters::startValue(p.name)));
             continue;
+        }
         if (!m_binding.fill(p, m_connection.isConnected()) && p.name != QLatin1String("HWTYPE") && p.name != QLatin1String("UID"))
             qDebug().noquote() << p.name + QLatin1String(" NOT FOUND");
         // Without a drive there is no model to lack anything: a file can be looked through and edited.

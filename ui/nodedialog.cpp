@@ -3,8 +3,8 @@
 #include "makerlinks.h"
 #include "ui_selectbusnode.h"
 
+#include <QKeyEvent>
 #include <QPushButton>
-#include <QTimer>
 
 namespace {
 
@@ -56,14 +56,21 @@ void NodeDialog::addRows(int lastAddress)
         if (node.address == lastAddress && !node.unreadable)
             chosen = list->count() - 1;
     }
+    list->installEventFilter(this);
     list->setFocus();
     if (chosen >= 0)
         list->setCurrentRow(chosen);
-    else // the keyboard makes the first row current without choosing it, and the first Down would skip it
-        QTimer::singleShot(0, list, [list] {
-            if (list->selectedItems().isEmpty())
-                list->setCurrentItem(nullptr);
-        });
+}
+
+bool NodeDialog::eventFilter(QObject *watched, QEvent *event)
+{
+    // A list that gets the keyboard takes its first row for the current one, chosen or not: the first Down would skip it.
+    const bool arrow = event->type() == QEvent::KeyPress && (static_cast<QKeyEvent *>(event)->key() == Qt::Key_Down ||
+                                                             static_cast<QKeyEvent *>(event)->key() == Qt::Key_Up);
+    if (!arrow || chosenAddress() != 0 || m_nodes.isEmpty())
+        return QDialog::eventFilter(watched, event);
+    m_form->nodeList->setCurrentRow(0, QItemSelectionModel::ClearAndSelect);
+    return true;
 }
 
 void NodeDialog::sayWhatToCheck()

@@ -27,6 +27,9 @@ public:
     /// Bus address of the chosen drive, 0 when none is chosen.
     int chosenAddress() const;
 
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
 private:
     void addRows(int lastAddress);
     void sayWhatToCheck();

@@ -229,6 +229,32 @@ TEST_F(Apply, FileLoadedWithoutADriveFillsTheControls)
     EXPECT_TRUE(bus().received().empty());
 }
 
+TEST_F(Apply, FileSavedWithoutADriveIsNobodysSettings)
+{
+    const QString file = QDir::current().filePath("nobodys.drc");
+    openWindow();
+    EXPECT_EQ(control<QComboBox>("FBD")->currentIndex(), 1);
+    control<QSpinBox>("KPP")->setValue(77); // typed, so somebody's
+    m_answers.chooseFile(file);
+    click("save_settings_to_file");
+    ASSERT_TRUE(waitFor([&] { return QFile::exists(file); }));
+    EXPECT_TRUE(shownMessage(m_window.get()).startsWith("This file is saved without a drive"));
+    control<QDialog>("errorWindow")->close();
+
+    bus().set(DriveAddress, KVP, 1234);
+    bus().set(DriveAddress, 493, 3); // FBD
+    connectToDrive();
+    m_answers.chooseFile(file);
+    click("load_settings_from_file");
+    ASSERT_TRUE(waitFor([this] { return control<QSpinBox>("KPP")->value() == 77; }));
+    EXPECT_EQ(kvp()->value(), 1234);
+    click("apply_button");
+    ASSERT_TRUE(driveHas(201, 77));
+    ASSERT_TRUE(waitForWrite(LAST_RECORD, bus().read(DriveAddress, LAST_RECORD)));
+    EXPECT_EQ(bus().read(DriveAddress, KVP), 1234);
+    EXPECT_EQ(bus().read(DriveAddress, 493), 3);
+}
+
 TEST_F(Apply, ClosingAsksFirstForEditsThenForTheDrivesMemory)
 {
     openConnectedWindow();
