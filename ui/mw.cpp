@@ -2,13 +2,11 @@
 #include "mw.h"
 
 #include "busydialog.h"
-#include "disablewatch.h"
 #include "errorwindow.h"
 #include "escapefilter.h"
 #include "firmwaredialog.h"
 #include "helpview.h"
 #include "mwforms.h"
-#include "numberbox.h"
 #include "pagetable.h"
 #include "statepanels.h"
 #include "ui_overrideparams.h"
@@ -19,14 +17,12 @@
 #include <QSettings>
 #include <QShortcut>
 #include <QTimer>
-#include <QToolTip>
 
 namespace {
 
 constexpr int APPLY_INTERVAL_MS = 1000;
 constexpr int HELP_TIMEOUT_MS = 60000;
 constexpr int QUESTION_RETRY_MS = 100;
-constexpr int REFUSAL_MS = 15000;
 constexpr QSize PAGE_ITEM_SIZE(79, 96);
 constexpr int SINE_AND_COSINE_ORDERS = 12;
 
@@ -204,19 +200,7 @@ void MW::connectSession()
     connect(&m_connection, &Connection::controlModeChanged, this, &MW::deviceControlModeChanged, type);
 
     connect(&m_updateChecker, &UpdateChecker::showMessage, this, &MW::handleUpdateCheckerMessage);
-    m_disableWatch = new DisableWatch(this);
-    connect(m_disableWatch, &DisableWatch::report, this,
-            [this](const QString &text) { statusBar()->showMessage(text); });
-    connect(m_disableWatch, &DisableWatch::outdated, this, [this](const QString &last, const QString &text) {
-        if (statusBar()->currentMessage() == last)
-            statusBar()->showMessage(text);
-    });
-    connect(m_disableWatch, &DisableWatch::unconfirmed, this, [this](const QString &text) {
-        m_errorWindow->tell({MessageKind::UnconfirmedStop, text});
-    });
-    connect(&m_connection, &Connection::enableStatePolled, m_disableWatch, &DisableWatch::enableStatePolled, type);
-    connect(&m_connection, &Connection::enableStatePolled, this, &MW::enableStatePolled, type);
-    connect(&m_connection, &Connection::disableFinished, m_disableWatch, &DisableWatch::disableFinished, type);
+    connectDisableWatch();
     connect(
         &m_connection, &Connection::driveParametersChanged, this,
         [this](const Parameters &list) {
@@ -231,20 +215,6 @@ void MW::connectSession()
     connect(m_form->FBR, changed, this, &MW::updateUnitLabels);
     connect(m_form->AXS, QOverload<double>::of(&QDoubleSpinBox::valueChanged), this, &MW::updateUnitLabels);
     connect(m_form->AXT, QOverload<int>::of(&QComboBox::currentIndexChanged), this, &MW::updateUnitLabels);
-}
-
-void MW::connectNumberFields()
-{
-    const auto fields = findChildren<NumberField *>();
-    for (NumberField *field : fields) {
-        connect(field, &NumberField::refused, this, [this, field](const QString &why) {
-            statusBar()->showMessage(why, REFUSAL_MS);
-            // Where the user looks, too; a box would take the keyboard away from the next field.
-            if (const auto *box = qobject_cast<QWidget *>(field->parent()); box && box->isVisible())
-                QToolTip::showText(box->mapToGlobal(QPoint(0, box->height())), why.toHtmlEscaped(), nullptr, QRect(),
-                                   REFUSAL_MS);
-        });
-    }
 }
 
 void MW::connectStatePanels()

@@ -149,6 +149,7 @@ private:
     void connectSession();
     void connectStatePanels();
     void connectNumberFields();
+    void connectDisableWatch();
     void createShortcuts();
     void hideForGood();
     void fillTorqueFunctions();
@@ -172,6 +173,7 @@ private:
     void setParams();
     void sendUpdateQuery();
     void fillControls(bool bareCatalogue);
+    bool fillControl(SingleParam p);
     void showDeviceType(int typeId);
     void connectDynamicSpinboxLabels();
     void doParamSanityChecks();

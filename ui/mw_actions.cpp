@@ -1,5 +1,6 @@
 // Buttons and shortcuts that act on the connected drive at once.
 #include "disablewatch.h"
+#include "errorwindow.h"
 #include "mw.h"
 #include "mwforms.h"
 #include "statepanels.h"
@@ -10,6 +11,24 @@
 
 namespace {
 constexpr int upgradeModeNoteMs = 5000; // no longer: the drive may run its firmware again by then
+}
+
+void MW::connectDisableWatch()
+{
+    const auto type = Qt::QueuedConnection; // from the worker
+    m_disableWatch = new DisableWatch(this);
+    connect(m_disableWatch, &DisableWatch::report, this,
+            [this](const QString &text) { statusBar()->showMessage(text); });
+    connect(m_disableWatch, &DisableWatch::outdated, this, [this](const QString &last, const QString &text) {
+        if (statusBar()->currentMessage() == last)
+            statusBar()->showMessage(text);
+    });
+    connect(m_disableWatch, &DisableWatch::unconfirmed, this, [this](const QString &text) {
+        m_errorWindow->tell({MessageKind::UnconfirmedStop, text});
+    });
+    connect(&m_connection, &Connection::enableStatePolled, m_disableWatch, &DisableWatch::enableStatePolled, type);
+    connect(&m_connection, &Connection::enableStatePolled, this, &MW::enableStatePolled, type);
+    connect(&m_connection, &Connection::disableFinished, m_disableWatch, &DisableWatch::disableFinished, type);
 }
 
 void MW::on_enable_drive_clicked()

@@ -11,6 +11,7 @@
 
 #include <QDebug>
 #include <QMessageBox>
+#include <algorithm>
 #include <cmath>
 
 void MW::paramsRetreived(Parameters params, bool loadedFromFile)
@@ -69,11 +70,24 @@ void MW::fillControls(bool bareCatalogue)
             m_binding.keepStartValue(p, int(Parameters::startValue(p.name)));
             continue;
         }
-        if (!m_binding.fill(p, m_connection.isConnected()) && p.name != QLatin1String("HWTYPE") && p.name != QLatin1String("UID"))
+        if (!fillControl(p) && p.name != QLatin1String("HWTYPE") && p.name != QLatin1String("UID"))
             qDebug().noquote() << p.name + QLatin1String(" NOT FOUND");
         // Without a drive there is no model to lack anything: a file can be looked through and edited.
         m_binding.setSupported(p.name, supported || typeId <= 0);
     }
+}
+
+bool MW::fillControl(SingleParam p)
+{
+    // A file brings the limits of the drive that it was saved from; those of the connected one count. A value beyond
+    // them is shown all the same: it is what the file says, and applying it tells what the drive says to it.
+    const SingleParam held = m_driveParams.getParam(p.name);
+    const bool known = m_connection.isConnected() && m_connection.valuesAreComplete() && held.max > held.min;
+    if (known) {
+        p.min = std::min(held.min, p.value);
+        p.max = std::max(held.max, p.value);
+    }
+    return m_binding.fill(p, known && p.min == held.min && p.max == held.max);
 }
 
 void MW::showDeviceType(int typeId)

@@ -1,10 +1,31 @@
-// Values in machine units beside the controls.
+// Number fields: what they say about a refused number, and values in machine units beside them.
 #include "mw.h"
 #include "mwforms.h"
+#include "numberbox.h"
 #include "unitconversion.h"
 
 #include <QDebug>
+#include <QStatusBar>
+#include <QToolTip>
 #include <cmath>
+
+namespace {
+constexpr int REFUSAL_MS = 15000;
+}
+
+void MW::connectNumberFields()
+{
+    const auto fields = findChildren<NumberField *>();
+    for (NumberField *field : fields) {
+        connect(field, &NumberField::refused, this, [this, field](const QString &why) {
+            statusBar()->showMessage(why, REFUSAL_MS);
+            // Where the user looks, too; a box would take the keyboard away from the next field.
+            if (const auto *box = qobject_cast<QWidget *>(field->parent()); box && box->isVisible())
+                QToolTip::showText(box->mapToGlobal(QPoint(box->width(), 0)), why.toHtmlEscaped(), nullptr, QRect(),
+                                   REFUSAL_MS);
+        });
+    }
+}
 
 UnitConversion MW::unitConversion() const
 {

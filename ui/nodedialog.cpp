@@ -64,7 +64,11 @@ void NodeDialog::addRows(int lastAddress)
 
 bool NodeDialog::eventFilter(QObject *watched, QEvent *event)
 {
-    // A list that gets the keyboard takes its first row for the current one, chosen or not: the first Down would skip it.
+    // A list that gets the keyboard takes its first row for the current one, chosen or not. It looks as if it were
+    // chosen, and the first Down would skip it.
+    if (event->type() == QEvent::FocusIn && chosenAddress() == 0)
+        QMetaObject::invokeMethod(
+            m_form->nodeList, [list = m_form->nodeList] { list->setCurrentItem(nullptr); }, Qt::QueuedConnection);
     const bool arrow = event->type() == QEvent::KeyPress && (static_cast<QKeyEvent *>(event)->key() == Qt::Key_Down ||
                                                              static_cast<QKeyEvent *>(event)->key() == Qt::Key_Up);
     if (!arrow || chosenAddress() != 0 || m_nodes.isEmpty())

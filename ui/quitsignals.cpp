@@ -11,9 +11,10 @@ constexpr int QUIT_SIGNALS[] = {SIGTERM, SIGINT, SIGHUP, SIGQUIT};
 int writeEnd = -1;
 
 // In a signal handler only a write is safe; the event loop reads it. Whoever asks a second time means at once.
-void wakeEventLoop(int number)
+void wakeEventLoop(int)
 {
-    std::signal(number, SIG_DFL);
+    for (int other : QUIT_SIGNALS)
+        std::signal(other, SIG_DFL);
     const char byte = 1;
     const ssize_t written = write(writeEnd, &byte, 1);
     Q_UNUSED(written)

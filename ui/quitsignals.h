@@ -5,8 +5,8 @@
 
 #include <QObject>
 
-/// Turns the first signal into QCoreApplication::exit(0); the second of a kind ends the program at once. One at a time;
-/// the application must exist.
+/// Turns the first signal into QCoreApplication::exit(0); the second ends the program at once. One at a time; the
+/// application must exist.
 class QuitSignals : public QObject
 {
     Q_OBJECT
