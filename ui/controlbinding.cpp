@@ -1,6 +1,7 @@
 #include "controlbinding.h"
 
 #include "bitfields.h"
+#include "numberbox.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -121,7 +122,7 @@ bool hasValueItem(const QComboBox *combo)
 
 } // namespace
 
-bool ControlBinding::fill(const SingleParam &p)
+bool ControlBinding::fill(const SingleParam &p, bool fromDrive)
 {
     const auto &bitField = bitFieldControls(p.name);
     if (!bitField.isEmpty()) {
@@ -152,7 +153,23 @@ bool ControlBinding::fill(const SingleParam &p)
         exact = p.value; // a choice is not clamped: "Value n" shows what the drive holds
     }
     m_filled.insert(p.name, {shown, exact});
+    if (NumberField *field = NumberField::of(control)) {
+        const bool known = fromDrive && hasLimits(p);
+        field->setLimitsAreDrives(known);
+        field->refresh();
+        showToolTip(control, known ? field->driveLimitsText() : QString(), m_withdrawn.contains(p.name));
+    }
     return true;
+}
+
+void ControlBinding::keepStartValue(const SingleParam &p, int startValue)
+{
+    QWidget *control = findControl(m_root, p.name);
+    if (auto *combo = qobject_cast<QComboBox *>(control))
+        selectComboValue(combo, startValue);
+    double shown = 0.0;
+    if (readControl(control, shown))
+        m_filled.insert(p.name, {shown, p.value});
 }
 
 double ControlBinding::collect(const SingleParam &p) const
@@ -183,16 +200,26 @@ void ControlBinding::setSupported(const QString &name, bool supported)
         if (label->buddy() == control)
             widgets.append(label);
     for (QWidget *widget : widgets) {
-        if (!supported)
-            m_ownToolTips.insert(widget, widget->toolTip());
         widget->setEnabled(supported);
-        widget->setToolTip(supported ? m_ownToolTips.take(widget)
-                                     : translated(QT_TRANSLATE_NOOP("MW", "not on this model")));
+        const NumberField *field = NumberField::of(widget);
+        showToolTip(widget, field && field->limitsAreDrives() ? field->driveLimitsText() : QString(), !supported);
     }
     if (supported)
         m_withdrawn.remove(name);
     else
         m_withdrawn.insert(name);
+}
+
+void ControlBinding::showToolTip(QWidget *widget, const QString &addition, bool withdrawn)
+{
+    if (!m_ownToolTips.contains(widget))
+        m_ownToolTips.insert(widget, widget->toolTip());
+    QString text = m_ownToolTips.value(widget);
+    if (withdrawn)
+        text = translated(QT_TRANSLATE_NOOP("MW", "not on this model"));
+    else if (!addition.isEmpty())
+        text += QLatin1String("<p>") + addition.toHtmlEscaped() + QLatin1String("</p>");
+    widget->setToolTip(text);
 }
 
 QString infoLabelText(const QString &name, double value)

@@ -22,10 +22,14 @@ public:
     explicit ControlBinding(QWidget *root) : m_root(root) {}
 
     /// Shows a parameter in its control: range, then value, held within the range; a bit field in all of its controls.
+    /// Limits that a drive has reported (`fromDrive`) stand in the control's tool tip.
     /// Limits that no drive has reported yet (both 0) leave the control's own range, widened where the value lies
     /// outside. A value that a combo box has no item for gets an item "Value n". Returns false when there is no
     /// control of that name.
-    bool fill(const SingleParam &p);
+    bool fill(const SingleParam &p, bool fromDrive = false);
+    /// Leaves a parameter that nobody has read or set as the form has it, a combo box at the start value. The control
+    /// stands for the held value, not for what it shows, until somebody edits it.
+    void keepStartValue(const SingleParam &p, int startValue);
     /// The parameter's value as its control stands. Labels, read-only parameters, parameters without a control and
     /// withdrawn ones give back the held value: nothing can be edited there.
     double collect(const SingleParam &p) const;
@@ -41,9 +45,11 @@ private:
         double exact; ///< what came in, within the drive's limits
     };
 
+    void showToolTip(QWidget *widget, const QString &addition, bool withdrawn);
+
     QWidget *m_root;
     QHash<QString, Filled> m_filled;
-    QHash<QWidget *, QString> m_ownToolTips; ///< of the controls and captions that are withdrawn
+    QHash<QWidget *, QString> m_ownToolTips; ///< as the forms have them
     QSet<QString> m_withdrawn;               ///< mnemonics
 };
 

@@ -31,20 +31,19 @@ QString findDataFolder()
 
 bool enterDataFolder()
 {
-    if (hasPlotScripts(QDir::currentPath()))
-        return true;
     const QString folder = findDataFolder();
-    return !folder.isEmpty() && QDir::setCurrent(folder);
+    return folder.isEmpty() ? hasPlotScripts(QDir::currentPath()) : QDir::setCurrent(folder);
 }
 
 VirtualDriveFolder::VirtualDriveFolder(const QString &terminal)
-    : m_folder(QDir::tempPath() + QLatin1String("/velbrin-XXXXXX")), m_previous(QDir::currentPath())
+    : m_folder(QStringLiteral("velbrin-ui-")), m_previous(QDir::currentPath())
 {
-    if (!m_folder.isValid()) {
-        m_error = m_folder.errorString();
+    m_error = m_folder.error();
+    if (!m_error.isEmpty())
         return;
-    }
-    const QString data = hasPlotScripts(m_previous) ? m_previous : findDataFolder();
+    QString data = findDataFolder();
+    if (data.isEmpty() && hasPlotScripts(m_previous))
+        data = m_previous;
     for (const char *name : LINKED_FOLDERS) {
         const QString target = data + QLatin1Char('/') + QLatin1String(name);
         if (!data.isEmpty() && QFileInfo::exists(target))

@@ -4,9 +4,9 @@
 #ifndef DATAFOLDER_H
 #define DATAFOLDER_H
 
+#include "workfolder.h"
+
 #include <QString>
-#include <QTemporaryDir>
-#include <memory>
 
 /// Whether the plot page finds its scripts under this folder.
 bool hasPlotScripts(const QString &folder);
@@ -15,12 +15,14 @@ bool hasPlotScripts(const QString &folder);
 /// the plot scripts.
 QString findDataFolder();
 
-/// Changes into the data folder unless the working directory has what is needed already. Returns whether it has in
-/// the end; without, plots and offline help stay empty and everything else works.
+/// Changes into the program's own data folder. Only a program without one makes do with a working directory that has
+/// what is needed: somebody else's "flot" folder would put its scripts into the page. Returns whether there are scripts
+/// in the end; without, plots and offline help stay empty and everything else works.
 bool enterDataFolder();
 
 /// A private working directory with "flot" and "help" linked into it and "COM1" linked to a pseudo terminal: a bus
-/// port's name must begin with "COM" or "/dev/tty", and nothing here needs root. Removed with this object.
+/// port's name must begin with "COM" or "/dev/tty", and nothing here needs root. Removed with this object; those of
+/// programs that were killed are removed by the next.
 class VirtualDriveFolder
 {
 public:
@@ -34,7 +36,7 @@ public:
     static QString portName() { return QStringLiteral("COM1"); }
 
 private:
-    QTemporaryDir m_folder;
+    WorkFolder m_folder;
     QString m_previous;
     QString m_error;
 };

@@ -3,14 +3,18 @@
 #ifndef ERRORWINDOW_H
 #define ERRORWINDOW_H
 
+#include "message.h"
+
 #include <QErrorMessage>
 #include <QQueue>
+#include <QUrl>
 
 class QCheckBox;
+class QTextEdit;
 
-/// Shows one message after another and offers to stop showing a repeated one. Texts about a lost line, a write that
-/// the drive refused or a disable that nothing confirmed are never held back and never offered to be: whoever stands
-/// beside the machine has to know.
+/// Shows one message after another and offers to stop showing a repeated one. What kind of message it is decides
+/// whether it may be held back (maySuppress): whoever stands beside the machine has to know when a drive does not do or
+/// hold what they believe. Addresses in a message are links.
 class ErrorWindow : public QErrorMessage
 {
     Q_OBJECT
@@ -18,31 +22,36 @@ class ErrorWindow : public QErrorMessage
 public:
     explicit ErrorWindow(QWidget *parent);
 
-    /// Whether a text can never be suppressed.
-    static bool isVital(const QString &text);
     /// The program is ending: what still waits is dropped and nothing is shown any more.
     void endMessages();
+    void done(int result) override;
 
 public slots:
-    /// Queues a text (rich text); an empty one shows nothing, an equal one that still waits is not queued twice.
-    /// A text that is not vital waits until no other box is open, and behind those that are.
-    void showMessage(const QString &text);
+    /// Queues a message (its text is rich text); an empty one shows nothing, an equal one that still waits is not
+    /// queued twice. One that may be suppressed waits until no other box is open, and behind those that may not.
+    void tell(const Message &message);
+    void note(const QString &text) { tell({MessageKind::Note, text}); }
 
 signals:
-    /// A vital message as one line of plain text, for the status bar.
+    /// A message that nobody may suppress, as one line of plain text, for the status bar.
     void vitalMessage(const QString &line);
+    void linkActivated(const QUrl &url);
 
-public:
-    void done(int result) override;
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
     void showNext();
 
-    QQueue<QString> m_waiting;
+    QQueue<Message> m_waiting;
     QString m_shown;
     QCheckBox *m_again;
+    QTextEdit *m_text;
     int m_vitalCount = 0;
     bool m_ended = false;
 };
+
+/// A rich text whose bare http and https addresses are links; those inside tags and links stay as they are.
+QString withLinks(const QString &html);
 
 #endif

@@ -2,7 +2,6 @@
 #include "mw.h"
 
 #include "busydialog.h"
-#include "disablewatch.h"
 #include "errorwindow.h"
 #include "escapefilter.h"
 #include "firmwaredialog.h"
@@ -63,6 +62,7 @@ MW::MW(const Options &options, QWidget *parent)
     on_AXT_currentIndexChanged(0);
     hideForGood();
     connectDynamicSpinboxLabels();
+    connectNumberFields();
     updateUnitLabels();
     new WheelGuard(this);
     populateConnectionPortList();
@@ -153,6 +153,7 @@ void MW::buildHelpAndStatus()
     m_errorWindow = new ErrorWindow(this);
     connect(m_errorWindow, &ErrorWindow::vitalMessage, this,
             [this](const QString &line) { statusBar()->showMessage(line); });
+    connect(m_errorWindow, &ErrorWindow::linkActivated, this, &MW::browserLinkClicked);
     m_connectionStatusLabel = new QLabel(tr("Not connected"));
     m_connectionStatusLabel->setObjectName(QStringLiteral("connectionStatus"));
     m_connectionStatusLabel->setMargin(2);
@@ -185,7 +186,7 @@ void MW::connectSession()
     // The worker emits on its own thread; everything arrives here through the event loop.
     const auto type = Qt::QueuedConnection;
     connect(&m_connection, &Connection::statusChanged, this, &MW::connectionStatusChanged, type);
-    connect(&m_connection, &Connection::error, m_errorWindow, &ErrorWindow::showMessage, type);
+    connect(&m_connection, &Connection::message, m_errorWindow, &ErrorWindow::tell, type);
     connect(&m_connection, &Connection::parametersRetreived, this, &MW::paramsRetreived, type);
     connect(&m_connection, &Connection::plotReady, this, &MW::plotCapture, type);
     connect(&m_connection, &Connection::updateCaptureButtonText, this, &MW::changeScopeButtonText, type);
@@ -199,11 +200,14 @@ void MW::connectSession()
     connect(&m_connection, &Connection::controlModeChanged, this, &MW::deviceControlModeChanged, type);
 
     connect(&m_updateChecker, &UpdateChecker::showMessage, this, &MW::handleUpdateCheckerMessage);
-    m_disableWatch = new DisableWatch(this);
-    connect(m_disableWatch, &DisableWatch::report, this,
-            [this](const QString &text) { statusBar()->showMessage(text); });
-    connect(m_disableWatch, &DisableWatch::unconfirmed, m_errorWindow, &ErrorWindow::showMessage);
-    connect(&m_connection, &Connection::enableStatePolled, m_disableWatch, &DisableWatch::enableStatePolled, type);
+    connectDisableWatch();
+    connect(
+        &m_connection, &Connection::driveParametersChanged, this,
+        [this](const Parameters &list) {
+            m_driveParams = list;
+            updateUnitLabels();
+        },
+        type);
 
     const auto changed = QOverload<int>::of(&QSpinBox::valueChanged);
     connect(m_form->MUL, changed, this, &MW::updateUnitLabels);

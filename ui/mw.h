@@ -16,6 +16,7 @@
 #include <QPointer>
 #include <QUrl>
 #include <functional>
+#include <initializer_list>
 #include <memory>
 
 class BusyDialog;
@@ -26,6 +27,7 @@ class FirmwareDialog;
 class QCloseEvent;
 class QLabel;
 class QPushButton;
+class QSpinBox;
 class QTimer;
 class StatePanels;
 class Ui_overrideParams;
@@ -146,6 +148,8 @@ private:
     void buildHelpAndStatus();
     void connectSession();
     void connectStatePanels();
+    void connectNumberFields();
+    void connectDisableWatch();
     void createShortcuts();
     void hideForGood();
     void fillTorqueFunctions();
@@ -159,6 +163,7 @@ private:
     void chooseNode();
     void connectToNode(int address);
     void enableDriveControls(bool connected);
+    void updateSaveToFileButton();
     /// Whether a drive is connected that has settings and moves: not one that runs its bootloader.
     bool driveRunsItsFirmware() const;
     void showMaximumSampleRate();
@@ -168,17 +173,25 @@ private:
     void setParams();
     void sendUpdateQuery();
     void fillControls(bool bareCatalogue);
+    bool fillControl(SingleParam p);
     void showDeviceType(int typeId);
     void connectDynamicSpinboxLabels();
     void doParamSanityChecks();
     void updateControlVisibility();
     void updateAllRules();
+    /// For values beside their controls: as the pages have the scale.
     struct UnitConversion unitConversion() const;
+    /// For what the drive does: as it has the scale. Without one, as the pages have it.
+    struct UnitConversion driveUnitConversion() const;
     void askToResetPosition();
 
     // Apply, save, files
     void clearChangesPending();
-    void commitEditedField();
+    /// Whether what was being typed, if anything was, could be taken.
+    bool commitEditedField();
+    /// Says why the number that was typed last into one of these fields was refused, once: whoever is about to move a
+    /// drive by them asks first.
+    bool anyNumberRefused(std::initializer_list<const QWidget *> boxes);
     bool valuesHaveArrived(const QString &refusal);
     bool applyToDrive();
     bool areParamsChanged();
@@ -193,10 +206,11 @@ private:
 
     // Testing, actions, help
     void stopStimulus();
-    void sendSetpoint(const QWidget *button, int target, Connection::Task task);
+    void sendSetpoint(const QWidget *button, QSpinBox *target, Connection::Task task);
     bool askToKeepUpgrading();
     void showBootloaderIdentity();
     void restartAndReconnect(Connection::Task restartTask);
+    void enableStatePolled(bool enabled);
     void loadHelp();
     /// The page of the same name among the offline pages once help is offline; any other address stays as it is.
     QUrl offlineCopyOf(const QUrl &url) const;
@@ -232,7 +246,8 @@ private:
     };
     QList<Question> m_questions;
 
-    Parameters m_params; ///< the set last shown in the pages
+    Parameters m_params;      ///< what the user wants: the set shown in the pages, edits included
+    Parameters m_driveParams; ///< what the drive has: last read from it or acknowledged by it
     ControlBinding m_binding{this};
     PendingChanges m_pending;
     QList<QLabel *> m_unitLabels; ///< labels that show their control in machine units
@@ -245,6 +260,8 @@ private:
     QList<NodeType> m_foundNodes;
     QPointer<QDialog> m_nodeDialog;
     bool m_nodeQuestionWaits = false;
+    QString m_lastPort; ///< of the drive that was connected last, empty before the first
+    int m_lastAddress = 0;
 
     int m_currentPage = 0;
     bool m_helpEnabled = true;     ///< false while a plot is shown
@@ -252,6 +269,8 @@ private:
     bool m_changesPending = false; ///< controls hold values that the drive has not been given
     bool m_paramsSaved = true;     ///< the drive's flash holds what was last applied
     bool m_valuesArrived = false;  ///< this connection's full read has filled the controls
+    enum class EnableState { Unknown, Enabled, Disabled } m_enableState = EnableState::Unknown; ///< by the last poll
+    bool m_disconnectWhenDisabled = false; ///< the maker asks for it, and the drive is enabled
     bool m_anySetArrived = false;  ///< the first set is the bare catalogue, whose zeros are nobody's settings
     bool m_showAdvanced = false;
     bool m_reconnectAfterUpgrade = false;

@@ -1,5 +1,6 @@
 // Buttons and shortcuts that act on the connected drive at once.
 #include "disablewatch.h"
+#include "errorwindow.h"
 #include "mw.h"
 #include "mwforms.h"
 #include "statepanels.h"
@@ -10,6 +11,24 @@
 
 namespace {
 constexpr int upgradeModeNoteMs = 5000; // no longer: the drive may run its firmware again by then
+}
+
+void MW::connectDisableWatch()
+{
+    const auto type = Qt::QueuedConnection; // from the worker
+    m_disableWatch = new DisableWatch(this);
+    connect(m_disableWatch, &DisableWatch::report, this,
+            [this](const QString &text) { statusBar()->showMessage(text); });
+    connect(m_disableWatch, &DisableWatch::outdated, this, [this](const QString &last, const QString &text) {
+        if (statusBar()->currentMessage() == last)
+            statusBar()->showMessage(text);
+    });
+    connect(m_disableWatch, &DisableWatch::unconfirmed, this, [this](const QString &text) {
+        m_errorWindow->tell({MessageKind::UnconfirmedStop, text});
+    });
+    connect(&m_connection, &Connection::enableStatePolled, m_disableWatch, &DisableWatch::enableStatePolled, type);
+    connect(&m_connection, &Connection::enableStatePolled, this, &MW::enableStatePolled, type);
+    connect(&m_connection, &Connection::disableFinished, m_disableWatch, &DisableWatch::disableFinished, type);
 }
 
 void MW::on_enable_drive_clicked()
@@ -38,7 +57,9 @@ void MW::on_disable_drive_clicked()
         statusBar()->showMessage(tr("Nothing to disable: the drive is in firmware upgrade mode, which drives no motor"),
                                  upgradeModeNoteMs);
     else
-        m_disableWatch->disableAsked(m_connection.isConnected());
+        m_disableWatch->disableAsked(m_connection.isConnected() ? DisableWatch::Reach::Connected
+                                     : m_lastAddress != 0       ? DisableWatch::Reach::LastKnown
+                                                                : DisableWatch::Reach::Nobody);
 }
 
 void MW::on_clear_faults_clicked()
@@ -58,33 +79,36 @@ void MW::on_abort_homing_clicked()
     m_connection.command(Connection::TaskAbortHoming);
 }
 
-void MW::sendSetpoint(const QWidget *button, int target, Connection::Task task)
+void MW::sendSetpoint(const QWidget *button, QSpinBox *target, Connection::Task task)
 {
     // The shortcuts reach the slots even when the buttons are disabled.
     if (!button->isEnabled())
         return;
-    m_connection.setTargetSetpoint(target);
+    // Not the old target in place of one that was typed and refused.
+    if (!commitEditedField() || anyNumberRefused({target}))
+        return;
+    m_connection.setTargetSetpoint(target->value());
     m_connection.command(task);
 }
 
 void MW::on_setAbs1_clicked()
 {
-    sendSetpoint(m_form->setAbs1, m_form->stimulusTarget1->value(), Connection::TaskSetAbsoluteSetpoint);
+    sendSetpoint(m_form->setAbs1, m_form->stimulusTarget1, Connection::TaskSetAbsoluteSetpoint);
 }
 
 void MW::on_setInc1_clicked()
 {
-    sendSetpoint(m_form->setInc1, m_form->stimulusTarget1->value(), Connection::TaskSetIncrementalSetpoint);
+    sendSetpoint(m_form->setInc1, m_form->stimulusTarget1, Connection::TaskSetIncrementalSetpoint);
 }
 
 void MW::on_setAbs2_clicked()
 {
-    sendSetpoint(m_form->setAbs2, m_form->stimulusTarget2->value(), Connection::TaskSetAbsoluteSetpoint);
+    sendSetpoint(m_form->setAbs2, m_form->stimulusTarget2, Connection::TaskSetAbsoluteSetpoint);
 }
 
 void MW::on_setInc2_clicked()
 {
-    sendSetpoint(m_form->setInc2, m_form->stimulusTarget2->value(), Connection::TaskSetIncrementalSetpoint);
+    sendSetpoint(m_form->setInc2, m_form->stimulusTarget2, Connection::TaskSetIncrementalSetpoint);
 }
 
 // No guard, as with disabling.

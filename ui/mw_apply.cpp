@@ -2,9 +2,10 @@
 #include "errorwindow.h"
 #include "mw.h"
 #include "mwforms.h"
+#include "numberbox.h"
 #include "ui_overrideparams.h"
 
-#include <QAbstractSpinBox>
+#include <QApplication>
 #include <QDebug>
 #include <QDir>
 #include <QFileDialog>
@@ -17,9 +18,12 @@
 void MW::updateApplyButtonState()
 {
     setParams();
+    // A number that is just being typed counts with the next Apply.
+    const NumberField *typing = NumberField::of(QApplication::focusWidget());
+    const bool pending = m_changesPending || (typing && typing->holdsNewNumber());
     QPushButton *button = m_form->apply_button;
-    button->setDefault(m_changesPending);
-    button->setText(m_changesPending ? tr("Apply settings (parameters changed)") : tr("Apply settings [Alt+A]"));
+    button->setDefault(pending);
+    button->setText(pending ? tr("Apply settings (parameters changed)") : tr("Apply settings [Alt+A]"));
 }
 
 bool MW::areParamsChanged()
@@ -35,13 +39,25 @@ void MW::clearChangesPending()
 }
 
 // What is being typed counts as soon as the field loses the keyboard; a shortcut does not take it away by itself.
-void MW::commitEditedField()
+bool MW::commitEditedField()
 {
     QWidget *field = focusWidget();
     if (!field || !field->hasFocus())
-        return;
+        return true;
     field->clearFocus();
     field->setFocus();
+    return !anyNumberRefused({field});
+}
+
+bool MW::anyNumberRefused(std::initializer_list<const QWidget *> boxes)
+{
+    bool refused = false;
+    for (const QWidget *box : boxes) {
+        NumberField *field = NumberField::of(box);
+        const QString why = field ? field->takeRefusal() : QString();
+        refused = refused || !why.isEmpty();
+    }
+    return refused;
 }
 
 bool MW::valuesHaveArrived(const QString &refusal)
@@ -54,8 +70,8 @@ bool MW::valuesHaveArrived(const QString &refusal)
 
 void MW::on_apply_button_clicked()
 {
-    commitEditedField();
-    applyToDrive();
+    if (commitEditedField()) // what was typed is not what would be applied
+        applyToDrive();
 }
 
 bool MW::applyToDrive()
@@ -94,6 +110,7 @@ void MW::setUnsavedStatus()
 
 bool MW::checkIfParamsChangedAndAskUser(AskForApplyMode mode)
 {
+    commitEditedField();
     setParams();
     if (!m_changesPending || !driveRunsItsFirmware())
         return false;
@@ -171,7 +188,12 @@ bool MW::checkIfParamsSavedAndAskUser()
 
 void MW::on_save_settings_to_file_clicked()
 {
-    commitEditedField();
+    // The shortcut reaches the slot even when the button is disabled.
+    if (m_connection.isConnected() && !valuesHaveArrived(tr("Nothing saved: the settings of this drive have not been "
+                                                            "read yet")))
+        return;
+    if (!commitEditedField())
+        return;
     const QString file = askFile(QFileDialog::AcceptSave, tr("Save settings to file"),
                                  m_lastDirectory + QLatin1String("/settings.drc"), tr("Drive settings (*.drc)"),
                                  QStringLiteral("drc")); // without it the open dialog would not list the file
@@ -182,6 +204,9 @@ void MW::on_save_settings_to_file_clicked()
     m_connection.setParams(m_params);
     m_connection.setSettingsFileName(file);
     m_connection.command(Connection::TaskSaveSettingsFile);
+    if (m_params.getParam(QStringLiteral("HWTYPE")).value <= 0)
+        m_errorWindow->note(tr("This file is saved without a drive: what nobody has typed into it are start values of "
+                               "this program, not the settings of a drive."));
 }
 
 void MW::on_load_settings_from_file_clicked()

@@ -1,12 +1,11 @@
 // Connect page: choosing a port, searching the bus, choosing a drive, and what changes with the connection.
 #include "disablewatch.h"
 #include "firmwaredialog.h"
-#include "makerlinks.h"
 #include "mw.h"
 #include "mwforms.h"
+#include "nodedialog.h"
 #include "portlist.h"
 #include "statepanels.h"
-#include "ui_selectbusnode.h"
 
 #include <QApplication>
 #include <QCheckBox>
@@ -88,39 +87,24 @@ void MW::availableBusNodesListReceived(QList<NodeType> list)
 void MW::chooseNode()
 {
     m_nodeQuestionWaits = false;
-    const QList<NodeType> nodes = m_foundNodes;
-    QDialog dialog;
-    Ui_selectBusNode form;
-    form.setupUi(&dialog);
+    const int last = m_lastPort == chosenPort() ? m_lastAddress : 0;
+    NodeDialog dialog(m_foundNodes, last);
     dialog.setWindowIcon(windowIcon());
-    form.label_2->setText(
-        form.label_2->text().replace(QLatin1String("https://wiki.tarnwell.example"), makerWikiBase()));
-    for (const NodeType &node : nodes) {
-        const QString model = Connection::deviceModelName(node.deviceType, true);
-        form.nodeList->addItem(node.firmwareUpgradeMode
-                                   ? tr("%1 at bus address %2 in firmware upgrade mode").arg(model).arg(node.address)
-                                   : tr("%1 at bus address %2").arg(model).arg(node.address));
-    }
-    connect(form.buttonBox, &QDialogButtonBox::accepted, &dialog, &QDialog::accept);
-    connect(form.buttonBox, &QDialogButtonBox::rejected, &dialog, &QDialog::reject);
-    connect(form.nodeList, &QListWidget::itemDoubleClicked, &dialog, &QDialog::accept);
-    // A first row that had the keyboard but were not chosen would be skipped by the first Down.
-    if (!nodes.isEmpty())
-        form.nodeList->setCurrentRow(0);
-    form.nodeList->setFocus();
     m_nodeDialog = &dialog;
-    const bool accepted = dialog.exec() == QDialog::Accepted;
+    const int choice = dialog.exec();
     m_nodeDialog = nullptr;
-    // The row with the keyboard focus is not yet a chosen one.
-    const auto chosen = form.nodeList->selectedItems();
-    if (accepted && !chosen.isEmpty())
-        connectToNode(nodes[form.nodeList->row(chosen.first())].address);
+    if (choice == NodeDialog::SearchAgain)
+        on_connect_button_clicked();
+    else if (choice == NodeDialog::Open && dialog.chosenAddress() != 0)
+        connectToNode(dialog.chosenAddress());
 }
 
 void MW::connectToNode(int address)
 {
     FWUpgrade_close_clicked();
-    m_connection.connectDevice(chosenPort(), address);
+    m_lastPort = chosenPort();
+    m_lastAddress = address;
+    m_connection.connectDevice(m_lastPort, address);
     m_connection.getParams();
     areParamsChanged();
     clearChangesPending();
@@ -132,11 +116,14 @@ void MW::connectionStatusChanged(bool connected, QString text)
 {
     m_connectionStatusLabel->setText(text);
     m_valuesArrived = false;
+    m_enableState = EnableState::Unknown;
+    m_disconnectWhenDisabled = false;
 
     // Not to "Disconnect from drive", where the keyboard would go when the controls that it was in are disabled.
     if (connected && m_form->groupBox->isAncestorOf(QApplication::focusWidget()))
         m_form->pageSelector->setFocus();
     enableDriveControls(connected);
+    updateSaveToFileButton();
     // A search that could not open the port has no answer of its own.
     if (!connected && text == Connection::tr("Connect failed"))
         m_form->connect_button->setText(tr("Connect to drive"));
@@ -159,7 +146,10 @@ void MW::connectionStatusChanged(bool connected, QString text)
 
 void MW::enableDriveControls(bool connected)
 {
-    QWidget *const needDrive[] = {m_form->driveControlsGroup, m_form->disconnect_button, m_form->clear_faults_2};
+    // Disabling also works without a connection once it is known which drive to tell.
+    m_form->driveControlsGroup->setEnabled(connected || m_lastAddress != 0);
+    QWidget *const needDrive[] = {m_form->disconnect_button, m_form->clear_faults, m_form->clear_faults_2,
+                                  m_form->restartDrive};
     for (QWidget *widget : needDrive)
         widget->setEnabled(connected);
     m_form->connect_button->setEnabled(!connected);
@@ -170,14 +160,14 @@ void MW::enableDriveControls(bool connected)
     struct Control
     {
         QWidget *widget;
-        bool needsDrive; ///< itself; the others stand in a group that does, or work without one
+        bool needsDrive; ///< the others work without one
     };
     const Control needFirmware[] = {
         {m_form->apply_button, true},     {m_form->start_homing, true},  {m_form->abort_homing, true},
         {m_form->ScopeCaptureNow, true},  {m_form->setAbs1, true},       {m_form->setAbs2, true},
         {m_form->setInc1, true},          {m_form->setInc2, true},       {m_form->measureRLbutton, true},
-        {m_form->enable_drive, false},    {m_form->force_enable, false}, {m_form->saveToFlash, false},
-        {m_form->stimulusEnabled, false}, {m_form->setZero, false},      {m_form->restartToDFUMode, false},
+        {m_form->enable_drive, true},     {m_form->force_enable, true},  {m_form->saveToFlash, true},
+        {m_form->stimulusEnabled, false}, {m_form->setZero, false},      {m_form->restartToDFUMode, true},
     };
     const bool upgradeMode = connected && m_connection.isInFirmwareUpgradeMode();
     const char *const usual = "usualToolTip";
@@ -189,6 +179,13 @@ void MW::enableDriveControls(bool connected)
         widget->setToolTip(upgradeMode ? tr("Not while the drive is in firmware upgrade mode")
                                        : widget->property(usual).toString());
     }
+}
+
+void MW::updateSaveToFileButton()
+{
+    // Without a drive there is nothing to wait for; with one, a file must not pass for its settings before they came.
+    const bool complete = !m_connection.isConnected() || m_valuesArrived;
+    m_form->save_settings_to_file->setEnabled(complete);
 }
 
 bool MW::driveRunsItsFirmware() const

@@ -119,8 +119,27 @@ void MW::suggestDeviceRestart()
 
 void MW::handleUpdateCheckerMessage(QString html, bool mustDisconnect)
 {
-    m_errorWindow->showMessage(noticeText(html));
+    m_errorWindow->note(noticeText(html));
     qDebug() << "mustdisconnect" << (mustDisconnect ? "true" : "false");
-    if (mustDisconnect)
+    if (!mustDisconnect || !m_connection.isConnected())
+        return;
+    // Nobody lets go of a live drive because of a line from the network.
+    m_disconnectWhenDisabled = m_enableState != EnableState::Disabled;
+    if (!m_disconnectWhenDisabled)
         m_connection.command(Connection::TaskDisconnect);
+    else if (m_enableState == EnableState::Enabled)
+        m_errorWindow->tell({MessageKind::Note, tr("The maker's server asks for an end of this connection. The drive "
+                                                   "is enabled, so it stays until the drive is disabled.")});
+}
+
+void MW::enableStatePolled(bool enabled)
+{
+    const bool isNews = m_enableState == EnableState::Unknown;
+    m_enableState = enabled ? EnableState::Enabled : EnableState::Disabled;
+    if (!m_disconnectWhenDisabled)
+        return;
+    if (!enabled)
+        m_connection.command(Connection::TaskDisconnect);
+    else if (isNews)
+        handleUpdateCheckerMessage(QString(), true);
 }

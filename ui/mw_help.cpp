@@ -1,5 +1,4 @@
 // Pages and the view beside them: online help, its offline copy, or the plot of a capture.
-#include "errorwindow.h"
 #include "helpview.h"
 #include "makerlinks.h"
 #include "mw.h"
@@ -66,9 +65,11 @@ void MW::helpLoadingTimeouted()
     qDebug() << "   LOAD TIMEOUTED";
     m_helpTimer->stop();
     m_offlineHelp = true;
-    m_errorWindow->showMessage(tr("Loading of online documentation Wiki failed (no internet?), displaying an offline "
-                                  "copy. It is advised to check out latest documentation at <a>%1</a>.")
-                                   .arg(makerWikiBase()));
+    // A line that stays, instead of a box at every start of whoever works without a network.
+    m_form->offlineHelpNotification->setText(
+        tr("Loading of online documentation Wiki failed (no internet?), displaying an offline copy. It is advised to "
+           "check out latest documentation at <a>%1</a>.")
+            .arg(makerWikiBase().toHtmlEscaped()));
     m_helpView->stopLoading();
     pageChanged();
 }

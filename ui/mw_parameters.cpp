@@ -11,6 +11,7 @@
 
 #include <QDebug>
 #include <QMessageBox>
+#include <algorithm>
 #include <cmath>
 
 void MW::paramsRetreived(Parameters params, bool loadedFromFile)
@@ -37,6 +38,7 @@ void MW::paramsRetreived(Parameters params, bool loadedFromFile)
         m_pending.fileLoaded();
     else
         m_pending.settle(m_params);
+    updateSaveToFileButton();
     updateUnitLabels();
     updateAllRules();
     updateApplyButtonState();
@@ -64,13 +66,28 @@ void MW::fillControls(bool bareCatalogue)
         if (!p.auxFlag && bitFieldControls(p.name).isEmpty())
             continue;
         // Zeros that nobody read stay out of the controls; labels say that nothing was read yet.
-        if (bareCatalogue && !p.readonly)
+        if (bareCatalogue && !p.readonly) {
+            m_binding.keepStartValue(p, int(Parameters::startValue(p.name)));
             continue;
-        if (!m_binding.fill(p) && p.name != QLatin1String("HWTYPE") && p.name != QLatin1String("UID"))
+        }
+        if (!fillControl(p) && p.name != QLatin1String("HWTYPE") && p.name != QLatin1String("UID"))
             qDebug().noquote() << p.name + QLatin1String(" NOT FOUND");
         // Without a drive there is no model to lack anything: a file can be looked through and edited.
         m_binding.setSupported(p.name, supported || typeId <= 0);
     }
+}
+
+bool MW::fillControl(SingleParam p)
+{
+    // A file brings the limits of the drive that it was saved from; those of the connected one count. A value beyond
+    // them is shown all the same: it is what the file says, and applying it tells what the drive says to it.
+    const SingleParam held = m_driveParams.getParam(p.name);
+    const bool known = m_connection.isConnected() && m_connection.valuesAreComplete() && held.max > held.min;
+    if (known) {
+        p.min = std::min(held.min, p.value);
+        p.max = std::max(held.max, p.value);
+    }
+    return m_binding.fill(p, known && p.min == held.min && p.max == held.max);
 }
 
 void MW::showDeviceType(int typeId)
@@ -211,7 +228,7 @@ void MW::doParamSanityChecks()
     in.controlMode = m_form->CM->currentIndex();
     in.limitVelocity = units.velocity(m_form->CVL->value());
     in.faultVelocity = units.velocity(m_form->FEV->value(), false, true);
-    m_errorWindow->showMessage(sanityWarnings(in));
+    m_errorWindow->note(sanityWarnings(in));
 }
 
 // --- The drive changed its control mode --------------------------------------------------------------------------
@@ -224,7 +241,7 @@ void MW::deviceControlModeChanged(int newmode)
         m_connection.command(Connection::TaskSetZero);
         return; // answered for good: a second reset through the question would add nothing
     }
-    const int oneRevolution = 4 * m_form->FBR->value();
+    const double oneRevolution = 4 * m_driveParams.getParam(QStringLiteral("FBR")).value;
     if (m_resetChoice == ResetChoice::Ask && newmode == 0 && std::abs(m_connection.positionFeedback()) > oneRevolution)
         askWhenFree([this] { askToResetPosition(); });
 }

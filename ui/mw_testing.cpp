@@ -41,6 +41,13 @@ void MW::on_stimulusDelay2_editingFinished()
 
 void MW::on_stimulusEnabled_stateChanged(int)
 {
+    // No motion to an old target in place of one that was typed and refused.
+    if (m_form->stimulusEnabled->isChecked() &&
+        anyNumberRefused({m_form->stimulusTarget1, m_form->stimulusDelay1, m_form->stimulusTarget2,
+                          m_form->stimulusDelay2})) {
+        m_form->stimulusEnabled->setChecked(false);
+        return;
+    }
     on_stimulusTarget1_editingFinished();
 }
 
@@ -104,7 +111,7 @@ void MW::plotCapture(QList<CaptureData> capture)
 
 void MW::showPlotPage(HelpView::Zoom zoom)
 {
-    const QString page = m_plotter.generatePlotPage(m_captures, m_params.getParamsHTMLList(), m_form->HWMODEL->text());
+    const QString page = m_plotter.generatePlotPage(m_captures, m_driveParams.getParamsHTMLList(), m_form->HWMODEL->text());
     m_helpTimer->stop(); // a help page that was still loading is given up, which says nothing about the network
     m_form->offlineHelpNotification->hide();
     const QUrl base(QLatin1String("file:///") + QDir::currentPath() + QLatin1String("/flot/examples/"));
@@ -125,14 +132,14 @@ void MW::saveTestResults_clicked()
     } else if (!file.endsWith(QLatin1String(".csv"), Qt::CaseInsensitive)) {
         statusBar()->showMessage(tr("Nothing saved: give the file a name that ends in .png or .csv"), SAVE_HINT_MS);
     } else if (!m_plotter.saveCaptureDataCSV(m_captures, file)) {
-        m_errorWindow->showMessage(tr("Error writing graphs to file %1").arg(file));
+        m_errorWindow->tell({MessageKind::FileFailed, tr("Error writing graphs to file %1").arg(file.toHtmlEscaped())});
     }
 }
 
 void MW::pictureSaved(const QString &failure)
 {
     m_saveAsPdfButton->setEnabled(true);
-    m_errorWindow->showMessage(failure);
+    m_errorWindow->tell({MessageKind::FileFailed, failure});
     if (m_closeWhenSaved && failure.isEmpty())
         close();
     m_closeWhenSaved = false;

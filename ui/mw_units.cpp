@@ -1,10 +1,31 @@
-// Values in machine units beside the controls.
+// Number fields: what they say about a refused number, and values in machine units beside them.
 #include "mw.h"
 #include "mwforms.h"
+#include "numberbox.h"
 #include "unitconversion.h"
 
 #include <QDebug>
+#include <QStatusBar>
+#include <QToolTip>
 #include <cmath>
+
+namespace {
+constexpr int REFUSAL_MS = 15000;
+}
+
+void MW::connectNumberFields()
+{
+    const auto fields = findChildren<NumberField *>();
+    for (NumberField *field : fields) {
+        connect(field, &NumberField::refused, this, [this, field](const QString &why) {
+            statusBar()->showMessage(why, REFUSAL_MS);
+            // Where the user looks, too; a box would take the keyboard away from the next field.
+            if (const auto *box = qobject_cast<QWidget *>(field->parent()); box && box->isVisible())
+                QToolTip::showText(box->mapToGlobal(QPoint(box->width(), 0)), why.toHtmlEscaped(), nullptr, QRect(),
+                                   REFUSAL_MS);
+        });
+    }
+}
 
 UnitConversion MW::unitConversion() const
 {
@@ -15,6 +36,21 @@ UnitConversion MW::unitConversion() const
     units.mul = m_form->MUL->value();
     units.div = m_form->DIV->value();
     units.unit = axisUnits(m_form->AXT->currentIndex()).plural;
+    return units;
+}
+
+UnitConversion MW::driveUnitConversion() const
+{
+    if (!driveRunsItsFirmware() || !m_valuesArrived)
+        return unitConversion();
+    const auto value = [this](const char *name) { return m_driveParams.getParam(QLatin1String(name)).value; };
+    UnitConversion units;
+    units.pif = value("PIF") > 0 ? value("PIF") : m_loopFrequency;
+    units.fbr = value("FBR");
+    units.axs = value("AXS");
+    units.mul = value("MUL");
+    units.div = value("DIV");
+    units.unit = axisUnits(int(value("AXT"))).plural;
     return units;
 }
 
@@ -49,7 +85,7 @@ QString MW::convertHWrefToUnitsLabel(double ref)
     active.controlMode = int(std::lround(m_connection.getActiveParamValue(QStringLiteral("CM"))));
     active.cvl = m_connection.getActiveParamValue(QStringLiteral("CVL"));
     active.mmc = m_connection.getActiveParamValue(QStringLiteral("MMC"));
-    return unitConversion().setpointLabel(ref, active);
+    return driveUnitConversion().setpointLabel(ref, active);
 }
 
 void MW::connectDynamicSpinboxLabels()

@@ -7,12 +7,14 @@
 
 namespace {
 
-constexpr int QUIT_SIGNALS[] = {SIGTERM, SIGINT};
+constexpr int QUIT_SIGNALS[] = {SIGTERM, SIGINT, SIGHUP, SIGQUIT};
 int writeEnd = -1;
 
-// In a signal handler only a write is safe; the event loop reads it.
+// In a signal handler only a write is safe; the event loop reads it. Whoever asks a second time means at once.
 void wakeEventLoop(int)
 {
+    for (int other : QUIT_SIGNALS)
+        std::signal(other, SIG_DFL);
     const char byte = 1;
     const ssize_t written = write(writeEnd, &byte, 1);
     Q_UNUSED(written)
@@ -27,10 +29,8 @@ QuitSignals::QuitSignals(QObject *parent) : QObject(parent)
     writeEnd = m_pipe[1];
     auto *notifier = new QSocketNotifier(m_pipe[0], QSocketNotifier::Read, this);
     // Not quit(), which asks every window first, and does nothing while the box before the first window is open.
-    connect(notifier, &QSocketNotifier::activated, qApp, [this] {
-        char byte = 0;
-        const ssize_t taken = read(m_pipe[0], &byte, 1);
-        Q_UNUSED(taken)
+    connect(notifier, &QSocketNotifier::activated, qApp, [notifier] {
+        notifier->setEnabled(false);
         QCoreApplication::exit(0);
     });
     for (int number : QUIT_SIGNALS)

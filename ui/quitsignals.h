@@ -1,11 +1,12 @@
 /// \file
-/// SIGTERM and SIGINT end the program as a closed window would: the drive is left properly, links are removed.
+/// SIGTERM, SIGINT, SIGHUP and SIGQUIT end the program as a closed window would: the drive is left properly, links are removed.
 #ifndef QUITSIGNALS_H
 #define QUITSIGNALS_H
 
 #include <QObject>
 
-/// Turns the signals into QCoreApplication::exit(0). One at a time; the application must exist.
+/// Turns the first signal into QCoreApplication::exit(0); the second ends the program at once. One at a time; the
+/// application must exist.
 class QuitSignals : public QObject
 {
     Q_OBJECT

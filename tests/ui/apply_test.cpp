@@ -76,6 +76,67 @@ TEST_F(Apply, ShortcutCommitsTheFieldThatIsBeingTypedIn)
     EXPECT_TRUE(driveHas(566, 3)); // the drive counts pairs
 }
 
+TEST_F(Apply, NumberBeyondTheDrivesLimitIsToldAndNothingIsApplied)
+{
+    openConnectedWindow();
+    goTo(3);
+    auto *current = control<QDoubleSpinBox>("MCC");
+    const double before = current->value();
+    EXPECT_TRUE(current->toolTip().contains("This drive: 0 to 35 A"));
+    bringToFront();
+    current->setFocus();
+    current->selectAll();
+    QTest::keyClicks(current, "40");
+    kvp()->setValue(777);
+    press(Qt::Key_A, Qt::AltModifier);
+    EXPECT_TRUE(waitFor([this] {
+        return m_window->statusBar()->currentMessage().startsWith("40 A is beyond this drive's limit of 35 A");
+    }));
+    EXPECT_EQ(current->value(), before);
+    EXPECT_NE(bus().read(DriveAddress, KVP), 777);
+    press(Qt::Key_A, Qt::AltModifier); // now the user has seen it
+    EXPECT_TRUE(driveHas(KVP, 777));
+
+    // Nor is a drive moved to the old target in place of one that was refused.
+    goTo(6);
+    auto *target = control<QSpinBox>("stimulusTarget1");
+    target->setFocus();
+    target->selectAll();
+    QTest::keyClicks(target, "2,5");
+    bus().clearReceived();
+    press(Qt::Key_1, Qt::AltModifier);
+    button("setAbs1")->setFocus();
+    target->setFocus();
+    target->selectAll();
+    QTest::keyClicks(target, "99999999");
+    button("setAbs1")->setFocus(); // as a click does
+    click("setAbs1");
+    ASSERT_TRUE(waitForIdlePoll());
+    EXPECT_EQ(timesWritten(551, 0), 0);
+    click("setAbs1");
+    EXPECT_TRUE(waitForWrite(551, 0));
+}
+
+TEST_F(Apply, EditsChangeNothingOfWhatIsShownOfTheDrive)
+{
+    openConnectedWindow();
+    control<QSpinBox>("stimulusTarget1")->setValue(4000);
+    const QString shown = label("TSR1r")->text();
+    EXPECT_TRUE(shown.endsWith("revolutions")) << qPrintable(shown);
+    control<QComboBox>("CM")->setCurrentIndex(2);
+    control<QSpinBox>("FBR")->setValue(5 * control<QSpinBox>("FBR")->value());
+    control<QSpinBox>("MUL")->setValue(7);
+    EXPECT_TRUE(waitForPending(true));
+    m_answers.chooseFile(QDir::current().filePath("edited.drc"));
+    click("save_settings_to_file");
+    ASSERT_TRUE(waitFor([] { return QFile::exists("edited.drc"); }));
+    EXPECT_EQ(label("TSR1r")->text(), shown);
+    control<QSpinBox>("FBR")->setValue(2500);
+    control<QSpinBox>("MUL")->setValue(200);
+    click("apply_button");
+    EXPECT_TRUE(waitFor([this] { return label("TSR1r")->text().endsWith(" A"); }));
+}
+
 TEST_F(Apply, IsRefusedBeforeTheValuesOfThisConnectionHaveArrived)
 {
     openWindow();
@@ -85,11 +146,16 @@ TEST_F(Apply, IsRefusedBeforeTheValuesOfThisConnectionHaveArrived)
     bus().setTurnAround(std::chrono::milliseconds(30));
     click("apply_button");
     EXPECT_TRUE(m_window->statusBar()->currentMessage().startsWith("Nothing applied"));
-    click("saveToFlash");
-    EXPECT_TRUE(m_window->statusBar()->currentMessage().startsWith("Nothing saved"));
+    for (const bool toFile : {false, true}) {
+        m_window->statusBar()->clearMessage();
+        toFile ? press(Qt::Key_S, Qt::ControlModifier) : click("saveToFlash");
+        EXPECT_TRUE(m_window->statusBar()->currentMessage().startsWith("Nothing saved")) << toFile;
+    }
+    EXPECT_FALSE(button("save_settings_to_file")->isEnabled());
     bus().setTurnAround(std::chrono::milliseconds(0));
     ASSERT_TRUE(waitFor([this] { return label("HWMODEL")->text().startsWith("Tarnwell"); }));
     EXPECT_EQ(bus().read(DriveAddress, KVP), 360);
+    EXPECT_TRUE(button("save_settings_to_file")->isEnabled());
     kvp()->setValue(361);
     click("apply_button");
     EXPECT_TRUE(driveHas(KVP, 361));
@@ -161,6 +227,32 @@ TEST_F(Apply, FileLoadedWithoutADriveFillsTheControls)
     openWindow(file + ".missing");
     EXPECT_TRUE(waitFor([this] { return shownMessage(m_window.get()).contains("mine.drc.missing"); }));
     EXPECT_TRUE(bus().received().empty());
+}
+
+TEST_F(Apply, FileSavedWithoutADriveIsNobodysSettings)
+{
+    const QString file = QDir::current().filePath("nobodys.drc");
+    openWindow();
+    EXPECT_EQ(control<QComboBox>("FBD")->currentIndex(), 1);
+    control<QSpinBox>("KPP")->setValue(77); // typed, so somebody's
+    m_answers.chooseFile(file);
+    click("save_settings_to_file");
+    ASSERT_TRUE(waitFor([&] { return QFile::exists(file); }));
+    EXPECT_TRUE(shownMessage(m_window.get()).startsWith("This file is saved without a drive"));
+    control<QDialog>("errorWindow")->close();
+
+    bus().set(DriveAddress, KVP, 1234);
+    bus().set(DriveAddress, 493, 3); // FBD
+    connectToDrive();
+    m_answers.chooseFile(file);
+    click("load_settings_from_file");
+    ASSERT_TRUE(waitFor([this] { return control<QSpinBox>("KPP")->value() == 77; }));
+    EXPECT_EQ(kvp()->value(), 1234);
+    click("apply_button");
+    ASSERT_TRUE(driveHas(201, 77));
+    ASSERT_TRUE(waitForWrite(LAST_RECORD, bus().read(DriveAddress, LAST_RECORD)));
+    EXPECT_EQ(bus().read(DriveAddress, KVP), 1234);
+    EXPECT_EQ(bus().read(DriveAddress, 493), 3);
 }
 
 TEST_F(Apply, ClosingAsksFirstForEditsThenForTheDrivesMemory)

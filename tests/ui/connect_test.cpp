@@ -93,18 +93,70 @@ TEST_F(ConnectPage, CancellingTheNodeListLeavesEverythingAsItWas)
     button("connect_button")->setText("Searching devices...");
     QMetaObject::invokeMethod(m_window.get(), "availableBusNodesListReceived", Q_ARG(QList<NodeType>, {node}));
     EXPECT_EQ(button("connect_button")->text(), "Connect to drive");
-    // Open without a chosen row, and an empty list, connect to nothing either.
-    for (const QList<NodeType> &nodes : {QList<NodeType>{node, node}, QList<NodeType>{}}) {
-        m_answers.expect([](QWidget *dialog) {
-            dialog->findChild<QListWidget *>("nodeList")->clearSelection();
-            dialog->findChild<QDialogButtonBox *>("buttonBox")->button(QDialogButtonBox::Open)->click();
-            return true;
-        });
-        QMetaObject::invokeMethod(m_window.get(), "availableBusNodesListReceived", Q_ARG(QList<NodeType>, nodes));
-    }
     QTest::qWait(100);
     EXPECT_TRUE(bus().received().empty());
     EXPECT_EQ(connectionText(), "Not connected");
+}
+
+TEST_F(TwoFamilies, NoRowOfTheNodeListIsChosenButASingleOrTheLastDrives)
+{
+    openWindow();
+    const NodeType keta{5, false, 11000, false};
+    const NodeType torva{7, false, 4000, false};
+    const NodeType damaged{9, false, 0, true};
+    const QList<NodeType> both{keta, torva};
+    // A Return that was meant for another box arrives in the list; then what is left open is cancelled.
+    const auto pressReturn = [this](const QList<NodeType> &nodes, bool opens) {
+        m_answers.expect([opens](QWidget *dialog) {
+            QTest::qWait(10);
+            QTest::keyClick(dialog->findChild<QListWidget *>("nodeList"), Qt::Key_Return);
+            EXPECT_EQ(dialog->isVisible(), !opens);
+            dialog->close();
+            return true;
+        });
+        QMetaObject::invokeMethod(m_window.get(), "availableBusNodesListReceived", Q_ARG(QList<NodeType>, nodes));
+    };
+    pressReturn(both, false);
+    pressReturn({damaged}, false);
+    EXPECT_TRUE(bus().received().empty());
+    m_answers.expect([](QWidget *dialog) {
+        auto *nodes = dialog->findChild<QListWidget *>("nodeList");
+        QTest::qWait(10);
+        QTest::keyClick(nodes, Qt::Key_Down); // the first row, not the second
+        EXPECT_EQ(nodes->currentRow(), 0);
+        QTest::keyClick(nodes, Qt::Key_Down);
+        QTest::keyClick(nodes, Qt::Key_Return);
+        EXPECT_FALSE(dialog->isVisible());
+        return true;
+    });
+    QMetaObject::invokeMethod(m_window.get(), "availableBusNodesListReceived", Q_ARG(QList<NodeType>, both));
+    ASSERT_TRUE(waitFor([this] { return label("HWMODEL")->text() == "Tarnwell Devices TORVA"; }));
+    click("disconnect_button");
+    ASSERT_TRUE(waitFor([this] { return connectionText() == "Disconnected"; }));
+    for (const QList<NodeType> &nodes : {QList<NodeType>{keta, torva, damaged}, QList<NodeType>{torva}}) {
+        pressReturn(nodes, true);
+        ASSERT_TRUE(waitFor([this] { return label("HWMODEL")->text() == "Tarnwell Devices TORVA"; }));
+        click("disconnect_button");
+        ASSERT_TRUE(waitFor([this] { return connectionText() == "Disconnected"; }));
+    }
+}
+
+TEST_F(ConnectPage, SearchThatFoundNobodySaysWhatToCheckAndSearchesAgain)
+{
+    openWindow();
+    m_answers.expect([](QWidget *dialog) {
+        EXPECT_TRUE(dialog->findChild<QLabel *>("label")->text().contains("Check that"));
+        EXPECT_FALSE(dialog->findChild<QListWidget *>("nodeList")->isVisible());
+        for (QPushButton *button : dialog->findChildren<QPushButton *>()) {
+            if (button->isDefault())
+                button->click();
+        }
+        return true;
+    });
+    m_answers.chooseNode(0);
+    QMetaObject::invokeMethod(m_window.get(), "availableBusNodesListReceived", Q_ARG(QList<NodeType>, {}));
+    EXPECT_EQ(button("connect_button")->text(), "Searching devices...");
+    EXPECT_TRUE(waitFor([this] { return connectionText() == "Connected"; }));
 }
 
 TEST_F(ConnectPage, ATypedPortIsNotCompletedToAListedOneThatBeginsLikeIt)

@@ -147,10 +147,42 @@ TEST_F(Escape, TellsWhenNothingConfirmsTheDisable)
     press(Qt::Key_Escape);
     ASSERT_TRUE(waitFor([this] { return shownMessage(m_window.get()).startsWith("The disable is not confirmed"); }));
     EXPECT_TRUE(m_window->statusBar()->currentMessage().contains("hardware stop"));
+}
+
+TEST_F(Escape, DisablesTheLastDriveWithoutAConnection)
+{
+    bus().set(DriveAddress, SOFT_ENABLE, 1);
+    bus().unplug();
     ASSERT_TRUE(waitFor([this] { return connectionText() == "Disconnected"; }));
+    ASSERT_TRUE(waitFor([this] { return !shownMessage(m_window.get()).isEmpty(); }));
     control<QDialog>("errorWindow")->close();
+    EXPECT_TRUE(button("disable_drive")->isEnabled());
+    for (const char *name : {"enable_drive", "force_enable", "clear_faults", "saveToFlash", "restartDrive"})
+        EXPECT_FALSE(button(name)->isEnabled()) << name;
+
+    press(Qt::Key_Escape); // the cable is still out
+    ASSERT_TRUE(waitFor([this] { return shownMessage(m_window.get()).contains("may still be powered"); }));
+    EXPECT_TRUE(m_window->statusBar()->currentMessage().contains("may still be powered"));
+    control<QDialog>("errorWindow")->close();
+    EXPECT_EQ(bus().read(DriveAddress, SOFT_ENABLE), 1);
+
+    ASSERT_EQ(bus().plugIn(), "");
+    for (const bool byKey : {true, false}) {
+        bus().set(DriveAddress, SOFT_ENABLE, 1);
+        byKey ? press(Qt::Key_Escape) : click("disable_drive");
+        ASSERT_TRUE(driveHas(SOFT_ENABLE, 0)) << byKey;
+        ASSERT_TRUE(waitFor([this] { return m_window->statusBar()->currentMessage().startsWith("Disabled after "); }));
+    }
+    EXPECT_EQ(connectionText(), "Disconnected");
+}
+
+TEST_F(Escape, WhatWasSaidAboutADisableGivesWayWhenTheDriveIsEnabledAgain)
+{
+    bus().set(DriveAddress, SOFT_ENABLE, 1);
     press(Qt::Key_Escape);
-    EXPECT_TRUE(m_window->statusBar()->currentMessage().startsWith("No drive is connected"));
+    ASSERT_TRUE(waitFor([this] { return m_window->statusBar()->currentMessage().startsWith("Disabled after "); }));
+    bus().set(DriveAddress, SOFT_ENABLE, 1); // by another program
+    EXPECT_TRUE(waitFor([this] { return m_window->statusBar()->currentMessage() == "The drive is enabled again"; }));
 }
 
 TEST_F(Escape, SetpointShortcutsCrossAsTheHintsSay)

@@ -35,6 +35,23 @@ TEST_F(News, AreNotAskedForBecauseAFileWasLoaded)
         EXPECT_FALSE(request.contains("uid=77")) << request.toStdString();
 }
 
+TEST_F(News, CannotEndTheConnectionToADriveThatIsEnabled)
+{
+    constexpr int SOFT_ENABLE = 2533;
+    bus().set(DriveAddress, SOFT_ENABLE, 1);
+    m_updates.answer("VELBRINREPLY see <a href=\"https://x.example/new\">news</a>MUSTDISCONNECT");
+    openConnectedWindow();
+    ASSERT_TRUE(waitFor([this] { return shownMessage(m_window.get()) == "see news (https://x.example/new)"; }));
+    auto *errors = control<QDialog>("errorWindow");
+    errors->close();
+    ASSERT_TRUE(waitFor([this] { return shownMessage(m_window.get()).contains("until the drive is disabled"); }));
+    EXPECT_EQ(connectionText(), "Connected");
+    errors->close();
+    press(Qt::Key_Escape);
+    ASSERT_TRUE(waitFor([this] { return connectionText() == "Disconnected"; }));
+    EXPECT_EQ(bus().read(DriveAddress, SOFT_ENABLE), 0);
+}
+
 TEST_F(News, CannotKeepTheWindowBusy)
 {
     // Each further table doubles the time to lay them out; these would take a minute.

@@ -277,7 +277,7 @@ private:
     {
         m_timer.stop();
         const QString text =
-            HelpView::tr("Error writing graphs to file %1: %2").arg(QDir::toNativeSeparators(m_file), failure);
+            HelpView::tr("Error writing graphs to file %1<br>%2").arg(m_file.toHtmlEscaped(), failure.toHtmlEscaped());
         ended(failure.isEmpty() ? QString() : text);
     }
 

@@ -1,4 +1,5 @@
 #include "controlbinding.h"
+#include "numberbox.h"
 #include "printqt.h"
 
 #include <QCheckBox>
@@ -197,6 +198,23 @@ TEST_F(Binding, ParameterThatTheModelLacksIsWithdrawnAndComesBack)
     EXPECT_EQ(box->text(), "3");
     EXPECT_EQ(box->minimum(), 0);
     EXPECT_EQ(binding.collect(present), 3);
+}
+
+TEST_F(Binding, DrivesOwnLimitsStandInTheToolTip)
+{
+    auto *box = add<DecimalBox>("MCC");
+    box->setSuffix(" A");
+    box->setToolTip("Current that the motor stands.");
+    binding.fill(param("MCC", 10, 0, 35)); // from a file: nobody knows what a drive accepts
+    EXPECT_EQ(box->toolTip(), "Current that the motor stands.");
+    for (int i = 0; i < 2; ++i) {
+        binding.fill(param("MCC", 10, 0, 35), true);
+        binding.setSupported("MCC", true);
+        EXPECT_EQ(box->toolTip(), "Current that the motor stands.<p>This drive: 0 to 35 A</p>");
+        binding.fill(param("MCC", 10, 0, 0), true);
+        binding.setSupported("MCC", false);
+        EXPECT_EQ(box->toolTip(), "not on this model");
+    }
 }
 
 TEST_F(Binding, WithdrawnComboBoxShowsNoChoice)

@@ -10,8 +10,10 @@
 
 namespace {
 
-const char LOST_LINE[] = "Communication error flags: <br>* BusError<br><br>Disconnected. See troubleshooting";
-const char NOTICE[] = "A newer program is there";
+const Message LOST_LINE{MessageKind::LineLost,
+                        "Communication error flags: <br>* BusError<br><br>Disconnected. See troubleshooting"};
+// The words of a message decide nothing.
+const char NOTICE[] = "Warning: not confirmed, did not take, Communication error";
 
 class Messages : public testing::Test
 {
@@ -30,41 +32,42 @@ protected:
 TEST_F(Messages, ComeOneAfterAnotherAndEqualOnesOnce)
 {
     for (const char *text : {"one", "two", "one", "two", ""})
-        window.showMessage(text);
+        window.note(text);
     EXPECT_EQ(shown(), "one");
     window.accept();
     EXPECT_EQ(shown(), "two");
     window.accept();
     EXPECT_EQ(shown(), "");
-    window.showMessage("one");
+    window.note("one");
     EXPECT_EQ(shown(), "one");
 }
 
 TEST_F(Messages, UntickedOneStaysAwayAndTheNextIsTickedAgain)
 {
-    window.showMessage(NOTICE);
+    window.note(NOTICE);
     EXPECT_FALSE(tick()->isHidden());
     tick()->setChecked(false);
-    window.showMessage("another");
+    window.note("another");
     window.accept();
     EXPECT_EQ(shown(), "another");
     EXPECT_TRUE(tick()->isChecked());
     window.accept();
-    window.showMessage(NOTICE);
+    window.note(NOTICE);
     EXPECT_EQ(shown(), "");
-    window.showMessage("another");
+    window.note("another");
     EXPECT_EQ(shown(), "another");
 }
 
 TEST_F(Messages, LostLineDoesNotWaitBehindOrdinaryOnesAndNothingComesAfterTheEnd)
 {
-    for (const char *text : {"one", NOTICE, LOST_LINE})
-        window.showMessage(text);
+    for (const char *text : {"one", NOTICE})
+        window.note(text);
+    window.tell(LOST_LINE);
     window.accept();
     EXPECT_EQ(shown(), "Communication error flags: ");
     window.endMessages();
     EXPECT_EQ(shown(), "");
-    window.showMessage(LOST_LINE);
+    window.tell(LOST_LINE);
     EXPECT_EQ(shown(), "");
 }
 
@@ -72,7 +75,7 @@ TEST_F(Messages, LostLineCannotBeSuppressedAndGoesToTheStatusBar)
 {
     QSignalSpy lines(&window, &ErrorWindow::vitalMessage);
     for (int time = 1; time <= 3; ++time) {
-        window.showMessage(LOST_LINE);
+        window.tell(LOST_LINE);
         EXPECT_EQ(shown(), "Communication error flags: ");
         EXPECT_TRUE(tick()->isHidden());
         tick()->setChecked(false);
@@ -81,10 +84,41 @@ TEST_F(Messages, LostLineCannotBeSuppressedAndGoesToTheStatusBar)
     }
     EXPECT_EQ(lines.last().first().toString(),
               "Communication error flags: * BusError Disconnected. See troubleshooting");
-    EXPECT_FALSE(ErrorWindow::isVital(NOTICE));
-    EXPECT_FALSE(ErrorWindow::isVital("Warning: the loaded file is saved on different device type"));
-    EXPECT_TRUE(ErrorWindow::isVital("The disable is not confirmed: the drive may still be powered."));
-    EXPECT_TRUE(ErrorWindow::isVital("Unable to connect. Possibly incompatible COM adapter selected"));
+}
+
+TEST_F(Messages, KindDecidesWhatMayBeSuppressed)
+{
+    const std::pair<MessageKind, bool> kinds[] = {
+        {MessageKind::Note, true},        {MessageKind::FileWarning, true},      {MessageKind::ConnectFailed, false},
+        {MessageKind::Identity, false},   {MessageKind::LineLost, false},        {MessageKind::Refused, false},
+        {MessageKind::NotWritten, false}, {MessageKind::UnconfirmedStop, false}, {MessageKind::Undone, false},
+        {MessageKind::FileFailed, false}};
+    for (const auto &[kind, may] : kinds) {
+        const Message message{kind, QStringLiteral("overrideAddr1 was not written %1").arg(int(kind))};
+        window.tell(message);
+        EXPECT_EQ(tick()->isHidden(), !may) << int(kind);
+        tick()->setChecked(false);
+        window.accept();
+        window.tell(message);
+        EXPECT_EQ(window.isVisible(), !may) << int(kind);
+        window.accept();
+    }
+}
+
+TEST_F(Messages, AddressesAreLinksThatCanBeFollowed)
+{
+    EXPECT_EQ(withLinks("See http://a.example/b?c=1&amp;d. <i>https://x</i> <a href=\"http://z\">http://y</a> a<b>c"),
+              "See <a href=\"http://a.example/b?c=1&amp;d\">http://a.example/b?c=1&amp;d</a>. "
+              "<i><a href=\"https://x\">https://x</a></i> <a href=\"http://z\">http://y</a> a<b>c");
+    QSignalSpy followed(&window, &ErrorWindow::linkActivated);
+    window.note("http://a.example/b for more");
+    auto *text = window.findChild<QTextEdit *>();
+    const QPoint onLink = text->cursorRect().center() + QPoint(20, 0);
+    QTest::mouseClick(text->viewport(), Qt::LeftButton, {}, onLink);
+    ASSERT_EQ(followed.size(), 1);
+    EXPECT_EQ(followed.first().first().toUrl(), QUrl("http://a.example/b"));
+    QTest::mouseClick(text->viewport(), Qt::LeftButton, {}, QPoint(text->viewport()->width() - 5, 5));
+    EXPECT_EQ(followed.size(), 1);
 }
 
 TEST_F(Messages, OnlyAVitalOneComesBeforeAnOpenBoxIsClosed)
@@ -92,14 +126,14 @@ TEST_F(Messages, OnlyAVitalOneComesBeforeAnOpenBoxIsClosed)
     QDialog box;
     box.setModal(true);
     box.show();
-    window.showMessage(NOTICE);
+    window.note(NOTICE);
     QTest::qWait(150);
     EXPECT_EQ(shown(), "");
     box.close();
     EXPECT_TRUE(QTest::qWaitFor([this] { return shown() == NOTICE; }));
     window.accept();
     box.show();
-    window.showMessage(LOST_LINE);
+    window.tell(LOST_LINE);
     EXPECT_TRUE(window.isVisible());
     EXPECT_TRUE(window.isModal()); // or it could not be closed
     window.accept();

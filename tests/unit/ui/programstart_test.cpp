@@ -64,14 +64,17 @@ protected:
     QTemporaryDir m_folder;
 };
 
-TEST_F(DataFolder, IsEnteredOnlyWhereTheWorkingFolderHasNoScripts)
+TEST_F(DataFolder, OwnOneGoesBeforeThatOfTheWorkingFolder)
 {
-    QDir().mkpath("flot/css"); // as in the sources: a style sheet, but no scripts
+    QDir().mkpath("downloads/flot");
+    QFile script("downloads/flot/jquery.flot.js"); // somebody else's
+    ASSERT_TRUE(script.open(QIODevice::WriteOnly));
+    ASSERT_TRUE(QDir::setCurrent("downloads"));
     EXPECT_TRUE(enterDataFolder());
     EXPECT_EQ(QDir::currentPath(), QDir(m_folder.filePath("data")).canonicalPath());
-    qputenv("VELBRIN_DATA", "/nowhere");
-    EXPECT_TRUE(enterDataFolder());
-    EXPECT_EQ(QDir::currentPath(), QDir(m_folder.filePath("data")).canonicalPath());
+    ASSERT_TRUE(QDir::setCurrent(m_folder.filePath("downloads")));
+    const VirtualDriveFolder folder("/dev/pts/99");
+    EXPECT_EQ(QFileInfo("flot").symLinkTarget(), QDir(m_folder.filePath("data/flot")).canonicalPath());
 }
 
 TEST_F(DataFolder, VirtualDriveHasAPrivateOneThatGoesAway)

@@ -18,7 +18,9 @@ TEST(NoticeText, KeepsPlainMarkupAndDropsTheRest)
         {"<b>Update</b> required<br/>now<BR />", "<b>Update</b> required<br>now<br>"},
         {"<p style=\"font-size:900pt\">a</p >< li >b", "<p>a</p><li>b"},
         {"<table><tr><td>a</td></tr></table>", "a"},
-        {"see <a href=\"http://x\">here</a><img src=x width=100000>", "see here"},
+        {"see <a href=\"http://x\">here</a><img src=x width=100000>", "see here (http://x)"},
+        {"<A title=a HREF='https://x.example/a?b=1&amp;c=2'>new</A>.", "new (https://x.example/a?b=1&amp;c=2)."},
+        {"<a href=\"javascript:x()\">a</a><a href=\"http://x\" onclick=\"x\"><a href=http://y>b</a>", "ab (http://x)"},
         {"<ta<b>ble>", "ble>"},
         {"< table><\ttable></ table><!-- <b> -->", " -->"},
         {"a < b", "a &lt; b"},
@@ -31,7 +33,7 @@ TEST(NoticeText, KeepsPlainMarkupAndDropsTheRest)
 
 TEST(NoticeText, IsLaidOutInAMomentWhateverTheServerSends)
 {
-    for (const char *piece : {"x", "<table><tr><td>a", "<img src=x width=100000>", "<ul><li>a", "<h1><b>", "<", "</"}) {
+    for (const char *piece : {"x", "<table><tr><td>a", "<img src=x width=100000>", "<ul><li>a", "<a href=http://x>y</a>", "<a a ","<h1><b>", "<", "</"}) {
         const QString notice = noticeText(QString(piece).repeated((1 << 20) / int(qstrlen(piece))));
         EXPECT_LE(notice.size(), 4 * 4000 + 1) << piece;
         QErrorMessage box;
