@@ -61,11 +61,8 @@ install_packages() {
     step "Installing $missing" apt-install.log apt_get install --no-install-recommends $missing
 }
 
-# build_preset NAME [TARGET...]: configures build/NAME, where that was not done before, and builds the targets, or what
-# the preset says.
+# build_preset NAME: configures and builds build/NAME.
 build_preset() {
-    local name=$1
-    shift
-    [ -e "build/$name/build.ninja" ] || step "Configuring $name" "configure-$name.log" cmake --preset "$name"
-    step "Building $name" "build-$name.log" cmake --build --preset "$name" -j "$(nproc)" ${1:+--target "$@"}
+    step "Configuring $1" "configure-$1.log" cmake --preset "$1"
+    step "Building $1" "build-$1.log" cmake --build --preset "$1" -j "$(nproc)"
 }
