@@ -50,7 +50,7 @@ int main(int argc, char **argv)
 
     std::unique_ptr<VirtualPort> virtualPort;
     if (!line.virtualDrives.isEmpty()) {
-        virtualPort = std::make_unique<VirtualPort>(line.virtualDrives);
+        virtualPort = std::make_unique<VirtualPort>(line.virtualDrives, VirtualPort::Pace::AsItGoes);
         if (!virtualPort->error().isEmpty()) {
             complain({virtualPort->error()});
             return ExitFailed;

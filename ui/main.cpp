@@ -1,11 +1,10 @@
 // The program: command line, the built-in virtual drives, the window, and a clean end.
-#include "virtualbus.h" // before Qt, whose keywords it uses as names
-
 #include "datafolder.h"
 #include "mw.h"
 #include "programoptions.h"
 #include "quitsignals.h"
 #include "tour.h"
+#include "virtualport.h"
 
 #include <QApplication>
 #include <QDebug>
@@ -27,15 +26,6 @@ bool wantsTextOnly(int argc, char **argv)
         }
     }
     return false;
-}
-
-sim::BusOptions busOptions(const QStringList &models)
-{
-    sim::BusOptions options;
-    if (!models.isEmpty())
-        sim::parseDrives(models.join(QLatin1Char(',')).toStdString(), options.drives); // checked with the arguments
-    options.lineRate = true; // as quick as a real line, no quicker
-    return options;
 }
 
 void setStyle()
@@ -71,18 +61,14 @@ int main(int argc, char **argv)
     window.file = options.file;
     window.port = options.port;
     window.debugValues = options.debugValues;
-    sim::VirtualBus bus(busOptions(options.virtualDrives));
-    std::unique_ptr<VirtualDriveFolder> folder;
+    std::unique_ptr<VirtualPort> virtualPort;
     if (options.virtualDrives.isEmpty()) {
         enterDataFolder();
     } else {
-        const QString error = QString::fromStdString(bus.start());
-        if (!error.isEmpty())
-            return failed(error, EXIT_FAILURE);
-        folder = std::make_unique<VirtualDriveFolder>(QString::fromStdString(bus.portName()));
-        if (!folder->error().isEmpty())
-            return failed(folder->error(), EXIT_FAILURE);
-        window.virtualPort = VirtualDriveFolder::portName();
+        virtualPort = std::make_unique<VirtualPort>(options.virtualDrives, VirtualPort::Pace::RealLine);
+        if (!virtualPort->error().isEmpty())
+            return failed(virtualPort->error(), EXIT_FAILURE);
+        window.virtualPort = VirtualPort::portName();
     }
 
     Tour tour(options.tourFolder);

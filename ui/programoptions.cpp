@@ -1,8 +1,8 @@
 #include "programoptions.h"
 
-#include "driveoptions.h"
 #include "driveprofile.h"
 #include "version.h"
+#include "virtualport.h"
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
@@ -74,12 +74,10 @@ ProgramOptions parseProgramOptions(QStringList arguments)
     if (parser.isSet(tour))
         options.tourFolder = QDir::current().absoluteFilePath(parser.value(tour));
     if (parser.isSet(virtualDrive)) {
-        options.virtualDrives = parser.value(virtualDrive).split(QLatin1Char(','));
-        std::vector<sim::DriveOptions> drives;
-        const std::string error = sim::parseDrives(parser.value(virtualDrive).toStdString(), drives);
-        if (!error.empty())
-            options.error = tr("--virtual-drive: %1. Models: %2.")
-                                .arg(QString::fromStdString(error), profiles.join(QLatin1String(", ")));
+        options.virtualDrives = parser.value(virtualDrive);
+        const QString error = checkVirtualDrives(options.virtualDrives);
+        if (!error.isEmpty())
+            options.error = tr("--virtual-drive: %1. Models: %2.").arg(error, profiles.join(QLatin1String(", ")));
     }
     // The tour enables the drive and moves the axis: never a real one, and never with somebody's settings.
     if (!options.tourFolder.isEmpty() &&

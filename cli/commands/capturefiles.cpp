@@ -1,6 +1,7 @@
 #include "capturefiles.h"
 
 #include "captureplotter.h"
+#include "datafolder.h"
 #include "plotpage.h"
 
 #include <QCoreApplication>
@@ -27,9 +28,9 @@ QByteArray pageOf(const Capture &capture, const QString &flotFolder, QString &pr
 
 QString CaptureFiles::open()
 {
-    if (hasPage())
-        m_flotFolder = findFlotFolder();
-    if (hasPage() && m_flotFolder.isEmpty())
+    const QString data = hasPage() ? findDataFolder() : QString();
+    m_flotFolder = data + QLatin1String("/flot");
+    if (hasPage() && data.isEmpty())
         return tr(
             "The scripts of the plot page (\"flot\" folder) are not found; set VELBRIN_DATA to the folder that holds "
             "them, or leave --html away.");

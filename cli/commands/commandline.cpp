@@ -178,7 +178,7 @@ QString portProblem(const CommandLine &line)
 {
     if (line.port.isEmpty() == line.virtualDrives.isEmpty())
         return tr("Either --port NAME or --virtual-drive is needed.");
-    return line.port.isEmpty() ? checkProfiles(line.virtualDrives) : QString();
+    return line.port.isEmpty() ? checkVirtualDrives(line.virtualDrives) : QString();
 }
 
 } // namespace

@@ -1,7 +1,6 @@
 #include "plotpage.h"
 
 #include <QCoreApplication>
-#include <QDir>
 #include <QFile>
 #include <QRegularExpression>
 
@@ -35,20 +34,6 @@ void inlineFiles(QString &page, const char *reference, const char *begin, const 
 }
 
 } // namespace
-
-QString findFlotFolder()
-{
-    const QString program = QCoreApplication::applicationDirPath();
-    // The working directory last: a folder of downloads must not put its scripts into the page.
-    const QString folders[] = {qEnvironmentVariable("VELBRIN_DATA"), program + QLatin1String("/../share/velbrin"),
-                               program + QLatin1String("/../data"), QDir::currentPath()};
-    for (const QString &folder : folders) {
-        // The sources have a "flot" folder too, but with the style sheet only.
-        if (!folder.isEmpty() && QFile::exists(folder + QLatin1String("/flot/jquery.flot.js")))
-            return QDir(folder + QLatin1String("/flot")).canonicalPath();
-    }
-    return QString();
-}
 
 QString standalonePage(const QString &page, const QString &flotFolder, QString &problem)
 {

@@ -5,13 +5,9 @@
 
 #include <QString>
 
-/// The "flot" folder with the scripts and the style sheet that the page is drawn with: the one below the working
-/// directory, or that of the installed program or the build. Empty when there is none.
-QString findFlotFolder();
-
 /// `page` (CapturePlotter::generatePlotPage) with everything that it refers to inside it, so that the one file can be
-/// moved and sent. Links that only the window understands are left out. Empty when a script cannot be read; `problem`
-/// then says which.
+/// moved and sent. `flotFolder` has the scripts and the style sheet (see findDataFolder). Links that only the window
+/// understands are left out. Empty when a script cannot be read; `problem` then says which.
 QString standalonePage(const QString &page, const QString &flotFolder, QString &problem);
 
 #endif

@@ -16,7 +16,6 @@ constexpr timespec checkPeriod = {0, 50000000};
 
 constexpr int stopSignals[] = {SIGINT, SIGTERM, SIGHUP, SIGQUIT};
 
-int pipeEnds[2] = {-1, -1};
 std::atomic<int> noForces{0};
 std::atomic<bool> isOver{false};
 
@@ -42,16 +41,19 @@ sigset_t stopSet()
 } // namespace
 
 Interruption::Interruption()
+    : m_pipe([this] {
+          if (m_stop)
+              m_stop();
+      })
 {
     std::signal(SIGPIPE, SIG_IGN);
-    if (pipe(pipeEnds) != 0)
+    if (!m_pipe.isOpen())
         return;
     // Blocked here and so in every thread that follows; one thread waits for them, whatever the others are doing.
     const sigset_t set = stopSet();
     pthread_sigmask(SIG_BLOCK, &set, nullptr);
     isOver = false;
     m_watch = std::thread([this] { watch(); });
-    m_notifier = std::make_unique<QSocketNotifier>(pipeEnds[0], QSocketNotifier::Read);
 }
 
 Interruption::~Interruption()
@@ -59,9 +61,6 @@ Interruption::~Interruption()
     isOver = true;
     if (m_watch.joinable())
         m_watch.join();
-    m_notifier.reset();
-    close(pipeEnds[0]);
-    close(pipeEnds[1]);
     const sigset_t set = stopSet();
     pthread_sigmask(SIG_UNBLOCK, &set, nullptr);
 }
@@ -78,9 +77,7 @@ void Interruption::watch()
         if (signal > 0) {
             last = signal;
             ++count;
-            const char byte = 0;
-            // Nothing can be done about a full pipe, and it is enough that one byte is in it.
-            [[maybe_unused]] const ssize_t written = write(pipeEnds[1], &byte, 1);
+            m_pipe.wake();
             if (count == 1)
                 end = Clock::now() + afterTheFirst;
             else if (count == 2)
@@ -89,17 +86,6 @@ void Interruption::watch()
         if (end && Clock::now() >= *end && (mayForce || count > 1))
             endByForce(last);
     }
-}
-
-void Interruption::callWhenAsked(const std::function<void()> &stop)
-{
-    if (!m_notifier)
-        return;
-    QObject::connect(m_notifier.get(), &QSocketNotifier::activated, [stop] {
-        char byte = 0;
-        if (read(pipeEnds[0], &byte, 1) == 1)
-            stop();
-    });
 }
 
 NoForce::NoForce()

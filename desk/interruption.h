@@ -3,9 +3,9 @@
 #ifndef INTERRUPTION_H
 #define INTERRUPTION_H
 
-#include <QSocketNotifier>
+#include "signalpipe.h"
+
 #include <functional>
-#include <memory>
 #include <thread>
 
 /// Exists once, after the QCoreApplication and before any other thread. SIGINT, SIGTERM, SIGHUP and SIGQUIT wait while
@@ -22,13 +22,14 @@ public:
     Interruption(const Interruption &) = delete;
     Interruption &operator=(const Interruption &) = delete;
 
-    void callWhenAsked(const std::function<void()> &stop);
+    void callWhenAsked(const std::function<void()> &stop) { m_stop = stop; }
 
 private:
     void watch();
 
+    std::function<void()> m_stop;
+    SignalPipe m_pipe;
     std::thread m_watch;
-    std::unique_ptr<QSocketNotifier> m_notifier;
 };
 
 /// While one lives, a signal does not end the program by force: a stop is on its way to a drive, or an upgrade runs. A

@@ -7,7 +7,7 @@
 
 namespace {
 
-const char *const LINKED_FOLDERS[] = {"flot", "help"};
+const char *const linkedFolders[] = {"flot", "help"};
 
 } // namespace
 
@@ -21,7 +21,7 @@ QString findDataFolder()
 {
     const QString program = QCoreApplication::applicationDirPath();
     const QString candidates[] = {qEnvironmentVariable("VELBRIN_DATA"), program + QLatin1String("/../share/velbrin"),
-                                  program + QLatin1String("/../data")};
+                                  program + QLatin1String("/../data"), QDir::currentPath()};
     for (const QString &folder : candidates) {
         if (!folder.isEmpty() && hasPlotScripts(folder))
             return QDir(folder).canonicalPath();
@@ -32,29 +32,15 @@ QString findDataFolder()
 bool enterDataFolder()
 {
     const QString folder = findDataFolder();
-    return folder.isEmpty() ? hasPlotScripts(QDir::currentPath()) : QDir::setCurrent(folder);
+    return !folder.isEmpty() && QDir::setCurrent(folder);
 }
 
-VirtualDriveFolder::VirtualDriveFolder(const QString &terminal)
-    : m_folder(QStringLiteral("velbrin-ui-")), m_previous(QDir::currentPath())
+void linkDataInto(const QString &folder)
 {
-    m_error = m_folder.error();
-    if (!m_error.isEmpty())
-        return;
-    QString data = findDataFolder();
-    if (data.isEmpty() && hasPlotScripts(m_previous))
-        data = m_previous;
-    for (const char *name : LINKED_FOLDERS) {
+    const QString data = findDataFolder();
+    for (const char *name : linkedFolders) {
         const QString target = data + QLatin1Char('/') + QLatin1String(name);
         if (!data.isEmpty() && QFileInfo::exists(target))
-            QFile::link(target, m_folder.filePath(QLatin1String(name)));
+            QFile::link(target, folder + QLatin1Char('/') + QLatin1String(name));
     }
-    QFile port(terminal);
-    if (!port.link(m_folder.filePath(portName())) || !QDir::setCurrent(m_folder.path()))
-        m_error = port.errorString();
-}
-
-VirtualDriveFolder::~VirtualDriveFolder()
-{
-    QDir::setCurrent(m_previous);
 }

@@ -20,7 +20,9 @@ int openFolder(const QString &path)
 
 bool isLeftBehind(int folder)
 {
-    struct stat info{};
+    struct stat info
+    {
+    };
     return fstat(folder, &info) == 0 && info.st_uid == geteuid() && std::time(nullptr) - info.st_mtime > youngest &&
            flock(folder, LOCK_EX | LOCK_NB) == 0;
 }

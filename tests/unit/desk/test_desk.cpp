@@ -1,0 +1,115 @@
+// The folder that a program works in, what it finds there, and how a signal ends it.
+#include "datafolder.h"
+#include "quitsignals.h"
+#include "virtualport.h"
+
+#include "printqt.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
+#include <QTemporaryDir>
+
+#include <csignal>
+#include <fcntl.h>
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+
+namespace {
+
+class Desk : public testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        qputenv("TMPDIR", m_folder.path().toLocal8Bit());
+        qputenv("VELBRIN_DATA", m_folder.filePath("data").toLocal8Bit());
+        for (const char *folder : {"data", "downloads"}) {
+            ASSERT_TRUE(QDir(m_folder.path()).mkpath(QString("%1/flot").arg(folder)));
+            ASSERT_TRUE(QDir(m_folder.path()).mkpath(QString("%1/help").arg(folder)));
+            QFile script(m_folder.filePath(QString("%1/flot/jquery.flot.js").arg(folder)));
+            ASSERT_TRUE(script.open(QIODevice::WriteOnly));
+        }
+        ASSERT_TRUE(QDir::setCurrent(m_folder.filePath("downloads"))); // somebody else's
+    }
+    void TearDown() override
+    {
+        qunsetenv("VELBRIN_DATA");
+        qunsetenv("TMPDIR");
+        QDir::setCurrent("/");
+    }
+    QStringList privateFolders() const { return QDir(m_folder.path()).entryList({"velbrin-desk-*"}, QDir::Dirs); }
+
+    QTemporaryDir m_folder;
+};
+
+/// As if nobody had touched it for two minutes.
+void makeOld(const QString &folder)
+{
+    timespec times[2] = {};
+    clock_gettime(CLOCK_REALTIME, &times[1]);
+    times[1].tv_sec -= 120;
+    times[0] = times[1];
+    ASSERT_EQ(utimensat(AT_FDCWD, qPrintable(folder), times, 0), 0);
+}
+
+} // namespace
+
+TEST_F(Desk, OwnDataGoBeforeThoseOfTheWorkingFolder)
+{
+    EXPECT_EQ(findDataFolder(), QDir(m_folder.filePath("data")).canonicalPath());
+    EXPECT_TRUE(enterDataFolder());
+    EXPECT_EQ(QDir::currentPath(), QDir(m_folder.filePath("data")).canonicalPath());
+
+    ASSERT_TRUE(QFile::remove(m_folder.filePath("data/flot/jquery.flot.js"))); // as in the sources: a style sheet only
+    ASSERT_TRUE(QDir::setCurrent("/"));
+    EXPECT_NE(findDataFolder(), QDir(m_folder.filePath("data")).canonicalPath());
+}
+
+TEST_F(Desk, VirtualDriveHasAPrivateFolderThatGoesAway)
+{
+    const QString before = QDir::currentPath();
+    QString made;
+    {
+        const VirtualPort port("keta@7,torva", VirtualPort::Pace::RealLine);
+        EXPECT_EQ(port.error(), "");
+        made = QDir::currentPath();
+        EXPECT_NE(made, before);
+        EXPECT_TRUE(QFileInfo("COM1").symLinkTarget().startsWith("/dev/pts/"));
+        EXPECT_EQ(QFileInfo("flot").symLinkTarget(), QDir(m_folder.filePath("data/flot")).canonicalPath());
+        EXPECT_TRUE(QFileInfo("help").isDir());
+    }
+    EXPECT_FALSE(QFileInfo::exists(made));
+    EXPECT_EQ(QDir::currentPath(), before);
+    EXPECT_TRUE(QFileInfo::exists(m_folder.filePath("data/flot/jquery.flot.js"))) << "links go, not what they point at";
+
+    EXPECT_NE(VirtualPort("teapot", VirtualPort::Pace::AsItGoes).error(), "");
+    EXPECT_EQ(QDir::currentPath(), before);
+}
+
+TEST_F(Desk, FoldersOfKilledProgramsAreRemovedAndThoseInUseAreNot)
+{
+    const VirtualPort running("keta", VirtualPort::Pace::AsItGoes);
+    makeOld(QDir::currentPath());
+    QDir place(m_folder.path());
+    ASSERT_TRUE(place.mkpath("velbrin-desk-killed"));
+    makeOld(m_folder.filePath("velbrin-desk-killed"));
+    ASSERT_TRUE(place.mkpath("velbrin-desk-justnw"));
+    {
+        const VirtualPort next("keta", VirtualPort::Pace::AsItGoes);
+        EXPECT_FALSE(place.exists("velbrin-desk-killed"));
+        EXPECT_TRUE(place.exists("velbrin-desk-justnw")) << "another program may be about to lock it";
+        EXPECT_EQ(privateFolders().size(), 3);
+    }
+    EXPECT_TRUE(QFileInfo::exists(QFileInfo("COM1").symLinkTarget()));
+}
+
+TEST(QuitSignals, FirstSignalEndsTheEventLoopWhateverItIs)
+{
+    for (const int signal : {SIGTERM, SIGINT, SIGHUP, SIGQUIT}) {
+        const QuitSignals quit;
+        raise(signal);
+        EXPECT_EQ(QCoreApplication::exec(), 0);
+        EXPECT_EQ(std::signal(signal, SIG_DFL), SIG_DFL) << "the second one ends the program at once";
+    }
+}
