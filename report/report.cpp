@@ -1,0 +1,251 @@
+#include "report.h"
+
+#include "capturefigures.h"
+#include "chart.h"
+#include "checksum.h"
+#include "devicemodel.h"
+#include "settingfacts.h"
+
+#include <QCoreApplication>
+
+namespace {
+
+QString tr(const char *text)
+{
+    return QCoreApplication::translate("Report", text);
+}
+
+const char *const checklist[] = {
+    QT_TRANSLATE_NOOP("Report", "The machine's own emergency stop works, and does not depend on the program."),
+    QT_TRANSLATE_NOOP("Report", "Directions of motor, feedback and axis are right."),
+    QT_TRANSLATE_NOOP("Report", "Limit switches and soft limits stop the axis before its ends."),
+    QT_TRANSLATE_NOOP("Report", "The brake holds the axis when the drive is off."),
+    QT_TRANSLATE_NOOP("Report", "Homing finds its place, again and again."),
+    QT_TRANSLATE_NOOP("Report", "Current limits suit motor, wiring and machine."),
+    QT_TRANSLATE_NOOP("Report", "Fault limits were tried: over current, tracking error, over speed."),
+    QT_TRANSLATE_NOOP("Report", "Guards and covers are in place."),
+    QT_TRANSLATE_NOOP("Report", "The settings are saved to the drive and to a file."),
+};
+
+const char *const style = R"(
+body { font: 11pt sans-serif; color: #000; background: #fff; max-width: 50em; margin: 1.5em auto; padding: 0 1em; }
+h1 { font-size: 1.6em; } h2 { font-size: 1.2em; border-bottom: 1px solid #999; margin-top: 1.6em; }
+table { border-collapse: collapse; width: 100%; margin: .5em 0; }
+th, td { text-align: left; padding: .15em .5em; border-bottom: 1px solid #ddd; vertical-align: top; }
+td.value, td.number { text-align: right; white-space: nowrap; }
+tr.differs { font-weight: bold; background: #f3f3e0; } .note { font-weight: normal; font-style: italic; }
+.warning { font-weight: bold; } code { word-break: break-all; } svg { max-width: 100%; height: auto; }
+.sign td { height: 3em; border: 1px solid #999; }
+@media print {
+  body { margin: 0; max-width: none; font-size: 9pt; } h2, thead { break-after: avoid; }
+  tr, svg, section.capture table { break-inside: avoid; } thead { display: table-header-group; }
+}
+)";
+
+QString number(double value)
+{
+    return QString::number(value, 'g', 15);
+}
+
+QString known(int value, int base = 10)
+{
+    return value != 0 ? QString::number(value, base).toUpper() : tr("not known");
+}
+
+QString when(const QDateTime &time)
+{
+    return time.isValid() ? time.toString(QStringLiteral("yyyy-MM-dd hh:mm:ss t")) : tr("not known");
+}
+
+QString section(const QString &title, const QString &contents)
+{
+    return QStringLiteral("<section>\n<h2>%1</h2>\n").arg(title.toHtmlEscaped()) + contents +
+           QLatin1String("</section>\n");
+}
+
+QString paragraph(const QString &text)
+{
+    return QLatin1String("<p>") + text.toHtmlEscaped() + QLatin1String("</p>\n");
+}
+
+/// Two columns: what it is, and what it is there.
+QString facts(const QList<QPair<QString, QString>> &rows)
+{
+    QString html = QStringLiteral("<table>\n");
+    for (const auto &[caption, value] : rows)
+        html += QLatin1String("<tr><th>") + caption.toHtmlEscaped() + QLatin1String("</th><td>") +
+                value.toHtmlEscaped() + QLatin1String("</td></tr>\n");
+    return html + QLatin1String("</table>\n");
+}
+
+QList<SingleParam> settingsOf(const Report &report)
+{
+    const QString model = deviceModelName(report.drive.type, false);
+    QList<SingleParam> settings;
+    for (int i = 0; i < report.settings.getParamCount(); ++i) {
+        const SingleParam setting = report.settings.getParam(i);
+        if (!setting.readonly && setting.supportedInDevice(model))
+            settings.append(setting);
+    }
+    return settings;
+}
+
+QString identity(const Report &report)
+{
+    const DriveIdentity &drive = report.drive;
+    QList<QPair<QString, QString>> rows = {
+        {tr("Model"), drive.model},
+        {tr("HW type ID"), known(drive.type)},
+        {tr("Serial number"), known(drive.serial)},
+        {tr("Bus address"), known(drive.address)},
+        {tr("TarnwellCore firmware version"), known(drive.firmware)},
+    };
+    if (drive.ioFirmware != 0)
+        rows.append({tr("I/O side firmware version"), known(drive.ioFirmware)});
+    if (drive.buildRevision != 0)
+        rows.append({tr("Firmware revision ID"), known(drive.buildRevision, 16)});
+    rows += {{tr("Report made"), when(report.time)}, {tr("Velbrin version"), report.program}};
+    return section(tr("Drive"), facts(rows));
+}
+
+QString settingRow(const SingleParam &setting, const Report &report)
+{
+    const std::optional<SettingFacts> about = settingFacts(setting.name, isTorvaModel(report.drive.type));
+    // As it goes over the bus: what rounding makes is no difference.
+    const bool differs =
+        about && setting.convertToDeviceScale(setting.value) != setting.convertToDeviceScale(about->standard);
+    const QString note = report.notes.value(setting.name);
+    QString caption = about ? about->caption.toHtmlEscaped() : QString();
+    if (!note.isEmpty())
+        caption += QLatin1String("<br><span class=\"note\">") + note.toHtmlEscaped() + QLatin1String("</span>");
+    const QString cells[] = {
+        about ? about->unit.toHtmlEscaped() : QString(), tr("%1 to %2").arg(number(setting.min), number(setting.max)),
+        about ? number(about->standard) : tr("not known"), differs ? tr("differs") : QString(), caption};
+    QString row = differs ? QStringLiteral("<tr class=\"differs\">") : QStringLiteral("<tr>");
+    row += QLatin1String("<th scope=\"row\">") + setting.name.toHtmlEscaped() +
+           QLatin1String("</th><td class=\"value\">") + number(setting.value) + QLatin1String("</td>");
+    for (const QString &cell : cells)
+        row += QLatin1String("<td>") + cell + QLatin1String("</td>");
+    return row + QLatin1String("</tr>\n");
+}
+
+QString settings(const Report &report)
+{
+    QString html = QStringLiteral("<table>\n<thead><tr>");
+    for (const QString &head : {tr("Setting"), tr("Value"), tr("Unit"), tr("The drive's limits"), tr("Default"),
+                                tr("Differs"), tr("What it is")})
+        html += QLatin1String("<th>") + head.toHtmlEscaped() + QLatin1String("</th>");
+    html += QLatin1String("</tr></thead>\n<tbody>\n");
+    for (const SingleParam &setting : settingsOf(report))
+        html += settingRow(setting, report);
+    html += QLatin1String("</tbody></table>\n");
+    html += paragraph(tr("Checksum of the settings (SHA-256), which \"velbrin-cli report --verify FILE\" checks:"));
+    html += QStringLiteral("<p><code id=\"settings-checksum\">%1</code></p>\n")
+                .arg(settingsChecksum(printedSettings(report)));
+    return section(tr("Settings"), html);
+}
+
+/// What keeps a capture from being one of this drive as it is now.
+QString whatIsOther(const CaptureRecord &capture, const Report &report)
+{
+    if (capture.settings.getParamCount() == 0)
+        return paragraph(tr("The file does not say with which drive and settings it was recorded."));
+    QString html;
+    if (capture.drive.serial != report.drive.serial)
+        html += QLatin1String("<p class=\"warning\">") +
+                tr("Recorded on another drive: serial number %1.").arg(known(capture.drive.serial)).toHtmlEscaped() +
+                QLatin1String("</p>\n");
+    QStringList others;
+    for (const SingleParam &now : settingsOf(report)) {
+        const SingleParam then = capture.settings.getParam(now.name);
+        if (then.name == now.name && now.convertToDeviceScale(then.value) != now.convertToDeviceScale(now.value))
+            others.append(now.name + QLatin1Char('=') + number(then.value));
+    }
+    if (!others.isEmpty())
+        html += paragraph(tr("Recorded with other settings: %1.").arg(others.join(QLatin1String(", "))));
+    return html;
+}
+
+QString captured(const ReportedCapture &capture, const Report &report)
+{
+    QString html = QStringLiteral("<h3>%1</h3>\n").arg(capture.title.toHtmlEscaped()) +
+                   paragraph(tr("Recorded: %1").arg(when(capture.record.time)));
+    if (!capture.record.note.isEmpty())
+        html += paragraph(tr("Note: %1").arg(capture.record.note));
+    html += whatIsOther(capture.record, report) + captureChart(capture.record);
+    QList<QPair<QString, QString>> rows;
+    for (const FigureLine &line : figureLines(captureFigures(capture.record)))
+        rows.append({line.caption, line.value});
+    return QLatin1String("<section class=\"capture\">\n") + html + facts(rows) + QLatin1String("</section>\n");
+}
+
+QString captures(const Report &report)
+{
+    QString html;
+    for (const ReportedCapture &capture : report.captures)
+        html += captured(capture, report);
+    return section(tr("Captures"), html.isEmpty() ? paragraph(tr("None were chosen.")) : html);
+}
+
+QString figure(const Figure &figure, double scale, const QString &unit)
+{
+    return figure.value ? tr("%1 %2").arg(QString::number(*figure.value * scale, 'g', 4), unit) : figure.reason;
+}
+
+QString stopTest(const Report &report)
+{
+    if (!report.stopTest)
+        return section(tr("Stop test"), paragraph(tr("Not done.")));
+    const StopFigures figures = stopFigures(*report.stopTest);
+    const double countsPerRevolution = 4.0 * report.settings.getParam(QStringLiteral("FBR")).value;
+    QList<QPair<QString, QString>> rows = {
+        {tr("Time to standstill"), figure(figures.time, 1000.0, tr("ms"))},
+        {tr("Distance to standstill"), figure(figures.distance, 1.0, tr("counts"))},
+        {tr("Farthest point on the way"), figure(figures.farthest, 1.0, tr("counts"))},
+    };
+    if (countsPerRevolution > 0.0 && figures.distance.value)
+        rows.insert(2, {tr("Distance in revolutions"), figure(figures.distance, 1.0 / countsPerRevolution, tr("rev"))});
+    return section(
+        tr("Stop test"),
+        paragraph(tr("Measured from the fault that the machine's stop raised, %1.").arg(when(report.stopTest->time))) +
+            captureChart(*report.stopTest) + facts(rows));
+}
+
+QString whatToSign()
+{
+    QString html = QStringLiteral("<table>\n");
+    for (const char *question : checklist)
+        html +=
+            QLatin1String("<tr><td>&#9744;</td><td>") + tr(question).toHtmlEscaped() + QLatin1String("</td></tr>\n");
+    QString names = QStringLiteral("<table class=\"sign\">\n<tr>");
+    for (const QString &head : {QString(), tr("Name"), tr("Date"), tr("Signature")})
+        names += QLatin1String("<th>") + head.toHtmlEscaped() + QLatin1String("</th>");
+    names += QLatin1String("</tr>\n");
+    for (const QString &who : {tr("Commissioned by:"), tr("Accepted by:")})
+        names += QLatin1String("<tr><td>") + who.toHtmlEscaped() + QLatin1String("</td><td></td><td></td><td></td></tr>\n");
+    return section(tr("Checklist"), html + QLatin1String("</table>\n")) +
+           section(tr("Signatures"), names + QLatin1String("</table>\n"));
+}
+
+} // namespace
+
+QList<QPair<QString, QString>> printedSettings(const Report &report)
+{
+    QList<QPair<QString, QString>> printed;
+    for (const SingleParam &setting : settingsOf(report))
+        printed.append({setting.name, number(setting.value)});
+    return printed;
+}
+
+QByteArray reportPage(const Report &report)
+{
+    const QString title =
+        report.machine.isEmpty() ? tr("Commissioning report") : tr("Commissioning report: %1").arg(report.machine);
+    const QString escaped = title.toHtmlEscaped();
+    const QString page = QStringLiteral("<!DOCTYPE html>\n<html>\n<head>\n<meta charset=\"utf-8\">\n<title>") +
+                         escaped + QLatin1String("</title>\n<style>") + QLatin1String(style) +
+                         QLatin1String("</style>\n</head>\n<body>\n<h1>") + escaped + QLatin1String("</h1>\n") +
+                         identity(report) + settings(report) + captures(report) + stopTest(report) + whatToSign() +
+                         QLatin1String("</body>\n</html>\n");
+    return page.toUtf8();
+}

@@ -1,0 +1,96 @@
+#include "settingfacts.h"
+
+#include <QCoreApplication>
+
+#include <algorithm>
+
+namespace {
+
+struct Row
+{
+    const char *name;
+    const char *caption;
+    const char *unit;
+    double standard;      // display units
+    double torvaStandard; // Torva drives for a smaller current and a higher voltage
+};
+
+// clang-format off: one setting a line
+constexpr Row rows[] = {
+    {"CEI", QT_TRANSLATE_NOOP("SettingFacts", "Enable and limit input logic"), "", 0, 0},
+    {"ZBO", QT_TRANSLATE_NOOP("SettingFacts", "Bus address offset"), "", 0, 0},
+    {"TRF1", QT_TRANSLATE_NOOP("SettingFacts", "Cogging compensation function"), "", 0, 0},
+    {"TRF2", QT_TRANSLATE_NOOP("SettingFacts", "Torque uniformity compensation function"), "", 0, 0},
+    {"TRA1", QT_TRANSLATE_NOOP("SettingFacts", "Cogging compensation amplitude"), "A", 0, 0},
+    {"TRA2", QT_TRANSLATE_NOOP("SettingFacts", "Torque uniformity compensation amplitude"), "%", 0, 0},
+    {"FBR", QT_TRANSLATE_NOOP("SettingFacts", "Feedback device resolution"), "lines/rev", 2500, 2500},
+    {"FBD", QT_TRANSLATE_NOOP("SettingFacts", "Position feedback device"), "", 1, 1},
+    {"FB2D", QT_TRANSLATE_NOOP("SettingFacts", "Velocity feedback device"), "", 0, 0},
+    {"TBW", QT_TRANSLATE_NOOP("SettingFacts", "Torque bandwidth"), "", 6, 6},
+    {"KVP", QT_TRANSLATE_NOOP("SettingFacts", "Velocity P gain"), "", 360, 90},
+    {"KVI", QT_TRANSLATE_NOOP("SettingFacts", "Velocity I gain"), "", 360, 90},
+    {"KPP", QT_TRANSLATE_NOOP("SettingFacts", "Position P gain"), "", 120, 120},
+    {"VFF", QT_TRANSLATE_NOOP("SettingFacts", "Velocity feed-forward gain"), "", 0, 0},
+    {"AFF", QT_TRANSLATE_NOOP("SettingFacts", "Acceleration feed-forward gain"), "", 0, 0},
+    {"PFF", QT_TRANSLATE_NOOP("SettingFacts", "Position feed-forward gain"), "%", 100, 100},
+    {"CM", QT_TRANSLATE_NOOP("SettingFacts", "Control mode"), "", 0, 0},
+    {"MT", QT_TRANSLATE_NOOP("SettingFacts", "Motor type"), "", 3, 3},
+    {"AD", QT_TRANSLATE_NOOP("SettingFacts", "Active damping gain"), "", 0, 0},
+    {"FLAGS", QT_TRANSLATE_NOOP("SettingFacts", "Switches of enabling, direction and feedback"), "bits", 1, 1},
+    {"MMC", QT_TRANSLATE_NOOP("SettingFacts", "Peak current"), "A", 32, 8},
+    {"MCC", QT_TRANSLATE_NOOP("SettingFacts", "Continuous current"), "A", 13, 3.25},
+    {"FOC", QT_TRANSLATE_NOOP("SettingFacts", "Over current fault threshold"), "A", 48, 12},
+    {"FOV", QT_TRANSLATE_NOOP("SettingFacts", "Over voltage fault threshold"), "V", 58, 400},
+    {"FUV", QT_TRANSLATE_NOOP("SettingFacts", "Under voltage fault threshold"), "V", 36, 200},
+    {"FPT", QT_TRANSLATE_NOOP("SettingFacts", "Position tracking error threshold"), "counts", 2000, 2000},
+    {"FVT", QT_TRANSLATE_NOOP("SettingFacts", "Velocity tracking error threshold"), "cnt/cycle", 120, 120},
+    {"FEV", QT_TRANSLATE_NOOP("SettingFacts", "Over speed fault threshold"), "cnt/cycle", 240, 240},
+    {"FMO", QT_TRANSLATE_NOOP("SettingFacts", "Motion fault threshold"), "counts", 0, 0},
+    {"LSF", QT_TRANSLATE_NOOP("SettingFacts", "Limit switch function"), "", 0, 0},
+    {"AXS", QT_TRANSLATE_NOOP("SettingFacts", "Axis scale"), "", 1, 1},
+    {"AXT", QT_TRANSLATE_NOOP("SettingFacts", "Axis type & units"), "", 3, 3},
+    {"FFT", QT_TRANSLATE_NOOP("SettingFacts", "Tracking fault delay"), "s", 0, 0},
+    {"CRI", QT_TRANSLATE_NOOP("SettingFacts", "Setpoint input"), "", 0, 0},
+    {"DIV", QT_TRANSLATE_NOOP("SettingFacts", "Setpoint divider"), "", 200, 200},
+    {"MUL", QT_TRANSLATE_NOOP("SettingFacts", "Setpoint multiplier"), "", 200, 200},
+    {"CAL", QT_TRANSLATE_NOOP("SettingFacts", "Acceleration limit"), "cnt/cycle²/DIV", 320, 320},
+    {"CSD", QT_TRANSLATE_NOOP("SettingFacts", "Stop deceleration limit"), "cnt/cycle²/DIV", 0, 0},
+    {"CVL", QT_TRANSLATE_NOOP("SettingFacts", "Velocity limit"), "cnt/cycle/DIV", 40000, 40000},
+    {"CRV", QT_TRANSLATE_NOOP("SettingFacts", "Recovery velocity limit"), "cnt/cycle/DIV", 8000, 8000},
+    {"MR", QT_TRANSLATE_NOOP("SettingFacts", "Motor resistance"), "Ω", 0.15, 2.4},
+    {"ML", QT_TRANSLATE_NOOP("SettingFacts", "Motor inductance"), "mH", 0.5, 8},
+    {"MTC", QT_TRANSLATE_NOOP("SettingFacts", "Thermal time constant"), "s", 600, 600},
+    {"MPC", QT_TRANSLATE_NOOP("SettingFacts", "Pole count"), "poles", 8, 8},
+    {"MMS", QT_TRANSLATE_NOOP("SettingFacts", "Maximum speed"), "rpm", 3000, 3000},
+    {"CAO", QT_TRANSLATE_NOOP("SettingFacts", "Setpoint offset nulling"), "%", 0, 0},
+    {"HOMING", QT_TRANSLATE_NOOP("SettingFacts", "Homing method"), "bits", 0, 0},
+    {"HMV", QT_TRANSLATE_NOOP("SettingFacts", "Homing velocity"), "cnt/cycle/DIV", 2000, 2000},
+    {"HMA", QT_TRANSLATE_NOOP("SettingFacts", "Homing acceleration"), "cnt/cycle²/DIV", 80, 80},
+    {"HMH", QT_TRANSLATE_NOOP("SettingFacts", "Homing hard stop threshold"), "counts", 1000, 1000},
+    {"HMT", QT_TRANSLATE_NOOP("SettingFacts", "Homing current limit"), "A", 6.5, 1.625},
+    {"HHL", QT_TRANSLATE_NOOP("SettingFacts", "Soft high limit"), "setpoint units", 0, 0},
+    {"HLL", QT_TRANSLATE_NOOP("SettingFacts", "Soft low limit"), "setpoint units", 0, 0},
+    {"HMF", QT_TRANSLATE_NOOP("SettingFacts", "Homing offset move"), "setpoint units", 0, 0},
+    {"overrideAddr1", QT_TRANSLATE_NOOP("SettingFacts", "Override 1, register"), "", 0, 0},
+    {"overrideAddr2", QT_TRANSLATE_NOOP("SettingFacts", "Override 2, register"), "", 0, 0},
+    {"overrideAddr3", QT_TRANSLATE_NOOP("SettingFacts", "Override 3, register"), "", 0, 0},
+    {"overrideVal1", QT_TRANSLATE_NOOP("SettingFacts", "Override 1, value"), "raw", 0, 0},
+    {"overrideVal2", QT_TRANSLATE_NOOP("SettingFacts", "Override 2, value"), "raw", 0, 0},
+    {"overrideVal3", QT_TRANSLATE_NOOP("SettingFacts", "Override 3, value"), "raw", 0, 0},
+    {"BED", QT_TRANSLATE_NOOP("SettingFacts", "Brake engage delay"), "s", 0, 0},
+    {"BER", QT_TRANSLATE_NOOP("SettingFacts", "Brake release delay"), "s", 0, 0},
+    {"BDD", QT_TRANSLATE_NOOP("SettingFacts", "Brake deceleration delay"), "ms", 0, 0},
+};
+// clang-format on
+
+} // namespace
+
+std::optional<SettingFacts> settingFacts(const QString &name, bool isTorva)
+{
+    const auto row = std::find_if(std::begin(rows), std::end(rows),
+                                  [&name](const Row &each) { return name == QLatin1String(each.name); });
+    if (row == std::end(rows))
+        return std::nullopt;
+    return SettingFacts{QCoreApplication::translate("SettingFacts", row->caption), QString::fromUtf8(row->unit),
+                        isTorva ? row->torvaStandard : row->standard};
+}

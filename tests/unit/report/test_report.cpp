@@ -1,0 +1,167 @@
+// The report's page, its checksum, and what it says of the settings.
+#include "report.h"
+
+#include "catalogue.h"
+#include "chart.h"
+#include "checksum.h"
+#include "devicemodel.h"
+#include "settingfacts.h"
+#include "virtualdrive.h"
+
+#include "printqt.h"
+
+#include <QElapsedTimer>
+
+#include <cmath>
+#include <gmock/gmock.h>
+
+using testing::HasSubstr;
+using testing::Not;
+
+namespace {
+
+constexpr int ketaType = 11000;
+
+Parameters standardSettings(bool isTorva)
+{
+    Parameters list = driveParameterCatalogue();
+    for (int i = 0; i < list.getParamCount(); ++i) {
+        SingleParam setting = list.getParam(i);
+        if (const auto facts = settingFacts(setting.name, isTorva))
+            setting.value = facts->standard;
+        list.replaceParam(setting, i);
+    }
+    return list;
+}
+
+Report report()
+{
+    Report report;
+    report.drive.model = "Keta";
+    report.drive.type = ketaType;
+    report.drive.serial = 17;
+    report.settings = standardSettings(false);
+    report.program = "1.9.0";
+    report.time = QDateTime(QDate(2026, 11, 21), QTime(12, 0));
+    return report;
+}
+
+/// `rows` samples of a position that goes there within `moving` of them, and of two more channels.
+CaptureRecord record(int rows, int moving)
+{
+    CaptureRecord capture;
+    capture.samplePeriod = 0.001;
+    for (const char *key : {"posmeas", "posreference", "torquemeas"}) {
+        CaptureData channel;
+        channel.key = channel.name = key;
+        channel.group = channel.key.left(3);
+        channel.enabled = true;
+        for (int i = 0; i < rows; ++i)
+            channel.samples.append({i * 0.001, -1000.0 * std::min(1.0, double(i) / moving)});
+        capture.channels.append(channel);
+    }
+    return capture;
+}
+
+} // namespace
+
+TEST(SettingFacts, DefaultsAreThoseOfTheVirtualDrives)
+{
+    const Parameters catalogue = driveParameterCatalogue();
+    for (const char *profile : {"keta", "keta-pro", "torva"}) {
+        sim::VirtualDrive drive(*sim::findProfile(profile));
+        for (int i = 0; i < catalogue.getParamCount(); ++i) {
+            const SingleParam setting = catalogue.getParam(i);
+            const auto facts = settingFacts(setting.name, profile == std::string("torva"));
+            EXPECT_EQ(facts.has_value(), !setting.readonly) << setting.name.toStdString();
+            if (!facts || !setting.supportedInDevice(QString(profile).replace('-', ' ')))
+                continue;
+            EXPECT_EQ(setting.convertToDeviceScale(facts->standard), drive.read(setting.addr))
+                << profile << " " << setting.name.toStdString();
+            EXPECT_NE(facts->caption, "");
+        }
+    }
+}
+
+TEST(ReportPage, MarksWhatDiffersAndKeepsTextsFromActing)
+{
+    Report some = report();
+    SingleParam gain = some.settings.getParam("KVP");
+    gain.value = 400;
+    some.settings.replaceParam(gain);
+    some.machine = "<script>1</script>";
+    some.notes["KVP"] = "a </td><td class=\"value\">1</td> & \"b\"";
+    some.captures = {{"<img src=x>.html", record(100, 50)}};
+    some.captures[0].record.note = "<b>loud</b>";
+    some.captures[0].record.channels[0].name = "<svg onload=1>";
+    const QByteArray page = reportPage(some);
+    const std::string text = page.toStdString();
+    EXPECT_EQ(page.count("<tr class=\"differs\">"), 1);
+    EXPECT_THAT(text, HasSubstr("<tr class=\"differs\"><th scope=\"row\">KVP</th><td class=\"value\">400</td>"));
+    EXPECT_THAT(text, HasSubstr("&lt;b&gt;loud"));
+    for (const char *never : {"<script", "<img", "<svg onload", "<b>", "href="})
+        EXPECT_THAT(text, Not(HasSubstr(never)));
+    EXPECT_THAT(text, Not(HasSubstr("TRF1"))) << "not on this model";
+    EXPECT_EQ(checkReport(page).problem, "");
+    EXPECT_EQ(checkReport(page).settings, printedSettings(some).size());
+}
+
+TEST(ReportPage, ChecksumIsThatOfTheNumbersThatAreShown)
+{
+    // printf 'KVP=360\nAXS=0.5\n' | sha256sum
+    EXPECT_EQ(settingsChecksum({{"KVP", "360"}, {"AXS", "0.5"}}),
+              "9139526f9612177813a93f5f77af604f23e6fcacb0537331e91e11feef9c745e");
+    const QByteArray page = reportPage(report());
+    EXPECT_EQ(checkReport(page).problem, "");
+    for (const auto &[before, after] : {std::pair("row\">KVP<", "row\">KVI<"), std::pair(">360</td>", ">361</td>")}) {
+        QByteArray changed = page;
+        changed.replace(changed.indexOf(before), qsizetype(strlen(before)), after);
+        EXPECT_THAT(checkReport(changed).problem.toStdString(), HasSubstr("something was changed"));
+    }
+    const QByteArray sum = checkReport(page).checksum.toUtf8();
+    QByteArray two = page;
+    two.replace("</body>", "<code id=\"settings-checksum\">" + sum + "</code></body>");
+    for (const QByteArray &other : {QByteArray(), QByteArray("<html></html>"), two})
+        EXPECT_THAT(checkReport(other).problem.toStdString(), HasSubstr("no commissioning report"));
+}
+
+TEST(ReportPage, SaysWhatACaptureHasOtherThanTheDrive)
+{
+    Report some = report();
+    some.captures = {{"a", record(100, 50)}, {"b", record(100, 50)}};
+    some.captures[1].record.settings = some.settings;
+    some.captures[1].record.drive.serial = 18;
+    SingleParam gain = some.settings.getParam("KPP");
+    gain.value = 77;
+    some.captures[1].record.settings.replaceParam(gain);
+    const std::string text = reportPage(some).toStdString();
+    for (const char *part : {"does not say with which drive and settings", "another drive: serial number 18",
+                             "with other settings: KPP=77."})
+        EXPECT_THAT(text, HasSubstr(part));
+}
+
+TEST(ReportPage, WithEightLargeCapturesStaysSmallAndQuick)
+{
+    Report some = report();
+    for (int i = 0; i < 8; ++i)
+        some.captures.append({QString::number(i), record(20000, 10000)});
+    QElapsedTimer timer;
+    timer.start();
+    const QByteArray page = reportPage(some);
+    EXPECT_LT(timer.elapsed(), 1000);
+    EXPECT_LT(page.size(), 1000000);
+    RecordProperty("milliseconds", int(timer.elapsed()));
+    RecordProperty("bytes", int(page.size()));
+}
+
+TEST(Chart, DrawsEachGroupOnceAndKeepsPeaksOfThinnedTraces)
+{
+    CaptureRecord capture = record(10000, 5000);
+    capture.channels[2].samples[7777].second = 9000.0; // one sample, highest of its chart
+    const QString svg = captureChart(capture);
+    EXPECT_EQ(svg.count("<rect"), 2);
+    EXPECT_EQ(svg.count("<polyline"), 3);
+    EXPECT_LT(svg.size(), 60000);
+    EXPECT_TRUE(svg.contains(",170.0 ")) << "the upper edge of the second chart";
+    EXPECT_EQ(captureChart(CaptureRecord()), "");
+}
