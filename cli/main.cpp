@@ -21,8 +21,8 @@ void complain(const QStringList &messages)
 Outcome runCommand(const CommandLine &line, Interruption &interruption)
 {
     const Command &command = *findCommand(line.command);
-    if (command.run == nullptr)
-        return command.runWithoutDrive(line);
+    if (!command.needsDrive(line))
+        return command.runOffline(line);
     DriveClient client(line.port, line.pauseScale);
     interruption.callWhenAsked([&client] { client.interrupt(); });
     Outcome outcome = command.run(client, line);

@@ -3,18 +3,17 @@
 
 #include "capturefiles.h"
 #include "captureorder.h"
+#include "capturerecord.h"
 #include "commandline.h"
 #include "driveclient.h"
 #include "drivewords.h"
+#include "recorder.h"
 
 #include <QCoreApplication>
-
-#include <cmath>
 
 namespace {
 
 constexpr int readyLimitMs = 30000; // after enabling: the way to the setpoint, and homing where it is asked for
-constexpr int downloadLimitMs = 60000;
 constexpr double defaultExtraSeconds = 10.0; // for the trigger to come
 
 QString tr(const char *text)
@@ -54,14 +53,6 @@ bool canExcite(const DriveClient &client, const CaptureOrder &order, QStringList
     return false;
 }
 
-void arm(DriveClient &client, const CaptureOrder &order, double rate)
-{
-    client.received().plot.reset();
-    client.received().captureState = CaptureState::Idle;
-    client.session().setupCapture(rate, order.trigger, order.channels);
-    client.session().command(Connection::TaskInitScope);
-}
-
 /// Behind the arming in the session's queue, so that nothing moves where arming failed.
 void step(DriveClient &client, const CaptureOrder &order)
 {
@@ -70,32 +61,21 @@ void step(DriveClient &client, const CaptureOrder &order)
                                                  : Connection::TaskSetAbsoluteSetpoint);
 }
 
-bool waitForRecorder(DriveClient &client, double seconds, QStringList &messages)
+CaptureMotion motionOf(const DriveClient &client, const CaptureOrder &order)
 {
-    const auto isFull = [&client] {
-        return client.received().captureState == CaptureState::Downloading || client.received().plot;
-    };
-    const auto done = [&client, &isFull] { return client.isLost() || isFull(); };
-    if (client.waitFor(tr("Scope waiting"), done, int(std::ceil(seconds * 1000.0))) && !client.isLost())
-        return true;
-    if (client.isUp() && !client.wasInterrupted())
-        messages.append(
-            tr("The recorder was not triggered and filled within %1 s. Nothing was captured.").arg(seconds));
-    return false;
-}
-
-std::optional<QList<CaptureData>> download(DriveClient &client)
-{
-    const auto done = [&client] {
-        return client.isLost() || client.received().plot || client.received().captureState == CaptureState::Idle;
-    };
-    client.waitFor(tr("Downloading"), done, downloadLimitMs);
-    return client.wasInterrupted() ? std::nullopt : client.received().plot;
+    using Kind = CaptureMotion::Kind;
+    if (order.stimulus)
+        return {Kind::SquareWave, double(order.stimulus->target1), double(order.stimulus->target2),
+                order.stimulus->delay1, order.stimulus->delay2};
+    if (!order.step)
+        return {};
+    const double from = client.drive().setpoint;
+    return {Kind::Step, from, order.isIncremental ? from + *order.step : *order.step, 0.0, 0.0};
 }
 
 /// Arms, excites, waits and downloads. Whatever was set going is stopped when this returns.
-std::optional<QList<CaptureData>> record(DriveClient &client, const CaptureOrder &order, double rate,
-                                         QStringList &messages)
+std::optional<CaptureRecord> record(DriveClient &client, const CaptureOrder &order, const QString &note,
+                                    QStringList &messages)
 {
     std::optional<DisableAtEnd> disableAtEnd;
     if (order.enables) {
@@ -107,7 +87,9 @@ std::optional<QList<CaptureData>> record(DriveClient &client, const CaptureOrder
     }
     if (!canExcite(client, order, messages))
         return std::nullopt;
-    arm(client, order, rate);
+    const double base = client.session().maxScopeSampleRate();
+    const CaptureRequest request{order.rate.value_or(base), order.trigger, motionOf(client, order), note};
+    armRecorder(client, request.rate, request.trigger, order.channels);
     if (order.step)
         step(client, order);
     std::optional<QList<CaptureData>> channels;
@@ -115,14 +97,16 @@ std::optional<QList<CaptureData>> record(DriveClient &client, const CaptureOrder
         std::optional<RunningStimulus> stimulus;
         if (order.stimulus)
             stimulus.emplace(client, *order.stimulus);
-        const double seconds =
-            order.timeOut.value_or(recordingTime(order, client.session().maxScopeSampleRate()) + defaultExtraSeconds);
-        if (waitForRecorder(client, seconds, messages))
-            channels = download(client);
+        const double seconds = order.timeOut.value_or(recordingTime(order, base) + defaultExtraSeconds);
+        if (waitForRecorder(client, tr("Scope waiting"), seconds, messages))
+            channels = downloadRecorder(client);
     }
+    std::optional<CaptureRecord> capture;
+    if (channels)
+        capture = captureRecord(client.session(), client.address(), request, *channels);
     if (disableAtEnd && !disableAtEnd->now())
         messages.append(tr("The drive is not known to be disabled."));
-    return channels;
+    return capture;
 }
 
 // --- The command --------------------------------------------------------------------------------------------------
@@ -131,7 +115,7 @@ Outcome capture(DriveClient &client, const CommandLine &line)
 {
     QString problem;
     const CaptureOrder order = captureOrder(line, problem);
-    CaptureFiles files(line.value("csv"), line.value("html"));
+    CaptureFiles files(line.value("csv"), order.columns, line.value("html"));
     problem = files.open();
     if (!problem.isEmpty())
         return failed({problem});
@@ -139,27 +123,17 @@ Outcome capture(DriveClient &client, const CommandLine &line)
     const bool acts = order.excites() || order.enables;
     if (!connectToMove(client, line, acts ? Use::Act : Use::Look, messages))
         return failed(messages);
-    const double base = client.session().maxScopeSampleRate();
-    problem = rateProblem(order, base);
+    problem = rateProblem(order, client.session().maxScopeSampleRate());
     if (!problem.isEmpty())
         return failed({problem});
-
-    Capture capture;
-    capture.model = Connection::deviceModelName(client.deviceType(), true);
-    capture.rate = effectiveRate(order, base);
-    if (files.hasPage()) {
-        const auto list = client.read();
-        if (!list)
-            return failed({tr("The drive's settings could not be read.")});
-        capture.settings = *list;
-    }
-    const auto channels = record(client, order, order.rate.value_or(base), messages);
-    if (!channels)
+    if ((files.hasPage() || line.json) && !client.read())
+        return failed({tr("The drive's settings could not be read.")});
+    const auto capture = record(client, order, line.value("note"), messages);
+    if (!capture)
         return failed(messages);
-    capture.channels = *channels;
     client.close(); // a pipe may be read slowly, or not at all
-    const QStringList problems = messages + files.save(capture);
-    return {problems.isEmpty() ? ExitDone : ExitFailed, summary(capture), problems};
+    const QStringList problems = messages + files.save(*capture);
+    return {problems.isEmpty() ? ExitDone : ExitFailed, summary(*capture), problems};
 }
 
 QString checkCapture(const CommandLine &line)
@@ -173,53 +147,49 @@ QString checkCapture(const CommandLine &line)
 
 QList<Command> captureCommands()
 {
-#define TEXT(text) QT_TRANSLATE_NOOP("CommandHelp", text)
     return {
-        {"capture",
-         "--channels KEY,... [OPTION...] (--csv FILE | --html FILE)...",
-         TEXT("record the drive's signals, with or without a motion, to CSV and plot page"),
-         TEXT(
-             "Arms the drive's recorder, moves the axis if --step or --stimulus say so, waits until the recorder has\n"
-             "2000 words, which the channels share, and saves them. Time in the files begins at the first sample.\n"
-             "\n"
-             "THE AXIS MOVES with --step, --stimulus and --enable, and not otherwise; the first two need a drive that\n"
-             "is enabled. The drive stays where --step has sent it. A stimulus is stopped at the end and on every\n"
-             "failure; Ctrl+C stops it, too, and disables a drive that --enable has enabled.\n"
-             "\n"
-             "Channels: torqueref, torquemeas, fluxcurrent (A); velreference, velmeas (counts a control cycle of 0.4 "
-             "ms);\n"
-             "posreference, posmeas, posferror (counts); outputvolt, fluxvoltage (%); hvbusvolt (V); pwm1, pwm2, "
-             "pwm3,\n"
-             "debug, debug2 (no unit).\n"
-             "\n"
-             "Prints one line a channel, tab separated: key, unit, number of samples, first, lowest, highest and last\n"
-             "value."),
-         0,
-         0,
-         capture,
-         {{"channels", "KEY,...", TEXT("What to record, one to sixteen of the channels above.")},
-          {"rate", "HZ",
-           TEXT("Samples a second of each channel; the drive takes the nearest that it has. Its highest if not given: "
-                "20000 (Keta), 17500 (Torva).")},
-          {"trigger", "WHEN",
-           TEXT("What starts the recording: rise (the setpoint rises), change (it changes), fault (a fault comes up), "
-                "now. If not given: change with --step or --stimulus, otherwise now.")},
-          {"step", "SETPOINT", TEXT("When armed, give the drive this setpoint, in setpoint units.")},
-          {"incremental", nullptr, TEXT("--step is added to the setpoint in use.")},
-          {"stimulus", "T1,D1,T2,D2",
-           TEXT("When armed, switch between two setpoints, each held for its time in s, 0.02 to 100.")},
-          {"enable", nullptr, TEXT("Enable the drive before, and disable it at the end, whatever happens in between.")},
-          {"time-out", "S",
-           TEXT("Longest time in seconds from arming until the recorder is full; if not given, 10 s more than the "
-                "recording takes.")},
-          {"csv", "FILE",
-           TEXT("Save the samples, semicolon separated: a line of names, then time in s and a value a channel."), true},
-          {"html", "FILE",
-           TEXT("Save the plot page. Scripts and style are put into the file, which can so be opened in any browser, "
-                "moved and sent; drag in a chart to zoom."),
-           true}},
-         false,
-         checkCapture},
+        Command("capture", capture)
+            .takes("--channels KEY,... [OPTION...] (--csv FILE | --html FILE | --json)...")
+            .says(TEXT("record the drive's signals, with or without a motion, to CSV and plot page"), TEXT(R"(
+Arms the drive's recorder, moves the axis if --step or --stimulus say so, waits until the recorder has 2000 words, which
+the channels share, and saves them. Time in the files begins at the first sample.
+
+THE AXIS MOVES with --step, --stimulus and --enable, and not otherwise; the first two need a drive that is enabled. The
+drive stays where --step has sent it. A stimulus is stopped at the end and on every failure; Ctrl+C stops it, too, and
+disables a drive that --enable has enabled. Exit status 1 when the drive has not confirmed that it is disabled.
+
+Channels: torqueref, torquemeas, fluxcurrent (A); velreference, velmeas (counts a control cycle of 0.4 ms);
+posreference, posmeas, posferror (counts); outputvolt, fluxvoltage (%); hvbusvolt (V); pwm1, pwm2, pwm3, debug, debug2
+(no unit).
+
+Prints one line a channel, tab separated: key, unit, number of samples, first, lowest, highest and last value. With
+--json the whole capture, with settings, drive, motion and time, and its figures (see "figures").)"))
+            .value("channels", "KEY,...", TEXT("What to record, one to sixteen of the channels above."))
+            .value("rate", "HZ",
+                   TEXT("Samples a second of each channel; the drive takes the nearest that it has. Its highest if not "
+                        "given: 20000 (Keta), 17500 (Torva)."))
+            .value("trigger", "WHEN",
+                   TEXT("What starts the recording: rise (the setpoint rises), change (it changes), fault (a fault "
+                        "comes up), now. If not given: change with --step or --stimulus, otherwise now."))
+            .value("step", "SETPOINT", TEXT("When armed, give the drive this setpoint, in setpoint units."))
+            .flag("incremental", TEXT("--step is added to the setpoint in use."))
+            .value("stimulus", "T1,D1,T2,D2",
+                   TEXT("When armed, switch between two setpoints, each held for its time in s, 0.02 to 100."))
+            .flag("enable", TEXT("Enable the drive before, and disable it at the end, whatever happens in between."))
+            .value("time-out", "S",
+                   TEXT("Longest time in seconds from arming until the recorder is full; if not given, 10 s more than "
+                        "the recording takes."))
+            .value("csv", "FILE",
+                   TEXT("Save the samples as columns: a line of names, then time in s and a value a channel."),
+                   Option::Kind::File)
+            .value("format", "KIND",
+                   TEXT("How --csv writes them: semicolon (if not given), or comma, with a line of units below the "
+                        "names and fixed decimals, for spreadsheets and plotters in any language."))
+            .value("html", "FILE",
+                   TEXT("Save the plot page. Scripts, style, settings and figures are put into the file, which can so "
+                        "be opened in any browser and by Velbrin, moved and sent; drag in a chart to zoom."),
+                   Option::Kind::File)
+            .value("note", "TEXT", TEXT("Your own words, kept with the capture."))
+            .checks(checkCapture),
     };
-#undef TEXT
 }

@@ -1,10 +1,15 @@
 #include "capturefiles.h"
 
+#include "capturefigures.h"
+#include "capturefile.h"
+#include "capturejson.h"
 #include "captureplotter.h"
+#include "capturetext.h"
 #include "datafolder.h"
 #include "plotpage.h"
 
 #include <QCoreApplication>
+#include <QJsonArray>
 #include <QJsonObject>
 
 #include <algorithm>
@@ -17,11 +22,25 @@ QString tr(const char *text)
     return QCoreApplication::translate("CaptureFiles", text);
 }
 
-QByteArray pageOf(const Capture &capture, const QString &flotFolder, QString &problem)
+QByteArray pageOf(const CaptureRecord &capture, const QString &flotFolder, QString &problem)
 {
-    const QString page =
-        CapturePlotter().generatePlotPage(capture.channels, capture.settings.getParamsHTMLList(), capture.model);
-    return standalonePage(page, flotFolder, problem).toUtf8();
+    return standalonePage(capturePage(capture, toJson(captureFigures(capture))), flotFolder, problem).toUtf8();
+}
+
+Table channelTable(const CaptureRecord &capture)
+{
+    const auto isLess = [](const QPair<double, double> &a, const QPair<double, double> &b) {
+        return a.second < b.second;
+    };
+    Table table{{"key", "unit", "samples", "first", "minimum", "maximum", "last"}, {}};
+    for (const CaptureData &channel : capture.channels) {
+        if (channel.samples.isEmpty())
+            continue;
+        const auto range = std::minmax_element(channel.samples.cbegin(), channel.samples.cend(), isLess);
+        table.rows.append({channel.key, channel.unit, channel.samples.size(), channel.samples.first().second,
+                           range.first->second, range.second->second, channel.samples.last().second});
+    }
+    return table;
 }
 
 } // namespace
@@ -38,7 +57,7 @@ QString CaptureFiles::open()
     return problem.isEmpty() ? m_page.open() : problem;
 }
 
-QStringList CaptureFiles::save(const Capture &capture)
+QStringList CaptureFiles::save(const CaptureRecord &capture)
 {
     QStringList problems;
     const auto write = [&problems](OutputFile &file, const std::function<QByteArray(QString &)> &contents) {
@@ -50,23 +69,29 @@ QStringList CaptureFiles::save(const Capture &capture)
         if (!problem.isEmpty())
             problems.append(problem);
     };
-    write(m_csv, [&](QString &) { return CapturePlotter().captureDataCSV(capture.channels); });
+    write(m_csv, [&](QString &) {
+        return m_columns == Columns::Commas ? captureToText(capture.channels)
+                                            : CapturePlotter().captureDataCSV(capture.channels);
+    });
     write(m_page, [&](QString &problem) { return pageOf(capture, m_flotFolder, problem); });
     return problems;
 }
 
-Results summary(const Capture &capture)
+Results summary(const CaptureRecord &capture)
 {
-    const auto isLess = [](const QPair<double, double> &a, const QPair<double, double> &b) {
-        return a.second < b.second;
-    };
-    Table table{{"key", "unit", "samples", "first", "minimum", "maximum", "last"}, {}};
-    for (const CaptureData &channel : capture.channels) {
-        if (channel.samples.isEmpty())
-            continue;
-        const auto range = std::minmax_element(channel.samples.cbegin(), channel.samples.cend(), isLess);
-        table.rows.append({channel.key, channel.unit, channel.samples.size(), channel.samples.first().second,
-                           range.first->second, range.second->second, channel.samples.last().second});
+    const Table table = channelTable(capture);
+    QJsonObject extra = toJson(captureFigures(capture));
+    extra.insert(QStringLiteral("sampleRate"), capture.samplePeriod > 0.0 ? 1.0 / capture.samplePeriod : 0.0);
+    QJsonObject json = captureToJson(capture, extra);
+    const QJsonArray numbers = toJson(table).toArray();
+    QJsonArray channels = json["channels"].toArray();
+    for (qsizetype i = 0; i < channels.size() && i < numbers.size(); ++i) {
+        QJsonObject channel = channels[i].toObject();
+        const QJsonObject more = numbers[i].toObject();
+        for (auto each = more.begin(); each != more.end(); ++each)
+            channel.insert(each.key(), each.value());
+        channels[i] = channel;
     }
-    return {tabSeparated(table), QJsonObject{{"sampleRate", capture.rate}, {"channels", toJson(table)}}};
+    json["channels"] = channels;
+    return {tabSeparated(table), json};
 }

@@ -87,6 +87,13 @@ QString takeTimeOut(const QString &text, CaptureOrder &order)
     return order.timeOut ? QString() : tr("--time-out takes seconds, 0.01 to 86400.");
 }
 
+QString takeFormat(const QString &text, CaptureOrder &order)
+{
+    const bool isComma = text == QLatin1String("comma");
+    order.columns = isComma ? CaptureFiles::Columns::Commas : CaptureFiles::Columns::Semicolons;
+    return isComma || text == QLatin1String("semicolon") ? QString() : tr("--format takes semicolon or comma.");
+}
+
 struct OptionRow
 {
     const char *name;
@@ -94,8 +101,8 @@ struct OptionRow
 };
 
 constexpr OptionRow optionRows[] = {
-    {"channels", takeChannels}, {"rate", takeRate},         {"trigger", takeTrigger},
-    {"step", takeStep},         {"stimulus", takeStimulus}, {"time-out", takeTimeOut},
+    {"channels", takeChannels}, {"rate", takeRate},        {"trigger", takeTrigger}, {"step", takeStep},
+    {"stimulus", takeStimulus}, {"time-out", takeTimeOut}, {"format", takeFormat},
 };
 
 /// What is wrong with options that are right one by one.
@@ -103,8 +110,10 @@ QString combinationProblem(const CommandLine &line)
 {
     if (!line.has("channels"))
         return tr("--channels is needed. The channels are: %1.").arg(channelKeys());
-    if (!line.has("csv") && !line.has("html"))
-        return tr("--csv FILE, --html FILE or both are needed.");
+    if (!line.has("csv") && !line.has("html") && !line.json)
+        return tr("--csv FILE, --html FILE or --json is needed.");
+    if (line.has("format") && !line.has("csv"))
+        return tr("--format goes with --csv.");
     if (line.has("step") && line.has("stimulus"))
         return tr("Either --step or --stimulus, not both.");
     if (line.has("incremental") && !line.has("step"))

@@ -3,6 +3,7 @@
 #ifndef CAPTUREORDER_H
 #define CAPTUREORDER_H
 
+#include "capturefiles.h"
 #include "drivemotion.h"
 
 #include <QList>
@@ -23,6 +24,7 @@ struct CaptureOrder
     std::optional<RunningStimulus::Wave> stimulus;
     std::optional<double> timeOut; ///< s, from arming until the recorder is full
     bool enables = false;
+    CaptureFiles::Columns columns = CaptureFiles::Columns::Semicolons;
 
     bool excites() const { return step.has_value() || stimulus.has_value(); }
 };

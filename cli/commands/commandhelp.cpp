@@ -11,26 +11,41 @@ QString tr(const char *text)
     return QCoreApplication::translate("CommandHelp", text);
 }
 
-/// `text` in lines that begin at `column`, the first of them behind `head`.
-QString besideHead(const QString &head, const QString &text, int column)
+/// `text` in lines that begin at `column`; the first of them begins with `line`, which is filled up to there.
+QString wrapped(QString line, const QString &text, int column)
 {
-    QString line = (QLatin1String("  ") + head).leftJustified(column - 1) + QLatin1Char(' ');
     QString result;
-    if (line.size() > column) {
-        result = line.trimmed().prepend(QLatin1String("  ")) + QLatin1Char('\n');
-        line = QString(column, QLatin1Char(' '));
+    const QString indent(column, QLatin1Char(' '));
+    if (column > 0 && line.size() + 2 > column) {
+        result = line + QLatin1Char('\n');
+        line.clear();
     }
+    line = line.leftJustified(column);
     bool isEmpty = true;
-    for (const QString &word : text.split(QLatin1Char(' '))) {
+    for (const QString &word : text.simplified().split(QLatin1Char(' '))) {
         if (!isEmpty && line.size() + 1 + word.size() > lineWidth) {
             result += line + QLatin1Char('\n');
-            line = QString(column, QLatin1Char(' '));
+            line = indent;
             isEmpty = true;
         }
         line += (isEmpty ? QString() : QStringLiteral(" ")) + word;
         isEmpty = false;
     }
     return result + line + QLatin1Char('\n');
+}
+
+/// Paragraphs, which an empty line separates.
+QString paragraphs(const QString &text)
+{
+    QStringList wrappedOnes;
+    for (const QString &paragraph : text.split(QLatin1String("\n\n")))
+        wrappedOnes.append(wrapped(QString(), paragraph, 0));
+    return wrappedOnes.join(QLatin1Char('\n'));
+}
+
+QString entry(const QString &head, const QString &text, int column)
+{
+    return wrapped(QLatin1String("  ") + head, text, column);
 }
 
 QString optionsHelp(const QList<Option> &options)
@@ -41,7 +56,7 @@ QString optionsHelp(const QList<Option> &options)
             continue;
         const QString value = QLatin1String(option.value);
         const QString gap = value.isEmpty() || value.startsWith(QLatin1Char('[')) ? QString() : QStringLiteral(" ");
-        text += besideHead(QLatin1String("--") + QLatin1String(option.name) + gap + value, tr(option.help), 28);
+        text += entry(QLatin1String("--") + QLatin1String(option.name) + gap + value, tr(option.help), 28);
     }
     return text;
 }
@@ -50,7 +65,7 @@ QString optionsHelp(const QList<Option> &options)
 
 QString commandUsage(const Command &command)
 {
-    return (QLatin1String(command.name) + QLatin1Char(' ') + QLatin1String(command.arguments)).trimmed();
+    return (QLatin1String(command.name) + QLatin1Char(' ') + QLatin1String(command.usage)).trimmed();
 }
 
 QString programHelp(const QList<Option> &commonOptions)
@@ -68,7 +83,7 @@ QString programHelp(const QList<Option> &commonOptions)
            "\n"
            "Commands:\n");
     for (const Command &command : commandTable())
-        text += besideHead(QLatin1String(command.name), tr(command.summary), 18);
+        text += entry(QLatin1String(command.name), tr(command.summary), 18);
     return text + tr("\nOptions:\n") + optionsHelp(commonOptions) +
            tr("\nExit status: 0 done, 1 refused or failed, 2 wrong usage, 3 \"compare\" found a difference.\n");
 }
@@ -76,7 +91,7 @@ QString programHelp(const QList<Option> &commonOptions)
 QString commandHelp(const Command &command)
 {
     QString text = tr("Usage: velbrin-cli ... %1").arg(commandUsage(command)) + QLatin1String("\n\n") +
-                   tr(command.details) + QLatin1Char('\n');
+                   paragraphs(tr(command.details));
     if (!command.options.isEmpty())
         text += tr("\nOptions:\n") + optionsHelp(command.options);
     return text + tr("\nvelbrin-cli --help has the options that all commands take.\n");

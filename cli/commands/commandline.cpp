@@ -5,11 +5,10 @@
 #include "version.h"
 #include "virtualport.h"
 
+#include <CLI/CLI.hpp>
+
 #include <QCoreApplication>
 #include <QFileInfo>
-#include <QRegularExpression>
-
-#include <algorithm>
 
 namespace {
 
@@ -18,14 +17,12 @@ QString tr(const char *text)
     return QCoreApplication::translate("CommandLine", text);
 }
 
-#define TEXT(text) QT_TRANSLATE_NOOP("CommandHelp", text)
 const QList<Option> commonOptions = {
     {"port", "NAME", TEXT("Serial port of the bus, such as /dev/ttyUSB0.")},
     {"virtual-drive", "[=PROFILES]",
-     TEXT(
-         "Without hardware: virtual drives such as keta,torva; keta alone if none are named; keta:flexible=45+noise on "
-         "an axis that misbehaves (velbrin-sim --help lists how). They live as long as the command; velbrin-sim keeps "
-         "them.")},
+     TEXT("Without hardware: virtual drives such as keta,torva; keta alone if none are named; keta:flexible=45+noise "
+          "on an axis that misbehaves (velbrin-sim --help lists how). They live as long as the command; velbrin-sim "
+          "keeps them.")},
     {"node", "N",
      TEXT("Bus address, 1 to 255. Needed by every command that writes to a drive or moves it; the others find the only "
           "drive by themselves.")},
@@ -35,143 +32,122 @@ const QList<Option> commonOptions = {
     {"help", nullptr, TEXT("This text; behind a command, all about the command. Also -h.")},
     {"version", nullptr, TEXT("The program's version. Also -v.")},
 };
-#undef TEXT
 
-const QString virtualDriveOption = QStringLiteral("virtual-drive");
-const QString defaultProfile = QStringLiteral("keta");
+const char *const operandsName = "operands";
 
-struct GivenOption
+/// An option as the parser takes it. How often it was given is judged behind it, where the text can be ours.
+void addOption(CLI::App &app, const Option &option)
 {
-    QString name;
-    QString value;
-};
+    std::string name = std::string("--") + option.name;
+    if (name == "--help" || name == "--version")
+        name = std::string("-") + option.name[0] + "," + name;
+    if (option.value == nullptr)
+        app.add_flag(name)->take_all();
+    else if (option.value[0] == '[') // a value behind "=" only, the first model without one
+        app.add_flag(name + "{keta}")->take_all();
+    else
+        app.add_option(name)->type_name(option.value)->option_text(option.value)->take_all()->allow_extra_args(false);
+}
 
-/// The words of a command line, sorted.
-struct Words
+/// The parser's grammar, of the same rows as the help.
+void build(CLI::App &app)
 {
-    QList<GivenOption> options;
-    QStringList others; ///< the command and its arguments
-    QString problem;
-
-    bool has(const QString &name) const
-    {
-        return std::any_of(options.cbegin(), options.cend(), [&name](const GivenOption &o) { return o.name == name; });
+    app.set_help_flag();
+    app.allow_extras();
+    app.require_subcommand(0, 1); // a file may be called as a command is
+    for (const Option &option : commonOptions)
+        addOption(app, option);
+    for (const Command &command : commandTable()) {
+        CLI::App *each = app.add_subcommand(command.name);
+        each->fallthrough()->allow_extras();
+        each->add_option(operandsName)->expected(-1)->take_all();
+        for (const Option &option : command.options)
+            addOption(*each, option);
     }
-};
-
-const Option *findCommonOption(const QString &name)
-{
-    const auto found = std::find_if(commonOptions.cbegin(), commonOptions.cend(),
-                                    [&name](const Option &option) { return name == QLatin1String(option.name); });
-    return found == commonOptions.cend() ? nullptr : &*found;
 }
 
-/// The option of this name, whoever takes it: they agree on whether it has a value.
-const Option *findAnyOption(const QString &name)
+/// What was given for an option, an empty word for each time that a switch was; or what is wrong with it.
+QStringList given(const CLI::App &app, const Option &option, QString &problem)
 {
-    const Option *option = findCommonOption(name);
-    for (const Command &command : commandTable())
-        option = option ? option : findOption(command, name);
-    return option;
-}
-
-/// Takes the option at `words[at]` and its value. Returns the number of words that it took.
-int takeOption(const QStringList &words, int at, Words &sorted)
-{
-    const QString word = words.at(at);
-    const QString name = word == QLatin1String("-h")   ? QStringLiteral("help")
-                         : word == QLatin1String("-v") ? QStringLiteral("version")
-                                                       : word.section(QLatin1Char('='), 0, 0).mid(2);
-    const bool hasValue = word.contains(QLatin1Char('='));
-    const bool isLast = at + 1 >= words.size();
-    const Option *option = findAnyOption(name);
-    const auto fail = [&sorted](const QString &problem) {
-        sorted.problem = problem;
-        return 1;
-    };
-    if (option == nullptr)
-        return fail(
-            tr("Unknown option '%1'.").arg(word.section(QLatin1Char('='), 0, 0).remove(QRegularExpression("^-+"))));
-    if (sorted.has(name))
-        return fail(tr("--%1 is given twice.").arg(name));
-    if (option->value == nullptr && hasValue)
-        return fail(tr("--%1 takes no value.").arg(name));
-    QString value = word.section(QLatin1Char('='), 1);
-    int taken = 1;
-    if (name == virtualDriveOption && !hasValue) {
-        value = defaultProfile;
-    } else if (option->value != nullptr && !hasValue) {
-        if (isLast || words.at(at + 1).startsWith(QLatin1String("--")))
-            return fail(tr("--%1 needs a value.").arg(name));
-        value = words.at(at + 1);
-        taken = 2;
+    const CLI::Option *found = app.get_option(std::string("--") + option.name);
+    QStringList values;
+    for (const std::string &value : found->results()) {
+        if (option.value == nullptr && value != "true")
+            problem = tr("--%1 takes no value.").arg(QLatin1String(option.name));
+        values.append(option.value ? QString::fromStdString(value) : QString());
     }
-    if (option->value != nullptr && value.isEmpty())
-        return fail(tr("--%1 needs a value.").arg(name));
-    sorted.options.append({name, value});
-    return taken;
-}
-
-Words sortWords(const QStringList &words)
-{
-    static const QRegularExpression negativeNumber(QStringLiteral("^-[0-9.]"));
-    Words sorted;
-    for (int at = 0; at < words.size() && sorted.problem.isEmpty();) {
-        const QString &word = words.at(at);
-        const bool isOption =
-            word.size() > 1 && word.startsWith(QLatin1Char('-')) && !negativeNumber.match(word).hasMatch();
-        if (isOption) {
-            at += takeOption(words, at, sorted);
-        } else {
-            sorted.others.append(word);
-            ++at;
-        }
+    for (const QString &value : values) {
+        // Another option in the place of a value: the value was forgotten.
+        if (option.value != nullptr && (value.isEmpty() || value.startsWith(QLatin1String("--"))))
+            problem = tr("--%1 needs a value.").arg(QLatin1String(option.name));
     }
-    return sorted;
+    if (values.size() > 1 && !option.mayRepeat())
+        problem = tr("--%1 is given twice.").arg(QLatin1String(option.name));
+    return values;
 }
 
-void takeCommonOption(const GivenOption &option, CommandLine &line)
+void takeCommonOption(const QString &name, const QString &value, CommandLine &line)
 {
     bool isNumber = true;
-    if (option.name == QLatin1String("port")) {
-        line.port = option.value;
-    } else if (option.name == virtualDriveOption) {
-        line.virtualDrives = option.value;
-    } else if (option.name == QLatin1String("json")) {
+    if (name == QLatin1String("port")) {
+        line.port = value;
+    } else if (name == QLatin1String("virtual-drive")) {
+        line.virtualDrives = value;
+    } else if (name == QLatin1String("json")) {
         line.json = true;
-    } else if (option.name == QLatin1String("node")) {
-        line.node = option.value.toInt(&isNumber);
+    } else if (name == QLatin1String("node")) {
+        line.node = value.toInt(&isNumber);
         if (!isNumber || line.node < 1 || line.node > 255)
             line.problem = tr("--node takes a bus address from 1 to 255.");
-    } else if (option.name == QLatin1String("pause-scale")) {
-        line.pauseScale = option.value.toDouble(&isNumber);
+    } else if (name == QLatin1String("pause-scale")) {
+        line.pauseScale = value.toDouble(&isNumber);
         if (!isNumber || !(line.pauseScale >= 0.0 && line.pauseScale <= 1.0))
             line.problem = tr("--pause-scale takes a factor from 0 to 1.");
     }
 }
 
-/// The command, its arguments and its options, or what is wrong with them.
-void takeCommand(const Words &words, const Command &command, CommandLine &line)
+void takeCommonOptions(const CLI::App &app, CommandLine &line)
 {
-    line.arguments = words.others.mid(1);
-    const int count = line.arguments.size();
-    if (count < command.minArguments || (command.maxArguments >= 0 && count > command.maxArguments)) {
-        line.problem = tr("Usage: velbrin-cli ... %1").arg(commandUsage(command));
-        return;
+    for (const Option &option : commonOptions) {
+        const QStringList values = given(app, option, line.problem);
+        if (!values.isEmpty() && line.problem.isEmpty())
+            takeCommonOption(QLatin1String(option.name), values.first(), line);
+        if (!line.problem.isEmpty())
+            return;
     }
+}
+
+/// The words that nothing takes.
+QString extrasProblem(const CLI::App &app, const CommandLine &line)
+{
+    for (const std::string &each : app.remaining(true)) {
+        const QString word = QString::fromStdString(each);
+        if (!word.startsWith(QLatin1Char('-')))
+            return tr("There is no command \"%1\".").arg(word);
+        return line.command.isEmpty() ? tr("Unknown option %1.").arg(word)
+                                      : tr("\"%1\" does not take %2.").arg(line.command, word);
+    }
+    return QString();
+}
+
+/// The command's arguments and options, or what is wrong with them.
+void takeCommand(const CLI::App &app, const Command &command, CommandLine &line)
+{
     // A virtual drive has a working directory of its own.
     const auto absolute = [](const QString &name) { return QFileInfo(name).absoluteFilePath(); };
-    if (command.takesFile)
-        line.arguments.first() = absolute(line.arguments.first());
-    for (const GivenOption &given : words.options) {
-        const Option *option = findOption(command, given.name);
-        if (option != nullptr)
-            line.options.insert(given.name, option->isFile ? absolute(given.value) : given.value);
-        else if (findCommonOption(given.name) == nullptr)
-            line.problem = tr("\"%1\" does not take --%2.").arg(line.command, given.name);
+    for (const std::string &word : app.get_option(operandsName)->results())
+        line.arguments.append(QString::fromStdString(word));
+    for (const Option &option : command.options) {
+        QStringList values = given(app, option, line.problem);
+        if (option.isFile())
+            std::transform(values.begin(), values.end(), values.begin(), absolute);
+        if (!values.isEmpty())
+            line.options.insert(QLatin1String(option.name), values);
     }
-    if (line.problem.isEmpty() && command.check != nullptr)
-        line.problem = command.check(line);
+    if (line.arguments.size() < command.minArguments || line.arguments.size() > command.maxArguments)
+        line.problem = tr("Usage: velbrin-cli ... %1").arg(commandUsage(command));
+    else if (command.argumentIsFile && !line.arguments.isEmpty())
+        line.arguments.first() = absolute(line.arguments.first());
 }
 
 QString portProblem(const CommandLine &line)
@@ -181,38 +157,53 @@ QString portProblem(const CommandLine &line)
     return line.port.isEmpty() ? checkVirtualDrives(line.virtualDrives) : QString();
 }
 
+/// Everything that can be told without a drive.
+void check(const CLI::App &app, const Command *command, CommandLine &line)
+{
+    takeCommonOptions(app, line);
+    if (line.problem.isEmpty())
+        line.problem = extrasProblem(app, line);
+    if (line.problem.isEmpty() && command != nullptr)
+        takeCommand(*app.get_subcommand(command->name), *command, line);
+    if (line.problem.isEmpty() && (command == nullptr || command->needsDrive(line)))
+        line.problem = portProblem(line);
+    if (line.problem.isEmpty() && command == nullptr)
+        line.problem = tr("There is no command.");
+    if (line.problem.isEmpty() && command->check != nullptr)
+        line.problem = command->check(line);
+}
+
 } // namespace
 
 CommandLine parseCommandLine(const QStringList &arguments)
 {
-    const Words words = sortWords(arguments.mid(1));
     CommandLine line;
-    line.problem = words.problem;
-    line.command = words.others.value(0);
-    const Command *command = findCommand(line.command);
-    if (!line.problem.isEmpty())
-        return line;
-    if (words.has(QStringLiteral("help")))
-        line.answer = command ? commandHelp(*command) : programHelp(commonOptions);
-    else if (words.has(QStringLiteral("version")))
-        line.answer = QStringLiteral("velbrin-cli %1\n").arg(QLatin1String(VELBRIN_VERSION));
-    if (!line.answer.isEmpty())
-        return line;
-
-    for (const GivenOption &option : words.options) {
-        if (line.problem.isEmpty())
-            takeCommonOption(option, line);
+    CLI::App app;
+    build(app);
+    std::vector<std::string> words; // last one first, as the parser wants them
+    for (qsizetype i = arguments.size() - 1; i > 0; --i) {
+        const QString &word = arguments.at(i);
+        // The parser would take the next word for the value.
+        if (word.startsWith(QLatin1String("--")) && word.indexOf(QLatin1Char('=')) == word.size() - 1)
+            line.problem = tr("%1 needs a value.").arg(word.chopped(1));
+        words.push_back(word.toStdString());
     }
-    const bool needsDrive = command == nullptr || command->run != nullptr;
-    if (line.problem.isEmpty() && needsDrive)
-        line.problem = portProblem(line);
     if (!line.problem.isEmpty())
         return line;
-    if (line.command.isEmpty())
-        line.problem = tr("There is no command.");
-    else if (command == nullptr)
-        line.problem = tr("There is no command \"%1\".").arg(line.command);
+    try {
+        app.parse(std::move(words));
+    } catch (const CLI::ParseError &error) {
+        line.problem = QString::fromUtf8(error.what());
+        return line;
+    }
+    if (!app.get_subcommands().empty())
+        line.command = QString::fromStdString(app.get_subcommands().front()->get_name());
+    const Command *command = findCommand(line.command);
+    if (app.count("--help") > 0)
+        line.answer = command ? commandHelp(*command) : programHelp(commonOptions);
+    else if (app.count("--version") > 0)
+        line.answer = QStringLiteral("velbrin-cli %1\n").arg(QLatin1String(VELBRIN_VERSION));
     else
-        takeCommand(words, *command, line);
+        check(app, command, line);
     return line;
 }

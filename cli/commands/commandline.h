@@ -15,18 +15,20 @@ struct CommandLine
     bool json = false;
     double pauseScale = 1.0; ///< of the session's pauses, for tests on the virtual drive
     QString command;
-    QStringList arguments;           ///< what follows the command; file names are absolute
-    QHash<QString, QString> options; ///< the command's own, by name without dashes; a switch has an empty value
+    QStringList arguments;               ///< what follows the command; file names are absolute
+    QHash<QString, QStringList> options; ///< the command's own, by name without dashes; a switch has an empty value
 
     bool has(const char *option) const { return options.contains(QLatin1String(option)); }
-    QString value(const char *option) const { return options.value(QLatin1String(option)); }
+    QStringList values(const char *option) const { return options.value(QLatin1String(option)); }
+    QString value(const char *option) const { return values(option).value(0); }
 
     QString problem; ///< why it cannot be carried out; empty when it can
     QString answer;  ///< text of --help or --version: print it and do nothing else
 };
 
-/// `arguments` begins with the program's name, as QCoreApplication::arguments() does. Options may stand before and
-/// after the command, with "=" or a space before their value; a word that begins like a negative number is none.
+/// `arguments` begins with the program's name, as QCoreApplication::arguments() does. The common options may stand
+/// before and after the command, its own behind it, with "=" or a space before their value; a word that begins like a
+/// negative number is no option.
 CommandLine parseCommandLine(const QStringList &arguments);
 
 #endif

@@ -163,52 +163,31 @@ Outcome firmwareInfo(const CommandLine &line)
 
 QList<Command> firmwareCommands()
 {
-#define TEXT(text) QT_TRANSLATE_NOOP("CommandHelp", text)
     return {
-        {"flash",
-         "FILE.tdf [--reset-to-factory]",
-         TEXT("replace the firmware of a drive in firmware-upgrade mode"),
-         TEXT(
-             "The file is checked before anything is erased. ALL SETTINGS ARE LOST: \"save\" them before. Takes the "
-             "time\n"
-             "of the upload and at least 3.5 s, 25 s more on a drive with two processors (Torva).\n"
-             "\n"
-             "Prints what happens, line by line; the reason of a failure goes to standard error. Afterwards the drive\n"
-             "answers at address 16 until it is switched off and on. A failed or interrupted upgrade leaves a drive\n"
-             "without firmware, which the next upgrade repairs: after Ctrl+C it goes on, the second one breaks it "
-             "off.\n"
-             "\n"
-             "Drives in this mode answer at address 255 whatever their own, so have only one of them on the bus."),
-         1,
-         1,
-         flash,
-         {{"reset-to-factory", nullptr, TEXT("Reset the drive's settings with the erase (Keta).")}},
-         true},
-        {"restart",
-         "[--upgrade-mode]",
-         TEXT("restart the drive, and see that it is back"),
-         TEXT(
-             "An enabled drive lets go of its motor. Settings that were not saved to flash are lost, faults cleared.\n"
-             "Waits 3.5 s, then connects again and prints address, model, type id and mode, tab separated. A drive in\n"
-             "firmware-upgrade mode comes back in normal mode if it has a firmware."),
-         0,
-         0,
-         restart,
-         {{"upgrade-mode", nullptr,
-           TEXT("Restart into firmware-upgrade mode, at address 255, for \"flash\" (Keta only).")}}},
-        {"firmware-info",
-         "FILE.tdf",
-         TEXT("what a firmware file holds; needs no drive"),
-         TEXT("Format version, device type and family, sizes of the images, and whether the checksum is right; name "
-              "and\n"
-              "value tab separated. Exit status 1 when no drive would take the file."),
-         1,
-         1,
-         nullptr,
-         {},
-         true,
-         nullptr,
-         firmwareInfo},
+        Command("flash", flash)
+            .takesFile("FILE.tdf [--reset-to-factory]")
+            .says(TEXT("replace the firmware of a drive in firmware-upgrade mode"), TEXT(R"(
+The file is checked before anything is erased. ALL SETTINGS ARE LOST: "save" them before. Takes the time of the upload
+and at least 3.5 s, 25 s more on a drive with two processors (Torva).
+
+Prints what happens, line by line; the reason of a failure goes to standard error. Afterwards the drive answers at
+address 16 until it is switched off and on. A failed or interrupted upgrade leaves a drive without firmware, which the
+next upgrade repairs: after Ctrl+C it goes on, the second one breaks it off.
+
+Drives in this mode answer at address 255 whatever their own, so have only one of them on the bus.)"))
+            .flag("reset-to-factory", TEXT("Reset the drive's settings with the erase (Keta).")),
+        Command("restart", restart)
+            .takes("[--upgrade-mode]")
+            .says(TEXT("restart the drive, and see that it is back"), TEXT(R"(
+An enabled drive lets go of its motor. Settings that were not saved to flash are lost, faults cleared. Waits 3.5 s, then
+connects again and prints address, model, type id and mode, tab separated. A drive in firmware-upgrade mode comes back in
+normal mode if it has a firmware.)"))
+            .flag("upgrade-mode",
+                  TEXT("Restart into firmware-upgrade mode, at address 255, for \"flash\" (Keta only).")),
+        Command("firmware-info", firmwareInfo)
+            .takesFile("FILE.tdf")
+            .says(TEXT("what a firmware file holds; needs no drive"), TEXT(R"(
+Format version, device type and family, sizes of the images, and whether the checksum is right; name and value tab
+separated. Exit status 1 when no drive would take the file.)")),
     };
-#undef TEXT
 }

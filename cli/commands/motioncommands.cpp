@@ -197,63 +197,41 @@ QString checkTimeOut(const CommandLine &line)
 
 QList<Command> motionCommands()
 {
-#define TEXT(text) QT_TRANSLATE_NOOP("CommandHelp", text)
     return {
-        {"enable", "", TEXT("enable the drive, and wait until its motor is powered"),
-         TEXT("THE MOTOR IS POWERED FROM HERE ON, and the axis moves to the setpoint in use if it stands elsewhere. "
-              "The\n"
-              "drive stays enabled when the command has ended: nothing watches it then. \"disable\" ends it.\n"
-              "\n"
-              "Prints state, setpoint in use (setpoint units) and position feedback (counts), tab separated. When the\n"
-              "motor is not powered within 3 s, or the drive does not confirm it, the enable is taken back and the "
-              "reason told.\n"
-              "Ctrl+C disables."),
-         0, 0, enable},
-        {"disable", "", TEXT("disable the drive, and wait until its state shows it"),
-         TEXT("Goes out before anything else is asked. Give --node: the search for drives would take 2.5 s. Exit status "
-              "1 when\n"
-              "the drive has not confirmed that it is disabled; it may then still be running. This is no emergency "
-              "stop.\n"
-              "\n"
-              "Prints state, setpoint in use (setpoint units) and position feedback (counts), tab separated; only the "
-              "state\n"
-              "when the drive could be disabled but not identified."),
-         0, 0, disable},
-        {"clear-faults", "", TEXT("clear the drive's faults"),
-         TEXT(
-             "A drive that is still enabled runs again when its faults are gone; \"disable\" it first if it must not.\n"
-             "Exit status 1 when a fault is still there or comes back at once.\n"
-             "\n"
-             "Prints state, setpoint in use (setpoint units) and position feedback (counts), tab separated."),
-         0, 0, clearFaults},
-        {"home",
-         "[--time-out S]",
-         TEXT("run the homing that the drive's settings describe, and wait for its end"),
-         TEXT("THE AXIS MOVES. The drive must be enabled. Homing is aborted on Ctrl+C and after the time-out.\n"
-              "\n"
-              "Prints state, setpoint in use (setpoint units) and position feedback (counts), tab separated."),
-         0,
-         0,
-         home,
-         {{"time-out", "S", TEXT("Longest time in seconds, 60 if not given.")}},
-         false,
-         checkTimeOut},
-        {"setpoint",
-         "VALUE [--incremental]",
-         TEXT("give the drive a setpoint"),
-         TEXT("THE AXIS MOVES if the drive is enabled, and otherwise when it is enabled next. VALUE is a whole number "
-              "in\n"
-              "setpoint units, -536870912 to 536870911; what it means (position, velocity, torque) is up to the "
-              "control\n"
-              "mode. Waits until the drive shows it as its setpoint in use, not until the axis is there.\n"
-              "\n"
-              "Prints state, setpoint in use (setpoint units) and position feedback (counts), tab separated."),
-         1,
-         1,
-         setpoint,
-         {{"incremental", nullptr, TEXT("VALUE is added to the setpoint in use.")}},
-         false,
-         checkSetpoint},
+        Command("enable", enable).says(TEXT("enable the drive, and wait until its motor is powered"), TEXT(R"(
+THE MOTOR IS POWERED FROM HERE ON, and the axis moves to the setpoint in use if it stands elsewhere. The drive stays
+enabled when the command has ended: nothing watches it then. "disable" ends it.
+
+Prints state, setpoint in use (setpoint units) and position feedback (counts), tab separated. When the motor is not
+powered within 3 s, or the drive does not confirm it, the enable is taken back and the reason told. Ctrl+C disables.)")),
+        Command("disable", disable).says(TEXT("disable the drive, and wait until its state shows it"), TEXT(R"(
+Goes out before anything else is asked. Give --node: the search for drives would take 2.5 s. Exit status 1 when the
+drive has not confirmed that it is disabled; it may then still be running. This is no emergency stop.
+
+Prints state, setpoint in use (setpoint units) and position feedback (counts), tab separated; only the state when the
+drive could be disabled but not identified.)")),
+        Command("clear-faults", clearFaults).says(TEXT("clear the drive's faults"), TEXT(R"(
+A drive that is still enabled runs again when its faults are gone; "disable" it first if it must not. Exit status 1 when
+a fault is still there or comes back at once.
+
+Prints state, setpoint in use (setpoint units) and position feedback (counts), tab separated.)")),
+        Command("home", home)
+            .takes("[--time-out S]")
+            .says(TEXT("run the homing that the drive's settings describe, and wait for its end"), TEXT(R"(
+THE AXIS MOVES. The drive must be enabled. Homing is aborted on Ctrl+C and after the time-out.
+
+Prints state, setpoint in use (setpoint units) and position feedback (counts), tab separated.)"))
+            .value("time-out", "S", TEXT("Longest time in seconds, 60 if not given."))
+            .checks(checkTimeOut),
+        Command("setpoint", setpoint)
+            .takes("VALUE [--incremental]", 1, 1)
+            .says(TEXT("give the drive a setpoint"), TEXT(R"(
+THE AXIS MOVES if the drive is enabled, and otherwise when it is enabled next. VALUE is a whole number in setpoint
+units, -536870912 to 536870911; what it means (position, velocity, torque) is up to the control mode. Waits until the
+drive shows it as its setpoint in use, not until the axis is there.
+
+Prints state, setpoint in use (setpoint units) and position feedback (counts), tab separated.)"))
+            .flag("incremental", TEXT("VALUE is added to the setpoint in use."))
+            .checks(checkSetpoint),
     };
-#undef TEXT
 }

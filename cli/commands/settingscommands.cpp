@@ -158,70 +158,36 @@ QString checkAssignments(const CommandLine &line)
 
 QList<Command> settingsCommands()
 {
-#define TEXT(text) QT_TRANSLATE_NOOP("CommandHelp", text)
-    static const Option toFlash = {"to-flash", nullptr, TEXT("Save to the drive's flash what was applied.")};
+    static const char *const toFlash = TEXT("Save to the drive's flash what was applied.");
     return {
-        {"scan", "", TEXT("the drives: address, model, type id, normal or upgrade"),
-         TEXT("Asks the bus addresses 1 to 20 and 251 to 255, which takes 2.5 s. One line a drive, tab separated: "
-              "address,\n"
-              "model, type id, \"normal\" or \"upgrade\" (in firmware-upgrade mode). An address whose answers cannot be\n"
-              "read (two drives on it, a bad line) has neither model nor type id and is called \"unreadable\"."),
-         0, 0, scan},
-        {"read",
-         "[NAME...]",
-         TEXT("all settings or those named: name, value, minimum, maximum"),
-         TEXT("One line a setting, tab separated: name, value, minimum, maximum; in display units, as in settings "
-              "files."),
-         0,
-         -1,
-         read,
-         {},
-         false,
-         checkNames},
-        {"write",
-         "NAME=VALUE... [--to-flash]",
-         TEXT("check, apply, read again, report what was not taken"),
-         TEXT("Values in display units. Nothing is written when one of them is read-only, not on this model or outside "
-              "the\n"
-              "limits that the drive gave. Prints what the drive holds then, as \"read\" does. Settings that are in "
-              "effect\n"
-              "on an enabled drive change how it moves at once."),
-         1,
-         -1,
-         write,
-         {toFlash},
-         false,
-         checkAssignments},
-        {"save",
-         "FILE.drc",
-         TEXT("read the settings and save them to a file"),
-         TEXT("Reads all settings and saves them to a settings file, which the window opens too."),
-         1,
-         1,
-         save,
-         {},
-         true},
-        {"load",
-         "FILE.drc [--to-flash]",
-         TEXT("apply a file, read again, report what was not taken"),
-         TEXT("Applies a settings file and prints what has changed, as \"read\" does. A setting for which the file has "
-              "no\n"
-              "value keeps the drive's own."),
-         1,
-         1,
-         load,
-         {toFlash},
-         true},
-        {"compare",
-         "FILE.drc",
-         TEXT("what differs between drive and file: name, drive, file"),
-         TEXT("One line a difference, tab separated: name, the drive's value, the file's; exit status 3 when there is "
-              "any."),
-         1,
-         1,
-         compare,
-         {},
-         true},
+        Command("scan", scan).says(TEXT("the drives: address, model, type id, normal or upgrade"), TEXT(R"(
+Asks the bus addresses 1 to 20 and 251 to 255, which takes 2.5 s. One line a drive, tab separated: address, model, type
+id, "normal" or "upgrade" (in firmware-upgrade mode). An address whose answers cannot be read (two drives on it, a bad
+line) has neither model nor type id and is called "unreadable".)")),
+        Command("read", read)
+            .takes("[NAME...]", 0, Command::anyNumber)
+            .says(TEXT("all settings or those named: name, value, minimum, maximum"), TEXT(R"(
+One line a setting, tab separated: name, value, minimum, maximum; in display units, as in settings files.)"))
+            .checks(checkNames),
+        Command("write", write)
+            .takes("NAME=VALUE... [--to-flash]", 1, Command::anyNumber)
+            .says(TEXT("check, apply, read again, report what was not taken"), TEXT(R"(
+Values in display units. Nothing is written when one of them is read-only, not on this model or outside the limits that
+the drive gave. Prints what the drive holds then, as "read" does. Settings that are in effect on an enabled drive change
+how it moves at once.)"))
+            .flag("to-flash", toFlash)
+            .checks(checkAssignments),
+        Command("save", save).takesFile("FILE.drc").says(TEXT("read the settings and save them to a file"), TEXT(R"(
+Reads all settings and saves them to a settings file, which the window opens too.)")),
+        Command("load", load)
+            .takesFile("FILE.drc [--to-flash]")
+            .says(TEXT("apply a file, read again, report what was not taken"), TEXT(R"(
+Applies a settings file and prints what has changed, as "read" does. A setting for which the file has no value keeps the
+drive's own.)"))
+            .flag("to-flash", toFlash),
+        Command("compare", compare)
+            .takesFile("FILE.drc")
+            .says(TEXT("what differs between drive and file: name, drive, file"), TEXT(R"(
+One line a difference, tab separated: name, the drive's value, the file's; exit status 3 when there is any.)")),
     };
-#undef TEXT
 }

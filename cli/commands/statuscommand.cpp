@@ -55,21 +55,14 @@ Outcome status(DriveClient &client, const CommandLine &line)
 
 QList<Command> statusCommands()
 {
-#define TEXT(text) QT_TRANSLATE_NOOP("CommandHelp", text)
     return {
-        {"status",
-         "[--watch]",
-         TEXT("connection, model, versions, and the registers in words"),
-         TEXT("Who is connected, then the drive's inputs, status and faults, each flag on or off, with a \"!\" at "
-              "whatever\n"
-              "keeps a drive that does not run from running. Voltages in V, currents in A, velocity in revolutions a\n"
-              "second, positions in counts."),
-         0,
-         0,
-         status,
-         {{"watch", nullptr,
-           TEXT("Again and again, three times a second, until Ctrl+C: in place on a terminal; elsewhere block after "
-                "block, a blank line behind each and none inside; with --json one object a line.")}}},
+        Command("status", status)
+            .takes("[--watch]")
+            .says(TEXT("connection, model, versions, and the registers in words"), TEXT(R"(
+Who is connected, then the drive's inputs, status and faults, each flag on or off, with a "!" at whatever keeps a drive
+that does not run from running. Voltages in V, currents in A, velocity in revolutions a second, positions in counts.)"))
+            .flag("watch",
+                  TEXT("Again and again, three times a second, until Ctrl+C: in place on a terminal; elsewhere block "
+                       "after block, a blank line behind each and none inside; with --json one object a line.")),
     };
-#undef TEXT
 }

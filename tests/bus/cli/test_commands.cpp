@@ -49,8 +49,7 @@ TEST_F(CliTwoDrives, ADriveThatCannotBeReadDoesNotMakeTheOtherTheOnlyOne)
     bus().setFault({sim::LineFault::Flip, 6, 0, 3});
     Ran ran = run({"--port", port(), "read", "KVP"});
     EXPECT_EQ(ran.status, 1);
-    EXPECT_EQ(ran.err,
-              "There are several drives; choose one with --node:\n3\tanswers that cannot be read\n7\tTORVA\n");
+    EXPECT_EQ(ran.err, "There are several drives; choose one with --node:\n3\tanswers that cannot be read\n7\tTORVA\n");
     bus().setFault({sim::LineFault::Flip, 6, 0, 3});
     ran = run({"--port", port(), "scan"});
     EXPECT_EQ(ran.status, 0);
