@@ -5,7 +5,12 @@
 
 DriveIdentity driveIdentity(const Parameters &settings, int deviceType, int address)
 {
-    const auto value = [&settings](const char *name) { return int(settings.getParam(QLatin1String(name)).value); };
+    const QString model = deviceModelName(deviceType, false);
+    // What the model lacks holds a mark and no number.
+    const auto value = [&settings, &model](const char *name) {
+        const SingleParam found = settings.getParam(QLatin1String(name));
+        return found.supportedInDevice(model) && found.value > 0.0 ? int(found.value) : 0;
+    };
     DriveIdentity drive;
     drive.model = deviceModelName(deviceType, true);
     drive.type = deviceType;

@@ -57,6 +57,8 @@ TEST_F(CliReport, IsWrittenAndCanBeChecked)
         EXPECT_THAT(page, HasSubstr(part));
     EXPECT_THAT(payloads(bus().received()), Each(Not(testing::StartsWith("800a00000003")))) << "nothing is written";
 
+    EXPECT_THAT(page, Not(HasSubstr("I/O side"))) << "this model has none";
+
     Ran check = run({"report", "--verify", "r.html"});
     EXPECT_EQ(check.status, 0) << check.err.toStdString();
     EXPECT_EQ(check.out, "checksum\t" + json["checksum"].toString() + "\n");
