@@ -44,9 +44,24 @@ void put(const QString &name, const QByteArray &bytes)
 class CliCapture : public VirtualBusFixture
 {
 protected:
+    void TearDown() override
+    {
+        qunsetenv("VELBRIN_DATA");
+        VirtualBusFixture::TearDown();
+    }
     std::vector<std::string> sent() { return payloads(bus().received()); }
     bool isOff() { return bus().read(DriveAddress, SoftEnable) == 0 && !(bus().read(DriveAddress, Status) & Running); }
 };
+
+/// A data folder with everything but the last of the plot page's scripts.
+void putScripts()
+{
+    ASSERT_TRUE(QDir().mkpath("data/flot/css"));
+    put("data/flot/css/plotlayout.css", "h1 { color: red; }");
+    put("data/flot/jquery.js", "var jquery = '</script>';");
+    put("data/flot/jquery.flot.js", "var flot = 1;");
+    put("data/flot/jquery.flot.selection.js", "");
+}
 
 /// A column of a capture file, without its name.
 std::vector<double> column(const QByteArray &csv, int index)
@@ -166,6 +181,9 @@ TEST_F(CliCapture, DisableThatIsNotConfirmedIsNoSuccess)
 
 TEST_F(CliCapture, TellsAllThatItKnowsInJsonAndInThePage)
 {
+    putScripts();
+    put("data/flot/jquery.flot.resize.js", "");
+    qputenv("VELBRIN_DATA", QDir::current().filePath("data").toLocal8Bit());
     const Ran ran =
         onDrive({"--json", "capture", "--enable", "--channels", "posreference,posmeas", "--rate", "5000", "--step",
                  "1000", "--note", "first <try>", "--html", "step.html", "--csv", "step.csv", "--format", "comma"});
@@ -240,11 +258,7 @@ TEST_F(CliCapture, FileThatCannotBeWrittenStopsItBeforeAnythingMoves)
 
 TEST_F(CliCapture, PlotPageHoldsAllThatItNeeds)
 {
-    ASSERT_TRUE(QDir().mkpath("data/flot/css"));
-    put("data/flot/css/plotlayout.css", "h1 { color: red; }");
-    put("data/flot/jquery.js", "var jquery = '</script>';");
-    put("data/flot/jquery.flot.js", "var flot = 1;");
-    put("data/flot/jquery.flot.selection.js", "");
+    putScripts();
     ASSERT_TRUE(QDir().mkpath("flot"));
     put("flot/jquery.flot.js", "var strangers = 1;"); // a folder of downloads: the program's own goes first
     QProcess process;
