@@ -191,7 +191,7 @@ TEST_F(Stops, AStreamIsStoppedThroughANewOpeningOfThePort)
 TEST_F(Stops, ADisableOnTheWayOutOpensThePortAnew)
 {
     begin(true);
-    bus().setFaults({{Fault::Missing, 4, 0, 2}});
+    bus().setFaults({{Fault::Missing, 4, 0, 3}});
     ASSERT_TRUE(waitForDisconnect());
     disable();
     newSession(); // destroys the one before
