@@ -90,8 +90,6 @@ public:
     /// Type id of the connected drive, 0 when there is none.
     int deviceType() const;
     static QString deviceModelName(int typeId, bool withMakerPrefix);
-    bool isTorva() const;
-    bool isKeta() const;
     bool isKetaPro() const;
     /// False for every capability when no drive is connected.
     bool deviceHasCapability(int capability) const;
@@ -116,6 +114,10 @@ public:
     /// Read time-out of connections made from now on, ms, in steps of 100: tests shorten it. Default 1000.
     void setReplyTimeout(int milliseconds);
 
+    // --- Called by nobody in this program; kept, with their names, for whoever builds on this class -------------
+
+    bool isTorva() const;
+    bool isKeta() const;
     /// Divider of velocities and accelerations that suits a feedback resolution (lines) and a speed (rpm).
     static int generateDividerValue(int resolution, int speed);
 
