@@ -45,15 +45,9 @@ ZbHandle zbOpenBus(const char *name);
 /// Closes the bus. Returns ZB_ERR_NODEVICE always, also when it was open: a quirk that callers ignore.
 ZbStatus zbCloseBus(ZbHandle handle);
 
-/// Non-zero while the handle is open; 0 outside 0-9.
-int zbIsHandleOpen(ZbHandle handle);
-
 /// Sets the read time-out of ports opened from now on, in ms, rounded down to tenths of a second when a port opens.
 /// Returns ZB_ERR_PARAMETER above ZB_MAX_TIMEOUT_MS and changes nothing then.
 ZbStatus zbSetTimeout(std::uint16_t milliseconds);
-
-/// Library version, 0x20001.
-int zbGetVersion();
 
 /// Puts the receive state, the queue and the flags of an open handle back to their initial values.
 ZbStatus zbResetZB485variables(ZbHandle handle);
@@ -118,23 +112,35 @@ ZbStatus zbGetQueuedSetParamReturnValue(ZbHandle handle, long *value);
 
 /// One packet each: append, execute, decode. Return the OR of all steps.
 ZbStatus zbRead1Parameter(ZbHandle handle, std::uint8_t address, std::int16_t paramA, long *valueA);
-ZbStatus zbRead2Parameters(ZbHandle handle, std::uint8_t address, std::int16_t paramA, long *valueA,
-                           std::int16_t paramB, long *valueB);
 ZbStatus zbRead3Parameters(ZbHandle handle, std::uint8_t address, std::int16_t paramA, long *valueA,
                            std::int16_t paramB, long *valueB, std::int16_t paramC, long *valueC);
-ZbStatus zbSetParameter(ZbHandle handle, std::uint8_t address, std::int16_t parameter, long value);
 
 /// The drive's 16-bit buffer clock, in 0.1 ms. Ask with an empty queue: the reply lands where the queued items are.
 ZbStatus zbGetBufferClock(ZbHandle handle, std::uint8_t address, std::uint16_t *clock);
 
 // --- Cumulative status and debug output -------------------------------------------------------------------------
 
-/// OR into, read, clear a handle's cumulative status. Return ZB_ERR_NODEVICE for a handle that is not open.
+/// ORs into a handle's cumulative status. Returns ZB_ERR_NODEVICE for a handle that is not open.
 ZbStatus recordStatus(ZbHandle handle, ZbStatus bits);
-ZbStatus getCumulativeStatus(ZbHandle handle);
-ZbStatus resetCumulativeStatus(ZbHandle handle);
 
 /// Diagnostic lines up to a verbosity go to `stream` (null: none). 2 marks packets, 3 marks bytes.
 void zbSetDebugOutput(int threshold, std::FILE *stream);
+
+// --- Part of the library, and called by nobody in this program ---------------------------------------------------
+
+/// Non-zero while the handle is open; 0 outside 0-9.
+int zbIsHandleOpen(ZbHandle handle);
+
+/// Library version, 0x20001.
+int zbGetVersion();
+
+/// One packet each, as zbRead1Parameter.
+ZbStatus zbRead2Parameters(ZbHandle handle, std::uint8_t address, std::int16_t paramA, long *valueA,
+                           std::int16_t paramB, long *valueB);
+ZbStatus zbSetParameter(ZbHandle handle, std::uint8_t address, std::int16_t parameter, long value);
+
+/// Read and clear what recordStatus has collected.
+ZbStatus getCumulativeStatus(ZbHandle handle);
+ZbStatus resetCumulativeStatus(ZbHandle handle);
 
 #endif

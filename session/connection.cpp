@@ -5,19 +5,55 @@
 #include "dividerrule.h"
 #include "scopechannels.h"
 #include "sessiondata.h"
+#include "sessionevents.h"
 #include "sessionworker.h"
 #include "streamplan.h"
 
 struct Connection::Private
 {
-    explicit Private(Connection &session) : worker(session, data, tasks) {}
-
     SessionData data;
     TaskQueue tasks;
-    SessionWorker worker; ///< only `run` is called, on the session's thread
+    SessionEvents events;
+    SessionWorker worker{data, tasks, events}; ///< only `run` is called, on the session's thread
+
+    /// Direct: what is emitted on the worker thread is passed on there.
+    template <typename Event, typename Signal> void pass(Event event, Connection &to, Signal signal)
+    {
+        connect(&events, event, &to, signal, Qt::DirectConnection);
+    }
+    void passEventsOn(Connection &to);
 };
 
-Connection::Connection(QObject *parent) : QThread(parent), d(std::make_unique<Private>(*this))
+void Connection::Private::passEventsOn(Connection &to)
+{
+    using E = SessionEvents;
+    using C = Connection;
+    pass(&E::statusChanged, to, &C::statusChanged);
+    pass(&E::parametersRetreived, to, &C::parametersRetreived);
+    pass(&E::error, to, &C::error);
+    pass(&E::plotReady, to, &C::plotReady);
+    pass(&E::updateCaptureButtonText, to, &C::updateCaptureButtonText);
+    pass(&E::physInputsUpdated, to, &C::physInputsUpdated);
+    pass(&E::statusRegisterUpdated, to, &C::statusRegisterUpdated);
+    pass(&E::faultRegisterUpdated, to, &C::faultRegisterUpdated);
+    pass(&E::availableBusNodes, to, &C::availableBusNodes);
+    pass(&E::firmwareUpgradeMsg, to, &C::firmwareUpgradeMsg);
+    pass(&E::firmwareUploadProgress, to, &C::firmwareUploadProgress);
+    pass(&E::suggestDeviceRestart, to, &C::suggestDeviceRestart);
+    pass(&E::setpointChanged, to, &C::setpointChanged);
+    pass(&E::busy, to, &C::busy);
+    pass(&E::setUnsavedState, to, &C::setUnsavedState);
+    pass(&E::controlModeChanged, to, &C::controlModeChanged);
+    pass(&E::disableAnswered, to, &C::disableAnswered);
+    pass(&E::disableFinished, to, &C::disableFinished);
+    pass(&E::enableStatePolled, to, &C::enableStatePolled);
+    pass(&E::message, to, &C::message);
+    pass(&E::statePolled, to, &C::statePolled);
+    pass(&E::driveParametersChanged, to, &C::driveParametersChanged);
+    pass(&E::captureStateChanged, to, &C::captureStateChanged);
+}
+
+Connection::Connection(QObject *parent) : QThread(parent), d(std::make_unique<Private>())
 {
     qRegisterMetaType<Parameters>("Parameters");
     qRegisterMetaType<QList<CaptureData>>("QList<CaptureData>");
@@ -28,6 +64,7 @@ Connection::Connection(QObject *parent) : QThread(parent), d(std::make_unique<Pr
     qRegisterMetaType<Message>("Message");
     d->data.wanted.parameters = d->data.drive = driveParameterCatalogue();
     d->data.wanted.capture.channels = scopeChannels();
+    d->passEventsOn(*this);
     start();
 }
 
@@ -53,23 +90,20 @@ void Connection::run()
 
 // --- Asking for work ----------------------------------------------------------------------------------------------
 
-void Connection::queue(int task, const std::function<void(TaskRequest &)> &store)
+void Connection::queue(Task task, const std::function<void()> &store)
 {
     QueuedTask entry;
-    entry.task = static_cast<Task>(task);
+    entry.task = task;
     bool stimulusSwitchedOff = false;
     {
         std::lock_guard<std::mutex> lock(d->data.mutex);
-        TaskRequest &wanted = d->data.wanted;
         if (store)
-            store(wanted);
-        entry.request = wanted;
+            store();
+        entry.request = d->data.wanted.requestOf(task);
         if (task == TaskApplyEnableState) {
-            // The force-enable request is used once, and never by a disable.
-            entry.request.forceEnable = wanted.enable && wanted.forceEnable;
-            wanted.forceEnable = false;
+            d->data.wanted.enable.force = false; // used once
             // Nor may the next enable set going what was running before the stop, or what of it waits in the drive.
-            stimulusSwitchedOff = !wanted.enable && d->data.stimulus.isActive();
+            stimulusSwitchedOff = entry.isDisable() && d->data.stimulus.isActive();
             if (stimulusSwitchedOff)
                 d->data.stimulus.stop();
         }
@@ -87,15 +121,12 @@ void Connection::command(Task task, bool waitForLoop)
 
 void Connection::connectDevice(const QString &portName, int nodeAddress)
 {
-    queue(TaskConnect, [&](TaskRequest &wanted) {
-        wanted.portName = portName;
-        wanted.nodeAddress = nodeAddress;
-    });
+    queue(TaskConnect, [&] { d->data.wanted.connect = {portName, nodeAddress}; });
 }
 
 void Connection::getListOfBusNodes(const QString &portName)
 {
-    queue(TaskScanBus, [&](TaskRequest &wanted) { wanted.portName = portName; });
+    queue(TaskScanBus, [&] { d->data.wanted.connect.portName = portName; });
 }
 
 void Connection::getParams()
@@ -137,26 +168,25 @@ void Connection::setSettingsFileName(const QString &fileName)
 void Connection::setFirmwareFileName(const QString &fileName, bool resetToFactory)
 {
     std::lock_guard<std::mutex> lock(d->data.mutex);
-    d->data.wanted.firmwareFileName = fileName;
-    d->data.wanted.resetToFactory = resetToFactory;
+    d->data.wanted.flash = {fileName, resetToFactory};
 }
 
 void Connection::setDriveEnableStatus(bool enable)
 {
     std::lock_guard<std::mutex> lock(d->data.mutex);
-    d->data.wanted.enable = enable;
+    d->data.wanted.enable.enable = enable;
 }
 
 void Connection::setDriveForceEnableStatus(bool force)
 {
     std::lock_guard<std::mutex> lock(d->data.mutex);
-    d->data.wanted.forceEnable = force;
+    d->data.wanted.enable.force = force;
 }
 
 void Connection::setTargetSetpoint(int setpoint)
 {
     std::lock_guard<std::mutex> lock(d->data.mutex);
-    d->data.wanted.setpoint = setpoint;
+    d->data.wanted.setpoint.setpoint = setpoint;
 }
 
 void Connection::setStimulus(double target1, double delay1, double target2, double delay2, bool enabled)

@@ -3,8 +3,9 @@
 #ifndef SESSIONDATA_H
 #define SESSIONDATA_H
 
+#include "drivestate.h"
 #include "squarewave.h"
-#include "taskqueue.h"
+#include "task.h"
 
 #include <QLoggingCategory>
 #include <atomic>
@@ -16,11 +17,26 @@ Q_DECLARE_LOGGING_CATEGORY(sessionLog)
 /// Bus address of a drive in firmware-upgrade mode, whatever its own address is.
 constexpr int firmwareUpgradeNode = 255;
 
+/// What the setters of Connection have stored.
+struct Wanted
+{
+    ConnectRequest connect; ///< its port is that of a scan, too
+    EnableRequest enable;
+    SetpointRequest setpoint;
+    CaptureRequest capture;
+    QString settingsFileName;
+    FlashRequest flash;
+    Parameters parameters; ///< the session's list
+
+    /// A copy of what a task takes along.
+    TaskRequest requestOf(SessionTasks::Task task) const;
+};
+
 struct SessionData
 {
     /// Guards the plain members below it. Held to copy something in or out, never across bus traffic or a file.
     mutable std::mutex mutex;
-    TaskRequest wanted;              ///< what the setters stored; its `parameters` are the session's list
+    Wanted wanted;
     unsigned parameterHandOvers = 0; ///< counts setParams: a read that was overtaken by one leaves the list alone
     SquareWave stimulus;
     Parameters drive; ///< see Connection::driveParameters
@@ -41,6 +57,22 @@ struct SessionData
     std::atomic<double> pauseScale{1.0};
     std::atomic<int> replyTimeoutMs{1000};
 
+    /// With the scale for tests.
+    std::chrono::steady_clock::duration scaled(std::chrono::milliseconds length) const
+    {
+        const std::chrono::duration<double, std::milli> scaledLength = length * pauseScale.load();
+        return std::chrono::duration_cast<std::chrono::steady_clock::duration>(scaledLength);
+    }
+    bool stimulusIsActive() const
+    {
+        std::lock_guard<std::mutex> lock(mutex);
+        return stimulus.isActive();
+    }
+    Parameters driveParameters() const
+    {
+        std::lock_guard<std::mutex> lock(mutex);
+        return drive;
+    }
     Parameters parameters() const
     {
         std::lock_guard<std::mutex> lock(mutex);

@@ -3,11 +3,35 @@
 #include <algorithm>
 #include <iterator>
 
-Q_LOGGING_CATEGORY(sessionLog, "velbrin.session", QtInfoMsg)
-
 namespace {
-constexpr TaskQueue::Milliseconds pollPeriod(330);
+
+constexpr std::chrono::milliseconds pollPeriod(330);
+constexpr std::chrono::milliseconds shortestPollPeriod(10); // however much a test shortens it
+
+template <typename Operation> void call(Operation &operation, void (Operation::*handler)(), const TaskRequest &)
+{
+    (operation.*handler)();
 }
+
+template <typename Operation, typename Request>
+void call(Operation &operation, void (Operation::*handler)(const Request &), const TaskRequest &request)
+{
+    if (const auto *own = std::get_if<Request>(&request))
+        (operation.*handler)(*own);
+}
+
+/// For the table: the worker's own function, or that of one of its operations.
+template <auto handler> void on(SessionWorker &worker, const TaskRequest &request)
+{
+    call(worker, handler, request);
+}
+
+template <auto operation, auto handler> void on(SessionWorker &worker, const TaskRequest &request)
+{
+    call(worker.*operation, handler, request);
+}
+
+} // namespace
 
 struct SessionWorker::TaskRule
 {
@@ -19,44 +43,48 @@ struct SessionWorker::TaskRule
 
 const SessionWorker::TaskRule *SessionWorker::ruleOf(int task)
 {
+    using T = SessionTasks;
     using W = SessionWorker;
+    using C = DriveCommands;
     static const TaskRule rules[] = {
-        {Connection::TaskNone, &W::doNothing, false, true},
-        {Connection::TaskConnect, &W::connectDrive, false, true},
-        {Connection::TaskDisconnect, &W::disconnectDrive, false, true},
-        {Connection::TaskSetParams, &W::setParams, true, false},
-        {Connection::TaskGetParams, &W::getParams, true, true},
-        {Connection::TaskUpdateStatus, &W::updateStatus, true, true},
-        {Connection::TaskInitScope, &W::startCapture, true, false},
-        {Connection::TaskDownloadScope, &W::downloadCapture, true, false},
-        {Connection::TaskQuit, &W::quit, false, true},
-        {Connection::TaskCheckErrors, &W::checkErrors, true, true},
-        {Connection::TaskClearFaults, &W::clearFaults, true, true},
-        {Connection::TaskApplyEnableState, &W::applyEnableState, true, false},
-        {Connection::TaskStimulus, &W::streamStimulus, true, false},
-        {13, &W::doNothing, false, true},
-        {Connection::TaskSaveToFlash, &W::saveToFlash, true, false},
-        {Connection::TaskStartHoming, &W::startHoming, true, false},
-        {Connection::TaskAbortHoming, &W::abortHoming, true, false},
-        {Connection::TaskSaveSettingsFile, &W::saveSettingsFile, false, true},
-        {Connection::TaskLoadSettingsFile, &W::loadSettingsFile, false, true},
-        {Connection::TaskScanBus, &W::scanBus, false, true},
-        {Connection::TaskFlashFirmware, &W::flashFirmware, false, true},
-        {Connection::TaskRestartDrive, &W::restartDrive, true, true},
-        {Connection::TaskStopStimulus, &W::stopStimulus, true, false},
-        {Connection::TaskSetAbsoluteSetpoint, &W::setAbsoluteSetpoint, true, false},
-        {Connection::TaskSetIncrementalSetpoint, &W::setIncrementalSetpoint, true, false},
-        {Connection::TaskRestartToDFU, &W::restartToDFU, true, false},
-        {Connection::TaskMeasure, &W::measure, true, false},
-        {Connection::TaskSetZero, &W::setZero, true, false},
+        {T::TaskNone, on<&W::doNothing>, false, true},
+        {T::TaskConnect, on<&W::connectDrive>, false, true},
+        {T::TaskDisconnect, on<&W::disconnectDrive>, false, true},
+        {T::TaskSetParams, on<&W::m_transfer, &ParameterTransfer::setParams>, true, false},
+        {T::TaskGetParams, on<&W::m_transfer, &ParameterTransfer::getParams>, true, true},
+        {T::TaskUpdateStatus, on<&W::updateStatus>, true, true},
+        {T::TaskInitScope, on<&W::m_capture, &CaptureRun::startCapture>, true, false},
+        {T::TaskDownloadScope, on<&W::m_capture, &CaptureRun::downloadCapture>, true, false},
+        {T::TaskQuit, on<&W::quit>, false, true},
+        {T::TaskCheckErrors, on<&W::checkErrors>, true, true},
+        {T::TaskClearFaults, on<&W::m_commands, &C::clearFaults>, true, true},
+        {T::TaskApplyEnableState, on<&W::m_commands, &C::applyEnableState>, true, false},
+        {T::TaskStimulus, on<&W::m_stream, &StimulusStream::streamStimulus>, true, false},
+        {13, on<&W::doNothing>, false, true},
+        {T::TaskSaveToFlash, on<&W::m_commands, &C::saveToFlash>, true, false},
+        {T::TaskStartHoming, on<&W::m_commands, &C::startHoming>, true, false},
+        {T::TaskAbortHoming, on<&W::m_commands, &C::abortHoming>, true, false},
+        {T::TaskSaveSettingsFile, on<&W::saveSettingsFile>, false, true},
+        {T::TaskLoadSettingsFile, on<&W::loadSettingsFile>, false, true},
+        {T::TaskScanBus, on<&W::scanBus>, false, true},
+        {T::TaskFlashFirmware, on<&W::m_upgrade, &FirmwareUpgrade::flashFirmware>, false, true},
+        {T::TaskRestartDrive, on<&W::m_commands, &C::restartDrive>, true, true},
+        {T::TaskStopStimulus, on<&W::m_commands, &C::stopStimulus>, true, false},
+        {T::TaskSetAbsoluteSetpoint, on<&W::m_commands, &C::setAbsoluteSetpoint>, true, false},
+        {T::TaskSetIncrementalSetpoint, on<&W::m_commands, &C::setIncrementalSetpoint>, true, false},
+        {T::TaskRestartToDFU, on<&W::m_commands, &C::restartToDFU>, true, false},
+        {T::TaskMeasure, on<&W::m_commands, &C::measure>, true, false},
+        {T::TaskSetZero, on<&W::setZero>, true, false},
     };
     const auto found =
         std::find_if(std::begin(rules), std::end(rules), [task](const TaskRule &rule) { return rule.task == task; });
     return found == std::end(rules) ? nullptr : found;
 }
 
-SessionWorker::SessionWorker(Connection &session, SessionData &data, TaskQueue &queue)
-    : m_session(session), m_data(data), m_queue(queue), m_line(queue)
+SessionWorker::SessionWorker(SessionData &data, TaskQueue &queue, SessionEvents &out)
+    : m_data(data), m_queue(queue), m_out(out), m_context(data, queue, out), m_monitor(m_context),
+      m_stops(m_context, [this] { return poll(); }), m_stream(m_context), m_transfer(m_context),
+      m_capture(m_context, [this] { return poll(); }), m_commands(m_context, m_stops, m_stream), m_upgrade(m_context)
 {
 }
 
@@ -70,83 +98,67 @@ void SessionWorker::run()
             perform(entry);
         if (m_quit)
             break;
-        m_queue.waitForTask(pollPeriod);
+        const auto period = std::chrono::duration_cast<TaskQueue::Milliseconds>(m_data.scaled(pollPeriod));
+        m_queue.waitForTask(std::max(period, shortestPollPeriod));
         connectionUpdate();
     }
-    m_line.close();
+    m_context.line.close();
 }
 
 void SessionWorker::perform(const QueuedTask &entry)
 {
     const TaskRule *rule = ruleOf(entry.task);
     if (!rule) {
-        tell(MessageKind::Note, Connection::tr("Invalid comm task"));
+        m_context.errors.tell(MessageKind::Note, SessionText::tr("Invalid comm task"));
         return;
     }
-    if (entry.isDisable() && !isConnected()) {
-        disableWithoutConnection();
+    if (entry.isDisable() && !m_data.connected) {
+        m_stops.disableWithoutConnection();
     } else {
-        if ((rule->needsDrive && !isConnected()) || (inFirmwareUpgradeMode() && !rule->inFirmwareUpgradeMode))
+        if ((rule->needsDrive && !m_data.connected) || (m_data.firmwareUpgradeMode && !rule->inFirmwareUpgradeMode))
             return;
-        m_line.startTask();
-        (this->*rule->handler)(entry.request);
-        finishTask();
+        m_context.line.startTask();
+        rule->handler(*this, entry.request);
+        m_context.errors.finishTask();
     }
     std::lock_guard<std::mutex> lock(m_data.mutex);
-    m_data.lineMeter = m_line.meter();
-}
-
-void SessionWorker::finishTask()
-{
-    // Error bits that are already here would be lost in the answer to a second query: the drive has cleared its own.
-    if (m_errorLatch && isConnected() && m_deviceErrors == 0)
-        checkZBErrors();
-    reportErrors();
-    m_errorsAreOld = false;
+    m_data.lineMeter = m_context.line.meter();
 }
 
 void SessionWorker::connectionUpdate()
 {
-    if (!isConnected() || !m_queue.isEmpty())
+    if (!m_data.connected || !m_queue.isEmpty())
         return;
     qCDebug(sessionLog, "----------------------------tick------------------------");
-    if (stimulusActive())
-        m_queue.push(Connection::TaskStimulus);
-    m_queue.push(Connection::TaskUpdateStatus);
+    if (m_data.stimulusIsActive())
+        m_queue.push(SessionTasks::TaskStimulus);
+    m_queue.push(SessionTasks::TaskUpdateStatus);
 }
 
-bool SessionWorker::pause(int milliseconds, Drive drive)
+bool SessionWorker::poll()
 {
-    using Clock = std::chrono::steady_clock;
-    const auto length = std::chrono::duration<double, std::milli>(milliseconds * m_data.pauseScale);
-    const auto deadline = Clock::now() + std::chrono::duration_cast<Clock::duration>(length);
-    for (;;) {
-        switch (m_queue.pauseUntil(deadline)) {
-        case TaskQueue::Wake::TimeOver:
-            return true;
-        case TaskQueue::Wake::Disable:
-            // Without a connection it is the next task, which this pause must not hold up.
-            if (!isConnected())
-                return true;
-            if (drive == Drive::Restarts)
-                disableRestartingDrive(deadline);
-            else
-                serveWaitingDisable();
-            break;
-        case TaskQueue::Wake::Closing:
-            return false;
-        }
+    if (!m_monitor.poll())
+        return false;
+    if (!m_data.firmwareUpgradeMode) {
+        m_stops.lookForDisable(m_monitor.state());
+        m_capture.lookForEnd(m_monitor.state());
     }
+    return true;
 }
 
-void SessionWorker::debug() const
+void SessionWorker::checkErrors()
 {
-    if (!statusIsClean())
-        qCDebug(sessionLog) << "status" << m_line.status();
+    m_context.errors.checkZBErrors();
 }
 
-void SessionWorker::quit(const TaskRequest &)
+void SessionWorker::setZero()
 {
-    qCDebug(sessionLog) << "quit comm" << m_line.handle();
+    m_commands.setZero();
+    connectionUpdate();
+}
+
+void SessionWorker::quit()
+{
+    qCDebug(sessionLog) << "quit comm" << m_context.line.handle();
     m_quit = true;
 }

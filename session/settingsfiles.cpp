@@ -1,27 +1,27 @@
 // Saving the session's parameter list to a settings file, and loading one. Needs no drive.
 #include "sessionworker.h"
 
-void SessionWorker::saveSettingsFile(const TaskRequest &request)
+void SessionWorker::saveSettingsFile(const SaveFileRequest &request)
 {
-    const QString message = request.parameters.saveToFile(request.settingsFileName);
+    const QString message = request.parameters.saveToFile(request.fileName);
     if (!message.isEmpty())
-        tell(MessageKind::FileFailed, message);
+        m_context.errors.tell(MessageKind::FileFailed, message);
 }
 
-void SessionWorker::loadSettingsFile(const TaskRequest &request)
+void SessionWorker::loadSettingsFile(const LoadFileRequest &request)
 {
     // The list as it is now, not as it was when the file was asked for: a full read may have come in between.
     Parameters list = m_data.parameters();
     LoadOutcome outcome = LoadOutcome::Refused;
-    const QString message = list.loadFromFile(request.settingsFileName, &outcome);
+    const QString message = list.loadFromFile(request.fileName, &outcome);
     const bool taken = outcome != LoadOutcome::Refused;
     if (!message.isEmpty())
-        tell(taken ? MessageKind::FileWarning : MessageKind::FileFailed, message);
+        m_context.errors.tell(taken ? MessageKind::FileWarning : MessageKind::FileFailed, message);
     if (!taken)
         return;
     {
         std::lock_guard<std::mutex> lock(m_data.mutex);
         m_data.wanted.parameters = list;
     }
-    emit m_session.parametersRetreived(list, true);
+    emit m_out.parametersRetreived(list, true);
 }

@@ -9,14 +9,14 @@ namespace {
 bool isMotion(const QueuedTask &entry)
 {
     switch (entry.task) {
-    case Connection::TaskStimulus:
-    case Connection::TaskStartHoming:
-    case Connection::TaskSetAbsoluteSetpoint:
-    case Connection::TaskSetIncrementalSetpoint:
-    case Connection::TaskMeasure:
+    case SessionTasks::TaskStimulus:
+    case SessionTasks::TaskStartHoming:
+    case SessionTasks::TaskSetAbsoluteSetpoint:
+    case SessionTasks::TaskSetIncrementalSetpoint:
+    case SessionTasks::TaskMeasure:
         return true;
-    case Connection::TaskApplyEnableState:
-        return entry.request.enable;
+    case SessionTasks::TaskApplyEnableState:
+        return entry.isEnable();
     default:
         return false;
     }
@@ -24,17 +24,18 @@ bool isMotion(const QueuedTask &entry)
 
 bool isStop(const QueuedTask &entry)
 {
-    return entry.isDisable() || entry.task == Connection::TaskStopStimulus || entry.task == Connection::TaskAbortHoming;
+    return entry.isDisable() || entry.task == SessionTasks::TaskStopStimulus ||
+           entry.task == SessionTasks::TaskAbortHoming;
 }
 
 bool survivesDisconnect(const QueuedTask &entry)
 {
-    return isStop(entry) || entry.task == Connection::TaskSetParams || entry.task == Connection::TaskSaveToFlash;
+    return isStop(entry) || entry.task == SessionTasks::TaskSetParams || entry.task == SessionTasks::TaskSaveToFlash;
 }
 
 bool isRestart(const QueuedTask &entry)
 {
-    return entry.task == Connection::TaskRestartDrive || entry.task == Connection::TaskRestartToDFU;
+    return entry.task == SessionTasks::TaskRestartDrive || entry.task == SessionTasks::TaskRestartToDFU;
 }
 
 template <typename Entries, typename Condition> void removeIf(Entries &entries, Condition condition)
@@ -45,7 +46,7 @@ template <typename Entries, typename Condition> void removeIf(Entries &entries, 
 /// Leaves one stop of each kind, the first; there is never more than one disable.
 template <typename Entries> void removeRepeatedStops(Entries &entries)
 {
-    for (const Connection::Task task : {Connection::TaskStopStimulus, Connection::TaskAbortHoming}) {
+    for (const SessionTasks::Task task : {SessionTasks::TaskStopStimulus, SessionTasks::TaskAbortHoming}) {
         bool found = false;
         removeIf(entries,
                  [&found, task](const QueuedTask &entry) { return entry.task == task && std::exchange(found, true); });
@@ -63,7 +64,7 @@ void TaskQueue::push(QueuedTask entry)
     m_changed.notify_all();
 }
 
-void TaskQueue::push(Connection::Task task)
+void TaskQueue::push(SessionTasks::Task task)
 {
     QueuedTask entry;
     entry.task = task;
@@ -79,13 +80,13 @@ void TaskQueue::insert(QueuedTask entry)
         m_entries.push_front(std::move(entry));
         return;
     }
-    if (entry.task == Connection::TaskDisconnect) {
+    if (entry.task == SessionTasks::TaskDisconnect) {
         const bool behindRestart = std::any_of(m_entries.begin(), m_entries.end(), isRestart);
         // What the user has just chosen when asked on the way out, and every stop, is still carried out.
         if (!behindRestart)
             removeIf(m_entries, [](const QueuedTask &e) { return !survivesDisconnect(e); });
-    } else if (entry.task == Connection::TaskScanBus) {
-        removeIf(m_entries, [](const QueuedTask &e) { return e.task == Connection::TaskScanBus; });
+    } else if (entry.task == SessionTasks::TaskScanBus) {
+        removeIf(m_entries, [](const QueuedTask &e) { return e.task == SessionTasks::TaskScanBus; });
     }
     m_entries.push_back(std::move(entry));
 }
@@ -97,9 +98,9 @@ void TaskQueue::pushDisconnectFirst()
         // Even on a bad line a waiting stop is tried before the port is given up.
         removeRepeatedStops(m_entries); // each may cost a time-out
         const auto rest = std::stable_partition(m_entries.begin(), m_entries.end(), isStop);
-        if (rest == m_entries.end() || rest->task != Connection::TaskDisconnect) {
+        if (rest == m_entries.end() || rest->task != SessionTasks::TaskDisconnect) {
             QueuedTask disconnect;
-            disconnect.task = Connection::TaskDisconnect;
+            disconnect.task = SessionTasks::TaskDisconnect;
             m_entries.insert(rest, disconnect);
         }
     }
@@ -117,13 +118,13 @@ void TaskQueue::close()
         // A disconnect would drop a file that was asked for; the program's end writes it.
         Entries files;
         std::copy_if(m_entries.begin(), m_entries.end(), std::back_inserter(files),
-                     [](const QueuedTask &e) { return e.task == Connection::TaskSaveSettingsFile; });
-        removeIf(m_entries, [](const QueuedTask &e) { return e.task == Connection::TaskSaveSettingsFile; });
+                     [](const QueuedTask &e) { return e.task == SessionTasks::TaskSaveSettingsFile; });
+        removeIf(m_entries, [](const QueuedTask &e) { return e.task == SessionTasks::TaskSaveSettingsFile; });
         QueuedTask entry;
-        entry.task = Connection::TaskDisconnect;
+        entry.task = SessionTasks::TaskDisconnect;
         insert(entry);
         m_entries.insert(m_entries.end(), files.begin(), files.end());
-        entry.task = Connection::TaskQuit;
+        entry.task = SessionTasks::TaskQuit;
         insert(entry);
     }
     m_changed.notify_all();
@@ -161,7 +162,7 @@ bool TaskQueue::isEmpty() const
     return m_entries.empty();
 }
 
-bool TaskQueue::contains(Connection::Task task) const
+bool TaskQueue::contains(SessionTasks::Task task) const
 {
     std::lock_guard<std::mutex> lock(m_mutex);
     return std::any_of(m_entries.begin(), m_entries.end(), [task](const QueuedTask &e) { return e.task == task; });

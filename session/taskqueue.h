@@ -3,46 +3,13 @@
 #ifndef TASKQUEUE_H
 #define TASKQUEUE_H
 
-#include "connection.h"
+#include "task.h"
 
 #include <chrono>
 #include <condition_variable>
 #include <deque>
 #include <mutex>
 #include <vector>
-
-/// The choice for one capture.
-struct CaptureRequest
-{
-    double sampleRate = 17500.0; ///< wanted, Hz
-    int triggerCode = 1;
-    QList<CaptureData> channels; ///< the whole channel list with its enabled flags
-    int enabledCount = 0;
-};
-
-/// What the setters of Connection have stored. Every task takes a copy with it: what is asked later changes nothing
-/// that already waits.
-struct TaskRequest
-{
-    QString portName;
-    int nodeAddress = 5;
-    QString settingsFileName;
-    QString firmwareFileName;
-    bool resetToFactory = false;
-    bool enable = false;
-    bool forceEnable = false;
-    int setpoint = 0; ///< setpoint units
-    Parameters parameters;
-    CaptureRequest capture;
-};
-
-struct QueuedTask
-{
-    Connection::Task task = Connection::TaskNone;
-    TaskRequest request;
-
-    bool isDisable() const { return task == Connection::TaskApplyEnableState && !request.enable; }
-};
 
 /// Any thread. The lock is a leaf, held for a few instructions; the wait condition belongs to it, so that no wake-up is
 /// lost between "empty" and "wait". A std::mutex because the thread sanitizer sees into it.
@@ -58,7 +25,7 @@ public:
     /// - a bus scan replaces a scan that waits;
     /// - anything else is appended.
     void push(QueuedTask entry);
-    void push(Connection::Task task);
+    void push(SessionTasks::Task task);
     /// Queues the disconnect after an error (or when the drive has gone): at the head, behind waiting disables, stream
     /// stops and aborts of homing; once.
     void pushDisconnectFirst();
@@ -71,7 +38,7 @@ public:
     bool takeDisable(QueuedTask &entry);
 
     bool isEmpty() const;
-    bool contains(Connection::Task task) const;
+    bool contains(SessionTasks::Task task) const;
     /// The codes that wait, first to last.
     std::vector<int> codes() const;
     /// Whether `close` was called at least `grace` ago.

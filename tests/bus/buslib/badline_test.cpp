@@ -199,4 +199,41 @@ TEST_F(BadLine, RequestThatNobodyTakesFailsInsteadOfWaitingForEver)
     }
     EXPECT_EQ(status, ZB_ERR_BUS);
     EXPECT_LT(watch.elapsed(), 10000);
+    // Half a request would go out in front of the next one: what the line holds is dropped, but for what has arrived.
+    fcntl(line.master(), F_SETFL, fcntl(line.master(), F_GETFL) | O_NONBLOCK);
+    Bytes waiting(100000);
+    EXPECT_LE(read(line.master(), waiting.data(), waiting.size()), 4096);
+    EXPECT_TRUE(line.isQuiet());
+}
+
+TEST_F(BadLine, AReplyThatTricklesInHasALimitOfItsOwn)
+{
+    open(shortWait); // none of its bytes comes later than that behind the one before
+    zbSetTimeout(shortWait);
+    {
+        std::thread trickle([this] {
+            for (std::uint8_t byte : reply) {
+                line.write({byte});
+                std::this_thread::sleep_for(std::chrono::milliseconds(70));
+            }
+        });
+        EXPECT_EQ(readOnce() & ZB_ERR_COMMUNICATION, ZB_ERR_COMMUNICATION) << "the whole reply takes 1.5 s";
+        trickle.join();
+    }
+    int dropped = 0;
+    zbDiscardInput(bus, &dropped);
+    expectGoodExchange("trickle");
+}
+
+TEST_F(BadLine, WhatWasReadAheadIsDiscardedToo)
+{
+    open();
+    Bytes twice = reply;
+    twice.insert(twice.end(), reply.begin(), reply.end());
+    line.write(twice);
+    ASSERT_EQ(readOnce(), ZB_OK);
+    int dropped = 0;
+    EXPECT_EQ(zbDiscardInput(bus, &dropped), ZB_OK);
+    EXPECT_EQ(dropped, 21);
+    EXPECT_EQ(readOnce() & ZB_ERR_COMMUNICATION, ZB_ERR_COMMUNICATION) << "nothing is left to answer this";
 }

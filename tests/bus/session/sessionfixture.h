@@ -157,14 +157,19 @@ protected:
     }
     void TearDown() override
     {
-        m_log.reset();
-        m_session.reset();
+        endSession();
         VirtualBusFixture::TearDown();
     }
 
+    /// The session first: the thread that signals has ended when whoever listens to it goes.
+    void endSession()
+    {
+        m_session.reset();
+        m_log.reset();
+    }
     void newSession()
     {
-        m_log.reset();
+        endSession();
         m_session = std::make_unique<Connection>();
         m_session->setPauseScale(0.05);
         m_log = std::make_unique<SessionLog>(*m_session);

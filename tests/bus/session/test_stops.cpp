@@ -52,7 +52,12 @@ protected:
         log().messages.clear();
         bus().clearReceived();
     }
-    void hit(Fault::Kind kind, int request) { bus().setFault({kind, kind == Fault::Late ? tooLateMs : 4, request, 1}); }
+    /// The next replies, and no poll in between: it has its usual period again.
+    void hit(Fault::Kind kind, int request)
+    {
+        session().setPauseScale(1);
+        bus().setFault({kind, kind == Fault::Late ? tooLateMs : 4, request, 1});
+    }
     bool waitForOutcome()
     {
         return waitUntil([this] { return !log().outcomes.isEmpty(); });
@@ -191,7 +196,7 @@ TEST_F(Stops, AStreamIsStoppedThroughANewOpeningOfThePort)
 TEST_F(Stops, ADisableOnTheWayOutOpensThePortAnew)
 {
     begin(true);
-    bus().setFaults({{Fault::Missing, 4, 0, 2}});
+    bus().setFaults({{Fault::Missing, 4, 0, 3}});
     ASSERT_TRUE(waitForDisconnect());
     disable();
     newSession(); // destroys the one before

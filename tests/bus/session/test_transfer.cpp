@@ -1,6 +1,8 @@
 // The full read, the full write, single commands and settings files: what goes over the wire, and what is kept.
 #include "sessionfixture.h"
 
+#include "catalogue.h"
+
 #include <QDir>
 #include <QRegularExpression>
 #include <cmath>
@@ -13,14 +15,18 @@ using testing::SizeIs;
 
 namespace {
 
-/// Registers of the catalogue in its order, without those that a Keta which is not a Pro lacks.
-const std::vector<int> ketaRegisters = {6014, 6020, 6002, 6016, 573,  6003, 14,   565,  493,  494,  490,  202, 200,
-                                        201,  220,  221,  222,  559,  558,  230,  567,  411,  410,  421,  569, 570,
-                                        555,  556,  496,  568,  498,  491,  492,  495,  562,  561,  6055, 560, 800,
-                                        801,  802,  557,  405,  406,  430,  566,  572,  563,  806,  804,  803, 808,
-                                        415,  835,  836,  823,  8120, 8121, 8122, 8125, 8126, 8127, 911,  910, 912};
-
-const std::vector<int> readOnlyRegisters = {6014, 6020, 6002, 6016, 6003, 6055};
+/// Registers of the catalogue in its order, without those that the drive lacks.
+std::vector<int> registersOf(const QString &model, bool writableOnly = false)
+{
+    const Parameters list = driveParameterCatalogue();
+    std::vector<int> result;
+    for (int i = 0; i < list.getParamCount(); ++i) {
+        const SingleParam param = list.getParam(i);
+        if (param.supportedInDevice(model) && !(writableOnly && param.readonly))
+            result.push_back(param.addr);
+    }
+    return result;
+}
 
 class Transfer : public SessionFixture
 {
@@ -79,14 +85,16 @@ TEST_F(Transfer, AFullReadIsOneExchangeARecordInCatalogueOrder)
 {
     ASSERT_TRUE(readAll());
     std::vector<std::string> expected;
-    for (int address : ketaRegisters) {
+    for (int address : registersOf("KETA")) {
         // Value, minimum (+ 0x4000) and maximum (+ 0x8000, which is negative in its 16 bits and so in the item).
         expected.push_back(wire("800a 400000 8009 40" + fourHexDigits(address) + "800a 400000 8009 40" +
                                 fourHexDigits(address + 0x4000) + "800a 400000 8009 7f" +
                                 fourHexDigits(address + 0x8000)));
     }
     EXPECT_THAT(payloads(), ElementsAreArray(expected));
-    ASSERT_EQ(held().getParamCount(), 70);
+    // The first and the last, typed.
+    EXPECT_EQ(expected.front(), wire("800a 400000 8009 40177e 800a 400000 8009 40577e 800a 400000 8009 7f977e"));
+    EXPECT_EQ(expected.back(), wire("800a 400000 8009 400390 800a 400000 8009 404390 800a 400000 8009 7f8390"));
     EXPECT_EQ(held().getParam("FBR").value, bus().read(5, 565));
     EXPECT_EQ(held().getParam("CM").value, bus().read(5, 559) - 1);
     EXPECT_EQ(held().getParam("TRF1").value, -1.0) << "a Pro's";
@@ -107,9 +115,7 @@ TEST_F(Transfer, AFullWriteBeginsWithTheLengthControlThenOneExchangeAWritableRec
 {
     apply(with("KVP", 321));
     std::vector<std::string> expected = {wire("800a 00000003")};
-    for (int address : ketaRegisters) {
-        if (std::find(readOnlyRegisters.begin(), readOnlyRegisters.end(), address) != readOnlyRegisters.end())
-            continue;
+    for (int address : registersOf("KETA", true)) {
         const int value = bus().read(5, address); // it holds what has just been written
         expected.push_back(fourHexDigits(address | 0x8000) + fourHexDigits((value >> 16) & 0x3fff) +
                            fourHexDigits(value & 0xffff));

@@ -11,15 +11,15 @@ namespace {
 QueuedTask enableTask(bool enable)
 {
     QueuedTask entry;
-    entry.task = Connection::TaskApplyEnableState;
-    entry.request.enable = enable;
+    entry.task = SessionTasks::TaskApplyEnableState;
+    entry.request = EnableRequest{enable, false};
     return entry;
 }
 
 void pushAll(TaskQueue &queue, std::initializer_list<int> codes)
 {
     for (int code : codes)
-        queue.push(static_cast<Connection::Task>(code));
+        queue.push(static_cast<SessionTasks::Task>(code));
 }
 
 } // namespace
@@ -35,16 +35,16 @@ TEST(TaskQueue, ATaskKeepsWhatWasAskedWhenItWasQueued)
 {
     TaskQueue queue;
     QueuedTask setpoint;
-    setpoint.task = Connection::TaskSetAbsoluteSetpoint;
+    setpoint.task = SessionTasks::TaskSetAbsoluteSetpoint;
     for (int target : {100, -200}) {
-        setpoint.request.setpoint = target;
+        setpoint.request = SetpointRequest{target};
         queue.push(setpoint);
     }
     QueuedTask taken;
     ASSERT_TRUE(queue.take(taken));
-    EXPECT_EQ(taken.request.setpoint, 100);
+    EXPECT_EQ(std::get<SetpointRequest>(taken.request).setpoint, 100);
     ASSERT_TRUE(queue.take(taken));
-    EXPECT_EQ(taken.request.setpoint, -200);
+    EXPECT_EQ(std::get<SetpointRequest>(taken.request).setpoint, -200);
     EXPECT_FALSE(queue.take(taken));
 }
 
@@ -63,7 +63,7 @@ TEST(TaskQueue, ADisableOvertakesEverythingAndDropsWhatWouldMove)
 TEST(TaskQueue, ARepeatedDisableDoesNotPileUp)
 {
     TaskQueue queue;
-    queue.push(Connection::TaskGetParams);
+    queue.push(SessionTasks::TaskGetParams);
     for (int i = 0; i < 5; ++i)
         queue.push(enableTask(false));
     EXPECT_THAT(queue.codes(), ElementsAre(11, 4));
@@ -72,7 +72,7 @@ TEST(TaskQueue, ARepeatedDisableDoesNotPileUp)
 TEST(TaskQueue, AnEnableWaitsItsTurnAlsoBehindADisable)
 {
     TaskQueue queue;
-    queue.push(Connection::TaskGetParams);
+    queue.push(SessionTasks::TaskGetParams);
     queue.push(enableTask(false));
     queue.push(enableTask(true));
     EXPECT_THAT(queue.codes(), ElementsAre(11, 4, 11));
@@ -114,17 +114,17 @@ TEST(TaskQueue, OneScanWaitsAtATimeTheNewest)
 {
     TaskQueue queue;
     QueuedTask scan;
-    scan.task = Connection::TaskScanBus;
-    scan.request.portName = "/dev/ttyS0";
+    scan.task = SessionTasks::TaskScanBus;
+    scan.request = ScanRequest{"/dev/ttyS0"};
     queue.push(scan);
-    queue.push(Connection::TaskSaveSettingsFile);
-    scan.request.portName = "/dev/ttyS1";
+    queue.push(SessionTasks::TaskSaveSettingsFile);
+    scan.request = ScanRequest{"/dev/ttyS1"};
     queue.push(scan);
     EXPECT_THAT(queue.codes(), ElementsAre(21, 23));
     QueuedTask taken;
     ASSERT_TRUE(queue.take(taken));
     ASSERT_TRUE(queue.take(taken));
-    EXPECT_EQ(taken.request.portName, "/dev/ttyS1");
+    EXPECT_EQ(std::get<ScanRequest>(taken.request).portName, "/dev/ttyS1");
 }
 
 TEST(TaskQueue, ClosingDisconnectsThenQuitsAndEndsPauses)
@@ -144,7 +144,7 @@ TEST(TaskQueue, APauseIsInterruptedByADisableOnly)
 {
     TaskQueue queue;
     std::thread user([&queue] {
-        queue.push(Connection::TaskGetParams);
+        queue.push(SessionTasks::TaskGetParams);
         queue.push(enableTask(true));
         queue.push(enableTask(false));
     });
@@ -158,7 +158,7 @@ TEST(TaskQueue, APauseIsInterruptedByADisableOnly)
 TEST(TaskQueue, WaitingEndsWhenATaskArrives)
 {
     TaskQueue queue;
-    std::thread user([&queue] { queue.push(Connection::TaskCheckErrors); });
+    std::thread user([&queue] { queue.push(SessionTasks::TaskCheckErrors); });
     queue.waitForTask(1h);
     EXPECT_THAT(queue.codes(), ElementsAre(9));
     user.join();

@@ -5,20 +5,27 @@
 
 #include "drivestate.h"
 #include "queueitem.h"
-#include "taskqueue.h"
 #include "zetabus.h"
 
 #include <QString>
+#include <chrono>
+#include <functional>
 
 /// Worker thread only. Work is batched as the bus library does it: append, execute, fetch the return values in order.
 /// Every status is ORed into an accumulated status, which is a success only while it is 0 or ZB_OK.
 class BusLine
 {
 public:
-    /// The queue says when the session closes, which has five seconds in all: from then on nothing follows a failed
-    /// exchange but a stop, and nothing at all is begun after 2.4 s, since one exchange on a babbling line takes two.
-    explicit BusLine(const TaskQueue &queue) : m_queue(queue) {}
+    using Milliseconds = std::chrono::milliseconds;
+    /// Whether the session has been closing for that long.
+    using IsClosing = std::function<bool(Milliseconds)>;
+
+    /// Closing has five seconds in all: from then on nothing follows a failed exchange but a stop, and nothing at all
+    /// is begun after 2.4 s, since one exchange on a babbling line takes two. Without a function it never closes.
+    explicit BusLine(IsClosing isClosing = {}) : m_isClosing(std::move(isClosing)) {}
     ~BusLine() { close(); }
+    BusLine(const BusLine &) = delete;
+    BusLine &operator=(const BusLine &) = delete;
 
     /// Opens the bus with a read time-out in ms and starts clean: a reused handle still holds what its last user left
     /// in its queue. False when there is no such port, no permission, or it is in use; see openError.
@@ -33,6 +40,8 @@ public:
 
     ZbStatus status() const { return m_status; }
     void clearStatus() { m_status = 0; }
+    /// No failure since the status was cleared.
+    bool isClean() const { return (m_status & ~ZB_OK) == 0; }
 
     /// Forgets the exchanges that went unanswered.
     void startTask() { m_failuresInARow = m_failures = 0; }
@@ -44,7 +53,6 @@ public:
     /// that goes on afterwards.
     void beginStop() { m_stopping = true; }
     void endStop() { m_stopping = false; }
-    bool lastExchangeFailed() const { return m_lastFailed; }
     /// Whether nothing at all came in answer to the last request.
     bool wasSilent() const;
 
@@ -63,7 +71,7 @@ public:
     void forgive(const Mark &before);
     /// How long after a failure a late reply to it is waited for before anything is asked again. Not where one came,
     /// damaged: the line has been quiet since.
-    TaskQueue::Milliseconds lateness() const { return TaskQueue::Milliseconds(m_mayComeLate ? m_timeoutMs : 0); }
+    Milliseconds lateness() const { return Milliseconds(m_mayComeLate ? m_timeoutMs : 0); }
     const LineMeter &meter() const { return m_meter; }
 
     /// Each returns its own status. An item that does not fit, or a register or value with more bits than a write item
@@ -104,7 +112,9 @@ private:
     void dropStrays();
     void countFailure();
 
-    const TaskQueue &m_queue;
+    bool isClosing(Milliseconds grace = Milliseconds(0)) const { return m_isClosing && m_isClosing(grace); }
+
+    IsClosing m_isClosing;
     ZbHandle m_handle = -1;
     std::uint8_t m_node = 0;
     ZbStatus m_status = 0;

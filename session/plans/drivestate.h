@@ -96,10 +96,11 @@ void takeWordingSettings(const Parameters &list, DriveState &state);
 /// Translated reason for the last current limit, e.g. "Peak current [MMC]"; "Unknown (n)" for a code that has none.
 QString limitReasonText(int code);
 
-/// The plan of one poll, in one exchange. The items walk the drive's return selector: select register 10, write 0 (4
-/// bytes a return value), select register 9, then one value item a register, each of which returns the register that it
-/// has just named. The three items in front have return values too, so that 27 registers fill the 120 bytes of a reply;
-/// that is exactly what there is to read with the debug values and a watched register.
+/// The plan of one poll. The items walk the drive's return selector: select register 10, write 0 (4 bytes a return
+/// value), select register 9, then one value item a register, each of which returns the register that it has just
+/// named. The three items in front have return values too, so that 27 registers fill the 120 bytes of a reply: exactly
+/// what there is to read with the debug values and a watched register. Any more go into a further exchange, which
+/// begins with the same three items.
 class StatusPoll
 {
 public:
@@ -112,11 +113,12 @@ public:
 
     /// Registers in the order of reading. In firmware-upgrade mode the fault register alone, whatever else is wanted.
     QVector<int> registers() const;
-    /// The request. It has as many return values as items.
-    QVector<QueueItem> items() const;
-    /// Stores the return values of all items (those of the set-up items first) in display units, and the watched
-    /// address that they were read for. With another number of values it returns false and changes nothing.
-    bool store(const QVector<qint32> &returnValues, DriveState &state) const;
+    /// The requests, one after the other. Each has as many return values as items, the first three of no interest.
+    QVector<QVector<QueueItem>> exchanges() const;
+    static QVector<QVector<QueueItem>> exchangesFor(const QVector<int> &registers);
+    /// Stores the values of the registers in display units, and the watched address that they were read for. With
+    /// another number of values it returns false and changes nothing.
+    bool store(const QVector<qint32> &values, DriveState &state) const;
 
 private:
     bool m_firmwareUpgradeMode;

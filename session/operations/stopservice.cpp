@@ -1,116 +1,113 @@
-// What stops a drive, and how sure it is that it did: also without a connection, and where enabling went wrong.
+#include "stopservice.h"
+
 #include "errortexts.h"
-#include "sessionregisters.h"
-#include "sessionworker.h"
 
 #include <thread>
 #include <utility>
 
 namespace {
 
-using Clock = std::chrono::steady_clock;
-
-constexpr int stopAttempts = 3;
 /// How long a drive may go on showing that it is enabled after it has acknowledged a disable.
 constexpr std::chrono::milliseconds takesEffectWithin(1000);
 constexpr std::chrono::milliseconds lookAgainAfter(20);
 
 } // namespace
 
-bool SessionWorker::serveWaitingDisable()
+StopService::StopService(OperationContext &context, std::function<bool()> poll)
+    : Operation(context), m_poll(std::move(poll))
+{
+    m_pauses.setStops(
+        {[this] { return serveWaitingDisable(); }, [this](Clock::time_point end) { disableRestartingDrive(end); }});
+}
+
+void StopService::setTarget(const QString &portName, int nodeAddress)
+{
+    m_streamWasLost = false;
+    std::lock_guard<std::mutex> lock(m_data.mutex);
+    m_data.targetPort = portName;
+    m_data.targetNode = nodeAddress;
+}
+
+bool StopService::serveWaitingDisable()
 {
     // Without a connection it stays in the queue, for disableWithoutConnection.
-    if (!isConnected())
+    if (!m_data.connected)
         return false;
     QueuedTask entry;
-    if (!m_queue.takeDisable(entry) || inFirmwareUpgradeMode())
+    if (!m_queue.takeDisable(entry) || m_data.firmwareUpgradeMode)
         return false;
     disableDrive();
     return true;
 }
 
-/// One request lost on the way must not leave the machine moving. A failure that was mended is forgotten; what went
-/// wrong when no answer came stays in the status, to be reported.
-bool SessionWorker::sendStop(int address, long value)
-{
-    const BusLine::Mark before = m_line.mark();
-    bool acknowledged = false;
-    m_line.beginStop();
-    for (int attempt = 0; attempt < stopAttempts && !acknowledged; ++attempt)
-        acknowledged = writeAndFetch(address, value);
-    m_line.endStop();
-    if (acknowledged)
-        m_line.forgive(before);
-    return acknowledged;
-}
-
-void SessionWorker::disableDrive()
+void StopService::disableDrive()
 {
     const int errorsBefore = m_line.meter().errors;
-    const bool acknowledged = sendStop(reg::SoftEnable, 0);
+    const bool acknowledged = m_drive.sendStop(reg::SoftEnable, 0);
     m_disableSent = Clock::now();
-    m_stopIsUnconfirmed = !acknowledged;
+    m_atStake.stopIsUnconfirmed = !acknowledged;
     announceDisable(acknowledged);
     // The end of this connection has been told already, which would leave this unsaid.
-    if (!acknowledged && m_communicationReported)
-        tell(MessageKind::UnconfirmedStop,
-             Connection::tr("The drive did not confirm the disable: it may still be powered. Esc tries again; the sure "
+    if (!acknowledged && m_errors.lineWasReported())
+        m_errors.tell(
+            MessageKind::UnconfirmedStop,
+            SessionText::tr("The drive did not confirm the disable: it may still be powered. Esc tries again; the sure "
                             "way is the machine's own stop."));
     // A reply that was lost leaves a doubt about the one that came: what the drive shows ends it.
     if (acknowledged && m_line.meter().errors != errorsBefore)
-        poll();
+        m_poll();
 }
 
 /// A drive that restarts is deaf for a while: it is told again until it answers or the pause is over.
-void SessionWorker::disableRestartingDrive(Clock::time_point deadline)
+void StopService::disableRestartingDrive(Clock::time_point deadline)
 {
     QueuedTask entry;
-    if (!m_queue.takeDisable(entry) || !isConnected() || inFirmwareUpgradeMode())
+    if (!m_queue.takeDisable(entry) || !m_data.connected || m_data.firmwareUpgradeMode)
         return;
-    const bool restarts = statusIsClean(); // otherwise the restart itself went wrong, which is still to be reported
-    bool acknowledged = sendStop(reg::SoftEnable, 0);
+    const bool restarts = m_line.isClean(); // otherwise the restart itself went wrong, which is still to be reported
+    bool acknowledged = m_drive.sendStop(reg::SoftEnable, 0);
     while (!acknowledged && restarts && !m_queue.isClosing() && Clock::now() < deadline) {
         // A port that has gone fails at once; do not spin on it.
         std::this_thread::sleep_for(lookAgainAfter);
-        acknowledged = sendStop(reg::SoftEnable, 0);
+        acknowledged = m_drive.sendStop(reg::SoftEnable, 0);
     }
     if (acknowledged && restarts) { // it was deaf for a while, as it had to be
         m_line.startTask();
         m_line.clearStatus();
     }
     m_disableSent = Clock::now();
-    m_stopIsUnconfirmed = !acknowledged;
+    m_atStake.stopIsUnconfirmed = !acknowledged;
     announceDisable(acknowledged);
 }
 
-void SessionWorker::announceDisable(bool acknowledged)
+void StopService::announceDisable(bool acknowledged)
 {
-    emit m_session.disableAnswered(acknowledged);
+    emit m_out.disableAnswered(acknowledged);
     // Whoever pressed it wants to see soon whether it took effect.
-    if (!m_queue.contains(Connection::TaskUpdateStatus))
-        m_queue.push(Connection::TaskUpdateStatus);
+    if (!m_queue.contains(SessionTasks::TaskUpdateStatus))
+        m_queue.push(SessionTasks::TaskUpdateStatus);
 }
 
-void SessionWorker::announceDisableOutcome(DisableOutcome outcome)
+void StopService::announceDisableOutcome(DisableOutcome outcome)
 {
     m_disableSent.reset();
-    emit m_session.disableFinished(outcome);
+    emit m_out.disableFinished(outcome);
 }
 
-void SessionWorker::lookForDisable()
+void StopService::lookForDisable(const DriveState &state)
 {
-    m_mayBeEnabled = m_state.isEnabled();
-    if (!m_mayBeEnabled)
-        m_stopIsUnconfirmed = false;
+    m_atStake.mayBeEnabled = state.isEnabled();
+    if (!m_atStake.mayBeEnabled)
+        m_atStake.stopIsUnconfirmed = false;
     if (!m_disableSent)
         return;
-    if (!m_mayBeEnabled)
+    if (!m_atStake.mayBeEnabled)
         announceDisableOutcome(DisableOutcome::Disabled);
     else if (Clock::now() - *m_disableSent > takesEffectWithin)
         announceDisableOutcome(DisableOutcome::StillEnabled);
 }
 
-bool SessionWorker::writeBothDisables()
+bool StopService::writeBothDisables()
 {
     m_line.appendWrite(reg::SoftEnable, 0);
     m_line.appendWrite(reg::ForceEnable, 0);
@@ -122,13 +119,13 @@ bool SessionWorker::writeBothDisables()
 }
 
 /// What the drive shows is what counts: an acknowledgement may have been the late answer to something else.
-DisableOutcome SessionWorker::disableAndReadBack()
+DisableOutcome StopService::disableAndReadBack()
 {
     DisableOutcome outcome = DisableOutcome::NoAnswer;
     m_line.beginStop();
     for (int round = 0; round < 2 && outcome != DisableOutcome::Disabled; ++round) {
         bool acknowledged = false;
-        for (int attempt = 0; attempt < stopAttempts && !acknowledged; ++attempt)
+        for (int attempt = 0; attempt < DriveAccess::stopAttempts && !acknowledged; ++attempt)
             acknowledged = writeBothDisables();
         outcome = readBackEnable();
         if (outcome == DisableOutcome::NoAnswer)
@@ -138,13 +135,13 @@ DisableOutcome SessionWorker::disableAndReadBack()
     return outcome;
 }
 
-DisableOutcome SessionWorker::readBackEnable()
+DisableOutcome StopService::readBackEnable()
 {
     const auto deadline = Clock::now() + takesEffectWithin;
     for (;;) {
         long status = 0;
         long softEnable = 0;
-        if (readParameters(reg::StatusRegister, status, reg::SoftEnable, softEnable) != ZB_OK)
+        if (m_drive.readParameters(reg::StatusRegister, status, reg::SoftEnable, softEnable) != ZB_OK)
             return DisableOutcome::NoAnswer;
         const bool commanded = (softEnable & 1) != 0;
         if (!commanded && (status & statusBitEnabled) == 0)
@@ -155,27 +152,37 @@ DisableOutcome SessionWorker::readBackEnable()
     }
 }
 
-/// A drive whose enabling was not acknowledged may be enabled all the same, which nobody would know.
-void SessionWorker::undoEnable()
+void StopService::beginEnable()
+{
+    m_atStake.stopIsUnconfirmed = false;
+    m_atStake.mayBeEnabled = true;
+    m_disableSent.reset();
+}
+
+void StopService::endConnection()
+{
+    if (m_disableSent)
+        announceDisableOutcome(DisableOutcome::NoAnswer);
+}
+
+void StopService::undoEnable()
 {
     const DisableOutcome outcome = disableAndReadBack();
     if (outcome == DisableOutcome::Disabled) {
         m_line.startTask();
         m_line.clearStatus(); // told here; the line works
-        m_mayBeEnabled = false;
+        m_atStake.mayBeEnabled = false;
     } else {
-        m_stopIsUnconfirmed = true;
+        m_atStake.stopIsUnconfirmed = true;
         m_enableIsToBeUndone = outcome == DisableOutcome::NoAnswer;
     }
     announceDisableOutcome(outcome);
-    tell(outcome == DisableOutcome::Disabled ? MessageKind::Undone : MessageKind::UnconfirmedStop,
-         undoneEnableText(outcome));
-    m_queue.push(Connection::TaskUpdateStatus);
+    m_errors.tell(outcome == DisableOutcome::Disabled ? MessageKind::Undone : MessageKind::UnconfirmedStop,
+                  undoneEnableText(outcome));
+    m_queue.push(SessionTasks::TaskUpdateStatus);
 }
 
-/// The session's own motion, and an enable that it could not take back, are not left to a connection that has gone:
-/// the port is opened once more. Nothing else disables a drive that the user has not told to.
-void SessionWorker::stopWhatWasLeft()
+void StopService::stopWhatWasLeft()
 {
     if (std::exchange(m_enableIsToBeUndone, false)) {
         disableWithoutConnection();
@@ -187,15 +194,15 @@ void SessionWorker::stopWhatWasLeft()
         port = m_data.targetPort;
     }
     // A disable that waits comes first, and does this, too.
-    if (!m_streamWasLost || m_queue.contains(Connection::TaskApplyEnableState) ||
+    if (!m_streamWasLost || m_queue.contains(SessionTasks::TaskApplyEnableState) ||
         !m_line.open(port, m_data.replyTimeoutMs))
         return;
-    m_streamWasLost = !sendStop(reg::SystemCommand, reg::CommandStopStream);
+    m_streamWasLost = !m_drive.sendStop(reg::SystemCommand, reg::CommandStopStream);
     m_line.close();
     m_line.clearStatus();
 }
 
-void SessionWorker::disableWithoutConnection()
+void StopService::disableWithoutConnection()
 {
     QString port;
     int node = 0;
@@ -209,17 +216,17 @@ void SessionWorker::disableWithoutConnection()
     qCDebug(sessionLog) << "disabling without a connection" << port << node;
     DisableOutcome outcome = DisableOutcome::NoPort;
     if (m_line.open(port, m_data.replyTimeoutMs)) {
-        m_asksAgain = true;
+        m_drive.setAsksAgain(true);
         m_line.setNodeAddress(node);
         outcome = disableAndReadBack();
         if (m_streamWasLost && outcome != DisableOutcome::NoAnswer)
-            m_streamWasLost = !sendStop(reg::SystemCommand, reg::CommandStopStream);
+            m_streamWasLost = !m_drive.sendStop(reg::SystemCommand, reg::CommandStopStream);
     }
     const QString trouble = outcome == DisableOutcome::NoPort ? openErrorText(port, m_line.openError()) : QString();
     m_line.close();
     m_line.clearStatus();
-    emit m_session.disableAnswered(outcome == DisableOutcome::Disabled || outcome == DisableOutcome::StillEnabled);
+    emit m_out.disableAnswered(outcome == DisableOutcome::Disabled || outcome == DisableOutcome::StillEnabled);
     announceDisableOutcome(outcome);
-    tell(outcome == DisableOutcome::Disabled ? MessageKind::Note : MessageKind::UnconfirmedStop,
-         disabledWithoutConnectionText(outcome, port, node) + trouble);
+    m_errors.tell(outcome == DisableOutcome::Disabled ? MessageKind::Note : MessageKind::UnconfirmedStop,
+                  disabledWithoutConnectionText(outcome, port, node) + trouble);
 }

@@ -50,7 +50,6 @@ constexpr LiveRegister liveRegisters[] = {
 };
 constexpr int liveRegisterCount = sizeof(liveRegisters) / sizeof(liveRegisters[0]);
 constexpr int debugValueCount = std::tuple_size<decltype(DriveState::debugValues)>::value;
-static_assert(liveRegisterCount + debugValueCount + 1 <= StatusPoll::maxRegisterCount, "the poll must fit one reply");
 
 constexpr const char *limitReasons[] = {
     QT_TRANSLATE_NOOP("Connection", "None"),
@@ -99,7 +98,6 @@ QVector<int> StatusPoll::registers() const
     if (m_firmwareUpgradeMode)
         return {reg::FaultRegister};
     QVector<int> list;
-    list.reserve(maxRegisterCount);
     for (const LiveRegister &live : liveRegisters)
         list.append(live.address);
     for (int i = 0; m_debugValues && i < debugValueCount; ++i)
@@ -109,32 +107,40 @@ QVector<int> StatusPoll::registers() const
     return list;
 }
 
-QVector<QueueItem> StatusPoll::items() const
+QVector<QVector<QueueItem>> StatusPoll::exchanges() const
 {
-    QVector<QueueItem> list = {
-        {QueueItem::Address, reg::ReturnLength},
-        {QueueItem::Value24, reg::Returns30Bits},
-        {QueueItem::Address, reg::ReturnSelector},
-    };
-    for (int address : registers())
-        list.append({QueueItem::Value24, address});
-    return list;
+    return exchangesFor(registers());
 }
 
-bool StatusPoll::store(const QVector<qint32> &returnValues, DriveState &state) const
+QVector<QVector<QueueItem>> StatusPoll::exchangesFor(const QVector<int> &registers)
 {
-    if (returnValues.size() != setUpItemCount + registers().size())
+    QVector<QVector<QueueItem>> result;
+    for (int i = 0; i < registers.size(); ++i) {
+        if (i % maxRegisterCount == 0)
+            result.append({
+                {QueueItem::Address, reg::ReturnLength},
+                {QueueItem::Value24, reg::Returns30Bits},
+                {QueueItem::Address, reg::ReturnSelector},
+            });
+        result.last().append({QueueItem::Value24, registers.at(i)});
+    }
+    return result;
+}
+
+bool StatusPoll::store(const QVector<qint32> &values, DriveState &state) const
+{
+    if (values.size() != registers().size())
         return false;
-    int next = setUpItemCount; // what the set-up items returned belongs to whoever used the selector before
+    int next = 0;
     const int liveCount = m_firmwareUpgradeMode ? 1 : liveRegisterCount;
     for (int i = 0; i < liveCount; ++i)
-        storeRegister(liveRegisters[i], returnValues[next++], state);
+        storeRegister(liveRegisters[i], values[next++], state);
     if (m_firmwareUpgradeMode)
         return true;
     for (int i = 0; m_debugValues && i < debugValueCount; ++i)
-        state.debugValues[i] = returnValues[next++];
+        state.debugValues[i] = values[next++];
     if (m_watchedAddress != 0)
-        state.watchedValue = returnValues[next++];
+        state.watchedValue = values[next++];
     state.watchedAddress = m_watchedAddress;
     return true;
 }

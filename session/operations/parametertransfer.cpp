@@ -1,6 +1,6 @@
-// Reading from the drive: registers, and the session's list of parameters.
-#include "sessionregisters.h"
-#include "sessionworker.h"
+#include "parametertransfer.h"
+
+#include "devicemodel.h"
 
 namespace {
 
@@ -13,57 +13,24 @@ bool knownToBootloader(int address)
 
 } // namespace
 
-/// One exchange for all of them, asked a second time when no good reply came.
-ZbStatus SessionWorker::readRegisters(std::initializer_list<int> addresses, std::initializer_list<long *> values)
-{
-    ZbStatus status = 0;
-    askAgain([&] {
-        status = 0;
-        for (int address : addresses)
-            status |= m_line.appendRead(address);
-        status |= m_line.execute();
-        for (long *value : values)
-            status |= m_line.fetchRead(value);
-        status |= m_line.finishReply();
-        return status == ZB_OK;
-    });
-    return status;
-}
-
-ZbStatus SessionWorker::readParameters(int address1, long &value1)
-{
-    return readRegisters({address1}, {&value1});
-}
-
-ZbStatus SessionWorker::readParameters(int address1, long &value1, int address2, long &value2)
-{
-    return readRegisters({address1, address2}, {&value1, &value2});
-}
-
-ZbStatus SessionWorker::readParameters(int address1, long &value1, int address2, long &value2, int address3,
-                                       long &value3)
-{
-    return readRegisters({address1, address2, address3}, {&value1, &value2, &value3});
-}
-
-ZbStatus SessionWorker::requestParamStruct(const SingleParam &param)
+ZbStatus ParameterTransfer::requestParamStruct(const SingleParam &param)
 {
     ZbStatus status = m_line.appendRead(param.addr);
     status |= m_line.appendRead(param.addr | reg::MinimumFlag);
     status |= m_line.appendRead(param.addr | reg::MaximumFlag);
-    if (!statusIsClean())
+    if (!m_line.isClean())
         qCDebug(sessionLog) << "err1" << m_line.status();
     return status;
 }
 
-bool SessionWorker::fillParamStruct(SingleParam &param)
+bool ParameterTransfer::fillParamStruct(SingleParam &param)
 {
     long value = 0, min = 0, max = 0;
     ZbStatus status = m_line.fetchRead(&value);
     status |= m_line.fetchRead(&min);
     status |= m_line.fetchRead(&max);
     status |= m_line.finishReply();
-    if (!statusIsClean())
+    if (!m_line.isClean())
         qCDebug(sessionLog) << "err2" << m_line.status();
     if (status != ZB_OK)
         return false;
@@ -73,24 +40,29 @@ bool SessionWorker::fillParamStruct(SingleParam &param)
     return true;
 }
 
-bool SessionWorker::readRecord(SingleParam &param)
+bool ParameterTransfer::readRecord(SingleParam &param)
 {
-    return askAgain([&] {
+    return m_drive.askAgain(DriveAccess::Read, [&] {
         const ZbStatus requested = requestParamStruct(param);
         const ZbStatus executed = m_line.execute();
         return fillParamStruct(param) && (requested | executed) == ZB_OK;
     });
 }
 
+bool ParameterTransfer::isParamAvailableInCurrentDevice(const SingleParam &param) const
+{
+    return param.supportedInDevice(deviceModelName(m_data.deviceType, false));
+}
+
 /// All records into `list`; false when it broke off.
-bool SessionWorker::readRecords(Parameters &list)
+bool ParameterTransfer::readRecords(Parameters &list)
 {
     for (int index = 0; index < list.getParamCount(); ++index) {
-        if (m_queue.isClosing())
+        if (m_pauses.isClosing())
             return false;
-        serveWaitingDisable();
+        m_pauses.serveWaitingDisable();
         SingleParam param = list.getParam(index);
-        if (inFirmwareUpgradeMode() && !knownToBootloader(param.addr))
+        if (m_data.firmwareUpgradeMode && !knownToBootloader(param.addr))
             continue;
         if (!isParamAvailableInCurrentDevice(param)) {
             param.value = -1.0;
@@ -102,7 +74,7 @@ bool SessionWorker::readRecords(Parameters &list)
     return true;
 }
 
-void SessionWorker::getParams(const TaskRequest &)
+void ParameterTransfer::getParams()
 {
     unsigned handOvers = 0;
     Parameters list;
@@ -128,7 +100,7 @@ void SessionWorker::getParams(const TaskRequest &)
     }
     m_data.driveWasRead = true;
     m_controlMode = truncateToInt32(list.getParam(QStringLiteral("CM")).value);
-    m_data.valuesComplete = !inFirmwareUpgradeMode();
-    emit m_session.driveParametersChanged(list);
-    emit m_session.parametersRetreived(list, false);
+    m_data.valuesComplete = !m_data.firmwareUpgradeMode;
+    emit m_out.driveParametersChanged(list);
+    emit m_out.parametersRetreived(list, false);
 }

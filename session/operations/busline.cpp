@@ -7,7 +7,7 @@ constexpr long minWriteValue = -(1L << 29);
 constexpr long maxWriteValue = (1L << 29) - 1;
 constexpr int registerBits = 0x3FFF;
 constexpr int babblesAfter = 3; // requests in a row that found something on the line
-constexpr TaskQueue::Milliseconds closingLimit(2400);
+constexpr BusLine::Milliseconds closingLimit(2400);
 
 bool isFailure(ZbStatus status)
 {
@@ -63,12 +63,12 @@ ZbStatus BusLine::recordDecoding(ZbStatus status)
 
 bool BusLine::isDead() const
 {
-    return m_failuresInARow >= 3 || m_failures >= 4 || (m_lastFailed && m_queue.isClosing());
+    return m_failuresInARow >= 3 || m_failures >= 4 || (m_lastFailed && isClosing());
 }
 
 bool BusLine::maySend() const
 {
-    return (m_stopping || !isDead()) && !m_queue.isClosing(closingLimit);
+    return (m_stopping || !isDead()) && !isClosing(closingLimit);
 }
 
 bool BusLine::wasSilent() const
@@ -78,7 +78,7 @@ bool BusLine::wasSilent() const
 
 bool BusLine::mayRepeat() const
 {
-    return m_lastFailed && m_wasSent && !isDead() && !m_queue.isClosing() && !isGone();
+    return m_lastFailed && m_wasSent && !isDead() && !isClosing() && !isGone();
 }
 
 void BusLine::forgive(const Mark &before)

@@ -1,77 +1,92 @@
-// The drive's recorder: arming it and reading what it caught.
+#include "capturerun.h"
+
 #include "scopechannels.h"
-#include "sessionregisters.h"
-#include "sessionworker.h"
 
 #include <algorithm>
 #include <utility>
 
-void SessionWorker::startCapture(const TaskRequest &request)
+void CaptureRun::startCapture(const CaptureRequest &request)
 {
-    if (request.capture.enabledCount < 1) {
-        tell(MessageKind::Note, Connection::tr("No scope channels selected. Select at least one."));
+    if (request.enabledCount < 1) {
+        m_errors.tell(MessageKind::Note, SessionText::tr("No scope channels selected. Select at least one."));
         return;
     }
     announceCapture(CaptureState::Waiting);
-    // The download uses this copy: what is ticked while the recorder waits is for the next capture.
-    m_capture.request = request.capture;
+    m_run.request = request;
     initScope();
-    m_capture.pending = statusIsClean();
-    if (!m_capture.pending)
+    m_run.pending = m_line.isClean();
+    if (!m_run.pending)
         announceCapture(CaptureState::Idle);
 }
 
-void SessionWorker::announceCapture(CaptureState state)
+void CaptureRun::announceCapture(CaptureState state)
 {
     switch (state) {
     case CaptureState::Idle:
-        emit m_session.updateCaptureButtonText(Connection::tr("Start capture"));
+        emit m_out.updateCaptureButtonText(SessionText::tr("Start capture"));
         break;
     case CaptureState::Waiting:
-        emit m_session.updateCaptureButtonText(Connection::tr("Scope waiting.."));
+        emit m_out.updateCaptureButtonText(SessionText::tr("Scope waiting.."));
         break;
     case CaptureState::Downloading:
-        emit m_session.updateCaptureButtonText(Connection::tr("Downloading.."));
+        emit m_out.updateCaptureButtonText(SessionText::tr("Downloading.."));
         break;
     }
-    emit m_session.captureStateChanged(state);
+    emit m_out.captureStateChanged(state);
 }
 
-void SessionWorker::initScope()
+void CaptureRun::initScope()
 {
     const double base = m_data.baseFrequency;
-    const int divider = scopeDivider(base, m_capture.request.sampleRate);
-    m_capture.samplePeriod = scopeSamplePeriod(base, divider);
+    const int divider = scopeDivider(base, m_run.request.sampleRate);
+    m_run.samplePeriod = scopeSamplePeriod(base, divider);
     qCDebug(sessionLog) << "Samplerate value " << divider;
-    m_line.appendWrite(reg::ScopeSources, scopeSourceMask(m_capture.request.channels));
+    m_line.appendWrite(reg::ScopeSources, scopeSourceMask(m_run.request.channels));
     m_line.appendWrite(reg::ScopeDivider, divider);
     m_line.execute();
     m_line.fetchWrite();
     m_line.fetchWrite();
     m_line.finishReply();
-    writeAndFetch(reg::ScopeState, m_capture.request.triggerCode);
+    m_drive.writeAndFetch(reg::ScopeState, m_run.request.triggerCode);
 }
 
-void SessionWorker::downloadCapture(const TaskRequest &)
+void CaptureRun::lookForEnd(const DriveState &state)
+{
+    qCDebug(sessionLog) << "Pend scope " << m_run.pending << state.scopeState;
+    if (!m_run.pending || state.scopeState != 0)
+        return;
+    m_run.pending = false;
+    announceCapture(CaptureState::Downloading);
+    m_queue.push(SessionTasks::TaskDownloadScope);
+}
+
+void CaptureRun::reset()
+{
+    if (m_run.pending)
+        announceCapture(CaptureState::Idle);
+    m_run = {};
+}
+
+void CaptureRun::downloadCapture()
 {
     // Armed anew while this waited: the recorder's memory is no longer what was to be read.
-    if (m_capture.pending)
+    if (m_run.pending)
         return;
     // A picture of invented data is worse than none: without the whole memory there is no plot. A copy of a reply that
     // was still on the line may have been taken for the next one: then it is read once more, and the poll behind it
     // shows that the answers still belong to their questions.
     int strays = m_line.meter().strays;
-    bool whole = downloadScope(scopeWordCount) && poll();
+    bool whole = downloadScope(scopeWordCount) && m_poll();
     if (whole && strays != m_line.meter().strays) {
         strays = m_line.meter().strays;
-        whole = downloadScope(scopeWordCount) && poll() && strays == m_line.meter().strays;
+        whole = downloadScope(scopeWordCount) && m_poll() && strays == m_line.meter().strays;
     }
     if (whole)
-        emit m_session.plotReady(m_capture.request.channels);
+        emit m_out.plotReady(m_run.request.channels);
     announceCapture(CaptureState::Idle);
 }
 
-bool SessionWorker::selectScopeMemory()
+bool CaptureRun::selectScopeMemory()
 {
     qCDebug(sessionLog, "SCOPE INIT SCOPE INIT SCOPE INIT SCOPE INIT SCOPE INIT ");
     for (const QueueItem &item : scopeDownloadSetUp)
@@ -80,22 +95,21 @@ bool SessionWorker::selectScopeMemory()
     for (std::size_t i = 0; i < scopeDownloadSetUp.size(); ++i)
         m_line.fetch(nullptr);
     qCDebug(sessionLog, "SCOPE READ SCOPE READ SCOPE READ SCOPE READ SCOPE READ SCOPE READ ");
-    return statusIsClean();
+    return m_line.isClean();
 }
 
-bool SessionWorker::downloadScope(int words)
+bool CaptureRun::downloadScope(int words)
 {
     const auto isEnabled = [](const CaptureData &channel) { return channel.enabled; };
-    for (CaptureData &channel : m_capture.request.channels)
+    for (CaptureData &channel : m_run.request.channels)
         channel.samples.clear();
-    if (std::none_of(m_capture.request.channels.cbegin(), m_capture.request.channels.cend(), isEnabled) ||
-        !selectScopeMemory())
+    if (std::none_of(m_run.request.channels.cbegin(), m_run.request.channels.cend(), isEnabled) || !selectScopeMemory())
         return false;
     for (int first = 0; first < words; first += scopeChunkWords) {
-        if (m_queue.isClosing())
+        if (m_pauses.isClosing())
             return false;
         // A disable has moved the write address: the addresses that follow would go to the enable register.
-        if (serveWaitingDisable() && !selectScopeMemory())
+        if (m_pauses.serveWaitingDisable() && !selectScopeMemory())
             return false;
         const int count = std::min(scopeChunkWords, words - first);
         if (!downloadScopeWords(first, count))
@@ -105,20 +119,20 @@ bool SessionWorker::downloadScope(int words)
     return true;
 }
 
-bool SessionWorker::downloadScopeWords(int first, int count)
+bool CaptureRun::downloadScopeWords(int first, int count)
 {
     QList<qint16> words;
     bool again = false;
-    const bool whole = askAgain([&] {
+    const bool whole = m_drive.askAgain(DriveAccess::Read, [&] {
         // A stop that was served meanwhile has moved the write address: see downloadScope.
         return (!std::exchange(again, true) || selectScopeMemory()) && askScopeWords(first, count, words);
     });
     for (int i = 0; whole && i < count; ++i)
-        storeCaptureSample(m_capture.request.channels, first + i, words.at(i), m_capture.samplePeriod);
-    return whole && statusIsClean();
+        storeCaptureSample(m_run.request.channels, first + i, words.at(i), m_run.samplePeriod);
+    return whole && m_line.isClean();
 }
 
-bool SessionWorker::askScopeWords(int first, int count, QList<qint16> &words)
+bool CaptureRun::askScopeWords(int first, int count, QList<qint16> &words)
 {
     words.clear();
     for (int i = 0; i < count; ++i)

@@ -1,13 +1,8 @@
-// The periodic poll: one exchange, three panels, and what follows from the values.
-#include "sessionworker.h"
+#include "statusmonitor.h"
+
 #include "statustexts.h"
 
-void SessionWorker::updateStatus(const TaskRequest &)
-{
-    poll();
-}
-
-bool SessionWorker::poll()
+bool StatusMonitor::poll()
 {
     DriveState state = m_state;
     {
@@ -18,9 +13,9 @@ bool SessionWorker::poll()
         state.debugValuesShown = m_data.debugValuesShown;
     }
     state.deviceType = m_data.deviceType;
-    state.firmwareUpgradeMode = inFirmwareUpgradeMode();
+    state.firmwareUpgradeMode = m_data.firmwareUpgradeMode;
     const StatusPoll plan(state);
-    if (!askAgain([&] { return askPoll(plan, state); }) || !statusIsClean())
+    if (!m_drive.askAgain(DriveAccess::Read, [&] { return askPoll(plan, state); }) || !m_line.isClean())
         return false;
     state.sequence = m_state.sequence + 1; // a stop served while asking again may have polled, too
     state.when = std::chrono::steady_clock::now();
@@ -30,61 +25,73 @@ bool SessionWorker::poll()
     return true;
 }
 
-bool SessionWorker::askPoll(const StatusPoll &plan, DriveState &state)
+bool StatusMonitor::askPoll(const StatusPoll &plan, DriveState &state)
 {
-    const QVector<QueueItem> items = plan.items();
+    QVector<qint32> values;
+    for (const QVector<QueueItem> &items : plan.exchanges()) {
+        if (!askExchange(items, values))
+            return false;
+    }
+    return plan.store(values, state);
+}
+
+/// Appends what the drive returned, without what the set-up items did: that belongs to whoever used the selector
+/// before.
+bool StatusMonitor::askExchange(const QVector<QueueItem> &items, QVector<qint32> &values)
+{
     ZbStatus status = 0;
     for (const QueueItem &item : items)
         status |= m_line.append(item);
     status |= m_line.execute();
-    QVector<qint32> values;
     for (int i = 0; i < items.size(); ++i) {
         long value = 0;
         status |= m_line.fetch(&value);
-        values << static_cast<qint32>(value);
+        if (i >= StatusPoll::setUpItemCount)
+            values << static_cast<qint32>(value);
     }
     status |= m_line.finishReply();
-    return status == ZB_OK && plan.store(values, state);
+    return status == ZB_OK;
 }
 
-void SessionWorker::announcePanels()
+void StatusMonitor::announcePanels()
 {
     bool inactivityReason = false;
-    const QString none = Connection::tr("Not available in firmware upgrade mode");
+    const QString none = SessionText::tr("Not available in firmware upgrade mode");
     const bool running = !m_state.firmwareUpgradeMode;
     // In this order: the fault panel ends with the legend for the marks of all three.
     const QString inputs = running ? getDigitalInsString(m_state, inactivityReason) : none;
     const QString status = running ? getStatusRegString(m_state, inactivityReason) : none;
     const QString faults = getFaultRegString(m_state, inactivityReason);
-    emit m_session.physInputsUpdated(inputs);
-    emit m_session.statusRegisterUpdated(status);
-    emit m_session.faultRegisterUpdated(faults);
+    emit m_out.physInputsUpdated(inputs);
+    emit m_out.statusRegisterUpdated(status);
+    emit m_out.faultRegisterUpdated(faults);
 }
 
-void SessionWorker::announcePoll()
+void StatusMonitor::announcePoll()
 {
     if (!m_state.firmwareUpgradeMode)
         m_data.positionFeedback = m_state.position;
     announcePanels();
     if (m_state.firmwareUpgradeMode) {
-        emit m_session.statePolled(m_state);
+        emit m_out.statePolled(m_state);
         return;
     }
-    emit m_session.enableStatePolled(m_state.isEnabled());
-    emit m_session.statePolled(m_state);
-    lookForDisable();
+    emit m_out.enableStatePolled(m_state.isEnabled());
+    emit m_out.statePolled(m_state);
 
     if (m_state.isPermanentStop() && !m_announced.permanentStop)
-        emit m_session.suggestDeviceRestart();
+        emit m_out.suggestDeviceRestart();
     m_announced.permanentStop = m_state.isPermanentStop();
     if (m_announced.setpoint != m_state.setpoint)
-        emit m_session.setpointChanged(m_state.setpoint);
+        emit m_out.setpointChanged(m_state.setpoint);
     m_announced.setpoint = m_state.setpoint;
+}
 
-    qCDebug(sessionLog) << "Pend scope " << m_capture.pending << m_state.scopeState;
-    if (m_capture.pending && m_state.scopeState == 0) {
-        m_capture.pending = false;
-        announceCapture(CaptureState::Downloading);
-        m_queue.push(Connection::TaskDownloadScope);
-    }
+void StatusMonitor::reset()
+{
+    const quint32 sequence = m_state.sequence;
+    m_state = {};
+    m_state.sequence = sequence;
+    m_announced = {};
+    m_data.positionFeedback = 0;
 }

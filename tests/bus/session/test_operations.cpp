@@ -1,0 +1,222 @@
+// The operations one by one, on a line of the virtual bus and without a thread.
+#include "sessionfixture.h"
+
+#include "catalogue.h"
+#include "drivecommands.h"
+#include "parametertransfer.h"
+#include "statusmonitor.h"
+#include "stimulusstream.h"
+#include "stopservice.h"
+
+#include <QSignalSpy>
+
+using Fault = sim::LineFault;
+
+namespace {
+
+const std::string enables = "89e500000001";
+const std::string disables = "89e500000000";
+
+class Operations : public VirtualBusFixture
+{
+protected:
+    void SetUp() override
+    {
+        VirtualBusFixture::SetUp();
+        data.wanted.parameters = data.drive = driveParameterCatalogue();
+        data.connected = true;
+        data.deviceType = 11000;
+        ASSERT_TRUE(with.line.open(port(), 100));
+        with.line.setNodeAddress(DriveAddress);
+        with.drive.setAsksAgain(true);
+    }
+    int received(const std::string &payloadStart)
+    {
+        const auto all = bus().received();
+        return static_cast<int>(std::count_if(all.begin(), all.end(), [&](const sim::ReceivedRequest &request) {
+            return hex(request.packet.payload).rfind(payloadStart, 0) == 0;
+        }));
+    }
+    void setFault(Fault fault) { bus().setFault(fault); }
+
+    SessionData data;
+    TaskQueue queue;
+    SessionEvents out;
+    OperationContext with{data, queue, out};
+    StatusMonitor monitor{with};
+    StopService stops{with, [this] { return monitor.poll(); }};
+    StimulusStream stream{with};
+    DriveCommands commands{with, stops, stream};
+};
+
+} // namespace
+
+TEST_F(Operations, NothingIsForcedBehindAnEnableThatFailedOrPastADisable)
+{
+    const std::string refused = "refused";
+    const struct
+    {
+        std::string name;
+        std::function<void()> prepare;
+        int forced;
+    } cases[] = {
+        {"well", [] {}, 1},
+        {"lost",
+         [this] {
+             setFault({Fault::Missing, 0, 0, 1});
+         },
+         0},
+        {refused, [this] { bus().withDrive(5, [](sim::VirtualDrive &drive) { drive.refuseWrites(2533, 1); }); }, 0},
+        {"disable waits",
+         [this] {
+             QueuedTask disable;
+             disable.task = SessionTasks::TaskApplyEnableState;
+             queue.push(disable);
+         },
+         0},
+    };
+    for (const auto &c : cases) {
+        bus().clearFaults();
+        bus().withDrive(5, [](sim::VirtualDrive &drive) { drive.acceptWrites(); });
+        bus().clearReceived();
+        c.prepare();
+        commands.applyEnableState({true, true});
+        EXPECT_EQ(received(enables), 1) << c.name;
+        EXPECT_EQ(received(disables) > 0, c.forced == 0 && c.name != refused) << c.name;
+        EXPECT_EQ(received("89e600"), c.forced) << c.name;
+        with.line.clearStatus();
+        with.line.startTask();
+        bus().withDrive(5, [](sim::VirtualDrive &drive) { drive.write(2533, 0); });
+    }
+}
+
+TEST_F(Operations, APollWithoutAGoodReplyCountsForNothing)
+{
+    ASSERT_TRUE(monitor.poll());
+    const DriveState before = monitor.state();
+    QSignalSpy enabled(&out, &SessionEvents::enableStatePolled), panels(&out, &SessionEvents::faultRegisterUpdated);
+    bus().withDrive(5, [](sim::VirtualDrive &drive) { drive.write(2533, 1); });
+    for (Fault::Kind kind : {Fault::Cut, Fault::Missing, Fault::Flip}) {
+        setFault({kind, 9, 0, Fault::Forever});
+        with.line.startTask();
+        with.line.clearStatus();
+        EXPECT_FALSE(monitor.poll()) << Fault::name(kind);
+        EXPECT_EQ(monitor.state().sequence, before.sequence);
+    }
+    EXPECT_EQ(enabled.count() + panels.count(), 0) << "its zeros would mean: not enabled";
+    bus().clearFaults();
+    with.line.startTask();
+    with.line.clearStatus();
+    EXPECT_TRUE(monitor.poll());
+    EXPECT_EQ(monitor.state().sequence, before.sequence + 1);
+}
+
+TEST_F(Operations, TheFaultPanelEndsWithTheLegendForTheMarksOfTheInputs)
+{
+    QStringList order;
+    QString faults;
+    QObject::connect(&out, &SessionEvents::physInputsUpdated, [&] { order << "inputs"; });
+    QObject::connect(&out, &SessionEvents::statusRegisterUpdated, [&] { order << "status"; });
+    QObject::connect(&out, &SessionEvents::faultRegisterUpdated, [&](const QString &html) {
+        order << "faults";
+        faults = html;
+    });
+    ASSERT_TRUE(monitor.poll()); // not enabled, which only the inputs mark
+    EXPECT_EQ(order.join(' '), "inputs status faults");
+    EXPECT_TRUE(faults.endsWith("</b> = reason for inactivity</font>")) << qPrintable(faults);
+}
+
+TEST_F(Operations, ALineIsDeadAfterThreeUnansweredExchanges)
+{
+    setFault({Fault::Deaf});
+    with.drive.setAsksAgain(false);
+    long value = 0;
+    for (int i = 0; i < 6; ++i)
+        with.drive.readParameters(6020, value);
+    EXPECT_EQ(bus().received().size(), 3u);
+    with.line.startTask();
+    with.drive.readParameters(6020, value);
+    EXPECT_EQ(bus().received().size(), 4u);
+}
+
+TEST_F(Operations, APureReadIsAskedThreeTimesAndASettingTwice)
+{
+    long value = 0;
+    setFault({Fault::Cut, 4, 0, 2});
+    EXPECT_EQ(with.drive.readParameters(6020, value), ZB_OK);
+    EXPECT_EQ(value, 11000);
+    EXPECT_TRUE(with.line.isClean());
+    EXPECT_EQ(with.line.meter().repeats, 2);
+    EXPECT_EQ(with.line.meter().errors, 2);
+    bus().clearReceived();
+    with.line.startTask();
+    setFault({Fault::Cut, 4, 0, 2});
+    EXPECT_EQ(with.drive.writeSetting(415, 300), Reply::None);
+    EXPECT_FALSE(with.line.isClean());
+    EXPECT_EQ(bus().received().size(), 2u);
+}
+
+TEST_F(Operations, OnlyTheIdentityIsReadFromABootloader)
+{
+    data.firmwareUpgradeMode = true;
+    ParameterTransfer(with).getParams();
+    EXPECT_EQ(bus().received().size(), 3u) << "type, serial number, unique id: what a Keta's bootloader knows";
+    EXPECT_EQ(data.drive.getParam("HWTYPE").value, 11000);
+    EXPECT_EQ(data.drive.getParam("KVP").max, 0.0) << "settings are left as they were";
+    EXPECT_FALSE(data.valuesComplete);
+}
+
+TEST_F(Operations, WithTheLatchSetEveryTaskEndsWithAQuestionForErrors)
+{
+    QSignalSpy messages(&out, &SessionEvents::message);
+    bus().withDrive(5, [](sim::VirtualDrive &drive) { drive.write(6020, 1); }); // refused: its bit stays
+    with.errors.finishTask();
+    EXPECT_EQ(bus().received().size(), 0u);
+    with.errors.setLatch(true);
+    with.errors.finishTask();
+    EXPECT_EQ(bus().received().size(), 1u);
+    ASSERT_EQ(messages.count(), 1);
+    EXPECT_EQ(messages.at(0).at(0).value<Message>().kind, MessageKind::Refused);
+    EXPECT_TRUE(queue.isEmpty()) << "a refusal is an answer: the connection goes on";
+}
+
+TEST_F(Operations, AStreamIsSetUpOnceInAConnection)
+{
+    data.stimulus.set(100, 1, 0, 1, true);
+    EXPECT_EQ(stream.state(), Stream::Fresh);
+    stream.streamStimulus();
+    EXPECT_EQ(stream.state(), Stream::Running);
+    EXPECT_TRUE(stream.stop());
+    EXPECT_EQ(stream.state(), Stream::Stopped);
+    bus().clearReceived();
+    data.stimulus.set(100, 1, 0, 1, true);
+    stream.streamStimulus();
+    EXPECT_EQ(received("800a400000800940"), 1) << "asked for room, and told no period";
+    setFault({Fault::Deaf});
+    EXPECT_FALSE(stream.stop());
+    EXPECT_EQ(stream.state(), Stream::Running) << "as far as anybody knows";
+    stream.reset();
+    EXPECT_EQ(stream.state(), Stream::Fresh);
+    EXPECT_FALSE(data.stimulusIsActive());
+}
+
+TEST_F(Operations, AFullReadOnADamagedLineSucceeds)
+{
+    // One reply in a hundred damaged, in thirty reads: each of the about two thousand replies has its chance.
+    bus().setFaults([] {
+        std::vector<Fault> faults;
+        std::minstd_rand random(7);
+        for (int i = 0; i < 400; ++i)
+            faults.push_back({i % 8 ? Fault::Flip : Fault::Cut, 5, static_cast<int>(random() % 199), 1});
+        return faults;
+    }());
+    ParameterTransfer transfer(with);
+    QSignalSpy read(&out, &SessionEvents::parametersRetreived);
+    for (int i = 0; i < 30; ++i) {
+        with.line.startTask();
+        with.line.clearStatus();
+        transfer.getParams();
+    }
+    EXPECT_GE(read.count(), 29);
+    EXPECT_GT(with.line.meter().errors, 10) << "the line was damaged";
+}
