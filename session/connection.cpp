@@ -203,7 +203,7 @@ void Connection::setStimulus(double target1, double delay1, double target2, doub
 void Connection::setupCapture(double sampleRateHz, int triggerIndex, const QList<bool> &selected)
 {
     std::lock_guard<std::mutex> lock(d->data.mutex);
-    CaptureRequest &capture = d->data.wanted.capture;
+    ScopeRequest &capture = d->data.wanted.capture;
     capture.sampleRate = sampleRateHz;
     capture.triggerCode = scopeTriggerCode(triggerIndex);
     capture.enabledCount = selectScopeChannels(capture.channels, selected);

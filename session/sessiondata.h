@@ -23,7 +23,7 @@ struct Wanted
     ConnectRequest connect; ///< its port is that of a scan, too
     EnableRequest enable;
     SetpointRequest setpoint;
-    CaptureRequest capture;
+    ScopeRequest capture;
     QString settingsFileName;
     FlashRequest flash;
     Parameters parameters; ///< the session's list

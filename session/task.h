@@ -75,7 +75,7 @@ struct WriteRequest
 };
 
 /// The choice for one capture.
-struct CaptureRequest
+struct ScopeRequest
 {
     double sampleRate = 17500.0; ///< wanted, Hz
     int triggerCode = 1;
@@ -102,7 +102,7 @@ struct FlashRequest
 
 /// Nothing for the tasks that take nothing along.
 using TaskRequest = std::variant<std::monostate, ConnectRequest, ScanRequest, EnableRequest, SetpointRequest,
-                                 WriteRequest, CaptureRequest, SaveFileRequest, LoadFileRequest, FlashRequest>;
+                                 WriteRequest, ScopeRequest, SaveFileRequest, LoadFileRequest, FlashRequest>;
 
 struct QueuedTask
 {

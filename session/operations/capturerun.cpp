@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <utility>
 
-void CaptureRun::startCapture(const CaptureRequest &request)
+void CaptureRun::startCapture(const ScopeRequest &request)
 {
     if (request.enabledCount < 1) {
         m_errors.tell(MessageKind::Note, SessionText::tr("No scope channels selected. Select at least one."));

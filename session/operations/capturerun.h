@@ -12,7 +12,7 @@ public:
     CaptureRun(OperationContext &context, std::function<bool()> poll) : Operation(context), m_poll(std::move(poll)) {}
 
     void announceCapture(CaptureState state);
-    void startCapture(const CaptureRequest &request);
+    void startCapture(const ScopeRequest &request);
     /// In what was just polled: queues the download when the recorder is full.
     void lookForEnd(const DriveState &state);
     void downloadCapture();
@@ -29,7 +29,7 @@ private:
     std::function<bool()> m_poll;
     struct Run
     {
-        CaptureRequest request;    ///< as armed: what is ticked while the recorder waits is for the next capture
+        ScopeRequest request;    ///< as armed: what is ticked while the recorder waits is for the next capture
         double samplePeriod = 0.0; ///< s
         bool pending = false;      ///< armed and not read yet
     } m_run;
