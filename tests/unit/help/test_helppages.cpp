@@ -190,7 +190,7 @@ TEST(HelpPages, RangesAndDefaultsAreThoseOfTheDrive)
                         << qPrintable(p.name + ": " + range);
                 }
             }
-        } else if (control.kind == QLatin1String("QSpinBox") || control.kind == QLatin1String("QDoubleSpinBox")) {
+        } else if (control.kind == QLatin1String("WholeNumberBox") || control.kind == QLatin1String("DecimalBox")) {
             EXPECT_EQ(range, expectedRange(p, control.unit.isEmpty() ? QString() : ' ' + control.unit))
                 << qPrintable(p.name);
             ++compared;
