@@ -204,7 +204,7 @@ void MW::connectSession()
     connect(
         &m_connection, &Connection::driveParametersChanged, this,
         [this](const Parameters &list) {
-            m_driveParams = list;
+            m_settings.setDrive(list);
             updateUnitLabels();
         },
         type);

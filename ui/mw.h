@@ -8,7 +8,6 @@
 #include "connection.h"
 #include "controlbinding.h"
 #include "helpview.h"
-#include "pendingchanges.h"
 #include "updatechecker.h"
 
 #include <QDialog>
@@ -173,7 +172,7 @@ private:
     void setParams();
     void sendUpdateQuery();
     void fillControls(bool bareCatalogue);
-    bool fillControl(SingleParam p);
+    ControlBinding::Filled fillControl(SingleParam p);
     void showDeviceType(int typeId);
     void connectDynamicSpinboxLabels();
     void doParamSanityChecks();
@@ -186,7 +185,6 @@ private:
     void askToResetPosition();
 
     // Apply, save, files
-    void clearChangesPending();
     /// Whether what was being typed, if anything was, could be taken.
     bool commitEditedField();
     /// Says why the number that was typed last into one of these fields was refused, once: whoever is about to move a
@@ -246,10 +244,8 @@ private:
     };
     QList<Question> m_questions;
 
-    Parameters m_params;      ///< what the user wants: the set shown in the pages, edits included
-    Parameters m_driveParams; ///< what the drive has: last read from it or acknowledged by it
+    EditedSettings m_settings;
     ControlBinding m_binding{this};
-    PendingChanges m_pending;
     QList<QLabel *> m_unitLabels; ///< labels that show their control in machine units
     CapturePlotter m_plotter;
     UpdateChecker m_updateChecker;
@@ -266,12 +262,8 @@ private:
     int m_currentPage = 0;
     bool m_helpEnabled = true;     ///< false while a plot is shown
     bool m_offlineHelp = false;    ///< once true, help comes from local files for the rest of the run
-    bool m_changesPending = false; ///< controls hold values that the drive has not been given
-    bool m_paramsSaved = true;     ///< the drive's flash holds what was last applied
-    bool m_valuesArrived = false;  ///< this connection's full read has filled the controls
     enum class EnableState { Unknown, Enabled, Disabled } m_enableState = EnableState::Unknown; ///< by the last poll
     bool m_disconnectWhenDisabled = false; ///< the maker asks for it, and the drive is enabled
-    bool m_anySetArrived = false;  ///< the first set is the bare catalogue, whose zeros are nobody's settings
     bool m_showAdvanced = false;
     bool m_reconnectAfterUpgrade = false;
     bool m_closeWhenSaved = false; ///< a picture is still being written; the window closes behind it

@@ -20,7 +20,7 @@ void MW::updateApplyButtonState()
     setParams();
     // A number that is just being typed counts with the next Apply.
     const NumberField *typing = NumberField::of(QApplication::focusWidget());
-    const bool pending = m_changesPending || (typing && typing->holdsNewNumber());
+    const bool pending = m_settings.isPending() || (typing && typing->holdsNewNumber());
     QPushButton *button = m_form->apply_button;
     button->setDefault(pending);
     button->setText(pending ? tr("Apply settings (parameters changed)") : tr("Apply settings [Alt+A]"));
@@ -29,13 +29,7 @@ void MW::updateApplyButtonState()
 bool MW::areParamsChanged()
 {
     setParams();
-    return m_changesPending;
-}
-
-void MW::clearChangesPending()
-{
-    m_pending.settle(m_params);
-    m_changesPending = false;
+    return m_settings.isPending();
 }
 
 // What is being typed counts as soon as the field loses the keyboard; a shortcut does not take it away by itself.
@@ -63,9 +57,9 @@ bool MW::anyNumberRefused(std::initializer_list<const QWidget *> boxes)
 bool MW::valuesHaveArrived(const QString &refusal)
 {
     // Before the first full read the controls hold no value of this drive, and no limits of it either.
-    if (!m_valuesArrived)
+    if (!m_settings.driveWasRead())
         statusBar()->showMessage(refusal);
-    return m_valuesArrived;
+    return m_settings.driveWasRead();
 }
 
 void MW::on_apply_button_clicked()
@@ -83,9 +77,8 @@ bool MW::applyToDrive()
     doParamSanityChecks();
     m_connection.setWatchedParameter(m_overridesForm->customParamDisplay->value());
     setParams();
-    clearChangesPending();
-    m_paramsSaved = false;
-    m_connection.setParams(m_params);
+    m_settings.applied();
+    m_connection.setParams(m_settings.edited());
     m_connection.command(Connection::TaskSetParams);
     m_connection.checkErrors();
     updateUnitLabels();
@@ -100,19 +93,19 @@ void MW::on_saveToFlash_clicked()
     if (!valuesHaveArrived(tr("Nothing saved: the settings of this drive have not been read yet")))
         return;
     m_connection.command(Connection::TaskSaveToFlash);
-    m_paramsSaved = true;
+    m_settings.setSaved(true);
 }
 
 void MW::setUnsavedStatus()
 {
-    m_paramsSaved = false;
+    m_settings.setSaved(false);
 }
 
 bool MW::checkIfParamsChangedAndAskUser(AskForApplyMode mode)
 {
     commitEditedField();
     setParams();
-    if (!m_changesPending || !driveRunsItsFirmware())
+    if (!m_settings.isPending() || !driveRunsItsFirmware())
         return false;
     const QString text = tr("Some paramets have been changed since last Apply. Changed settings won't take effect "
                             "before Apply.");
@@ -145,7 +138,7 @@ bool MW::askWithAbort(const QString &text)
     box.exec();
     if (box.clickedButton() == goOn) {
         qDebug() << "dont apply";
-        clearChangesPending();
+        m_settings.settle();
         return false;
     }
     if (box.clickedButton() == apply) {
@@ -159,7 +152,7 @@ bool MW::askWithAbort(const QString &text)
 bool MW::checkIfParamsSavedAndAskUser()
 {
     setParams();
-    if (m_paramsSaved || !driveRunsItsFirmware())
+    if (m_settings.isSaved() || !driveRunsItsFirmware())
         return false;
     QMessageBox box(QMessageBox::Question, tr("Velbrin"),
                     tr("Some paramets have been changed since last Save to drive. Last changes will be lost on drive "
@@ -174,7 +167,7 @@ bool MW::checkIfParamsSavedAndAskUser()
     qDebug() << "choice" << (box.clickedButton() ? box.clickedButton()->text() : QString());
     if (box.clickedButton() == discard) {
         qDebug() << "dontsave";
-        clearChangesPending(); // not the unsaved state: the next close asks again
+        m_settings.settle(); // not the unsaved state: the next close asks again
         return false;
     }
     if (box.clickedButton() == save) {
@@ -201,10 +194,10 @@ void MW::on_save_settings_to_file_clicked()
         return;
     m_lastDirectory = file.section(QLatin1Char('/'), 0, -2);
     setParams();
-    m_connection.setParams(m_params);
+    m_connection.setParams(m_settings.edited());
     m_connection.setSettingsFileName(file);
     m_connection.command(Connection::TaskSaveSettingsFile);
-    if (m_params.getParam(QStringLiteral("HWTYPE")).value <= 0)
+    if (m_settings.value(QStringLiteral("HWTYPE")) <= 0)
         m_errorWindow->note(tr("This file is saved without a drive: what nobody has typed into it are start values of "
                                "this program, not the settings of a drive."));
 }

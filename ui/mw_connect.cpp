@@ -107,7 +107,7 @@ void MW::connectToNode(int address)
     m_connection.connectDevice(m_lastPort, address);
     m_connection.getParams();
     areParamsChanged();
-    clearChangesPending();
+    m_settings.settle();
     m_connection.checkErrors();
     updateUnitLabels();
 }
@@ -115,7 +115,7 @@ void MW::connectToNode(int address)
 void MW::connectionStatusChanged(bool connected, QString text)
 {
     m_connectionStatusLabel->setText(text);
-    m_valuesArrived = false;
+    m_settings.connectionChanged();
     m_enableState = EnableState::Unknown;
     m_disconnectWhenDisabled = false;
 
@@ -184,7 +184,7 @@ void MW::enableDriveControls(bool connected)
 void MW::updateSaveToFileButton()
 {
     // Without a drive there is nothing to wait for; with one, a file must not pass for its settings before they came.
-    const bool complete = !m_connection.isConnected() || m_valuesArrived;
+    const bool complete = !m_connection.isConnected() || m_settings.driveWasRead();
     m_form->save_settings_to_file->setEnabled(complete);
 }
 

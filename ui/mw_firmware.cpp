@@ -51,7 +51,7 @@ void MW::FWUpgrade_close_clicked()
 
 void MW::showBootloaderIdentity()
 {
-    const int version = int(m_params.getParam(QStringLiteral("FWVER")).value);
+    const int version = int(m_settings.value(QStringLiteral("FWVER")));
     if (version > 0)
         m_form->FWVER->setText(tr("%1 (bootloader)").arg(version));
     for (QLabel *label : {m_form->TCFWVER, m_form->BUILDREVISION})

@@ -16,28 +16,28 @@
 
 void MW::paramsRetreived(Parameters params, bool loadedFromFile)
 {
-    const bool bareCatalogue = !m_anySetArrived && loadedFromFile;
-    m_anySetArrived = true;
-    m_params = params;
-    const double frequency = params.getParam(QStringLiteral("PIF")).value;
+    using Source = EditedSettings::Source;
+    Source source = Source::File;
+    if (!loadedFromFile) // a part of it after a read that failed, or from a bootloader
+        source = m_connection.valuesAreComplete() ? Source::Drive : Source::PartOfDrive;
+    else if (m_settings.edited().getParamCount() == 0)
+        source = Source::BareCatalogue; // the first set, whose zeros are nobody's settings
+    m_settings.accept(params, source);
+    const double frequency = m_settings.value(QStringLiteral("PIF"));
     if (frequency > 0)
         m_loopFrequency = frequency;
     // A bootloader tells its identity only; the other records are still those of the drive before.
     const bool fromBootloader = !loadedFromFile && m_connection.isInFirmwareUpgradeMode();
-    const bool driveWasRead = !fromBootloader && params.getParam(QStringLiteral("TCFWVER")).value > 0;
+    const bool driveWasRead = !fromBootloader && m_settings.value(QStringLiteral("TCFWVER")) > 0;
     if (driveWasRead && !loadedFromFile) // a file leaves a mixture of two drives' identities
         sendUpdateQuery();
-    fillControls(bareCatalogue);
+    fillControls(source == Source::BareCatalogue);
     if (fromBootloader)
         showBootloaderIdentity();
-    if (!loadedFromFile)
-        m_valuesArrived = m_connection.valuesAreComplete(); // not after a read that failed, nor from a bootloader
 
     setParams(); // what a control clamped counts as held
-    if (loadedFromFile && !bareCatalogue)
-        m_pending.fileLoaded();
-    else
-        m_pending.settle(m_params);
+    if (source != Source::File)
+        m_settings.settle();
     updateSaveToFileButton();
     updateUnitLabels();
     updateAllRules();
@@ -46,42 +46,44 @@ void MW::paramsRetreived(Parameters params, bool loadedFromFile)
 
 void MW::sendUpdateQuery()
 {
-    const auto value = [this](const char *name) {
-        return truncateToInt32(m_params.getParam(QLatin1String(name)).value);
-    };
+    const auto value = [this](const char *name) { return truncateToInt32(m_settings.value(QLatin1String(name))); };
     m_updateChecker.sendCheckRequest(QLatin1String(VELBRIN_VERSION), value("HWTYPE"), value("HWSERIAL"), value("FWVER"),
                                      value("TCFWVER"), value("UID"));
 }
 
 void MW::fillControls(bool bareCatalogue)
 {
-    const int typeId = int(m_params.getParam(QStringLiteral("HWTYPE")).value);
+    const Parameters &list = m_settings.edited();
+    const int typeId = int(m_settings.value(QStringLiteral("HWTYPE")));
     const QString model = deviceModelName(typeId, false);
     showDeviceType(typeId);
-    for (int i = 0; i < m_params.getParamCount(); ++i) {
-        const SingleParam p = m_params.getParam(i);
+    for (int i = 0; i < list.getParamCount(); ++i) {
+        const SingleParam p = list.getParam(i);
         const bool supported = p.supportedInDevice(model);
         if (QWidget *group = p.group.isEmpty() ? nullptr : findChild<QWidget *>(p.group))
             group->setVisible(supported);
         if (!p.auxFlag && bitFieldControls(p.name).isEmpty())
             continue;
         // Zeros that nobody read stay out of the controls; labels say that nothing was read yet.
-        if (bareCatalogue && !p.readonly) {
-            m_binding.keepStartValue(p, int(Parameters::startValue(p.name)));
+        const bool keeps = bareCatalogue && !p.readonly;
+        const auto filled =
+            keeps ? m_binding.keepStartValue(p, int(Parameters::startValue(p.name))) : fillControl(p);
+        if (filled.shown)
+            m_settings.showAs(p.name, *filled.shown);
+        if (keeps)
             continue;
-        }
-        if (!fillControl(p) && p.name != QLatin1String("HWTYPE") && p.name != QLatin1String("UID"))
+        if (!filled.found && p.name != QLatin1String("HWTYPE") && p.name != QLatin1String("UID"))
             qDebug().noquote() << p.name + QLatin1String(" NOT FOUND");
         // Without a drive there is no model to lack anything: a file can be looked through and edited.
         m_binding.setSupported(p.name, supported || typeId <= 0);
     }
 }
 
-bool MW::fillControl(SingleParam p)
+ControlBinding::Filled MW::fillControl(SingleParam p)
 {
     // A file brings the limits of the drive that it was saved from; those of the connected one count. A value beyond
     // them is shown all the same: it is what the file says, and applying it tells what the drive says to it.
-    const SingleParam held = m_driveParams.getParam(p.name);
+    const SingleParam held = m_settings.drive().getParam(p.name);
     const bool known = m_connection.isConnected() && m_connection.valuesAreComplete() && held.max > held.min;
     if (known) {
         p.min = std::min(held.min, p.value);
@@ -99,12 +101,10 @@ void MW::showDeviceType(int typeId)
 
 void MW::setParams()
 {
-    for (int i = 0; i < m_params.getParamCount(); ++i) {
-        SingleParam p = m_params.getParam(i);
-        p.value = m_binding.collect(p);
-        m_params.replaceParam(p, i);
+    for (int i = 0; i < m_settings.edited().getParamCount(); ++i) {
+        if (const auto held = m_binding.read(m_settings.edited().getParam(i)))
+            m_settings.edit(i, *held);
     }
-    m_changesPending = m_pending.isPending(m_params);
 }
 
 // --- Rules between controls --------------------------------------------------------------------------------------
@@ -241,7 +241,7 @@ void MW::deviceControlModeChanged(int newmode)
         m_connection.command(Connection::TaskSetZero);
         return; // answered for good: a second reset through the question would add nothing
     }
-    const double oneRevolution = 4 * m_driveParams.getParam(QStringLiteral("FBR")).value;
+    const double oneRevolution = 4 * m_settings.drive().getParam(QStringLiteral("FBR")).value;
     if (m_resetChoice == ResetChoice::Ask && newmode == 0 && std::abs(m_connection.positionFeedback()) > oneRevolution)
         askWhenFree([this] { askToResetPosition(); });
 }

@@ -111,7 +111,7 @@ void MW::plotCapture(QList<CaptureData> capture)
 
 void MW::showPlotPage(HelpView::Zoom zoom)
 {
-    const QString page = m_plotter.generatePlotPage(m_captures, m_driveParams.getParamsHTMLList(), m_form->HWMODEL->text());
+    const QString page = m_plotter.generatePlotPage(m_captures, m_settings.drive().getParamsHTMLList(), m_form->HWMODEL->text());
     m_helpTimer->stop(); // a help page that was still loading is given up, which says nothing about the network
     m_form->offlineHelpNotification->hide();
     const QUrl base(QLatin1String("file:///") + QDir::currentPath() + QLatin1String("/flot/examples/"));

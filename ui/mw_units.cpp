@@ -41,9 +41,9 @@ UnitConversion MW::unitConversion() const
 
 UnitConversion MW::driveUnitConversion() const
 {
-    if (!driveRunsItsFirmware() || !m_valuesArrived)
+    if (!driveRunsItsFirmware() || !m_settings.driveWasRead())
         return unitConversion();
-    const auto value = [this](const char *name) { return m_driveParams.getParam(QLatin1String(name)).value; };
+    const auto value = [this](const char *name) { return m_settings.drive().getParam(QLatin1String(name)).value; };
     UnitConversion units;
     units.pif = value("PIF") > 0 ? value("PIF") : m_loopFrequency;
     units.fbr = value("FBR");
