@@ -267,9 +267,9 @@ TEST_F(Connecting, ANewerListTakesTheOlderOnesPlace)
     older.address = 3;
     newer.address = DriveAddress;
     newer.deviceType = older.deviceType = 11000;
-    m_answers.expect([&](QWidget *dialog) { // while the older one is open
-        QMetaObject::invokeMethod(m_window.get(), "availableBusNodesListReceived", Q_ARG(QList<NodeType>, {newer}));
-        return dialog->isHidden();
+    m_answers.expect([&](QWidget *) { // while the older one is open
+        return QMetaObject::invokeMethod(m_window.get(), "availableBusNodesListReceived", Qt::QueuedConnection,
+                                         Q_ARG(QList<NodeType>, {newer}));
     });
     QStringList rows;
     m_answers.expect([&](QWidget *dialog) {
