@@ -339,3 +339,19 @@ TEST_F(Apply, SanityWarningsDoNotStopAnApply)
     EXPECT_TRUE(shownMessage(m_window.get()).contains("Over speed fault threshold [FEV]"));
     EXPECT_TRUE(driveHas(496, 1));
 }
+
+TEST_F(Apply, TheFormerDrivesValuesAreNotApplied)
+{
+    openConnectedWindow();
+    ASSERT_TRUE(waitForThreePolls());
+    bus().clearReceived();
+    // The next drive is connected, and its full read has not come yet.
+    QMetaObject::invokeMethod(m_window.get(), "connectionStatusChanged", Q_ARG(bool, true), Q_ARG(QString, "Connected"));
+    click("apply_button");
+    EXPECT_TRUE(m_window->statusBar()->currentMessage().startsWith("Nothing applied"));
+    click("saveToFlash");
+    EXPECT_TRUE(m_window->statusBar()->currentMessage().startsWith("Nothing saved"));
+    EXPECT_FALSE(button("save_settings_to_file")->isEnabled());
+    ASSERT_TRUE(waitForThreePolls());
+    EXPECT_EQ(timesWritten(KVP, kvp()->value()), 0);
+}

@@ -10,7 +10,7 @@ namespace {
 
 constexpr int FEEDBACK_DEVICE = 493;
 
-class ConnectPage : public WindowFixture
+class Connecting : public WindowFixture
 {
 };
 
@@ -49,7 +49,7 @@ TEST_F(TwoFamilies, SearchListsBothDrivesAndOpensTheChosenOne)
     EXPECT_EQ(label("HWVER")->text(), "4000");
 }
 
-TEST_F(ConnectPage, FillsThePagesWithTheDrivesValuesAndLimits)
+TEST_F(Connecting, FillsThePagesWithTheDrivesValuesAndLimits)
 {
     bus().set(DriveAddress, 202, 1234); // KVP
     openWindow();
@@ -80,7 +80,7 @@ TEST_F(ConnectPage, FillsThePagesWithTheDrivesValuesAndLimits)
     EXPECT_TRUE(button("connect_button")->isEnabled());
 }
 
-TEST_F(ConnectPage, CancellingTheNodeListLeavesEverythingAsItWas)
+TEST_F(Connecting, CancellingTheNodeListLeavesEverythingAsItWas)
 {
     openWindow();
     m_answers.expect([](QWidget *dialog) {
@@ -141,7 +141,7 @@ TEST_F(TwoFamilies, NoRowOfTheNodeListIsChosenButASingleOrTheLastDrives)
     }
 }
 
-TEST_F(ConnectPage, SearchThatFoundNobodySaysWhatToCheckAndSearchesAgain)
+TEST_F(Connecting, SearchThatFoundNobodySaysWhatToCheckAndSearchesAgain)
 {
     openWindow();
     m_answers.expect([](QWidget *dialog) {
@@ -159,7 +159,7 @@ TEST_F(ConnectPage, SearchThatFoundNobodySaysWhatToCheckAndSearchesAgain)
     EXPECT_TRUE(waitFor([this] { return connectionText() == "Connected"; }));
 }
 
-TEST_F(ConnectPage, ATypedPortIsNotCompletedToAListedOneThatBeginsLikeIt)
+TEST_F(Connecting, ATypedPortIsNotCompletedToAListedOneThatBeginsLikeIt)
 {
     openWindow();
     auto *ports = control<QComboBox>("communicationInterface");
@@ -172,7 +172,7 @@ TEST_F(ConnectPage, ATypedPortIsNotCompletedToAListedOneThatBeginsLikeIt)
     EXPECT_EQ(ports->currentText(), "/dev/ttyS1");
 }
 
-TEST_F(ConnectPage, PortThatCannotBeOpenedGivesTheButtonItsTextBackAndOneMessage)
+TEST_F(Connecting, PortThatCannotBeOpenedGivesTheButtonItsTextBackAndOneMessage)
 {
     openWindow();
     control<QComboBox>("communicationInterface")->setEditText("COM9");
@@ -216,7 +216,7 @@ TEST_F(TwoFamilies, ModelDecidesWhatIsShownAndWhatCanBeEdited)
     EXPECT_TRUE(control<QWidget>("torqueCompensationGroup")->isHidden()); // only a Pro compensates cogging
 }
 
-TEST_F(ConnectPage, ValueWithoutAnItemIsShownAndWrittenBackAsItIs)
+TEST_F(Connecting, ValueWithoutAnItemIsShownAndWrittenBackAsItIs)
 {
     bus().set(DriveAddress, FEEDBACK_DEVICE, 9); // the program knows fewer
     openWindow();
@@ -228,7 +228,7 @@ TEST_F(ConnectPage, ValueWithoutAnItemIsShownAndWrittenBackAsItIs)
     EXPECT_EQ(bus().read(DriveAddress, FEEDBACK_DEVICE), 9);
 }
 
-TEST_F(ConnectPage, AsksForNewsOnceADriveWasReadAndObeysTheServer)
+TEST_F(Connecting, AsksForNewsOnceADriveWasReadAndObeysTheServer)
 {
     openWindow();
     QTest::qWait(50);
@@ -247,7 +247,7 @@ TEST_F(ConnectPage, AsksForNewsOnceADriveWasReadAndObeysTheServer)
     EXPECT_EQ(shownMessage(m_window.get()), "Update required");
 }
 
-TEST_F(ConnectPage, RestartingDisconnectsAndSearchesAgain)
+TEST_F(Connecting, RestartingDisconnectsAndSearchesAgain)
 {
     openWindow();
     connectToDrive();
@@ -258,4 +258,27 @@ TEST_F(ConnectPage, RestartingDisconnectsAndSearchesAgain)
     EXPECT_FALSE(button("apply_button")->isEnabled());
     EXPECT_EQ(button("connect_button")->text(), "Searching devices...");
     EXPECT_TRUE(waitFor([this] { return connectionText() == "Connected"; }));
+}
+
+TEST_F(Connecting, ANewerListTakesTheOlderOnesPlace)
+{
+    openWindow();
+    NodeType older, newer;
+    older.address = 3;
+    newer.address = DriveAddress;
+    newer.deviceType = older.deviceType = 11000;
+    m_answers.expect([&](QWidget *) { // while the older one is open
+        return QMetaObject::invokeMethod(m_window.get(), "availableBusNodesListReceived", Qt::QueuedConnection,
+                                         Q_ARG(QList<NodeType>, {newer}));
+    });
+    QStringList rows;
+    m_answers.expect([&](QWidget *dialog) {
+        auto *nodes = dialog->findChild<QListWidget *>("nodeList");
+        for (int i = 0; i < nodes->count(); ++i)
+            rows << nodes->item(i)->text();
+        return dialog->close();
+    });
+    QMetaObject::invokeMethod(m_window.get(), "availableBusNodesListReceived", Q_ARG(QList<NodeType>, {older}));
+    ASSERT_TRUE(waitFor([this] { return m_answers.isDone(); }));
+    EXPECT_EQ(rows, QStringList(QString("Tarnwell Devices KETA at bus address %1").arg(int(DriveAddress))));
 }

@@ -249,3 +249,39 @@ TEST_F(Escape, RestartQuestionWaitsWhileAnotherBoxIsOpen)
     EXPECT_FALSE(restartWasAsked);
     EXPECT_TRUE(waitFor([this] { return m_answers.isDone(); }));
 }
+
+TEST_F(Escape, AHeldKeyDisablesOnce)
+{
+    bus().clearReceived();
+    QWidget *keyboard = m_window.get();
+    for (const bool repeated : {false, true, true, true}) {
+        QKeyEvent press(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier, QString(), repeated);
+        QApplication::sendEvent(keyboard, &press);
+    }
+    ASSERT_TRUE(waitForWrite(SOFT_ENABLE, 0));
+    ASSERT_TRUE(waitForThreePolls());
+    EXPECT_EQ(timesWritten(SOFT_ENABLE, 0), 1);
+}
+
+TEST_F(Escape, ADriveThatStaysEnabledIsNotCalledDisabled)
+{
+    bus().set(DriveAddress, SOFT_ENABLE, 1);
+    ASSERT_TRUE(waitFor([this] { return m_state.isSoftEnabled(); }));
+    bus().withDrive(DriveAddress, [](sim::VirtualDrive &drive) { drive.refuseWrites(SOFT_ENABLE); });
+    press(Qt::Key_Escape);
+    ASSERT_TRUE(waitForWrite(SOFT_ENABLE, 0));
+    ASSERT_TRUE(waitForThreePolls());
+    EXPECT_EQ(bus().read(DriveAddress, SOFT_ENABLE), 1);
+    EXPECT_FALSE(m_window->statusBar()->currentMessage().startsWith("Disabled after "));
+}
+
+TEST_F(Escape, OnlyTheForcingButtonForces)
+{
+    constexpr int forceRegister = 2534, key = 7;
+    click("enable_drive");
+    ASSERT_TRUE(waitForWrite(SOFT_ENABLE, 1));
+    ASSERT_TRUE(waitForThreePolls());
+    EXPECT_EQ(timesWritten(forceRegister, key), 0);
+    click("force_enable");
+    EXPECT_TRUE(waitForWrite(forceRegister, key));
+}

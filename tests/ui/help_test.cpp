@@ -101,7 +101,7 @@ TEST_F(Help, PendingLoadThatTakesTooLongEndsOffline)
     openWindow();
     ASSERT_TRUE(waitFor([this] { return m_wiki.paths.size() == 1; }));
     QTimer *timeOut = nullptr;
-    const auto timers = m_window->findChildren<QTimer *>(QString(), Qt::FindDirectChildrenOnly);
+    const auto timers = m_window->findChildren<QTimer *>();
     for (QTimer *timer : timers) {
         if (timer->interval() == 60000 && timer->isSingleShot())
             timeOut = timer;

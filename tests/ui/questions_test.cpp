@@ -18,12 +18,6 @@ protected:
     Questions() { m_webEngine = HelpView::Engine::Off; }
     void edit() { control<QSpinBox>("KVP")->setValue(control<QSpinBox>("KVP")->value() + 1); }
     void showPlot() { QMetaObject::invokeMethod(m_window.get(), "plotCapture", Q_ARG(QList<CaptureData>, {})); }
-    /// Two more polls: everything that was asked for before has been done.
-    bool waitForIdlePoll()
-    {
-        const auto count = bus().received().size();
-        return waitFor([&] { return bus().received().size() >= count + 2; });
-    }
     /// Changes the control mode in the window and applies it.
     void applyMode(int mode)
     {
@@ -31,7 +25,7 @@ protected:
         control<QComboBox>("CM")->setCurrentIndex(mode);
         click("apply_button");
         ASSERT_TRUE(driveHas(CONTROL_MODE, mode + 1));
-        ASSERT_TRUE(waitForIdlePoll());
+        ASSERT_TRUE(waitForThreePolls());
     }
     /// Leaves position control, and comes back more than a turn away from zero.
     void comeBackToPositionControl()
@@ -49,9 +43,8 @@ protected:
             drive.write(CONTROL_MODE, VELOCITY_CONTROL + 1);
         });
         ASSERT_GT(bus().read(DriveAddress, POSITION), 10000);
-        const QString position = QString::number(bus().read(DriveAddress, POSITION));
         ASSERT_TRUE(waitFor(
-            [&] { return label("statusRegister")->text().contains("Position feedback&nbsp;&nbsp;" + position); }));
+            [&] { return m_state.position == bus().read(DriveAddress, POSITION); }));
         applyMode(POSITION_CONTROL);
     }
 };
@@ -103,7 +96,7 @@ TEST_F(Questions, MeasuringAsksFirstAndFillsInTheMotor)
     control<QDoubleSpinBox>("ML")->setValue(0.9);
     m_answers.press("Abort");
     click("measureRLbutton");
-    ASSERT_TRUE(waitForIdlePoll());
+    ASSERT_TRUE(waitForThreePolls());
     EXPECT_EQ(timesWritten(SYSTEM_COMMAND, MEASURE), 0);
     m_answers.press("Apply settings");
     click("measureRLbutton");
@@ -146,7 +139,7 @@ TEST_F(Questions, PositionIsResetOnlyWhenTheUserSaysSo)
     applyMode(VELOCITY_CONTROL);
     applyMode(POSITION_CONTROL);
     ASSERT_TRUE(waitFor([this] { return m_answers.isDone(); }));
-    ASSERT_TRUE(waitForIdlePoll());
+    ASSERT_TRUE(waitForThreePolls());
     EXPECT_EQ(timesWritten(SYSTEM_COMMAND, RESET_POSITION), 0);
 
     m_answers.press("Reset");
@@ -162,11 +155,11 @@ TEST_F(Questions, AlwaysResetQueuesOneReset)
     m_answers.press("Always reset");
     comeBackToPositionControl();
     ASSERT_TRUE(waitForWrite(SYSTEM_COMMAND, RESET_POSITION));
-    ASSERT_TRUE(waitForIdlePoll());
+    ASSERT_TRUE(waitForThreePolls());
     EXPECT_EQ(timesWritten(SYSTEM_COMMAND, RESET_POSITION), 1);
     comeBackToPositionControl(); // no question any more
     ASSERT_TRUE(waitForWrite(SYSTEM_COMMAND, RESET_POSITION));
-    ASSERT_TRUE(waitForIdlePoll());
+    ASSERT_TRUE(waitForThreePolls());
     EXPECT_EQ(timesWritten(SYSTEM_COMMAND, RESET_POSITION), 1);
 }
 

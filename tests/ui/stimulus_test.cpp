@@ -120,3 +120,13 @@ TEST_F(Stimulus, ClosingTheWindowStopsIt)
     EXPECT_TRUE(m_window->close());
     EXPECT_TRUE(waitForWrite(SYSTEM_COMMAND, STOP_STREAM));
 }
+
+TEST_F(Stimulus, ATickDoesNotSurviveTheConnectButton)
+{
+    click("disconnect_button");
+    ASSERT_TRUE(waitFor([this] { return connectionText() == "Disconnected"; }));
+    box()->setChecked(true);
+    bus().unplug(); // the search ends at once
+    click("connect_button");
+    EXPECT_FALSE(box()->isChecked());
+}

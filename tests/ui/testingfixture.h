@@ -41,7 +41,7 @@ protected:
     void enableDrive()
     {
         click("enable_drive");
-        ASSERT_TRUE(waitFor([this] { return isSet(label("statusRegister"), "Run"); }));
+        ASSERT_TRUE(waitFor([this] { return (m_state.statusRegister & statusBitRun) != 0; }));
     }
     /// Whether a panel shows a flag as set (a filled circle).
     static bool isSet(const QLabel *panel, const char *flag)

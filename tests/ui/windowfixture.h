@@ -160,6 +160,10 @@ protected:
         options.pauseScale = 0.01;
         options.webEngine = m_webEngine;
         m_window = std::make_unique<MW>(options);
+        QObject::connect(&m_window->session(), &Connection::statePolled, m_window.get(), [this](const DriveState &state) {
+            m_state = state;
+            ++m_polls;
+        });
         m_window->show();
         bringToFront();
     }
@@ -244,6 +248,15 @@ protected:
         return waitFor([&] { return timesWritten(reg, value) > 0; });
     }
 
+    /// Waits until whatever was asked for before has been done, what its answers made the window ask for included:
+    /// one poll behind that, one that may have begun too early, one behind what they brought.
+    bool waitForThreePolls()
+    {
+        return waitFor([this, first = m_polls] { return m_polls >= first + 3; });
+    }
+
+    DriveState m_state; ///< as polled last
+    int m_polls = 0;
     /// Tests that look at help or plots switch it on; it costs each of them a second.
     HelpView::Engine m_webEngine = HelpView::Engine::Off;
     LoopbackWiki m_wiki;

@@ -1,5 +1,4 @@
 // The help pages against what they explain: links, the catalogue, the window's controls, the drive's limits and panels.
-#include "../../../ui/pagetable.h"
 
 #include "catalogue.h"
 #include "driveprofile.h"
@@ -140,10 +139,8 @@ TEST(HelpPages, AllAreReachedFromTheFirstAndLeadBackToIt)
     }
 }
 
-TEST(HelpPages, TheWindowsPagesAndTheMakersWikiPagesHaveACopy)
+TEST(HelpPages, TheMakersWikiPagesHaveACopy)
 {
-    for (const PageInfo &page : pageTable)
-        EXPECT_TRUE(helpPages().contains(QString(page.helpFile).section('/', -1))) << page.helpFile;
     for (const char *wikiPage : {"Using_SinCos_encoder", "Using_resolver_feedback_device", "Fault_location",
                                  "Device_connection_troubleshooting", "Firmware"})
         EXPECT_TRUE(helpPages().contains(QString(wikiPage) + ".htm")) << wikiPage;

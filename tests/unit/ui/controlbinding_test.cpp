@@ -37,6 +37,26 @@ protected:
 
     QWidget root;
     ControlBinding binding{&root};
+    EditedSettings settings;
+
+    /// Fills and keeps what the control made of it, as the window does.
+    bool fill(const SingleParam &p, bool fromDrive = false)
+    {
+        Parameters list;
+        list.addParameter(p);
+        settings.accept(list, EditedSettings::Source::Drive);
+        const ControlBinding::Filled filled = binding.fill(p, fromDrive);
+        if (filled.shown)
+            settings.showAs(p.name, *filled.shown);
+        return filled.found;
+    }
+    /// What the control stands for now.
+    double collect(const SingleParam &p)
+    {
+        if (const auto held = binding.read(p))
+            settings.edit(0, *held);
+        return settings.value(p.name);
+    }
 };
 
 } // namespace
@@ -45,13 +65,13 @@ TEST_F(Binding, SpinBoxTakesRangeAndValueAndGivesTheEditBack)
 {
     auto *box = add<QSpinBox>("KVP");
     const SingleParam p = param("KVP", 360, 0, 32767);
-    EXPECT_TRUE(binding.fill(p));
+    EXPECT_TRUE(fill(p));
     EXPECT_EQ(box->minimum(), 0);
     EXPECT_EQ(box->maximum(), 32767);
     EXPECT_EQ(box->value(), 360);
-    EXPECT_EQ(binding.collect(p), 360);
+    EXPECT_EQ(collect(p), 360);
     box->setValue(400);
-    EXPECT_EQ(binding.collect(p), 400);
+    EXPECT_EQ(collect(p), 400);
 }
 
 TEST_F(Binding, UneditedControlGivesBackExactlyWhatCameInWhateverItsDecimals)
@@ -59,24 +79,24 @@ TEST_F(Binding, UneditedControlGivesBackExactlyWhatCameInWhateverItsDecimals)
     auto *box = add<QDoubleSpinBox>("FOC");
     box->setDecimals(2);
     const SingleParam p = param("FOC", 801 / (50.0 / 3), 0.6, 57.6, 50.0 / 3); // 48.06, but not to the last bit
-    binding.fill(p);
-    EXPECT_EQ(binding.collect(p), p.value);
+    fill(p);
+    EXPECT_EQ(collect(p), p.value);
     EXPECT_NE(box->value(), p.value);
     box->setValue(48.07);
-    EXPECT_EQ(binding.collect(p), 48.07);
+    EXPECT_EQ(collect(p), 48.07);
     box->setValue(48.06); // undone by hand: the held value again, not the rounded one
-    EXPECT_EQ(binding.collect(p), p.value);
+    EXPECT_EQ(collect(p), p.value);
 }
 
 TEST_F(Binding, ValueBeyondTheDrivesLimitsIsHeldWithinThem)
 {
     add<QDoubleSpinBox>("MMC");
     SingleParam p = param("MMC", 40, 0, 35);
-    binding.fill(p);
-    EXPECT_EQ(binding.collect(p), 35);
+    fill(p);
+    EXPECT_EQ(collect(p), 35);
     p.value = -1;
-    binding.fill(p);
-    EXPECT_EQ(binding.collect(p), 0);
+    fill(p);
+    EXPECT_EQ(collect(p), 0);
 }
 
 TEST_F(Binding, UnknownLimitsKeepTheControlsOwnRangeAndNeverCutTheValue)
@@ -84,10 +104,10 @@ TEST_F(Binding, UnknownLimitsKeepTheControlsOwnRangeAndNeverCutTheValue)
     auto *box = add<QSpinBox>("CVL");
     box->setRange(1, 1000000);
     SingleParam p = param("CVL", 2000000, 0, 0);
-    binding.fill(p);
+    fill(p);
     EXPECT_EQ(box->minimum(), 1);
     EXPECT_EQ(box->value(), 2000000);
-    EXPECT_EQ(binding.collect(p), 2000000);
+    EXPECT_EQ(collect(p), 2000000);
 }
 
 TEST_F(Binding, NumbersThatNoControlCanShowChangeNothing)
@@ -96,9 +116,9 @@ TEST_F(Binding, NumbersThatNoControlCanShowChangeNothing)
     box->setRange(0, 1000);
     box->setValue(17);
     const SingleParam notANumber = param("KVP", std::numeric_limits<double>::quiet_NaN(), 0, 1000);
-    EXPECT_TRUE(binding.fill(notANumber));
-    EXPECT_EQ(binding.collect(notANumber), 17);
-    binding.fill(param("KVP", 1e300, -1e300, 1e300));
+    EXPECT_TRUE(fill(notANumber));
+    EXPECT_EQ(collect(notANumber), 17);
+    fill(param("KVP", 1e300, -1e300, 1e300));
     EXPECT_EQ(box->value(), std::numeric_limits<int>::max());
 }
 
@@ -107,10 +127,10 @@ TEST_F(Binding, ComboBoxShowsTheItemOfTheValue)
     auto *combo = add<QComboBox>("CRI");
     combo->addItems({"Serial only", "Pulse and direction", "Quadrature"});
     const SingleParam p = param("CRI", 2, 0, 4);
-    binding.fill(p);
+    fill(p);
     EXPECT_EQ(combo->currentIndex(), 2);
     combo->setCurrentIndex(1);
-    EXPECT_EQ(binding.collect(p), 1);
+    EXPECT_EQ(collect(p), 1);
 }
 
 TEST_F(Binding, ValueWithoutAnItemGetsOneThatGoesAgain)
@@ -120,17 +140,17 @@ TEST_F(Binding, ValueWithoutAnItemGetsOneThatGoesAgain)
     SingleParam p = param("CRI", 7, 0, 9);
     for (double value : {7.0, 9.0, -2.0}) {
         p.value = value;
-        binding.fill(p);
+        fill(p);
         EXPECT_EQ(combo->currentText(), QStringLiteral("Value %1").arg(value));
         EXPECT_EQ(combo->count(), 3);
-        EXPECT_EQ(binding.collect(p), value);
+        EXPECT_EQ(collect(p), value);
     }
     combo->setCurrentIndex(0);
-    EXPECT_EQ(binding.collect(p), 0);
+    EXPECT_EQ(collect(p), 0);
     p.value = 1;
-    binding.fill(p);
+    fill(p);
     EXPECT_EQ(combo->count(), 2);
-    EXPECT_EQ(binding.collect(p), 1);
+    EXPECT_EQ(collect(p), 1);
 }
 
 TEST_F(Binding, BitFieldFillsItsControlsAndIsPutTogetherFromThem)
@@ -140,17 +160,17 @@ TEST_F(Binding, BitFieldFillsItsControlsAndIsPutTogetherFromThem)
     auto *hall = add<QComboBox>("FBH");
     hall->addItems({"Off", "Enabled (non-inverted)", "Enabled (inverted)"});
     SingleParam flags = param("FLAGS", 0x6801, 0, 65535);
-    EXPECT_TRUE(binding.fill(flags));
+    EXPECT_TRUE(fill(flags));
     EXPECT_TRUE(software->isChecked());
     EXPECT_TRUE(smoothing->isChecked());
     EXPECT_EQ(hall->currentIndex(), 2);
-    EXPECT_EQ(binding.collect(flags), 0x6801);
+    EXPECT_EQ(collect(flags), 0x6801);
     software->setChecked(false);
     hall->setCurrentIndex(1);
-    EXPECT_EQ(binding.collect(flags), 0x4800);
+    EXPECT_EQ(collect(flags), 0x4800);
     flags.value = 0x2402; // bits that belong to no control are dropped
-    binding.fill(flags);
-    EXPECT_EQ(binding.collect(flags), 0);
+    fill(flags);
+    EXPECT_EQ(collect(flags), 0);
 }
 
 TEST_F(Binding, LabelsAndReadOnlyParametersGiveTheHeldValueBack)
@@ -159,15 +179,15 @@ TEST_F(Binding, LabelsAndReadOnlyParametersGiveTheHeldValueBack)
     add<QSpinBox>("LOCKED");
     SingleParam p = param("HWSERIAL", 240117, 0, 536870911);
     p.readonly = true;
-    EXPECT_TRUE(binding.fill(p));
+    EXPECT_TRUE(fill(p));
     EXPECT_EQ(serial->text(), "240117");
-    EXPECT_EQ(binding.collect(p), 240117);
+    EXPECT_EQ(collect(p), 240117);
     SingleParam locked = param("LOCKED", 50, 0, 10);
     locked.readonly = true;
-    binding.fill(locked);
-    EXPECT_EQ(binding.collect(locked), 50);
-    EXPECT_FALSE(binding.fill(param("UID", 5, 0, 9)));
-    EXPECT_EQ(binding.collect(param("UID", 5, 0, 9)), 5);
+    fill(locked);
+    EXPECT_EQ(collect(locked), 50);
+    EXPECT_FALSE(fill(param("UID", 5, 0, 9)));
+    EXPECT_FALSE(binding.read(param("UID", 5, 0, 9)));
 }
 
 TEST_F(Binding, ParameterThatTheModelLacksIsWithdrawnAndComesBack)
@@ -180,24 +200,24 @@ TEST_F(Binding, ParameterThatTheModelLacksIsWithdrawnAndComesBack)
     caption->setToolTip("Added to the address.");
     const SingleParam missing = param("ZBO", -1, 0, 0);
     for (int i = 0; i < 2; ++i) { // twice: the tool tip that is kept must not be our own
-        binding.fill(missing);
+        fill(missing);
         binding.setSupported(missing.name, false);
         EXPECT_FALSE(box->isEnabled());
         EXPECT_FALSE(caption->isEnabled());
         EXPECT_EQ(box->toolTip(), "not on this model");
         EXPECT_EQ(caption->toolTip(), "not on this model");
         EXPECT_FALSE(box->text().contains('1')); // what it shows is no number
-        EXPECT_EQ(binding.collect(missing), -1);
+        EXPECT_EQ(collect(missing), -1);
     }
     const SingleParam present = param("ZBO", 3, 0, 15);
-    binding.fill(present);
+    fill(present);
     binding.setSupported(present.name, true);
     EXPECT_TRUE(box->isEnabled());
     EXPECT_EQ(box->toolTip(), "Added to the address.");
     EXPECT_EQ(caption->toolTip(), "Added to the address.");
     EXPECT_EQ(box->text(), "3");
     EXPECT_EQ(box->minimum(), 0);
-    EXPECT_EQ(binding.collect(present), 3);
+    EXPECT_EQ(collect(present), 3);
 }
 
 TEST_F(Binding, DrivesOwnLimitsStandInTheToolTip)
@@ -205,13 +225,13 @@ TEST_F(Binding, DrivesOwnLimitsStandInTheToolTip)
     auto *box = add<DecimalBox>("MCC");
     box->setSuffix(" A");
     box->setToolTip("Current that the motor stands.");
-    binding.fill(param("MCC", 10, 0, 35)); // from a file: nobody knows what a drive accepts
+    fill(param("MCC", 10, 0, 35)); // from a file: nobody knows what a drive accepts
     EXPECT_EQ(box->toolTip(), "Current that the motor stands.");
     for (int i = 0; i < 2; ++i) {
-        binding.fill(param("MCC", 10, 0, 35), true);
+        fill(param("MCC", 10, 0, 35), true);
         binding.setSupported("MCC", true);
         EXPECT_EQ(box->toolTip(), "Current that the motor stands.<p>This drive: 0 to 35 A</p>");
-        binding.fill(param("MCC", 10, 0, 0), true);
+        fill(param("MCC", 10, 0, 0), true);
         binding.setSupported("MCC", false);
         EXPECT_EQ(box->toolTip(), "not on this model");
     }
@@ -222,12 +242,12 @@ TEST_F(Binding, WithdrawnComboBoxShowsNoChoice)
     auto *combo = add<QComboBox>("TRF1");
     combo->addItems({"None", "Constant"});
     const SingleParam missing = param("TRF1", -1, 0, 0);
-    binding.fill(missing);
+    fill(missing);
     binding.setSupported(missing.name, false);
     EXPECT_EQ(combo->currentText(), "");
-    EXPECT_EQ(binding.collect(missing), -1);
+    EXPECT_EQ(collect(missing), -1);
     const SingleParam present = param("TRF1", 1, 0, 25);
-    binding.fill(present);
+    fill(present);
     binding.setSupported(present.name, true);
     EXPECT_EQ(combo->currentText(), "Constant");
     EXPECT_EQ(combo->count(), 2);

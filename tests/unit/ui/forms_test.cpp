@@ -206,12 +206,18 @@ TEST(Forms, EveryObjectOfAVisibilityRuleIsThere)
         EXPECT_TRUE(findWidget(object.objectName)) << qPrintable(object.objectName);
 }
 
-TEST(Pages, FormsAndPicturesOfThePageTableAreThere)
+TEST(Pages, FormPictureAndHelpOfEachRowAreThereAndOnlyPagesWithSettingsApply)
 {
     Q_INIT_RESOURCE(graphics); // the pictures stand in a static library
-    for (const PageInfo &page : pageTable) {
-        EXPECT_TRUE(findWidget(QString::fromLatin1(page.form))) << page.form;
+    const Parameters catalogue = driveParameterCatalogue();
+    for (const PageInfo &page : pageTable()) {
+        const QString form = QString(page.form).toLower() + ".ui";
+        ASSERT_TRUE(windowForms().contains(form)) << page.form;
         EXPECT_FALSE(QIcon(QString::fromLatin1(page.icon)).pixmap(64, 64).isNull()) << page.icon;
-        EXPECT_EQ(page.hasSettings, &page >= &pageTable[GoalsPageIndex] && &page <= &pageTable[FaultLimitsPageIndex]);
+        EXPECT_TRUE(QFile::exists(QString(VELBRIN_SOURCE_DIR) + page.helpFile)) << page.helpFile;
+        bool hasSettings = false;
+        for (int i = 0; i < catalogue.getParamCount(); ++i)
+            hasSettings |= isEditable(windowForms()[form].widgets.value(catalogue.getParam(i).name).kind);
+        EXPECT_EQ(page.hasSettings, hasSettings) << page.name;
     }
 }

@@ -60,6 +60,13 @@ QWidget *findControl(const QWidget *root, const QString &name)
     return root->findChild<QLabel *>(name);
 }
 
+QWidget *findBitControl(const QWidget *root, const QString &name)
+{
+    if (auto *box = root->findChild<QCheckBox *>(name))
+        return box;
+    return root->findChild<QComboBox *>(name);
+}
+
 /// What an editable control holds, or nothing for a label.
 bool readControl(const QWidget *control, double &value)
 {
@@ -74,27 +81,25 @@ bool readControl(const QWidget *control, double &value)
     return true;
 }
 
-void fillBitField(QWidget *root, const QVector<BitFieldControl> &controls, int value)
+void fillBitField(const QVector<QWidget *> &widgets, const QVector<BitFieldControl> &fields, int value)
 {
-    for (const BitFieldControl &field : controls) {
-        const QString name = QString::fromLatin1(field.name);
-        const int choice = choiceOfBits(field, value);
-        if (auto *box = root->findChild<QCheckBox *>(name))
+    for (int i = 0; i < fields.size(); ++i) {
+        const int choice = choiceOfBits(fields[i], value);
+        if (auto *box = qobject_cast<QCheckBox *>(widgets[i]))
             box->setChecked(choice != 0);
-        else if (auto *combo = root->findChild<QComboBox *>(name))
+        else if (auto *combo = qobject_cast<QComboBox *>(widgets[i]))
             combo->setCurrentIndex(choice);
     }
 }
 
-int collectBitField(const QWidget *root, const QVector<BitFieldControl> &controls)
+int readBitField(const QVector<QWidget *> &widgets, const QVector<BitFieldControl> &fields)
 {
     int value = 0;
-    for (const BitFieldControl &field : controls) {
-        const QString name = QString::fromLatin1(field.name);
-        if (auto *box = root->findChild<QCheckBox *>(name))
-            value |= bitsOfChoice(field, box->isChecked() ? 1 : 0);
-        else if (auto *combo = root->findChild<QComboBox *>(name))
-            value |= bitsOfChoice(field, combo->currentIndex());
+    for (int i = 0; i < fields.size(); ++i) {
+        if (auto *box = qobject_cast<const QCheckBox *>(widgets[i]))
+            value |= bitsOfChoice(fields[i], box->isChecked() ? 1 : 0);
+        else if (auto *combo = qobject_cast<const QComboBox *>(widgets[i]))
+            value |= bitsOfChoice(fields[i], combo->currentIndex());
     }
     return value;
 }
@@ -122,92 +127,99 @@ bool hasValueItem(const QComboBox *combo)
 
 } // namespace
 
-bool ControlBinding::fill(const SingleParam &p, bool fromDrive)
+ControlBinding::Control &ControlBinding::control(const QString &name) const
 {
-    const auto &bitField = bitFieldControls(p.name);
-    if (!bitField.isEmpty()) {
-        fillBitField(m_root, bitField, toInt(p.value));
-        return true;
+    const auto known = m_controls.find(name);
+    if (known != m_controls.end())
+        return *known;
+    Control control;
+    for (const BitFieldControl &field : bitFieldControls(name))
+        control.bitField.append(findBitControl(m_root, QString::fromLatin1(field.name)));
+    if (control.bitField.isEmpty())
+        control.widget = findControl(m_root, name);
+    return *m_controls.insert(name, control);
+}
+
+ControlBinding::Filled ControlBinding::fill(const SingleParam &p, bool fromDrive)
+{
+    const Control &bound = control(p.name);
+    if (!bound.bitField.isEmpty()) {
+        fillBitField(bound.bitField, bitFieldControls(p.name), toInt(p.value));
+        return {true, {}};
     }
-    QWidget *control = findControl(m_root, p.name);
-    if (!control)
-        return false;
-    if (auto *label = qobject_cast<QLabel *>(control)) {
+    if (!bound.widget)
+        return {};
+    if (auto *label = qobject_cast<QLabel *>(bound.widget)) {
         label->setText(infoLabelText(p.name, p.value));
-        return true;
+        return {true, {}};
     }
     double shown = 0.0;
     if (!std::isfinite(p.value)) { // nothing that a control could show: it keeps what it has, and that counts
-        readControl(control, shown);
-        m_filled.insert(p.name, {shown, shown});
-        return true;
+        readControl(bound.widget, shown);
+        return {true, ShownValue{shown, shown}};
     }
     double exact = withinLimits(p);
-    if (auto *box = qobject_cast<QSpinBox *>(control)) {
+    if (auto *box = qobject_cast<QSpinBox *>(bound.widget)) {
         shown = fillSpinBox(box, p, toInt);
-    } else if (auto *box = qobject_cast<QDoubleSpinBox *>(control)) {
+    } else if (auto *box = qobject_cast<QDoubleSpinBox *>(bound.widget)) {
         shown = fillSpinBox(box, p, [](double value) { return value; });
-    } else if (auto *combo = qobject_cast<QComboBox *>(control)) {
+    } else if (auto *combo = qobject_cast<QComboBox *>(bound.widget)) {
         selectComboValue(combo, toInt(p.value));
         shown = comboValue(combo);
         exact = p.value; // a choice is not clamped: "Value n" shows what the drive holds
     }
-    m_filled.insert(p.name, {shown, exact});
-    if (NumberField *field = NumberField::of(control)) {
+    if (NumberField *field = NumberField::of(bound.widget)) {
         const bool known = fromDrive && hasLimits(p);
         field->setLimitsAreDrives(known);
         field->refresh();
-        showToolTip(control, known ? field->driveLimitsText() : QString(), m_withdrawn.contains(p.name));
+        showToolTip(bound.widget, known ? field->driveLimitsText() : QString(), bound.withdrawn);
     }
-    return true;
+    return {true, ShownValue{shown, exact}};
 }
 
-void ControlBinding::keepStartValue(const SingleParam &p, int startValue)
+ControlBinding::Filled ControlBinding::keepStartValue(const SingleParam &p, int startValue)
 {
-    QWidget *control = findControl(m_root, p.name);
-    if (auto *combo = qobject_cast<QComboBox *>(control))
+    QWidget *widget = control(p.name).widget;
+    if (auto *combo = qobject_cast<QComboBox *>(widget))
         selectComboValue(combo, startValue);
     double shown = 0.0;
-    if (readControl(control, shown))
-        m_filled.insert(p.name, {shown, p.value});
+    if (!readControl(widget, shown))
+        return {widget != nullptr, {}};
+    return {true, ShownValue{shown, p.value}};
 }
 
-double ControlBinding::collect(const SingleParam &p) const
+std::optional<double> ControlBinding::read(const SingleParam &p) const
 {
-    const auto &bitField = bitFieldControls(p.name);
-    if (!bitField.isEmpty())
-        return collectBitField(m_root, bitField);
+    const Control &bound = control(p.name);
+    if (!bound.bitField.isEmpty())
+        return readBitField(bound.bitField, bitFieldControls(p.name));
     double now = 0.0;
-    if (p.readonly || m_withdrawn.contains(p.name) || !readControl(findControl(m_root, p.name), now))
-        return p.value;
-    const auto filled = m_filled.find(p.name);
-    return filled != m_filled.end() && filled->shown == now ? filled->exact : now;
+    if (p.readonly || bound.withdrawn || !readControl(bound.widget, now))
+        return {};
+    return now;
 }
 
 void ControlBinding::setSupported(const QString &name, bool supported)
 {
-    QWidget *control = findControl(m_root, name);
-    if (!control || qobject_cast<QLabel *>(control))
+    Control &bound = control(name);
+    if (!bound.widget || qobject_cast<QLabel *>(bound.widget))
         return;
     if (!supported)
-        setBlank(control, true); // each time: what was filled in before is nothing that the drive has
-    if (supported != m_withdrawn.contains(name))
+        setBlank(bound.widget, true); // each time: what was filled in before is nothing that the drive has
+    if (supported != bound.withdrawn)
         return;
     if (supported)
-        setBlank(control, false);
-    QList<QWidget *> widgets{control};
+        setBlank(bound.widget, false);
+    QList<QWidget *> widgets{bound.widget};
     for (QLabel *label : m_root->findChildren<QLabel *>())
-        if (label->buddy() == control)
+        if (label->buddy() == bound.widget)
             widgets.append(label);
     for (QWidget *widget : widgets) {
         widget->setEnabled(supported);
         const NumberField *field = NumberField::of(widget);
         showToolTip(widget, field && field->limitsAreDrives() ? field->driveLimitsText() : QString(), !supported);
     }
-    if (supported)
-        m_withdrawn.remove(name);
-    else
-        m_withdrawn.insert(name);
+    bound.withdrawn = !supported;
 }
 
 void ControlBinding::showToolTip(QWidget *widget, const QString &addition, bool withdrawn)

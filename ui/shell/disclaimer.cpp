@@ -1,21 +1,15 @@
-// Boxes of the shell: disclaimer, overrides, busy, questions that wait their turn, and closing.
-#include "busydialog.h"
-#include "errorwindow.h"
-#include "mw.h"
+#include "disclaimer.h"
 
-#include <QApplication>
-#include <QCloseEvent>
 #include <QDebug>
 #include <QMessageBox>
 #include <QPushButton>
-#include <QStatusBar>
 #include <QTimer>
 
-bool MW::showDisclaimer()
+bool Disclaimer::isAgreedTo(QWidget *window)
 {
-    QMessageBox box(this);
-    box.setWindowIcon(windowIcon());
-    box.setIconPixmap(windowIcon().pixmap(64, 64));
+    QMessageBox box(window);
+    box.setWindowIcon(window->windowIcon());
+    box.setIconPixmap(window->windowIcon().pixmap(64, 64));
     box.setWindowTitle(tr("Velbrin starting up"));
     box.setText(tr("Welcome to Velbrin servo drive configuration software!<h3>Important safety information</h3>The "
                    "most important thing while operating a servo drive is knowing the electrical and mechanical risks "
@@ -36,68 +30,13 @@ bool MW::showDisclaimer()
     if (box.clickedButton() == agree)
         return true;
 
-    QMessageBox farewell(this);
+    QMessageBox farewell(window);
     farewell.setWindowTitle(tr("Velbrin"));
     farewell.setText(tr("This software will exit as Disagree button was clicked. You may contact Tarnwell Devices to "
                         "obtain customized agreement."));
     farewell.setDefaultButton(farewell.addButton(tr("Quit"), QMessageBox::RejectRole));
     farewell.exec();
-    QTimer::singleShot(0, this, &QWidget::close);
+    QTimer::singleShot(0, window, &QWidget::close);
     qDebug() << "disagree";
     return false;
-}
-
-void MW::on_actionRaw_parameters_triggered()
-{
-    m_overridesDialog->show();
-    m_overridesDialog->raise();
-    m_overridesDialog->activateWindow();
-}
-
-void MW::setBusy(bool busy, bool nonBlocking)
-{
-    qDebug() << "BUSY " << (busy ? "true" : "false");
-    if (!busy)
-        m_busyDialog->hide();
-    else if (!nonBlocking)
-        m_busyDialog->show();
-    setCursor(busy ? Qt::BusyCursor : Qt::ArrowCursor);
-}
-
-void MW::askWhenFree(const std::function<void()> &question, Asked asked)
-{
-    m_questions.append({question, asked});
-    m_questionTimer->start();
-    runWaitingQuestion();
-}
-
-void MW::runWaitingQuestion()
-{
-    if (m_questions.isEmpty()) {
-        m_questionTimer->stop();
-        return;
-    }
-    const bool messageInTheWay = m_errorWindow->isVisible() && m_questions.first().asked == Asked::BySession;
-    if (!QApplication::activeModalWidget() && !QApplication::activePopupWidget() && !messageInTheWay)
-        m_questions.takeFirst().ask();
-}
-
-void MW::closeEvent(QCloseEvent *event)
-{
-    qDebug() << "Close";
-    if (m_helpView->isSaving()) {
-        m_closeWhenSaved = true; // pictureSaved() comes, after 20 s at the latest
-        statusBar()->showMessage(tr("The graphs are being written; the window closes when that is done"));
-        event->ignore();
-        return;
-    }
-    if (askToKeepUpgrading() || checkIfParamsChangedAndAskUser(AskWithAbort) || checkIfParamsSavedAndAskUser()) {
-        event->ignore();
-        return;
-    }
-    stopStimulus();
-    m_questions.clear();
-    m_errorWindow->endMessages();
-    saveLayout();
-    event->accept();
 }

@@ -3,54 +3,61 @@
 #ifndef CONTROLBINDING_H
 #define CONTROLBINDING_H
 
-#include "singleparam.h"
+#include "editedsettings.h"
 
 #include <QHash>
-#include <QSet>
 #include <QString>
+#include <QVector>
+#include <optional>
 
 class QComboBox;
 class QWidget;
 
-/// Fills and reads the controls among the descendants of one widget (dialogs that are its children included). Looks for
-/// a spin box first, then a double spin box, a combo box, a label. Remembers what it filled in, so that a control that
-/// nobody edited gives back exactly the value that came in, whatever the control's decimals made of it.
-/// User-interface thread.
+/// Fills and reads the controls among the descendants of one widget (dialogs that are its children included): a spin
+/// box, else a double spin box, a combo box, a label. Each is looked up once, when its parameter first comes up. Knows
+/// nothing of edits: EditedSettings does. User-interface thread.
 class ControlBinding
 {
 public:
     explicit ControlBinding(QWidget *root) : m_root(root) {}
 
+    /// What became of a parameter.
+    struct Filled
+    {
+        bool found = false;              ///< there is a control of that name
+        std::optional<ShownValue> shown; ///< none for labels and bit fields, which show exactly what came in
+    };
     /// Shows a parameter in its control: range, then value, held within the range; a bit field in all of its controls.
     /// Limits that a drive has reported (`fromDrive`) stand in the control's tool tip.
     /// Limits that no drive has reported yet (both 0) leave the control's own range, widened where the value lies
-    /// outside. A value that a combo box has no item for gets an item "Value n". Returns false when there is no
-    /// control of that name.
-    bool fill(const SingleParam &p, bool fromDrive = false);
+    /// outside. A value that a combo box has no item for gets an item "Value n".
+    Filled fill(const SingleParam &p, bool fromDrive = false);
     /// Leaves a parameter that nobody has read or set as the form has it, a combo box at the start value. The control
     /// stands for the held value, not for what it shows, until somebody edits it.
-    void keepStartValue(const SingleParam &p, int startValue);
-    /// The parameter's value as its control stands. Labels, read-only parameters, parameters without a control and
-    /// withdrawn ones give back the held value: nothing can be edited there.
-    double collect(const SingleParam &p) const;
+    Filled keepStartValue(const SingleParam &p, int startValue);
+    /// What the parameter's control holds. Nothing where nothing can be edited: labels, read-only parameters,
+    /// parameters without a control and withdrawn ones.
+    std::optional<double> read(const SingleParam &p) const;
     /// Withdraws the control of a parameter that the connected model lacks: it is emptied and disabled, and its tool
     /// tip says why. The other way round it is enabled and its own tool tip comes back. The caption goes with its
     /// control; labels are left alone. To be called after fill().
     void setSupported(const QString &name, bool supported);
 
 private:
-    struct Filled
+    /// What belongs to one mnemonic.
+    struct Control
     {
-        double shown; ///< what the control made of it
-        double exact; ///< what came in, within the drive's limits
+        QWidget *widget = nullptr;
+        QVector<QWidget *> bitField; ///< one for each row of bitFieldControls(), null where there is none
+        bool withdrawn = false;
     };
 
+    Control &control(const QString &name) const;
     void showToolTip(QWidget *widget, const QString &addition, bool withdrawn);
 
     QWidget *m_root;
-    QHash<QString, Filled> m_filled;
-    QHash<QWidget *, QString> m_ownToolTips; ///< as the forms have them
-    QSet<QString> m_withdrawn;               ///< mnemonics
+    mutable QHash<QString, Control> m_controls; ///< by mnemonic, each as soon as it is asked for
+    QHash<QWidget *, QString> m_ownToolTips;    ///< as the forms have them
 };
 
 /// Text of a read-only information label. Identity values of 0 or less have not been read from a drive and say so.

@@ -1,7 +1,10 @@
 #include "tour.h"
 
+#include "applydesk.h"
+#include "disclaimer.h"
 #include "errorwindow.h"
 #include "mw.h"
+#include "pagetable.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -25,9 +28,6 @@ constexpr int settleMs = 400;        ///< for the help pane, and for what the ne
 constexpr int testMoveTarget = 1000; ///< setpoint units; half of the virtual drive's tracking error limit
 
 const char *const captureRate = "2500 Hz"; ///< the recorder's memory then holds the whole move
-
-const char *const pageFiles[] = {"welcome", "connect", "goals", "machine", "tuning", "fault-limits", "testing"};
-enum Page { Connect = 1, Tuning = 4, Testing = 6 };
 
 MW *window()
 {
@@ -83,15 +83,6 @@ bool openFirstNode()
     return press(dialog->findChild<QDialogButtonBox *>()->button(QDialogButtonBox::Open));
 }
 
-/// Whether the status panel shows a flag as set (a filled circle) or clear (an open one).
-bool statusShows(const char *flag, bool set)
-{
-    const auto *panel = find<QLabel>("statusRegister");
-    const QString line =
-        QLatin1String(set ? "&#9679;" : "&#9675;") + QLatin1String("&nbsp;&nbsp;") + QLatin1String(flag);
-    return panel && panel->text().contains(line);
-}
-
 bool applyButtonSays(const char *text)
 {
     const auto *button = find<QPushButton>("apply_button");
@@ -131,9 +122,13 @@ void Tour::plan()
             fail(tr("it cannot be made"));
         return made;
     });
-    add(tr("accept the disclaimer"), [] { return answer(MW::tr("I Agree")); });
+    add(tr("accept the disclaimer"), [] { return answer(Disclaimer::tr("I Agree")); });
     add(tr("see the window"), [] { return window() && window()->isVisible() && !QApplication::activeModalWidget(); });
-    addPage(Connect);
+    add(tr("watch the drive"), [this] {
+        return bool(connect(&window()->session(), &Connection::statePolled, this,
+                            [this](const DriveState &state) { m_state = state; }));
+    });
+    addPage("connect");
     addPress(tr("search for drives"), "connect_button");
     add(tr("see a drive in the list"), [] { return nodeDialog() != nullptr; });
     addScreenshot(QStringLiteral("choose-drive"), "nodeList");
@@ -148,15 +143,15 @@ void Tour::plan()
 
 void Tour::planPages()
 {
-    for (int page = 0; page < int(std::size(pageFiles)); ++page) {
-        addPage(page);
-        addScreenshot(QLatin1String(pageFiles[page]));
+    for (const PageInfo &page : pageTable()) {
+        addPage(page.name);
+        addScreenshot(QLatin1String(page.name));
     }
 }
 
 void Tour::planEdit()
 {
-    addPage(Tuning);
+    addPage("tuning");
     add(tr("edit a gain"), [] {
         auto *gain = find<QSpinBox>("KPP");
         gain->setFocus();
@@ -171,10 +166,10 @@ void Tour::planEdit()
 
 void Tour::planTestMove()
 {
-    addPage(Connect);
+    addPage("connect");
     addPress(tr("enable the drive"), "enable_drive");
-    add(tr("see the drive run"), [] { return statusShows("Run", true); });
-    addPage(Testing);
+    add(tr("see the drive run"), [this] { return runs(); });
+    addPage("testing");
     add(tr("choose a sample rate"), [] {
         auto *rates = find<QComboBox>("ScopeSampleRate");
         rates->setCurrentText(QLatin1String(captureRate));
@@ -192,17 +187,22 @@ void Tour::planTestMove()
     add(tr("see the capture done"), [] { return captureButtonSays("Start capture"); });
     addSettling(tr("let the plot settle"));
     addScreenshot(QStringLiteral("testing-capture"));
-    addPage(Connect);
+    addPage("connect");
     addPress(tr("disable the drive"), "disable_drive");
-    add(tr("see the drive stopped"), [] { return statusShows("Run", false); });
+    add(tr("see the drive stopped"), [this] { return !runs(); });
 }
 
 void Tour::planEnd()
 {
     addPress(tr("disconnect"), "disconnect_button");
-    add(tr("leave the change unsaved"), [] { return answer(MW::tr("Discard changes")); });
+    add(tr("leave the change unsaved"), [] { return answer(ApplyDesk::tr("Discard changes")); });
     add(tr("see the drive disconnected"), [] { return find<QPushButton>("connect_button")->isEnabled(); });
     add(tr("close the window"), [] { return QMetaObject::invokeMethod(window(), "close", Qt::QueuedConnection); });
+}
+
+bool Tour::runs() const
+{
+    return (m_state.statusRegister & statusBitRun) != 0;
 }
 
 void Tour::add(const QString &what, const std::function<bool()> &done)
@@ -215,13 +215,13 @@ void Tour::addPress(const QString &what, const char *button)
     add(what, [button] { return press(find<QPushButton>(button)); });
 }
 
-void Tour::addPage(int index)
+void Tour::addPage(const char *name)
 {
-    add(tr("show page %1").arg(index), [index] {
+    add(tr("show page %1").arg(QLatin1String(name)), [index = pageIndex(name)] {
         find<QListWidget>("pageSelector")->setCurrentRow(index);
         return true;
     });
-    addSettling(tr("let page %1 settle").arg(index));
+    addSettling(tr("let page %1 settle").arg(QLatin1String(name)));
 }
 
 void Tour::addSettling(const QString &what)

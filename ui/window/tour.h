@@ -4,6 +4,8 @@
 #ifndef TOUR_H
 #define TOUR_H
 
+#include "drivestate.h"
+
 #include <QElapsedTimer>
 #include <QObject>
 #include <QTimer>
@@ -45,9 +47,10 @@ private:
     void add(const QString &what, const std::function<bool()> &done);
     void addPress(const QString &what, const char *button);
     void addScreenshot(const QString &name, const char *dialog = nullptr);
-    void addPage(int index);
+    void addPage(const char *name);
     void addSettling(const QString &what);
 
+    bool runs() const;
     void step();
     void fail(const QString &reason);
     void endFailed();
@@ -57,6 +60,7 @@ private:
     std::vector<Stop> m_stops;
     std::size_t m_next = 0;
     QTimer m_timer;
+    DriveState m_state; ///< as polled last
     QElapsedTimer m_atThisStop;
     bool m_failed = false;
 };

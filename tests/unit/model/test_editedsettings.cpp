@@ -1,0 +1,123 @@
+// When edits count as pending, what differs from the drive, and what a control's rounding does not change.
+#include "editedsettings.h"
+
+#include <cmath>
+#include <gtest/gtest.h>
+
+namespace {
+
+using Source = EditedSettings::Source;
+constexpr int kvp = 0, cvl = 1;
+
+Parameters valuesOf(double kvpValue, double cvlValue)
+{
+    Parameters list;
+    for (const char *name : {"KVP", "CVL", "PIF"}) {
+        SingleParam p;
+        p.name = name;
+        p.readonly = p.name == "PIF";
+        list.addParameter(p);
+    }
+    SingleParam p = list.getParam(kvp);
+    p.value = kvpValue;
+    list.replaceParam(p, kvp);
+    p = list.getParam(cvl);
+    p.value = cvlValue;
+    p.scaling = 100.0;
+    list.replaceParam(p, cvl);
+    return list;
+}
+
+/// As the window takes a list over.
+EditedSettings settledOn(const Parameters &list, Source source = Source::Drive)
+{
+    EditedSettings settings;
+    settings.accept(list, source);
+    settings.settle();
+    return settings;
+}
+
+} // namespace
+
+TEST(EditedSettings, AnEditIsPendingUntilUndoneOrApplied)
+{
+    EditedSettings settings;
+    settings.accept(valuesOf(1, 2), Source::Drive);
+    EXPECT_FALSE(settings.isPending()); // nothing was ever settled: the list is only just there
+    settings.settle();
+    settings.edit(cvl, 3);
+    EXPECT_TRUE(settings.isPending());
+    settings.edit(cvl, 2);
+    EXPECT_FALSE(settings.isPending());
+    settings.edit(cvl, 3);
+    settings.applied();
+    EXPECT_FALSE(settings.isPending());
+    EXPECT_FALSE(settings.isSaved());
+    settings.edit(cvl, 2);
+    EXPECT_TRUE(settings.isPending());
+}
+
+TEST(EditedSettings, AFileIsPendingEvenWithoutADifferenceAndAcrossWhatASecondOneBrings)
+{
+    EditedSettings settings = settledOn(valuesOf(1, 2));
+    for (int i = 0; i < 2; ++i) {
+        settings.accept(valuesOf(1, 2), Source::File);
+        EXPECT_TRUE(settings.isPending());
+    }
+    EXPECT_TRUE(settings.driveWasRead()); // the drive is still there
+    settings.settle();
+    EXPECT_FALSE(settings.isPending());
+    EXPECT_TRUE(settings.isSaved()); // nothing was given to the drive
+}
+
+TEST(EditedSettings, ValueThatIsNoNumberIsNotAnEditForEver)
+{
+    EditedSettings settings = settledOn(valuesOf(NAN, 2));
+    EXPECT_FALSE(settings.isPending());
+    settings.edit(kvp, 1);
+    EXPECT_TRUE(settings.isPending());
+}
+
+TEST(EditedSettings, UneditedControlStandsForExactlyWhatCameIn)
+{
+    const double exact = 801 / (50.0 / 3); // 48.06, but not to the last bit
+    EditedSettings settings = settledOn(valuesOf(1, exact));
+    settings.showAs("CVL", {48.06, exact});
+    settings.edit(cvl, 48.06);
+    EXPECT_EQ(settings.value("CVL"), exact);
+    EXPECT_FALSE(settings.isPending());
+    settings.edit(cvl, 48.07);
+    EXPECT_EQ(settings.value("CVL"), 48.07);
+}
+
+TEST(EditedSettings, OnlyAWholeReadOfThisConnectionCountsAsTheDrives)
+{
+    for (const Source source : {Source::BareCatalogue, Source::File, Source::PartOfDrive})
+        EXPECT_FALSE(settledOn(valuesOf(1, 2), source).driveWasRead());
+    EditedSettings settings = settledOn(valuesOf(1, 2));
+    EXPECT_TRUE(settings.driveWasRead());
+    settings.accept(valuesOf(1, 2), Source::PartOfDrive);
+    EXPECT_FALSE(settings.driveWasRead());
+    settings = settledOn(valuesOf(1, 2));
+    settings.connectionChanged();
+    EXPECT_FALSE(settings.driveWasRead());
+}
+
+TEST(EditedSettings, DifferencesAreWhatTheDriveWouldHoldOtherwise)
+{
+    EditedSettings settings = settledOn(valuesOf(1, 2));
+    EXPECT_TRUE(settings.differences().isEmpty());
+    settings.setDrive(valuesOf(1, 2));
+    settings.edit(cvl, 2.004); // the drive counts in hundredths
+    EXPECT_TRUE(settings.differences().isEmpty());
+    settings.edit(cvl, 2.01);
+    settings.edit(kvp, 5);
+    const auto found = settings.differences();
+    ASSERT_EQ(found.size(), 2);
+    EXPECT_EQ(found[0].name, "KVP");
+    EXPECT_EQ(found[0].drive, 1);
+    EXPECT_EQ(found[0].edited, 5);
+    EXPECT_EQ(found[1].name, "CVL");
+    settings.connectionChanged();
+    EXPECT_TRUE(settings.differences().isEmpty());
+}

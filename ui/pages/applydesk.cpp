@@ -1,0 +1,206 @@
+#include "applydesk.h"
+
+#include "connection.h"
+#include "editedfield.h"
+#include "editedsettings.h"
+#include "errorwindow.h"
+#include "filedialog.h"
+#include "parameterpages.h"
+
+#include <QDebug>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QSpinBox>
+#include <QStatusBar>
+
+ApplyDesk::ApplyDesk(QWidget *window, const Controls &controls, Connection &session, EditedSettings &settings,
+                     ParameterPages *pages, const Reports &reports)
+    : QObject(window), m_window(window), m_controls(controls), m_session(session), m_settings(settings),
+      m_pages(pages), m_reports(reports)
+{
+}
+
+void ApplyDesk::updateButton()
+{
+    m_pages->collect();
+    // A number that is just being typed counts with the next Apply.
+    const bool pending = m_settings.isPending() || isNewNumberTyped();
+    m_controls.apply->setDefault(pending);
+    m_controls.apply->setText(pending ? tr("Apply settings (parameters changed)") : tr("Apply settings [Alt+A]"));
+}
+
+void ApplyDesk::updateSaveToFileButton()
+{
+    // Without a drive there is nothing to wait for; with one, a file must not pass for its settings before they came.
+    m_controls.saveToFile->setEnabled(!m_session.isConnected() || m_settings.driveWasRead());
+}
+
+void ApplyDesk::showConnection(Reach reach)
+{
+    enableByReach(m_controls.apply, reach);
+    updateSaveToFileButton();
+}
+
+bool ApplyDesk::driveWasRead(const QString &refusal)
+{
+    if (!m_settings.driveWasRead())
+        m_reports.status->showMessage(refusal);
+    return m_settings.driveWasRead();
+}
+
+// --- Apply and store ----------------------------------------------------------------------------------------------
+
+void ApplyDesk::apply()
+{
+    if (commitEditedField(m_window)) // what was typed is not what would be applied
+        applyNow();
+}
+
+bool ApplyDesk::applyNow()
+{
+    if (!m_controls.apply->isEnabled()) // the shortcut reaches the slot all the same
+        return false;
+    if (!driveWasRead(tr("Nothing applied: the settings of this drive have not been read yet")))
+        return false;
+    m_reports.errors->note(m_pages->sanityWarnings());
+    m_session.setWatchedParameter(m_controls.watchedRegister->value());
+    m_pages->collect();
+    m_settings.applied();
+    m_session.setParams(m_settings.edited());
+    m_session.command(Connection::TaskSetParams);
+    m_session.checkErrors();
+    emit m_pages->unitsChanged();
+    updateButton();
+    return true;
+}
+
+void ApplyDesk::saveToFlash()
+{
+    // An abort here still saves: what is in the drive's memory is worth keeping whatever becomes of the edits.
+    askToApply();
+    if (!driveWasRead(tr("Nothing saved: the settings of this drive have not been read yet")))
+        return;
+    m_session.command(Connection::TaskSaveToFlash);
+    m_settings.setSaved(true);
+}
+
+// --- Questions ----------------------------------------------------------------------------------------------------
+
+bool ApplyDesk::mayAsk()
+{
+    commitEditedField(m_window);
+    m_pages->collect();
+    return m_settings.isPending() && reachOf(m_session) == Reach::Firmware;
+}
+
+namespace {
+QString notAppliedText()
+{
+    return ApplyDesk::tr("Some paramets have been changed since last Apply. Changed settings won't take effect before "
+                         "Apply.");
+}
+} // namespace
+
+ApplyDesk::Answer ApplyDesk::askBeforeTesting()
+{
+    if (!mayAsk())
+        return Answer::GoOn;
+    QMessageBox box(QMessageBox::Question, tr("Velbrin"), notAppliedText(), QMessageBox::Yes | QMessageBox::No,
+                    m_window);
+    box.setInformativeText(tr("Do you wish to apply changes to drive now?"));
+    box.setDefaultButton(QMessageBox::Yes);
+    if (box.exec() != QMessageBox::Yes)
+        return Answer::GoOn;
+    apply();
+    return Answer::Apply;
+}
+
+ApplyDesk::Answer ApplyDesk::askToApply()
+{
+    if (!mayAsk())
+        return Answer::GoOn;
+    QMessageBox box(QMessageBox::Question, tr("Velbrin"), notAppliedText(), QMessageBox::Abort, m_window);
+    box.setInformativeText(tr("Do you wish to apply changes to drive now? You may also choose Abort to go back."));
+    const QPushButton *goOn = box.addButton(tr("Continue without applying"), QMessageBox::DestructiveRole);
+    const QPushButton *apply = box.addButton(tr("Apply settings"), QMessageBox::YesRole);
+    box.setDefaultButton(QMessageBox::Abort); // a stray Return neither writes to the drive nor loses an edit
+    box.exec();
+    if (box.clickedButton() == goOn) {
+        qDebug() << "dont apply";
+        m_settings.settle();
+        return Answer::GoOn;
+    }
+    if (box.clickedButton() == apply) {
+        qDebug() << "apply";
+        return applyNow() ? Answer::Apply : Answer::Stay; // a refused apply must not cost the edits
+    }
+    qDebug() << "abort";
+    return Answer::Stay;
+}
+
+ApplyDesk::Answer ApplyDesk::askToSave()
+{
+    m_pages->collect();
+    if (m_settings.isSaved() || reachOf(m_session) != Reach::Firmware)
+        return Answer::GoOn;
+    QMessageBox box(QMessageBox::Question, tr("Velbrin"),
+                    tr("Some paramets have been changed since last Save to drive. Last changes will be lost on drive "
+                       "power-off if not saved."),
+                    QMessageBox::Abort, m_window);
+    box.setInformativeText(
+        tr("Do you wish to save active settings to drive now? You may also choose Abort to go back."));
+    const QPushButton *discard = box.addButton(tr("Discard changes"), QMessageBox::DestructiveRole);
+    const QPushButton *save = box.addButton(tr("Save to drive now"), QMessageBox::YesRole);
+    box.setDefaultButton(QMessageBox::Abort);
+    box.exec();
+    qDebug() << "choice" << (box.clickedButton() ? box.clickedButton()->text() : QString());
+    if (box.clickedButton() == discard) {
+        m_settings.settle(); // not the unsaved state: the next close asks again
+        return Answer::GoOn;
+    }
+    if (box.clickedButton() == save) {
+        saveToFlash();
+        return Answer::Apply;
+    }
+    return Answer::Stay;
+}
+
+// --- Files --------------------------------------------------------------------------------------------------------
+
+void ApplyDesk::saveFile()
+{
+    // The shortcut reaches the slot even when the button is disabled.
+    if (m_session.isConnected() &&
+        !driveWasRead(tr("Nothing saved: the settings of this drive have not been read yet")))
+        return;
+    if (!commitEditedField(m_window))
+        return;
+    // Without the ending the open dialog would not list the file.
+    const QString file = askFileToSave(m_window, {tr("Save settings to file"), m_lastFolder + QLatin1String("/settings.drc"),
+                                                  tr("Drive settings (*.drc)"), QStringLiteral("drc")});
+    if (file.isEmpty())
+        return;
+    m_lastFolder = folderOf(file);
+    m_pages->collect();
+    m_session.setParams(m_settings.edited());
+    m_session.setSettingsFileName(file);
+    m_session.command(Connection::TaskSaveSettingsFile);
+    if (m_settings.value(QStringLiteral("HWTYPE")) <= 0)
+        m_reports.errors->note(tr("This file is saved without a drive: what nobody has typed into it are start values of "
+                          "this program, not the settings of a drive."));
+}
+
+void ApplyDesk::loadFile()
+{
+    const QString file =
+        askFileToOpen(m_window, {tr("Open settings file"), m_lastFolder, tr("Drive settings (*.drc)"), QString()});
+    if (!file.isEmpty())
+        loadFile(file);
+}
+
+void ApplyDesk::loadFile(const QString &file)
+{
+    m_lastFolder = folderOf(file);
+    m_session.setSettingsFileName(file);
+    m_session.command(Connection::TaskLoadSettingsFile);
+}

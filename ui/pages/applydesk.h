@@ -1,0 +1,75 @@
+/// \file
+/// From the controls to the drive, to its flash, to a settings file; and the questions before edits would be lost.
+#ifndef APPLYDESK_H
+#define APPLYDESK_H
+
+#include "reports.h"
+
+#include <QObject>
+#include <QString>
+
+class Connection;
+class EditedSettings;
+class ParameterPages;
+class QPushButton;
+class QSpinBox;
+enum class Reach;
+
+/// Nothing is applied or stored before everything of the connected drive was read: the controls hold no value of it
+/// until then. Of the session it hands over settings, file names and the three tasks that use them. User-interface
+/// thread.
+class ApplyDesk : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// What the user wants to become of edits before something else happens.
+    enum class Answer {
+        GoOn,  ///< without them; or there were none
+        Apply, ///< they are on their way to the drive (or to its flash)
+        Stay,  ///< nothing else is to happen
+    };
+    struct Controls
+    {
+        QPushButton *apply;
+        QPushButton *saveToFile;
+        const QSpinBox *watchedRegister; ///< of the overrides dialog
+    };
+    ApplyDesk(QWidget *window, const Controls &controls, Connection &session, EditedSettings &settings,
+              ParameterPages *pages, const Reports &reports);
+
+    void updateButton();
+    void updateSaveToFileButton();
+    void showConnection(Reach reach);
+
+    /// The Apply button: what is being typed counts.
+    void apply();
+    void saveToFlash();
+    void saveFile();
+    void loadFile();
+    void loadFile(const QString &file);
+
+    /// Before the Testing page shows: apply or not. There is no going back.
+    Answer askBeforeTesting();
+    /// Before something that edits would be lost by, or would not take part in.
+    Answer askToApply();
+    /// Before the drive is left: what was applied may not be in its flash yet.
+    Answer askToSave();
+    /// Both: whether the drive may be left.
+    bool mayLeaveDrive() { return askToApply() != Answer::Stay && askToSave() != Answer::Stay; }
+
+private:
+    bool applyNow();
+    bool mayAsk();
+    bool driveWasRead(const QString &refusal);
+
+    QWidget *m_window;
+    Controls m_controls;
+    Connection &m_session;
+    EditedSettings &m_settings;
+    ParameterPages *m_pages;
+    Reports m_reports;
+    QString m_lastFolder = QStringLiteral("~");
+};
+
+#endif

@@ -1,0 +1,79 @@
+/// \file
+/// The Testing page: stimulus and single setpoints, captures and their plots, and the panels of the drive's state.
+#ifndef TESTINGPAGE_H
+#define TESTINGPAGE_H
+
+#include "captureplotter.h"
+#include "helpview.h"
+#include "reports.h"
+#include "statepanels.h"
+
+#include <QList>
+#include <QObject>
+
+class ApplyDesk;
+class Connection;
+class EditedSettings;
+class HelpBrowser;
+class ParameterPages;
+class QPushButton;
+class QSpinBox;
+class Ui_TestingPage;
+enum class Reach;
+
+/// Nothing on this page moves a drive but by the user's own act: a tick left behind is taken back when the connection
+/// ends. Of the session it uses stimulus, setpoints and the scope. User-interface thread.
+class TestingPage : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// What the page works with beside its own controls.
+    struct Helpers
+    {
+        const EditedSettings &settings; ///< listed under a plot
+        const ParameterPages *pages;    ///< for setpoints in machine units, and the model's name
+        ApplyDesk *apply;               ///< asks before a capture of settings that are not applied
+        HelpBrowser *browser;           ///< shows plots
+        Reports reports;
+    };
+    TestingPage(QWidget *window, const Ui_TestingPage &form, Connection &session, const Helpers &helpers);
+
+    // Stimulus and setpoints
+    void sendStimulus();
+    void stimulusTicked();
+    void stopStimulus();
+    enum class Target { First, Second };
+    enum class Move { Absolute, Increment };
+    void sendSetpoint(Target target, Move move);
+    void sendZero();
+    void setpointPolled(double setpoint);
+    void updateTargetLabels();
+
+    // Capture and plot
+    void capture();
+    void showCaptureState(const QString &text);
+    void plot(const QList<CaptureData> &captures);
+    void redraw(HelpView::Zoom zoom);
+    void savePlot();
+
+    void showConnection(Reach reach);
+    /// The panels as plain text, one below the other.
+    QString deviceState() const { return m_panels.plainText(); }
+
+private:
+    void connectPanels();
+    void showEnd();
+    void showMaximumSampleRate();
+
+    QWidget *m_window;
+    const Ui_TestingPage &m_form;
+    Connection &m_session;
+    Helpers m_use;
+    StatePanels m_panels;
+    CapturePlotter m_plotter;
+    QList<CaptureData> m_captures; ///< the last capture, kept for plotting it again
+    QString m_lastSetpoint;        ///< as polled last, empty before the first poll
+};
+
+#endif

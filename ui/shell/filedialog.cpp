@@ -1,0 +1,62 @@
+#include "filedialog.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFileDialog>
+#include <QFileIconProvider>
+#include <QFileInfo>
+
+namespace {
+
+/// Icons and type names from a file's kind and ending. The toolkit's own provider reads into the files that it lists,
+/// and would wait for ever for one that has nothing to say, such as /proc/kmsg.
+class QuickFileIcons : public QFileIconProvider
+{
+    Q_DECLARE_TR_FUNCTIONS(QuickFileIcons)
+
+public:
+    QIcon icon(const QFileInfo &info) const override
+    {
+        return QFileIconProvider::icon(info.isDir() ? QAbstractFileIconProvider::Folder
+                                                    : QAbstractFileIconProvider::File);
+    }
+    QString type(const QFileInfo &info) const override
+    {
+        return info.isDir() ? tr("Folder") : tr("%1 file").arg(info.suffix());
+    }
+};
+
+QString askFile(QWidget *parent, const FileQuestion &question, QFileDialog::AcceptMode mode)
+{
+    QString start = question.start;
+    if (start.startsWith(QLatin1Char('~')))
+        start.replace(0, 1, QDir::homePath());
+    const QFileInfo place(start);
+    QFileDialog dialog(parent, question.title, place.isDir() ? start : place.path(), question.filters);
+    dialog.setOption(QFileDialog::DontUseNativeDialog);
+    QuickFileIcons icons;
+    dialog.setIconProvider(&icons);
+    dialog.setAcceptMode(mode);
+    dialog.setFileMode(mode == QFileDialog::AcceptSave ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
+    dialog.setDefaultSuffix(question.defaultSuffix);
+    if (!place.isDir())
+        dialog.selectFile(place.fileName());
+    return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
+}
+
+} // namespace
+
+QString askFileToOpen(QWidget *parent, const FileQuestion &question)
+{
+    return askFile(parent, question, QFileDialog::AcceptOpen);
+}
+
+QString askFileToSave(QWidget *parent, const FileQuestion &question)
+{
+    return askFile(parent, question, QFileDialog::AcceptSave);
+}
+
+QString folderOf(const QString &file)
+{
+    return file.section(QLatin1Char('/'), 0, -2);
+}

@@ -1,0 +1,406 @@
+// The frame: construction in its fixed order, pages, boxes of the shell, closing.
+#include "mw.h"
+
+#include "applydesk.h"
+#include "busydialog.h"
+#include "connectpage.h"
+#include "controlmoderule.h"
+#include "disclaimer.h"
+#include "drivedesk.h"
+#include "errorwindow.h"
+#include "escapefilter.h"
+#include "firmwaredesk.h"
+#include "firmwaredialog.h"
+#include "formpage.h"
+#include "helpbrowser.h"
+#include "makernews.h"
+#include "numberbox.h"
+#include "pagetable.h"
+#include "parameterpages.h"
+#include "questionqueue.h"
+#include "testingpage.h"
+#include "ui_connectpage.h"
+#include "ui_faultlimitspage.h"
+#include "ui_goalspage.h"
+#include "ui_machinepage.h"
+#include "ui_mw.h"
+#include "ui_overrideparams.h"
+#include "ui_testingpage.h"
+#include "ui_tuningpage.h"
+#include "ui_welcomepage.h"
+#include "version.h"
+#include "wheelguard.h"
+
+#include <QScrollArea>
+#include <QSettings>
+#include <QShortcut>
+#include <QTimer>
+#include <QToolTip>
+
+namespace {
+
+constexpr int applyIntervalMs = 1000;
+constexpr int refusalMs = 15000;
+constexpr QSize pageItemSize(79, 96);
+
+QSettings windowSettings()
+{
+    return QSettings(QStringLiteral("Tarnwell Devices"), QStringLiteral("Velbrin"));
+}
+
+} // namespace
+
+// The pictures are in a static library, where the linker would leave them out.
+static void initResources()
+{
+    Q_INIT_RESOURCE(graphics);
+}
+
+MW::MW(const Options &options, QWidget *parent)
+    : QMainWindow(parent), m_form(new Ui_MW), m_overridesForm(new Ui_overrideParams)
+{
+    initResources();
+    qRegisterMetaType<Parameters>("Parameters");
+    qRegisterMetaType<QList<CaptureData>>("QList <CaptureData>");
+    qRegisterMetaType<QList<NodeType>>("QList <NodeType>");
+    buildForms();
+    buildPages(options);
+    connectForms();
+    buildPageList();
+    connectPages();
+    connectSession();
+    createShortcuts();
+    new WheelGuard(this);
+    restoreLayout();
+    showFirstState(options);
+    if (Disclaimer::isAgreedTo(this) && !options.file.isEmpty())
+        m_apply->loadFile(options.file);
+}
+
+MW::~MW()
+{
+    // Controls that lose the keyboard while they are being destroyed must not reach slots of a half-gone window.
+    const auto children = findChildren<QObject *>();
+    for (QObject *child : children)
+        child->disconnect(this);
+}
+
+// --- Construction -------------------------------------------------------------------------------------------------
+
+void MW::buildForms()
+{
+    m_form->setupUi(this);
+    for (const PageInfo &page : pageTable())
+        m_form->pages->addWidget(page.build());
+    // Apply stands below the pages, and the keyboard comes to it after them.
+    QWidget::setTabOrder(previousInFocusChain(), m_form->apply_button);
+    // The areas around the pages scroll with the control that has the keyboard; they are no stop of their own.
+    const auto areas = m_form->pages->findChildren<QScrollArea *>();
+    for (QScrollArea *area : areas)
+        area->setFocusPolicy(Qt::NoFocus);
+
+    QLabel *welcome = formAmong<Ui_WelcomePage>(*m_form->pages).wellcomeText;
+    welcome->setText(welcome->text().replace(QLatin1String("%VELBRIN_VERSION"), QLatin1String(VELBRIN_VERSION)));
+    m_overridesDialog = new QDialog(this);
+    m_overridesForm->setupUi(m_overridesDialog);
+    m_busyDialog = new BusyDialog(this);
+    m_errorWindow = new ErrorWindow(this);
+    m_connectionStatusLabel = new QLabel(tr("Not connected"));
+    m_connectionStatusLabel->setObjectName(QStringLiteral("connectionStatus"));
+    m_connectionStatusLabel->setMargin(2);
+    statusBar()->addPermanentWidget(m_connectionStatusLabel);
+    statusBar()->showMessage(tr("Program started"));
+}
+
+void MW::buildPages(const Options &options)
+{
+    const auto &connectForm = formAmong<Ui_ConnectPage>(*m_form->pages);
+    const Reports reports{statusBar(), m_errorWindow};
+    m_questions = new QuestionQueue(m_errorWindow, this);
+    m_help = new HelpBrowser(m_form->helpContainer, m_form->offlineHelpNotification, options.webEngine);
+    m_parameters = new ParameterPages(
+        this,
+        {connectForm, formAmong<Ui_GoalsPage>(*m_form->pages), formAmong<Ui_MachinePage>(*m_form->pages),
+         formAmong<Ui_TuningPage>(*m_form->pages), formAmong<Ui_FaultLimitsPage>(*m_form->pages)},
+        m_connection, m_settings);
+    m_apply = new ApplyDesk(
+        this, {m_form->apply_button, connectForm.save_settings_to_file, m_overridesForm->customParamDisplay},
+        m_connection, m_settings, m_parameters, reports);
+    m_connectPage = new ConnectPage(this, connectForm, m_connection, m_questions);
+    m_testing = new TestingPage(this, formAmong<Ui_TestingPage>(*m_form->pages), m_connection,
+                                {m_settings, m_parameters, m_apply, m_help, reports});
+    m_drive = new DriveDesk(this, m_connection, m_connectPage, m_testing, m_apply, reports);
+    m_firmware = new FirmwareDesk(this, m_connection, m_connectPage, m_apply, m_questions);
+    m_controlMode = new ControlModeRule(this, m_connection, m_settings, m_questions);
+    m_news = new MakerNews(m_connection, m_errorWindow, this);
+}
+
+void MW::buildPageList()
+{
+    for (const PageInfo &page : pageTable()) {
+        QIcon icon(QLatin1String(page.icon));
+        icon.addFile(QLatin1String(page.icon), QSize(), QIcon::Selected); // else the style tints the chosen one
+        auto *item = new QListWidgetItem(icon, tr(page.text), m_form->pageSelector);
+        item->setSizeHint(pageItemSize);
+    }
+    m_form->splitter->setStretchFactor(0, 0);
+    m_form->splitter->setStretchFactor(1, 1);
+    connect(m_form->pageSelector, &QListWidget::itemSelectionChanged, this, &MW::pageChanged);
+    m_form->pageSelector->setCurrentRow(0);
+}
+
+void MW::connectForms()
+{
+    const auto &machine = formAmong<Ui_MachinePage>(*m_form->pages);
+    const auto &testing = formAmong<Ui_TestingPage>(*m_form->pages);
+    // Once, when all forms are built: twice would run every slot twice.
+    QMetaObject::connectSlotsByName(this);
+    connect(machine.FBD, &QComboBox::currentIndexChanged, this,
+            [this, box = machine.FBD](int index) { on_FBD_currentIndexChanged(box->itemText(index)); });
+    connect(testing.clear_faults_2, &QPushButton::clicked, this, &MW::on_clear_faults_clicked);
+    for (QLabel *label : {testing.faultRegister, machine.FBDhelp}) {
+        label->setOpenExternalLinks(false);
+        connect(label, &QLabel::linkActivated, this, [this](const QString &link) { browserLinkClicked(QUrl(link)); });
+    }
+    const auto fields = findChildren<NumberField *>();
+    for (NumberField *field : fields) {
+        connect(field, &NumberField::refused, this, [this, field](const QString &why) {
+            statusBar()->showMessage(why, refusalMs);
+            // Where the user looks, too; a box would take the keyboard away from the next field.
+            if (const auto *box = qobject_cast<QWidget *>(field->parent()); box && box->isVisible())
+                QToolTip::showText(box->mapToGlobal(QPoint(box->width(), 0)), why.toHtmlEscaped(), nullptr, QRect(),
+                                   refusalMs);
+        });
+    }
+}
+
+void MW::connectPages()
+{
+    connect(m_errorWindow, &ErrorWindow::vitalMessage, this,
+            [this](const QString &line) { statusBar()->showMessage(line); });
+    connect(m_errorWindow, &ErrorWindow::linkActivated, this, &MW::browserLinkClicked);
+    connect(m_help->view(), &HelpView::linkClicked, this, &MW::browserLinkClicked);
+    connect(m_help->view(), &HelpView::pageLoaded, this, &MW::helpViewLoadFinished);
+    connect(m_help, &HelpBrowser::timedOut, this, &MW::helpLoadingTimeouted);
+    connect(m_help, &HelpBrowser::saveWanted, this, &MW::saveTestResults_clicked);
+    connect(m_help, &HelpBrowser::redrawWanted, m_testing, [this] { m_testing->redraw(HelpView::Zoom::Reset); });
+    connect(m_help, &HelpBrowser::saved, this, &MW::pictureSaved);
+
+    connect(m_parameters, &ParameterPages::unitsChanged, this, &MW::updateUnitLabels);
+    connect(m_parameters, &ParameterPages::driveRead, m_news, [this] { m_news->ask(m_settings); });
+    connect(m_parameters, &ParameterPages::bootloaderRead, m_connectPage, &ConnectPage::showBootloader);
+    connect(m_connectPage, &ConnectPage::searching, statusBar(), &QStatusBar::clearMessage);
+    connect(m_connectPage, &ConnectPage::leaving, m_testing, &TestingPage::stopStimulus);
+    connect(m_connectPage, &ConnectPage::connecting, this, [this] {
+        FWUpgrade_close_clicked();
+        m_parameters->collect();
+        m_settings.settle();
+        updateUnitLabels();
+    });
+    connect(m_firmware->dialog()->form.openFile, &QPushButton::clicked, this, &MW::FWUpgrade_openFile_clicked);
+    connect(m_firmware->dialog()->form.close, &QPushButton::clicked, this, &MW::FWUpgrade_close_clicked);
+    connect(m_firmware, &FirmwareDesk::restarting, this,
+            [this] { connectionStatusChanged(false, tr("Restarting device")); });
+    connect(m_news, &MakerNews::arrived, this, &MW::handleUpdateCheckerMessage);
+}
+
+void MW::connectSession()
+{
+    auto *applyTimer = new QTimer(this);
+    connect(applyTimer, &QTimer::timeout, this, &MW::updateApplyButtonState);
+    applyTimer->start(applyIntervalMs);
+
+    // The worker emits on its own thread; everything arrives here through the event loop.
+    const auto type = Qt::QueuedConnection;
+    connect(&m_connection, &Connection::statusChanged, this, &MW::connectionStatusChanged, type);
+    connect(&m_connection, &Connection::message, m_errorWindow, &ErrorWindow::tell, type);
+    connect(&m_connection, &Connection::message, m_connectPage, &ConnectPage::messageCame, type);
+    connect(&m_connection, &Connection::parametersRetreived, this, &MW::paramsRetreived, type);
+    connect(&m_connection, &Connection::plotReady, this, &MW::plotCapture, type);
+    connect(&m_connection, &Connection::updateCaptureButtonText, this, &MW::changeScopeButtonText, type);
+    connect(&m_connection, &Connection::availableBusNodes, this, &MW::availableBusNodesListReceived, type);
+    connect(&m_connection, &Connection::firmwareUpgradeMsg, this, &MW::firmwareUpgradeMsg, type);
+    connect(&m_connection, &Connection::suggestDeviceRestart, this, &MW::suggestDeviceRestart, type);
+    connect(&m_connection, &Connection::setpointChanged, this, &MW::setpointChanged, type);
+    connect(&m_connection, &Connection::busy, this, &MW::setBusy, type);
+    connect(&m_connection, &Connection::setUnsavedState, this, &MW::setUnsavedStatus, type);
+    connect(&m_connection, &Connection::controlModeChanged, this, &MW::deviceControlModeChanged, type);
+    connect(&m_connection, &Connection::enableStatePolled, m_news, &MakerNews::enableStatePolled, type);
+    connect(
+        &m_connection, &Connection::driveParametersChanged, this,
+        [this](const Parameters &list) {
+            m_settings.setDrive(list);
+            updateUnitLabels();
+        },
+        type);
+}
+
+void MW::createShortcuts()
+{
+    struct Shortcut
+    {
+        const char *key;
+        void (MW::*slot)();
+    };
+    // Alt+2 and Alt+3 cross on purpose: absolute targets first, then the increments.
+    const Shortcut shortcuts[] = {
+        {"Ctrl+P", &MW::on_actionRaw_parameters_triggered},
+        {"Alt+A", &MW::on_apply_button_clicked},
+        {"Alt+1", &MW::on_setAbs1_clicked},
+        {"Alt+2", &MW::on_setAbs2_clicked},
+        {"Alt+3", &MW::on_setInc1_clicked},
+        {"Alt+4", &MW::on_setInc2_clicked},
+        {"Alt+0", &MW::on_setZero_clicked},
+        {"Alt+R", &MW::on_clear_faults_clicked},
+        {"Alt+S", &MW::on_ScopeCaptureNow_clicked},
+        {"Ctrl+S", &MW::on_save_settings_to_file_clicked},
+        {"Ctrl+O", &MW::on_load_settings_from_file_clicked},
+        {"Alt+O", &MW::on_connect_button_clicked},
+        {"Alt+D", &MW::on_disconnect_button_clicked},
+    };
+    for (const Shortcut &shortcut : shortcuts) {
+        auto *key = new QShortcut(QKeySequence(QLatin1String(shortcut.key)), this);
+        key->setAutoRepeat(false); // a held Alt+3 must not walk the axis away
+        connect(key, &QShortcut::activated, this, shortcut.slot);
+    }
+    auto *filter = new EscapeFilter(this);
+    connect(filter, &EscapeFilter::escapePressed, this, &MW::on_disable_drive_clicked);
+    auto *escape = new QShortcut(QKeySequence(Qt::Key_Escape), this);
+    escape->setAutoRepeat(false);
+    connect(escape, &QShortcut::activated, filter, &EscapeFilter::shortcutActivated);
+    connect(escape, &QShortcut::activatedAmbiguously, filter, &EscapeFilter::shortcutActivated);
+}
+
+void MW::hideForGood()
+{
+    m_form->menuBar->hide();
+    m_form->mainToolBar->hide(); // whatever an old layout says
+    const auto labels = findChildren<QLabel *>();
+    for (QLabel *label : labels) {
+        if (label->objectName().startsWith(QLatin1String("hiddenlabel")))
+            label->hide();
+    }
+}
+
+void MW::showFirstState(const Options &options)
+{
+    hideForGood();
+    on_FB2D_currentIndexChanged(0);
+    on_MT_currentIndexChanged(0);
+    on_CRI_currentIndexChanged(0);
+    on_HME_currentIndexChanged(0);
+    on_AXT_currentIndexChanged(0);
+    updateUnitLabels();
+    m_connectPage->listPorts({options.port, options.virtualPort});
+    m_connection.setPauseScale(options.pauseScale);
+    m_connection.setDebugValuesShown(options.debugValues);
+    m_connection.emitParameters();
+    connectionStatusChanged(false, tr("Not connected"));
+}
+
+void MW::restoreLayout()
+{
+    const QSettings settings = windowSettings();
+    if (!restoreGeometry(settings.value(QStringLiteral("geometry")).toByteArray()))
+        resize(1300, 730);
+    restoreState(settings.value(QStringLiteral("windowState")).toByteArray(), 0);
+}
+
+void MW::saveLayout() const
+{
+    QSettings settings = windowSettings();
+    settings.setValue(QStringLiteral("geometry"), saveGeometry());
+    settings.setValue(QStringLiteral("windowState"), saveState(0));
+}
+
+// --- The frame ----------------------------------------------------------------------------------------------------
+
+void MW::pageChanged()
+{
+    const auto selected = m_form->pageSelector->selectedItems();
+    if (selected.isEmpty()) {
+        // Ctrl+click takes the selection away; a page is on display all the same.
+        QSignalBlocker blocker(m_form->pageSelector);
+        m_form->pageSelector->setCurrentRow(m_currentPage, QItemSelectionModel::ClearAndSelect);
+        return;
+    }
+    const int previousPage = m_currentPage;
+    m_currentPage = m_form->pageSelector->row(selected.first());
+    m_form->pages->setCurrentIndex(m_currentPage);
+    const PageInfo &page = pageTable()[std::size_t(m_currentPage)];
+    m_form->apply_button->setVisible(page.hasSettings);
+    if (page.hasSettings)
+        updateApplyButtonState();
+    m_help->leavePage();
+    const int testing = pageIndex("testing");
+    if (m_currentPage == testing && previousPage != testing)
+        m_apply->askBeforeTesting();
+    m_help->showHelpOf(pageTable()[std::size_t(m_currentPage)]); // a plot may have come during the question
+}
+
+void MW::connectionStatusChanged(bool connected, QString text)
+{
+    m_connectionStatusLabel->setText(text);
+    m_settings.connectionChanged();
+    m_news->connectionChanged();
+    // Not to "Disconnect from drive", where the keyboard would go when the controls that it was in are disabled.
+    if (connected && m_connectPage->holdsKeyboard())
+        m_form->pageSelector->setFocus();
+    const Reach reach = connected ? reachOf(m_connection) : Reach::NoDrive;
+    m_connectPage->showConnection(reach);
+    m_apply->showConnection(reach);
+    m_parameters->showConnection(reach);
+    m_testing->showConnection(reach);
+    m_firmware->showCapabilities();
+    if (connected)
+        statusBar()->clearMessage(); // what was wrong before is over
+    else
+        m_drive->connectionLost();
+    updateUnitLabels();
+    m_parameters->updateAllRules();
+}
+
+void MW::on_actionRaw_parameters_triggered()
+{
+    m_overridesDialog->show();
+    m_overridesDialog->raise();
+    m_overridesDialog->activateWindow();
+}
+
+void MW::setBusy(bool busy, bool nonBlocking)
+{
+    qDebug() << "BUSY " << (busy ? "true" : "false");
+    if (!busy)
+        m_busyDialog->hide();
+    else if (!nonBlocking)
+        m_busyDialog->show();
+    setCursor(busy ? Qt::BusyCursor : Qt::ArrowCursor);
+}
+
+void MW::pictureSaved(const QString &failure)
+{
+    m_errorWindow->tell({MessageKind::FileFailed, failure});
+    if (m_closeWhenSaved && failure.isEmpty())
+        close();
+    m_closeWhenSaved = false;
+}
+
+void MW::closeEvent(QCloseEvent *event)
+{
+    qDebug() << "Close";
+    if (m_help->isSaving()) {
+        m_closeWhenSaved = true; // pictureSaved() comes, after 20 s at the latest
+        statusBar()->showMessage(tr("The graphs are being written; the window closes when that is done"));
+        event->ignore();
+        return;
+    }
+    if (m_firmware->wantsToKeepUpgrading() || !m_apply->mayLeaveDrive()) {
+        event->ignore();
+        return;
+    }
+    m_testing->stopStimulus();
+    m_questions->clear();
+    m_errorWindow->endMessages();
+    saveLayout();
+    event->accept();
+}
