@@ -422,7 +422,7 @@ void HelpView::startEngine()
 void HelpView::loadEnded(bool ok, const QUrl &url)
 {
     // A load that was replaced may still fail, with an address that nobody waits for any more.
-    if (!m_loading || (!ok && url != m_wantedUrl && url != m_engines->page.requestedUrl()))
+    if (!m_loading || (!ok && !url.matches(m_wantedUrl, QUrl::NormalizePathSegments)))
         return;
     m_loading = false;
     m_engines->plotStands = ok && !m_plot.isEmpty();

@@ -209,10 +209,14 @@ TEST_F(CliCapture, TellsAllThatItKnowsInJsonAndInThePage)
     put("step.json", ran.out.toUtf8());
     for (const char *file : {"step.html", "step.json"})
         EXPECT_EQ(run({"figures", file, "--json"}).json().object()["figures"].toObject(), figures) << file;
+    // Columns do not say what was asked for: where the recorder's first word is behind the step, nothing is defined.
+    const bool beginsBefore = contents("step.csv").split('\n').value(2).startsWith("0.000000000,0.");
     const Ran columns = run({"figures", "step.csv", "--json"});
-    EXPECT_EQ(columns.json().object()["figures"].toObject()["overshoot"], figures["overshoot"]);
+    const QJsonValue overshoot = columns.json().object()["figures"].toObject()["overshoot"];
+    EXPECT_EQ(overshoot, beginsBefore ? figures["overshoot"] : QJsonValue());
     EXPECT_FALSE(columns.json().object().contains("axisSheet")) << "it went one way only";
-    EXPECT_THAT(run({"figures", "step.csv"}).out.toStdString(), HasSubstr("Peak tracking error\t1000 cnts\n"));
+    EXPECT_THAT(run({"figures", "step.csv"}).out.toStdString(),
+                HasSubstr(beginsBefore ? "Peak tracking error\t1000 cnts\n" : "the setpoint does not change"));
     EXPECT_EQ(run({"figures", "missing.html"}).status, 1);
 }
 
