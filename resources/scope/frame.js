@@ -8,15 +8,13 @@
 
     var usual = 400, least = 150; // pixels, as high as the page makes a chart
 
-    scope.isOpenedOut = false;
-
     function heightOf(element) {
         return element ? element.getBoundingClientRect().height : 0;
     }
 
     function setHeights() {
         var height = usual;
-        if (scope.isOpenedOut && !scope.isPicture && scope.charts.length) {
+        if (scope.context.isOpenedOut && !scope.isPicture && scope.charts.length) {
             var room = window.innerHeight - scope.charts[0].legend.getBoundingClientRect().top - window.scrollY - 16;
             scope.charts.forEach(function (chart) { room -= heightOf(chart.legend) + 14; });
             height = Math.max(least, Math.floor(room / scope.charts.length));
@@ -24,13 +22,13 @@
         scope.charts.forEach(function (chart) { chart.element.style.height = height + "px"; });
     }
 
-    scope.setOpenedOut = function (isOpenedOut) {
-        scope.isOpenedOut = isOpenedOut;
-        document.documentElement.classList.toggle("scope-open", isOpenedOut);
+    scope.afterChange.push(function () {
+        var is = Boolean(scope.context.isOpenedOut), root = document.documentElement.classList;
+        if (is === root.contains("scope-open"))
+            return;
+        root.toggle("scope-open", is);
         window.scrollTo(0, 0);
-        scope.changed();
-    };
-
+    });
     scope.afterChange.push(setHeights);
     scope.afterChange.push(scope.draw);
 

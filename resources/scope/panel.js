@@ -74,7 +74,7 @@
     function axisSheet() {
         var lines = scope.context.axisSheet;
         lastSheet = lines || lastSheet;
-        if (!lastSheet.length)
+        if (!lastSheet.length) // not a back-and-forth move
             return null;
         var children = [figureTable(lastSheet, !lines)];
         if (lines && scope.context.canTakeFeedForward)
@@ -121,9 +121,9 @@
     // --- Bar and frame ---------------------------------------------------------------------------------------------
 
     function bar() {
-        var made = element("div", { id: "scope-bar" }, []);
+        var made = element("div", { id: "scope-bar" }, [element("strong", {}, [scope.context.title || ""])]);
         if (scope.context.canOpenOut)
-            made.appendChild(link("open-out", scope.isOpenedOut ? "Back to the pages (F11)" : "Open out (F11)",
+            made.appendChild(link("open-out", scope.context.isOpenedOut ? "Back to the pages (F11)" : "Open out (F11)",
                                   "The charts over the whole window, and back"));
         made.appendChild(scope.button("all", "Whole record", "All of the record in all charts (0)", scope.showAll));
         made.appendChild(scope.button("in", "+", "Less of the record, larger (+, wheel)",

@@ -416,7 +416,7 @@ TEST_F(PlotPage, OpenedOutTheChartsFitTheWindowAndSixteenChannelsAreDrawnInATent
     show(16, 125);
     view.resize(1400, 900);
     ASSERT_TRUE(waitFor([this] { return run("window.innerWidth").toInt() == 1400; }));
-    run("velbrinScope.setOpenedOut(true)");
+    view.updateScope({{"isOpenedOut", true}});
     EXPECT_LE(run("$('#Last').offset().top + $('#Last').height()").toInt(), 7 * (150 + 40) + 120);
     const QString page = pageOf(16, 125);
     QElapsedTimer taken;
