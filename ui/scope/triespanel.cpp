@@ -52,7 +52,10 @@ TriesPanel::TriesPanel(QWidget *parent) : QGroupBox(parent)
                         tr("<p>Draws the selected try in grey under the newest one.</p>"));
     auto *open = addButton(QStringLiteral("triesOpen"), tr("Open capture..."),
                            tr("<p>Opens a capture that was saved as a page or as columns; no drive is needed.</p>"));
-    for (QPushButton *button : {m_take, m_under, open})
+    auto *report = addButton(QStringLiteral("triesReport"), tr("Report..."),
+                             tr("<p>A commissioning report of this drive, with the captures that you choose: one page "
+                                "that prints well.</p>"));
+    for (QPushButton *button : {m_take, m_under, open, report})
         buttons->addWidget(button);
     buttons->addStretch();
 
@@ -63,6 +66,7 @@ TriesPanel::TriesPanel(QWidget *parent) : QGroupBox(parent)
     connect(m_take, &QPushButton::clicked, this, [this] { emit takeWanted(chosen()); });
     connect(m_under, &QPushButton::clicked, this, [this] { emit layUnderWanted(chosen()); });
     connect(open, &QPushButton::clicked, this, &TriesPanel::openFileWanted);
+    connect(report, &QPushButton::clicked, this, &TriesPanel::reportWanted);
     show(CaptureHistory());
 }
 

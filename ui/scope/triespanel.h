@@ -27,6 +27,7 @@ signals:
     /// Put the settings of this try into the pages.
     void takeWanted(int id);
     void openFileWanted();
+    void reportWanted();
 
 private:
     void fillRow(int row, const KeptCapture &capture, const QStringList &settings);
