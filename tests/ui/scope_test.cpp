@@ -71,7 +71,8 @@ TEST_F(Scope, ATryIsChangedAppliedSteppedAndSeenOnThePageAndAnEarlierOneTakenBac
     EXPECT_TRUE(waitForPending(true));
     EXPECT_EQ(bus().read(DriveAddress, KPP), 4 * before) << "nothing is applied by itself";
 
-    clickLink("tdext://scope/under/2");
+    click("triesUnder"); // the selected one, under the newest
+    EXPECT_TRUE(waitFor([this] { return samples("Position", 1).last().y() < 500; }));
     EXPECT_TRUE(waitFor([this] { return run("$('#scope-differences').text()").toString().contains("KPP"); }));
     EXPECT_EQ(bus().read(DriveAddress, FAULTS), 0);
 }

@@ -85,6 +85,15 @@ void CaptureHistory::setFigures(int id, const CaptureFigures &figures)
     }
 }
 
+int CaptureHistory::newestBut(int id) const
+{
+    for (auto capture = m_all.crbegin(); capture != m_all.crend(); ++capture) {
+        if (capture->id != id)
+            return capture->id;
+    }
+    return 0;
+}
+
 const KeptCapture *CaptureHistory::find(int id) const
 {
     const auto found =

@@ -53,6 +53,8 @@ public:
     /// The oldest first.
     const QList<KeptCapture> &all() const { return m_all; }
     const KeptCapture *find(int id) const;
+    /// Id of the newest that is not this one, 0 when there is none.
+    int newestBut(int id) const;
     const KeptCapture *shown() const { return find(m_shown); }
     const KeptCapture *under() const { return find(m_under); }
 

@@ -60,9 +60,11 @@ void ReportDialog::addNotes()
     m_notes->horizontalHeader()->setStretchLastSection(true);
     m_notes->setTabKeyNavigation(false);
     const bool torva = isTorvaModel(m_drive.drive.type);
+    const QString model = deviceModelName(m_drive.drive.type, false);
     for (int i = 0; i < m_drive.settings.getParamCount(); ++i) {
         const SingleParam setting = m_drive.settings.getParam(i);
-        const std::optional<SettingFacts> facts = setting.readonly ? std::nullopt : settingFacts(setting.name, torva);
+        const bool isIts = !setting.readonly && setting.supportedInDevice(model);
+        const std::optional<SettingFacts> facts = isIts ? settingFacts(setting.name, torva) : std::nullopt;
         if (!facts || facts->standard == setting.value)
             continue;
         const int row = m_notes->rowCount();

@@ -50,6 +50,11 @@ void ScopeDesk::show(int id)
 
 void ScopeDesk::layUnder(int id)
 {
+    const bool isShown = m_history.shown() && m_history.shown()->id == id;
+    if (isShown && m_history.newestBut(id) == 0)
+        return; // nothing to lie under
+    if (isShown)
+        show(m_history.newestBut(id));
     if (m_history.layUnder(id))
         emit scopeChanged(scopeContext(m_history));
 }

@@ -28,6 +28,7 @@ public:
     QString openFile(const QString &fileName);
 
     void show(int id);
+    /// In grey under the capture that is shown, or under the newest other one when this is shown; 0 takes it away.
     void layUnder(int id);
     /// The page of the capture that is shown, once more; before the first capture an empty one.
     void redraw(bool keepZoom);
