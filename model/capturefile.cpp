@@ -53,7 +53,7 @@ QString readCaptureFile(const QString &fileName, const QList<CaptureData> &known
                            : captureFromJson(block, capture);
 }
 
-QString capturePage(const CaptureRecord &capture, const QJsonObject &extra)
+QString plotPageOf(const CaptureRecord &capture)
 {
     QList<CaptureData> channels = capture.channels;
     for (CaptureData &channel : channels) {
@@ -62,7 +62,11 @@ QString capturePage(const CaptureRecord &capture, const QJsonObject &extra)
         channel.name.replace(QLatin1Char('\\'), QLatin1String("&#92;")).replace(QLatin1Char('\n'), QLatin1Char(' '));
         channel.name.replace(QLatin1Char('\r'), QLatin1Char(' '));
     }
-    const QString page = CapturePlotter().generatePlotPage(channels, capture.settings.getParamsHTMLList(),
-                                                           capture.drive.model.toHtmlEscaped());
-    return withCaptureBlock(page, captureToJson(capture, extra));
+    return CapturePlotter().generatePlotPage(channels, capture.settings.getParamsHTMLList(),
+                                             capture.drive.model.toHtmlEscaped());
+}
+
+QString capturePage(const CaptureRecord &capture, const QJsonObject &extra)
+{
+    return withCaptureBlock(plotPageOf(capture), captureToJson(capture, extra));
 }

@@ -95,7 +95,12 @@ QString Reader::text(const QJsonObject &object, const char *name, qsizetype long
 /// What becomes an element id, a script variable or the text of a table cell in the plot page.
 QString Reader::identifier(const QJsonObject &object, const char *name)
 {
-    static const QRegularExpression pattern(QStringLiteral("\\A[A-Za-z][A-Za-z0-9_]*\\z"));
+    // A word of the script language as a variable would keep the whole page from being drawn.
+    static const QRegularExpression pattern(QStringLiteral(
+        "\\A(?!(?:arguments|await|break|case|catch|class|const|continue|debugger|default|delete|do|else|enum|eval|export|"
+        "extends|false|finally|for|function|if|implements|import|in|instanceof|interface|let|new|null|options|package|"
+        "private|protected|public|return|static|super|switch|this|throw|true|try|typeof|var|void|while|with|yield)\\z)"
+        "[A-Za-z][A-Za-z0-9_]*\\z"));
     const QString value = text(object, name);
     if (!pattern.match(value).hasMatch())
         refuseMember(name);

@@ -2,39 +2,10 @@
 // the page's own scripts, in every page of the plot's scheme.
 (function () {
     "use strict";
-    if (location.protocol !== "velbrin-plot:" || !window.jQuery)
+    if (!window.velbrinScope)
         return;
 
-    function charts() {
-        return jQuery(".flot-base").parent();
-    }
-
-    function labels(plot) {
-        return plot.getData().map(function (series) { return series.label; }).join("\n");
-    }
-
-    // The zoomed charts: id, what they show, and the ranges of their axes.
-    function zoomedCharts() {
-        var found = [];
-        charts().each(function () {
-            var plot = jQuery(this).data("plot");
-            if (!plot || plot.getOptions().xaxes[0].autoScale !== "none")
-                return;
-            var x = plot.getAxes().xaxis, y = plot.getAxes().yaxis;
-            found.push({ id: this.id, labels: labels(plot),
-                         ranges: { xaxis: { from: x.min, to: x.max }, yaxis: { from: y.min, to: y.max } } });
-        });
-        return found;
-    }
-
-    // As if the same parts had been selected again; charts that show other channels now stay as they are.
-    function zoom(zoomed) {
-        zoomed.forEach(function (chart) {
-            var plot = jQuery("#" + chart.id).data("plot");
-            if (plot && labels(plot) === chart.labels)
-                jQuery("#" + chart.id).trigger("plotselected", [chart.ranges]);
-        });
-    }
+    var scope = window.velbrinScope;
 
     // jQuery for the scripts of a page that is ready already: what waits for that runs at once, so that nothing is
     // painted between the old charts and the new ones.
@@ -43,23 +14,28 @@
     }
     Object.assign(readyQuery, jQuery);
 
-    // Draws the page given as text into this one.
+    // Draws the page given as text into this one. The part of the record that is seen stays for the same channels; cursors,
+    // units and hidden channels stay in any case.
     function replace(html, keepZoom) {
-        var zoomed = keepZoom ? zoomedCharts() : [];
+        var signature = scope.signature();
         var left = window.scrollX, top = window.scrollY;
         var fresh = new DOMParser().parseFromString(html, "text/html");
         var source = "";
         fresh.querySelectorAll("script").forEach(function (script) {
+            if (script.type === "application/json")
+                return;
             if (!script.src)
                 source += script.textContent + "\n";
             script.remove();
         });
-        charts().each(function () { jQuery(this).data("plot").destroy(); });
+        scope.charts.forEach(function (chart) { chart.plot.destroy(); });
         jQuery(document).off(".velbrin");
         jQuery(window).off(".velbrin");
-        jQuery(document.body).html(fresh.body.innerHTML);
+        document.body.textContent = "";
+        while (fresh.body.firstChild)
+            document.body.appendChild(document.adoptNode(fresh.body.firstChild));
         new Function("$", source)(readyQuery);
-        zoom(zoomed);
+        scope.attach(keepZoom ? signature : "");
         window.scrollTo(left, top);
     }
 
@@ -74,10 +50,13 @@
     }
 
     // For a picture of the whole page: without scroll bars, which would take some of its width. Returns its height.
-    function prepareForPicture(zoomed) {
+    function prepareForPicture(state) {
         document.documentElement.style.overflow = "hidden";
+        document.documentElement.classList.add("scope-picture");
+        scope.isPicture = true;
         jQuery(window).trigger("resize");
-        zoom(zoomed);
+        if (state)
+            scope.restore(state);
         return document.documentElement.scrollHeight;
     }
 
@@ -92,6 +71,9 @@
     }
 
     window.velbrinView = { prepareForPicture: prepareForPicture, isPainted: isPainted, replace: replace,
-                           zoomedCharts: zoomedCharts, setSaving: setSaving };
-    jQuery(function () { window.velbrinView.drawn = true; });
+                           setSaving: setSaving };
+    jQuery(function () {
+        scope.attach("");
+        window.velbrinView.drawn = true;
+    });
 })();

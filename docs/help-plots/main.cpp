@@ -210,6 +210,43 @@ Chart positionForward()
                           Speed, 375);
 }
 
+/// The three tries of the guide's session on a springy axis.
+const Row springyTries[] = {
+    {"try 1: 720, 360, 240", Orange, {{reg::VelocityP, 720}, {reg::VelocityI, 360}, {reg::PositionP, 240}}},
+    {"try 2: 480, 360, 240", Green, {{reg::VelocityP, 480}, {reg::VelocityI, 360}, {reg::PositionP, 240}}},
+    {"try 3: 420, 180, 140", Blue, {{reg::VelocityP, 420}, {reg::VelocityI, 180}, {reg::PositionP, 140}}},
+};
+
+Signals springyStep(const Row &row)
+{
+    Trial trial;
+    trial.changes = row.changes;
+    trial.machine = "flexible";
+    trial.setpoint = [](int) { return PositionStep; };
+    return run(trial);
+}
+
+Chart springyPosition()
+{
+    Chart chart("time, ms", "position, counts", CycleMs);
+    chart.add({"setpoint", Wanted, std::vector<double>(376, PositionStep), true});
+    for (const Row &row : springyTries) {
+        const Signals signals = springyStep(row);
+        chart.add({row.name, row.colour, valuesOf(signals, &AxisSignals::position)});
+        std::printf("  %-14s %s\n", row.name, describeStep(signals, &AxisSignals::position, PositionStep).c_str());
+    }
+    return chart;
+}
+
+Chart springyTorque()
+{
+    Chart chart("time, ms", "torque setpoint, A", CycleMs);
+    for (const Row &row : {springyTries[0], springyTries[2]})
+        chart.add({row.name, row.colour,
+                   valuesOf(springyStep(row), &AxisSignals::torqueSetpoint, AmperesPerCount)});
+    return chart;
+}
+
 struct Picture
 {
     const char *file;
@@ -222,7 +259,8 @@ constexpr Picture pictures[] = {
     {"position-default.svg", positionDefault}, {"position-high.svg", positionHigh},
     {"position-low.svg", positionLow},         {"current-position.svg", limitedPosition},
     {"current-torque.svg", limitedTorque},     {"feed-forward.svg", accelerationForward},
-    {"position-forward.svg", positionForward},
+    {"position-forward.svg", positionForward}, {"springy-position.svg", springyPosition},
+    {"springy-torque.svg", springyTorque},
 };
 
 } // namespace

@@ -1,6 +1,7 @@
 #include "trial.h"
 
 #include "driveprofile.h"
+#include "machine.h"
 #include "registerfile.h"
 #include "servoaxis.h"
 
@@ -26,7 +27,10 @@ std::vector<sim::AxisSignals> run(const Trial &trial)
     sim::RegisterFile registers(profile);
     for (const Trial::Change &change : trial.changes)
         registers.setValue(change.address, change.value);
-    sim::ServoAxis axis(profile, registers);
+    sim::Machine machine;
+    if (const std::string problem = sim::parseMachine(trial.machine, machine); !problem.empty())
+        std::fprintf(stderr, "%s\n", problem.c_str());
+    sim::ServoAxis axis(profile, registers, machine);
     axis.powerUp();
     axis.setSoftEnable(true);
     for (int i = 0; i < SettleCycles; ++i)

@@ -118,7 +118,7 @@ TEST_F(SavePlot, AnotherEndingWritesNothingAndTheStatusBarTellsWhichThereAre)
     save(path("graphs.txt"));
     EXPECT_FALSE(QFile::exists(path("graphs.txt")));
     EXPECT_EQ(shownMessage(m_window.get()), QString());
-    EXPECT_EQ(statusBarText(), "Nothing saved: give the file a name that ends in .png or .csv");
+    EXPECT_EQ(statusBarText(), "Nothing saved: give the file a name that ends in .png, .csv or .html");
     m_window->statusBar()->clearMessage();
     save(QString());
     EXPECT_EQ(statusBarText(), QString());

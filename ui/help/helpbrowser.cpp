@@ -83,13 +83,13 @@ void HelpBrowser::goOffline()
     showHelpOf(*m_page);
 }
 
-void HelpBrowser::showPlot(const QString &html, HelpView::Zoom zoom)
+void HelpBrowser::showPlot(const QString &html, HelpView::Zoom zoom, const QJsonObject &scope)
 {
     m_limit.stop(); // a help page that was still loading is given up, which says nothing about the network
     m_offlineNotice->hide();
     m_shows = Shows::Plot;
     const QUrl base(QLatin1String("file:///") + QDir::currentPath() + QLatin1String("/flot/examples/"));
-    m_view->showPlot(html, base, zoom);
+    m_view->showPlot(html, base, zoom, scope);
 }
 
 void HelpBrowser::follow(const QUrl &url)
@@ -104,10 +104,15 @@ void HelpBrowser::follow(const QUrl &url)
         m_shows = m_help;
         leavePage();
         load();
+        emit plotLeft();
+    } else if (url.scheme() == QLatin1String("tdext")) {
+        if (m_shows == Shows::Plot) // no other page has a say in the scope
+            emit scopeLink(url);
     } else {
         m_limit.stop();  // the page that was loading is given up, which says nothing about the network
         m_shows = m_help; // a plot that stood here is gone, and with it its link back to the help
         m_view->loadPage(offlineCopyOf(url));
+        emit plotLeft();
     }
 }
 
@@ -120,8 +125,8 @@ QUrl HelpBrowser::offlineCopyOf(const QUrl &url) const
     return QFileInfo::exists(copy) ? QUrl::fromLocalFile(copy) : url;
 }
 
-void HelpBrowser::savePng(const QString &file)
+void HelpBrowser::savePng(const QString &file, int width)
 {
     m_saveButton->setEnabled(false);
-    m_view->savePng(file);
+    m_view->savePng(file, width);
 }

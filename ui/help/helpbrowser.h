@@ -30,8 +30,9 @@ public:
     void leavePage();
     /// Loads the help of a page of the window, unless a plot is shown.
     void showHelpOf(const PageInfo &page);
-    /// Shows a plot page, whose style and scripts come from the "flot" folder.
-    void showPlot(const QString &html, HelpView::Zoom zoom);
+    /// Shows a plot page, whose style and scripts come from the "flot" folder; see HelpView::showPlot.
+    void showPlot(const QString &html, HelpView::Zoom zoom, const QJsonObject &scope);
+    bool isPlotShown() const { return m_shows == Shows::Plot; }
     /// A link of the view or of a message: an address, or one of the plot page's own actions.
     void follow(const QUrl &url);
 
@@ -41,7 +42,7 @@ public:
     void goOffline();
 
     /// Begins to draw the plot that is shown into a file, see HelpView::savePng. saved() ends it.
-    void savePng(const QString &file);
+    void savePng(const QString &file, int width);
     bool isSaving() const { return m_view->isSaving(); }
 
 signals:
@@ -49,6 +50,8 @@ signals:
     void timedOut();
     void saveWanted();   ///< the plot page's link, or the button
     void redrawWanted(); ///< the plot as it was captured, without any zoom
+    void scopeLink(const QUrl &url); ///< of the bar and the tables around the charts
+    void plotLeft();                 ///< for help or another address
     /// The picture is written, or not: then with the reason.
     void saved(const QString &failure);
 

@@ -31,6 +31,7 @@
 #include <QWebEngineUrlSchemeHandler>
 #include <QWebEngineView>
 #include <QtMath>
+#include <algorithm>
 #include <sched.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -42,7 +43,6 @@ namespace {
 const char *const plotScheme = "velbrin-plot";
 const char *const plotHost = "capture";
 
-constexpr int widestPicture = 1100; ///< pixels; a wider plot no longer fits a printed page
 constexpr int pictureLimitMs = 20000;
 constexpr int pictureStepMs = 40;
 
@@ -153,11 +153,38 @@ QString readResource(const QString &name)
     return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
 }
 
+/// What runs in every plot page, in this order: as one script, since the engine keeps several in no order.
+QString plotScripts()
+{
+    QString all;
+    for (const char *name : {"scope/base", "scope/timeaxis", "scope/units", "scope/legend", "scope/overlay",
+                             "scope/cursors", "scope/input", "scope/panel", "scope/frame", "plotview"})
+        all += readResource(QStringLiteral(":/pagescripts/%1.js").arg(QLatin1String(name)));
+    return all;
+}
+
 /// A text as a literal of the script language.
 QString quoted(const QString &text)
 {
     const QString list = QString::fromUtf8(QJsonDocument(QJsonArray{text}).toJson(QJsonDocument::Compact));
     return list.mid(1, list.size() - 2);
+}
+
+/// JSON that can stand in a page and in a script: no text in it ends an element or begins markup.
+QString harmlessJson(const QJsonObject &object)
+{
+    QByteArray json = QJsonDocument(object).toJson(QJsonDocument::Compact);
+    json.replace('<', "\\u003c").replace('>', "\\u003e").replace('&', "\\u0026");
+    return QString::fromUtf8(json);
+}
+
+/// The plot page with what the scope's scripts want to know in it.
+QString withScope(const QString &page, const QJsonObject &scope)
+{
+    const QString element =
+        QLatin1String("<script type=\"application/json\" id=\"velbrin-scope\">") + harmlessJson(scope) + QLatin1String("</script>\n");
+    const qsizetype end = page.lastIndexOf(QLatin1String("</body>"));
+    return end < 0 ? page + element : page.left(end) + element + page.mid(end);
 }
 
 QString processPath()
@@ -188,14 +215,14 @@ bool systemAllowsSandbox()
 class Picture : public QObject
 {
 public:
-    Picture(QWebEngineProfile *profile, HelpView *owner, const QUrl &url, const QString &file)
+    Picture(QWebEngineProfile *profile, HelpView *owner, const QUrl &url, const QString &file, int width)
         : QObject(owner), m_file(file), m_page(profile, owner)
     {
         m_view.setAttribute(Qt::WA_DontShowOnScreen);
         m_view.setPage(&m_page);
         const double ratio = m_view.devicePixelRatioF();
         m_page.setZoomFactor(1.0 / ratio);
-        m_view.resize(qRound(widestPicture / ratio), qRound(widestPicture / ratio));
+        m_view.resize(qRound(width / ratio), qRound(width / ratio));
         m_view.show();
         m_page.load(url);
         m_timer.setInterval(pictureStepMs);
@@ -204,8 +231,8 @@ public:
         m_sinceStart.start();
     }
 
-    /// `zoomed`: the charts that are zoomed on the screen, as the page's script tells them.
-    void begin(const QString &zoomed) { m_zoomed = zoomed.isEmpty() ? QStringLiteral("[]") : zoomed; }
+    /// `state`: zoom, cursors and units on the screen, as the page's script tells them.
+    void begin(const QString &state) { m_state = state.isEmpty() ? QStringLiteral("null") : state; }
 
     std::function<void(const QString &)> ended; ///< called once, with what failed
 
@@ -214,12 +241,12 @@ private:
     {
         if (m_sinceStart.elapsed() > pictureLimitMs)
             return end(HelpView::tr("the plot could not be drawn in %1 s").arg(pictureLimitMs / 1000));
-        if (m_zoomed.isEmpty() || m_asking)
+        if (m_state.isEmpty() || m_asking)
             return;
         if (m_painted)
             return compare();
         m_asking = true;
-        const QString question = m_height == 0 ? QStringLiteral("prepareForPicture(%1)").arg(m_zoomed)
+        const QString question = m_height == 0 ? QStringLiteral("prepareForPicture(%1)").arg(m_state)
                                                : QStringLiteral("isPainted(%1)").arg(m_height);
         m_page.runJavaScript(
             QStringLiteral("window.velbrinView && velbrinView.drawn ? velbrinView.%1 : 0").arg(question), 0,
@@ -286,7 +313,7 @@ private:
     QWebEngineView m_view; // goes before its page
     QTimer m_timer;
     QElapsedTimer m_sinceStart;
-    QString m_zoomed;
+    QString m_state;
     int m_height = 0; ///< of the whole page, once it is drawn
     bool m_painted = false;
     bool m_asking = false; ///< the page has not answered yet
@@ -322,7 +349,7 @@ HelpView::Engines::Engines(HelpView *owner) : page(&profile, owner)
     QObject::connect(&profile, &QWebEngineProfile::downloadRequested, owner,
                      [](QWebEngineDownloadRequest *download) { download->cancel(); });
     QWebEngineScript script;
-    script.setSourceCode(readResource(QStringLiteral(":/pagescripts/plotview.js")));
+    script.setSourceCode(plotScripts());
     script.setInjectionPoint(QWebEngineScript::DocumentReady);
     script.setWorldId(QWebEngineScript::MainWorld);
     profile.scripts()->insert(script);
@@ -461,21 +488,36 @@ void HelpView::loadPage(const QUrl &url)
         showNote(m_noteText);
 }
 
-void HelpView::showPlot(const QString &html, const QUrl &base, Zoom zoom)
+void HelpView::showPlot(const QString &html, const QUrl &base, Zoom zoom, const QJsonObject &scope)
 {
     const bool stands = isRunning() && m_engines->plotStands && !m_plot.isEmpty() && base == m_plotBase;
-    m_plot = html;
+    m_plainPlot = html;
+    m_scope = scope;
+    m_plot = withScope(html, scope);
     m_plotBase = base;
     if (stands) {
-        m_engines->plotFiles.page = html.toUtf8();
+        m_engines->plotFiles.page = m_plot.toUtf8();
         runScript(QStringLiteral("velbrinView.replace(%1, %2); velbrinView.setSaving(%3)")
-                      .arg(quoted(html), QLatin1String(zoom == Zoom::Keep ? "true" : "false"),
+                      .arg(quoted(m_plot), QLatin1String(zoom == Zoom::Keep ? "true" : "false"),
                            QLatin1String(isSaving() ? "true" : "false")));
     } else if (isRunning()) {
         loadPlot();
     } else if (!m_noteText.isEmpty()) {
         showNote(m_noteText);
     }
+}
+
+void HelpView::updateScope(const QJsonObject &news)
+{
+    if (m_plot.isEmpty())
+        return;
+    for (auto member = news.begin(); member != news.end(); ++member)
+        m_scope.insert(member.key(), member.value());
+    m_plot = withScope(m_plainPlot, m_scope);
+    if (!m_engines)
+        return;
+    m_engines->plotFiles.page = m_plot.toUtf8();
+    runScript(QStringLiteral("window.velbrinScope && velbrinScope.update(%1)").arg(harmlessJson(news)));
 }
 
 void HelpView::loadPlot()
@@ -509,7 +551,7 @@ bool HelpView::isSaving() const
     return m_engines && m_engines->picture;
 }
 
-void HelpView::savePng(const QString &fileName)
+void HelpView::savePng(const QString &fileName, int width)
 {
     if (isSaving())
         return;
@@ -518,7 +560,8 @@ void HelpView::savePng(const QString &fileName)
                               .arg(QDir::toNativeSeparators(fileName), tr("no plot is shown to make a picture of")));
         return;
     }
-    m_engines->picture = std::make_unique<Picture>(&m_engines->profile, this, m_engines->plotFiles.pageUrl, fileName);
+    m_engines->picture = std::make_unique<Picture>(&m_engines->profile, this, m_engines->plotFiles.pageUrl,
+                                                   fileName, std::clamp(width, narrowestPicture, widestPicture));
     m_engines->picture->ended = [this](const QString &failure) {
         // Not within its own call.
         QMetaObject::invokeMethod(
@@ -531,10 +574,10 @@ void HelpView::savePng(const QString &fileName)
             },
             Qt::QueuedConnection);
     };
-    runScript(QStringLiteral("velbrinView.setSaving(true); JSON.stringify(velbrinView.zoomedCharts())"),
-              [this](const QVariant &zoomed) {
+    runScript(QStringLiteral("velbrinView.setSaving(true); JSON.stringify(velbrinScope.state())"),
+              [this](const QVariant &state) {
                   if (isSaving())
-                      m_engines->picture->begin(zoomed.toString());
+                      m_engines->picture->begin(state.toString());
               });
 }
 

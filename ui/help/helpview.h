@@ -4,6 +4,7 @@
 #ifndef HELPVIEW_H
 #define HELPVIEW_H
 
+#include <QJsonObject>
 #include <QUrl>
 #include <QVariant>
 #include <QWidget>
@@ -42,15 +43,21 @@ public:
     /// Loads an address in place of whatever is loading.
     void loadPage(const QUrl &url);
     /// Shows a plot page. Relative addresses in it start at `base`, a folder of the working directory's "flot" folder.
-    /// Over a plot that stands it is drawn into the page that is there; the zoom of charts with the same channels is
-    /// kept when asked for.
-    void showPlot(const QString &html, const QUrl &base, Zoom zoom);
+    /// Over a plot that stands it is drawn into the page that is there; the zoom is kept for the same channels when
+    /// asked for, cursors and units always.
+    /// `scope` is what the scripts around the charts show (see ui/scope/scopecontext.h): texts in it are never markup.
+    void showPlot(const QString &html, const QUrl &base, Zoom zoom, const QJsonObject &scope = {});
+    /// Puts further members into the scope of the plot that is shown, if one is.
+    void updateScope(const QJsonObject &news);
     /// Gives a load up, without a report.
     void stopLoading();
 
-    /// Begins to draw the plot that is shown, zoom included, into a PNG file of the whole page, at most 1100 pixels
-    /// wide. pictureSaved() ends it, after 20 s at the latest. A second call while one is going on is ignored.
-    void savePng(const QString &fileName);
+    static constexpr int narrowestPicture = 400;
+    static constexpr int widestPicture = 1100; ///< pixels; a wider plot no longer fits a printed page
+
+    /// Begins to draw the plot that is shown, zoom and cursors included, into a PNG file of the whole page, `width`
+    /// pixels wide. pictureSaved() ends it, after 20 s at the latest. A second call while one is going on is ignored.
+    void savePng(const QString &fileName, int width = widestPicture);
     bool isSaving() const;
 
     /// Runs a script in the page and hands over what it returned (nothing when there is no engine).
@@ -84,7 +91,9 @@ private:
     bool m_begun = false;               ///< the start is on its way
     bool m_loading = false;             ///< whoever asked for the page waits for its end
     QUrl m_wantedUrl;                   ///< the page on display, or to be loaded as soon as the engine stands
-    QString m_plot;                     ///< text of the plot page on display, empty while help is shown
+    QString m_plainPlot;                ///< text of the plot page as it was given
+    QJsonObject m_scope;                ///< what stands in it for the scripts around the charts
+    QString m_plot;                     ///< the two together; empty while help is shown
     QUrl m_plotBase;
 };
 

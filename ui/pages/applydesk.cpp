@@ -27,6 +27,7 @@ void ApplyDesk::updateButton()
     const bool pending = m_settings.isPending() || isNewNumberTyped();
     m_controls.apply->setDefault(pending);
     m_controls.apply->setText(pending ? tr("Apply settings (parameters changed)") : tr("Apply settings [Alt+A]"));
+    emit buttonChanged(m_controls.apply->text(), m_controls.apply->isEnabled());
 }
 
 void ApplyDesk::updateSaveToFileButton()
@@ -38,6 +39,7 @@ void ApplyDesk::updateSaveToFileButton()
 void ApplyDesk::showConnection(Reach reach)
 {
     enableByReach(m_controls.apply, reach);
+    emit buttonChanged(m_controls.apply->text(), m_controls.apply->isEnabled());
     updateSaveToFileButton();
 }
 

@@ -58,6 +58,10 @@ public:
     /// Both: whether the drive may be left.
     bool mayLeaveDrive() { return askToApply() != Answer::Stay && askToSave() != Answer::Stay; }
 
+signals:
+    /// What the Apply button says now, and whether it can be pressed.
+    void buttonChanged(const QString &text, bool canApply);
+
 private:
     bool applyNow();
     bool mayAsk();

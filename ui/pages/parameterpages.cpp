@@ -124,6 +124,23 @@ void ParameterPages::showDeviceType(int typeId)
     m_forms.connect.HWVER->setText(typeId > 0 ? deviceVersion(typeId) : unread);
 }
 
+int ParameterPages::edit(const QList<QPair<QString, double>> &values)
+{
+    collect();
+    int changed = 0;
+    for (const auto &value : values) {
+        SingleParam p = m_settings.edited().getParam(value.first);
+        if (p.name != value.first || p.readonly || p.value == value.second || !m_binding.read(p))
+            continue;
+        p.value = value.second;
+        changed += fillWithinLimits(p).found;
+    }
+    collect();
+    emit unitsChanged();
+    updateAllRules();
+    return changed;
+}
+
 void ParameterPages::collect()
 {
     for (int i = 0; i < m_settings.edited().getParamCount(); ++i) {

@@ -43,6 +43,9 @@ public:
 
     /// Takes a list that was read or loaded and fills the controls; what a control clamped counts as held.
     void take(const Parameters &list, bool loadedFromFile);
+    /// Puts values into the controls as if they had been typed, each within the limits of its control; names without a
+    /// control that can be edited are passed over. Returns how many are another value than before.
+    int edit(const QList<QPair<QString, double>> &values);
     /// Brings the settings up to what the controls hold.
     void collect();
     /// Of the drive or file that is shown, as it is shown.

@@ -1,21 +1,14 @@
 #include "testingpage.h"
 
 #include "applydesk.h"
+#include "connectpage.h"
 #include "connection.h"
 #include "editedfield.h"
-#include "editedsettings.h"
-#include "errorwindow.h"
-#include "filedialog.h"
-#include "helpbrowser.h"
 #include "parameterpages.h"
+#include "triesdesk.h"
 #include "ui_testingpage.h"
 
 #include <QDebug>
-#include <QStatusBar>
-
-namespace {
-constexpr int saveHintMs = 15000;
-}
 
 TestingPage::TestingPage(QWidget *window, const Ui_TestingPage &form, Connection &session, const Helpers &helpers)
     : QObject(window), m_window(window), m_form(form), m_session(session), m_use(helpers)
@@ -113,6 +106,8 @@ void TestingPage::sendSetpoint(Target target, Move move)
     // Not the old target in place of one that was typed and refused.
     if (!commitEditedField(m_window) || anyNumberRefused({box}))
         return;
+    const double from = m_lastSetpoint.toDouble(), value = box->value();
+    m_request.motion = {CaptureMotion::Kind::Step, from, absolute ? value : from + value, 0.0, 0.0};
     m_session.setTargetSetpoint(box->value());
     m_session.command(absolute ? Connection::TaskSetAbsoluteSetpoint : Connection::TaskSetIncrementalSetpoint);
 }
@@ -156,6 +151,11 @@ void TestingPage::capture()
     QList<bool> selected;
     for (const QCheckBox *channel : channels)
         selected.append(channel->isChecked());
+    m_request = {rate, m_form.captureTrigger->currentIndex(), {}, {}};
+    if (m_form.stimulusEnabled->isChecked())
+        m_request.motion = {CaptureMotion::Kind::SquareWave, double(m_form.stimulusTarget1->value()),
+                            double(m_form.stimulusTarget2->value()), m_form.stimulusDelay1->value(),
+                            m_form.stimulusDelay2->value()};
     m_session.setupCapture(rate, m_form.captureTrigger->currentIndex(), selected);
     m_session.command(Connection::TaskInitScope, true);
     m_session.checkErrors();
@@ -168,32 +168,7 @@ void TestingPage::showCaptureState(const QString &text)
 
 void TestingPage::plot(const QList<CaptureData> &captures)
 {
-    m_captures = captures;
-    redraw(HelpView::Zoom::Keep);
+    m_use.tries->captured(captureRecord(m_session, m_use.connect->lastAddress(), m_request, captures));
     if (m_form.repeatCapture->isChecked())
         capture();
-}
-
-void TestingPage::redraw(HelpView::Zoom zoom)
-{
-    m_use.browser->showPlot(m_plotter.generatePlotPage(m_captures, m_use.settings.drive().getParamsHTMLList(),
-                                                       m_use.pages->modelName()),
-                            zoom);
-}
-
-void TestingPage::savePlot()
-{
-    const QString file =
-        askFileToSave(m_window, {tr("Save graphs to file"), QStringLiteral("~/graphs.png"),
-                                 tr("Portable Network Graphics (*.png);;Raw data as text file (*.csv)"), QString()});
-    qDebug() << "Print file name is " << file;
-    if (file.isEmpty())
-        return;
-    // The ending chooses the format; any other writes nothing.
-    if (file.endsWith(QLatin1String(".png"), Qt::CaseInsensitive))
-        m_use.browser->savePng(file);
-    else if (!file.endsWith(QLatin1String(".csv"), Qt::CaseInsensitive))
-        m_use.reports.status->showMessage(tr("Nothing saved: give the file a name that ends in .png or .csv"), saveHintMs);
-    else if (!m_plotter.saveCaptureDataCSV(m_captures, file))
-        m_use.reports.errors->tell({MessageKind::FileFailed, tr("Error writing graphs to file %1").arg(file.toHtmlEscaped())});
 }

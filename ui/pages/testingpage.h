@@ -3,21 +3,19 @@
 #ifndef TESTINGPAGE_H
 #define TESTINGPAGE_H
 
-#include "captureplotter.h"
-#include "helpview.h"
-#include "reports.h"
+#include "capturerecord.h"
 #include "statepanels.h"
 
 #include <QList>
 #include <QObject>
 
 class ApplyDesk;
+class ConnectPage;
 class Connection;
-class EditedSettings;
-class HelpBrowser;
 class ParameterPages;
 class QPushButton;
 class QSpinBox;
+class TriesDesk;
 class Ui_TestingPage;
 enum class Reach;
 
@@ -31,11 +29,10 @@ public:
     /// What the page works with beside its own controls.
     struct Helpers
     {
-        const EditedSettings &settings; ///< listed under a plot
-        const ParameterPages *pages;    ///< for setpoints in machine units, and the model's name
-        ApplyDesk *apply;               ///< asks before a capture of settings that are not applied
-        HelpBrowser *browser;           ///< shows plots
-        Reports reports;
+        const ParameterPages *pages; ///< for setpoints in machine units
+        ApplyDesk *apply;            ///< asks before a capture of settings that are not applied
+        const ConnectPage *connect;  ///< knows the drive's address
+        TriesDesk *tries;            ///< shows captures
     };
     TestingPage(QWidget *window, const Ui_TestingPage &form, Connection &session, const Helpers &helpers);
 
@@ -54,8 +51,6 @@ public:
     void capture();
     void showCaptureState(const QString &text);
     void plot(const QList<CaptureData> &captures);
-    void redraw(HelpView::Zoom zoom);
-    void savePlot();
 
     void showConnection(Reach reach);
     /// The panels as plain text, one below the other.
@@ -71,9 +66,8 @@ private:
     Connection &m_session;
     Helpers m_use;
     StatePanels m_panels;
-    CapturePlotter m_plotter;
-    QList<CaptureData> m_captures; ///< the last capture, kept for plotting it again
-    QString m_lastSetpoint;        ///< as polled last, empty before the first poll
+    CaptureRequest m_request; ///< of the capture that waits or is being read, with the motion since it was armed
+    QString m_lastSetpoint;   ///< as polled last, empty before the first poll
 };
 
 #endif

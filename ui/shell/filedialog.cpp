@@ -5,6 +5,8 @@
 #include <QFileDialog>
 #include <QFileIconProvider>
 #include <QFileInfo>
+#include <QGridLayout>
+#include <QLabel>
 
 namespace {
 
@@ -26,7 +28,19 @@ public:
     }
 };
 
-QString askFile(QWidget *parent, const FileQuestion &question, QFileDialog::AcceptMode mode)
+void addControl(QFileDialog &dialog, const FileQuestion &question)
+{
+    auto *layout = qobject_cast<QGridLayout *>(dialog.layout()); // of the toolkit's own dialog
+    if (!layout || !question.more)
+        return;
+    auto *caption = new QLabel(question.moreCaption, &dialog);
+    caption->setBuddy(question.more);
+    const int row = layout->rowCount();
+    layout->addWidget(caption, row, 0);
+    layout->addWidget(question.more, row, 1, Qt::AlignLeft);
+}
+
+QString askFile(QWidget *parent, const FileQuestion &question, QFileDialog::AcceptMode mode, QString *filter = nullptr)
 {
     QString start = question.start;
     if (start.startsWith(QLatin1Char('~')))
@@ -41,7 +55,13 @@ QString askFile(QWidget *parent, const FileQuestion &question, QFileDialog::Acce
     dialog.setDefaultSuffix(question.defaultSuffix);
     if (!place.isDir())
         dialog.selectFile(place.fileName());
-    return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
+    addControl(dialog, question);
+    const bool accepted = dialog.exec() == QDialog::Accepted;
+    if (question.more)
+        question.more->setParent(nullptr);
+    if (filter)
+        *filter = dialog.selectedNameFilter();
+    return accepted ? dialog.selectedFiles().value(0) : QString();
 }
 
 } // namespace
@@ -51,9 +71,9 @@ QString askFileToOpen(QWidget *parent, const FileQuestion &question)
     return askFile(parent, question, QFileDialog::AcceptOpen);
 }
 
-QString askFileToSave(QWidget *parent, const FileQuestion &question)
+QString askFileToSave(QWidget *parent, const FileQuestion &question, QString *filter)
 {
-    return askFile(parent, question, QFileDialog::AcceptSave);
+    return askFile(parent, question, QFileDialog::AcceptSave, filter);
 }
 
 QString folderOf(const QString &file)

@@ -19,6 +19,7 @@
 #include "parameterpages.h"
 #include "questionqueue.h"
 #include "testingpage.h"
+#include "triesdesk.h"
 #include "ui_connectpage.h"
 #include "ui_faultlimitspage.h"
 #include "ui_goalspage.h"
@@ -127,8 +128,11 @@ void MW::buildPages(const Options &options)
         this, {m_form->apply_button, connectForm.save_settings_to_file, m_overridesForm->customParamDisplay},
         m_connection, m_settings, m_parameters, reports);
     m_connectPage = new ConnectPage(this, connectForm, m_connection, m_questions);
-    m_testing = new TestingPage(this, formAmong<Ui_TestingPage>(*m_form->pages), m_connection,
-                                {m_settings, m_parameters, m_apply, m_help, reports});
+    const auto &testingForm = formAmong<Ui_TestingPage>(*m_form->pages);
+    m_tries = new TriesDesk(this, testingForm.testingContentsLayout, m_form->settingsPane, m_connection,
+                            {m_settings, m_parameters, m_apply, m_connectPage, m_help, reports});
+    m_testing =
+        new TestingPage(this, testingForm, m_connection, {m_parameters, m_apply, m_connectPage, m_tries});
     m_drive = new DriveDesk(this, m_connection, m_connectPage, m_testing, m_apply, reports);
     m_firmware = new FirmwareDesk(this, m_connection, m_connectPage, m_apply, m_questions);
     m_controlMode = new ControlModeRule(this, m_connection, m_settings, m_questions);
@@ -183,7 +187,7 @@ void MW::connectPages()
     connect(m_help->view(), &HelpView::pageLoaded, this, &MW::helpViewLoadFinished);
     connect(m_help, &HelpBrowser::timedOut, this, &MW::helpLoadingTimeouted);
     connect(m_help, &HelpBrowser::saveWanted, this, &MW::saveTestResults_clicked);
-    connect(m_help, &HelpBrowser::redrawWanted, m_testing, [this] { m_testing->redraw(HelpView::Zoom::Reset); });
+    connect(m_help, &HelpBrowser::redrawWanted, m_tries, [this] { m_tries->redraw(false); });
     connect(m_help, &HelpBrowser::saved, this, &MW::pictureSaved);
 
     connect(m_parameters, &ParameterPages::unitsChanged, this, &MW::updateUnitLabels);
@@ -255,6 +259,8 @@ void MW::createShortcuts()
         {"Alt+S", &MW::on_ScopeCaptureNow_clicked},
         {"Ctrl+S", &MW::on_save_settings_to_file_clicked},
         {"Ctrl+O", &MW::on_load_settings_from_file_clicked},
+        {"Ctrl+Shift+O", &MW::openCapture},
+        {"F11", &MW::toggleOpenedOut},
         {"Alt+O", &MW::on_connect_button_clicked},
         {"Alt+D", &MW::on_disconnect_button_clicked},
     };

@@ -26,6 +26,7 @@ class QCloseEvent;
 class QLabel;
 class QuestionQueue;
 class TestingPage;
+class TriesDesk;
 class Ui_MW;
 class Ui_overrideParams;
 
@@ -64,6 +65,8 @@ private slots:
     void availableBusNodesListReceived(QList<NodeType> list);
     void on_apply_button_clicked();
     void saveTestResults_clicked();
+    void openCapture();
+    void toggleOpenedOut();
     void connectionStatusChanged(bool connected, QString text);
     void on_MPC_editingFinished();
     void on_MCC_editingFinished();
@@ -164,6 +167,7 @@ private:
     ParameterPages *m_parameters = nullptr;
     ApplyDesk *m_apply = nullptr;
     ConnectPage *m_connectPage = nullptr;
+    TriesDesk *m_tries = nullptr;
     TestingPage *m_testing = nullptr;
     DriveDesk *m_drive = nullptr;
     FirmwareDesk *m_firmware = nullptr;

@@ -10,6 +10,7 @@
 #include "makernews.h"
 #include "parameterpages.h"
 #include "testingpage.h"
+#include "triesdesk.h"
 
 #include <QClipboard>
 #include <QGuiApplication>
@@ -32,7 +33,7 @@ void MW::on_apply_button_clicked()
 
 void MW::saveTestResults_clicked()
 {
-    m_testing->savePlot();
+    m_tries->save();
 }
 
 void MW::on_MPC_editingFinished()
@@ -108,6 +109,7 @@ void MW::on_showAdvancedSettings_clicked()
 void MW::paramsRetreived(Parameters params, bool loadedFromFile)
 {
     m_parameters->take(params, loadedFromFile);
+    m_tries->showLimits();
     m_apply->updateSaveToFileButton();
     updateUnitLabels();
     updateApplyButtonState();
@@ -322,6 +324,16 @@ void MW::on_copyDeviceStateToClipboard_clicked()
 }
 
 // --- Help ---------------------------------------------------------------------------------------------------------
+
+void MW::openCapture()
+{
+    m_tries->open();
+}
+
+void MW::toggleOpenedOut()
+{
+    m_tries->toggleOpenedOut();
+}
 
 void MW::browserLinkClicked(QUrl url)
 {

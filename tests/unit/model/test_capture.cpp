@@ -191,6 +191,7 @@ TEST(Capture, DamagedForeignAndNewerFilesEndInOneSentenceAndChangeNothing)
         {inChannel("key", "posmeas"), "key"},
         {inChannel("key", "a;alert(1)"), "key"},
         {inChannel("key", "Torque"), "key"},
+        {inChannel("key", "class"), "key"}, // no variable of a script
         {inChannel("group", ""), "group"},
         {inChannel("values", QJsonArray{1, "2"}), "values"},
         {inChannel("values", QJsonArray{QJsonValue()}), "values"},

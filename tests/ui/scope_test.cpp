@@ -1,0 +1,195 @@
+// Tries without leaving the Testing page, captures that are opened again, and charts that have the window.
+#include "testingfixture.h"
+
+#include "scopedesk.h"
+
+#include <QTableWidget>
+
+namespace {
+
+constexpr int KPP = 201, AFF = 221, VFF = 220;
+
+class Scope : public TestingFixture
+{
+protected:
+    void capture(int target)
+    {
+        arm();
+        stepTo(target);
+        waitForPlot();
+        const int rows = tries()->rowCount();
+        ASSERT_TRUE(waitFor([this] { return !figures().isEmpty() && run("$('.scope-stale').length").toInt() == 0; }))
+            << rows;
+    }
+    void channels(std::initializer_list<const char *> names) { tick(names); }
+    QTableWidget *tries() const { return control<QTableWidget>("triesTable"); }
+    QString figures() const { return run("$('#scope-figures').text()").toString(); }
+    QString cell(int row, const char *caption) const
+    {
+        for (int column = 0; column < tries()->columnCount(); ++column) {
+            if (tries()->horizontalHeaderItem(column)->text() == caption)
+                return tries()->item(row, column)->text();
+        }
+        return QString("no column %1").arg(caption);
+    }
+    void open(const QString &file)
+    {
+        m_answers.chooseFile(file);
+        click("triesOpen");
+    }
+    QString path(const char *name) const { return QString::fromStdString(m_folder.path() / name); }
+};
+
+} // namespace
+
+TEST_F(Scope, ATryIsChangedAppliedSteppedAndSeenOnThePageAndAnEarlierOneTakenBackAsAnEdit)
+{
+    channels({"ScopeTorqRef", "ScopePosRef", "ScopePosMeas"});
+    choose(Change, "2500 Hz");
+    enableDrive();
+    capture(1000);
+    EXPECT_TRUE(figures().contains("Overshoot0 %")) << qPrintable(figures());
+    const int before = control<QSpinBox>("gainKPP")->value();
+    EXPECT_EQ(before, bus().read(DriveAddress, KPP));
+
+    control<QSpinBox>("gainKPP")->setValue(4 * before);
+    ASSERT_TRUE(waitFor([this] { return button("gainsApply")->text() == "Apply settings (parameters changed)"; }));
+    click("gainsApply");
+    ASSERT_TRUE(driveHas(KPP, 4 * before));
+    capture(0);
+    ASSERT_EQ(tries()->rowCount(), 2);
+    EXPECT_EQ(cell(0, "KPP"), QString::number(4 * before)) << "the newest on top";
+    EXPECT_EQ(cell(1, "KPP"), QString::number(before));
+    EXPECT_GT(cell(0, "Overshoot").section(' ', 0, 0).toDouble(), 20);
+    EXPECT_EQ(cell(1, "Overshoot"), "0 %");
+
+    tries()->selectRow(1);
+    ASSERT_TRUE(waitFor([this] { return figures().contains("Overshoot0 %"); }));
+    EXPECT_EQ(samples("Position", 1).last().y(), 1000);
+    click("triesTake");
+    EXPECT_EQ(control<QSpinBox>("KPP")->value(), before);
+    EXPECT_TRUE(waitForPending(true));
+    EXPECT_EQ(bus().read(DriveAddress, KPP), 4 * before) << "nothing is applied by itself";
+
+    click("triesUnder"); // the selected one, under the newest
+    EXPECT_TRUE(waitFor([this] { return samples("Position", 1).last().y() < 500; }));
+    EXPECT_TRUE(waitFor([this] { return run("$('#scope-differences').text()").toString().contains("KPP"); }));
+    EXPECT_EQ(bus().read(DriveAddress, FAULTS), 0);
+}
+
+TEST_F(Scope, AxisSheetOfABackAndForthMoveProposesFeedForwardThatIsTakenAsAnEdit)
+{
+    channels({"ScopeTorqRef", "ScopeTorqMeas", "ScopePosRef", "ScopePosMeas"});
+    choose(Change, "2500 Hz");
+    enableDrive();
+    control<QSpinBox>("stimulusTarget1")->setValue(1900);
+    control<QSpinBox>("stimulusTarget2")->setValue(0);
+    control<QDoubleSpinBox>("stimulusDelay1")->setValue(0.1);
+    control<QDoubleSpinBox>("stimulusDelay2")->setValue(0.1);
+    control<QCheckBox>("stimulusEnabled")->setChecked(true);
+    ASSERT_TRUE(waitFor([this] { return std::abs(bus().read(DriveAddress, POSITION)) > 500; }, 20000));
+    click("ScopeCaptureNow");
+    ASSERT_TRUE(waitFor([this] { return run("$('#scope-axis').length").toInt() == 1; }, 20000));
+    control<QCheckBox>("stimulusEnabled")->setChecked(false);
+    const QString sheet = run("$('#scope-axis').text()").toString();
+    EXPECT_TRUE(sheet.contains("±")) << qPrintable(sheet);
+    const int aff = control<QSpinBox>("AFF")->value();
+    clickLink("tdext://scope/take-feed-forward");
+    EXPECT_NE(control<QSpinBox>("AFF")->value(), aff);
+    EXPECT_TRUE(waitForPending(true));
+    EXPECT_EQ(bus().read(DriveAddress, AFF), aff);
+}
+
+TEST_F(Scope, ASavedPageShowsTheSamePictureAndFiguresWithoutADriveAndBadFilesChangeNothing)
+{
+    channels({"ScopeTorqRef", "ScopePosRef", "ScopePosMeas"});
+    choose(Change, "2500 Hz");
+    enableDrive();
+    capture(1000);
+    const QString figuresThen = figures();
+    const QVector<QPointF> then = samples("Position", 1);
+    const QString file = path("step.html");
+    m_answers.chooseFile(file);
+    clickLink("tdext://exportpdf");
+    ASSERT_TRUE(QFile::exists(file)) << qPrintable(shownMessage(m_window.get()));
+    EXPECT_LT(QFileInfo(file).size(), 1000000);
+    m_window.reset();
+
+    openWindow();
+    goTo(TESTING_PAGE);
+    open(file);
+    ASSERT_TRUE(waitFor([this] { return run("$('canvas.flot-base').length").toInt() > 0; }, 20000));
+    ASSERT_TRUE(waitFor([&] { return figures() == figuresThen; })) << qPrintable(figures());
+    EXPECT_EQ(samples("Position", 1), then);
+    EXPECT_EQ(tries()->rowCount(), 1);
+
+    const struct { const char *name; QByteArray text; const char *says; } bad[] = {
+        {"empty.html", "", "is empty"},
+        {"foreign.html", "<html><script>alert(1)</script></html>", "holds no capture"},
+        {"cut.json", "{\"format\":\"velbrin-capture\",\"ver", "capture"},
+        {"newer.json", "{\"format\":\"velbrin-capture\",\"version\":99}", "newer"},
+        {"huge.csv", QByteArray(9 << 20, '1'), "too large"},
+    };
+    for (const auto &row : bad) {
+        SCOPED_TRACE(row.name);
+        QFile out(path(row.name));
+        ASSERT_TRUE(out.open(QIODevice::WriteOnly));
+        out.write(row.text);
+        out.close();
+        open(path(row.name));
+        ASSERT_TRUE(waitFor([this] { return !shownMessage(m_window.get()).isEmpty(); }));
+        EXPECT_TRUE(shownMessage(m_window.get()).contains(row.says)) << qPrintable(shownMessage(m_window.get()));
+        control<QDialog>("errorWindow")->close();
+        EXPECT_EQ(tries()->rowCount(), 1);
+    }
+    EXPECT_EQ(samples("Position", 1), then);
+}
+
+TEST_F(Scope, TheChartsTakeTheWindowAndGiveItBackAndEscStillDisables)
+{
+    press(Qt::Key_F11);
+    EXPECT_TRUE(control<QWidget>("settingsPane")->isVisible()) << "there is no plot";
+    channels({"ScopePosMeas"});
+    choose(Instantly, "20000 Hz");
+    enableDrive();
+    click("ScopeCaptureNow");
+    waitForPlot();
+    press(Qt::Key_F11);
+    EXPECT_FALSE(control<QWidget>("settingsPane")->isVisible());
+    EXPECT_TRUE(waitFor([this] { return run("$('html').hasClass('scope-open')").toBool(); }));
+    EXPECT_GT(view()->width(), m_window->width() - 40);
+    press(Qt::Key_S, Qt::AltModifier); // a new capture from here
+    ASSERT_TRUE(waitFor([this] { return tries()->rowCount() == 2; }, 20000));
+    EXPECT_TRUE(run("$('html').hasClass('scope-open')").toBool());
+    press(Qt::Key_Escape);
+    EXPECT_TRUE(waitForWrite(SOFT_ENABLE, 0));
+    clickLink("tdext://scope/open-out");
+    EXPECT_TRUE(control<QWidget>("settingsPane")->isVisible());
+    press(Qt::Key_F11);
+    clickLink("tdext://showhelp");
+    EXPECT_TRUE(control<QWidget>("settingsPane")->isVisible()) << "help has no way back of its own";
+}
+
+TEST_F(Scope, ReportHasTheMachineTheNotesAndTheChosenCapture)
+{
+    channels({"ScopePosMeas"});
+    choose(Instantly, "20000 Hz");
+    click("ScopeCaptureNow");
+    waitForPlot();
+    const QString file = path("report.html");
+    m_answers.expect([](QWidget *dialog) {
+        dialog->findChild<QLineEdit *>("reportMachine")->setText("Saw <b>7");
+        auto *notes = dialog->findChild<QTableWidget *>("reportNotes");
+        if (notes->rowCount() > 0)
+            notes->item(0, 3)->setText("by hand");
+        return QMetaObject::invokeMethod(dialog, "accept");
+    });
+    m_answers.chooseFile(file);
+    click("triesReport");
+    QFile report(file);
+    ASSERT_TRUE(report.open(QIODevice::ReadOnly)) << qPrintable(statusBarText());
+    const QByteArray text = report.readAll();
+    EXPECT_TRUE(text.contains("Saw &lt;b&gt;7"));
+    EXPECT_TRUE(text.contains("<svg")) << "the capture that is shown is chosen";
+    EXPECT_FALSE(text.contains("<script"));
+}

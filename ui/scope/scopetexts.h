@@ -1,0 +1,20 @@
+/// \file
+/// Texts of the scope's bar and tables in the language of the program.
+#ifndef SCOPETEXTS_H
+#define SCOPETEXTS_H
+
+#include <QCoreApplication>
+#include <QJsonObject>
+
+struct ScopeText
+{
+    Q_DECLARE_TR_FUNCTIONS(Scope)
+};
+
+/// By the English text, as it stands in the scripts.
+QJsonObject scopeTexts();
+
+/// A figure's name in few letters, for the line above the charts; empty for those that do not stand there.
+QString briefCaption(const QString &figure);
+
+#endif
