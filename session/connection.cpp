@@ -51,6 +51,9 @@ void Connection::Private::passEventsOn(Connection &to)
     pass(&E::statePolled, to, &C::statePolled);
     pass(&E::driveParametersChanged, to, &C::driveParametersChanged);
     pass(&E::captureStateChanged, to, &C::captureStateChanged);
+    pass(&E::scanProgress, to, &C::scanProgress);
+    pass(&E::savedToFlash, to, &C::savedToFlash);
+    pass(&E::settingsFileSaved, to, &C::settingsFileSaved);
 }
 
 Connection::Connection(QObject *parent) : QThread(parent), d(std::make_unique<Private>())

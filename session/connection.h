@@ -131,6 +131,8 @@ signals:
     void statusRegisterUpdated(QString html);
     void faultRegisterUpdated(QString html);
     void availableBusNodes(QList<NodeType> nodes);
+    /// While a scan is on its way: addresses asked so far, and in all.
+    void scanProgress(int asked, int total);
     void firmwareUpgradeMsg(QString html, bool done, bool failed);
     /// Bytes of the images uploaded so far, and in all.
     void firmwareUploadProgress(int sentBytes, int totalBytes);
@@ -153,6 +155,10 @@ signals:
     void statePolled(DriveState state);
     /// driveParameters() has changed: behind a whole read and a write.
     void driveParametersChanged(Parameters list);
+    /// A save to flash was answered; `done`: its flash now holds what its working memory does.
+    void savedToFlash(bool done);
+    /// The file holds this list now.
+    void settingsFileSaved(QString fileName, Parameters list);
     /// Right behind each updateCaptureButtonText.
     void captureStateChanged(CaptureState state);
 

@@ -43,6 +43,9 @@ signals:
     void statePolled(DriveState state);
     void driveParametersChanged(Parameters list);
     void captureStateChanged(CaptureState state);
+    void scanProgress(int asked, int total);
+    void savedToFlash(bool done);
+    void settingsFileSaved(QString fileName, Parameters list);
 };
 
 #endif

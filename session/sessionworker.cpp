@@ -75,6 +75,7 @@ const SessionWorker::TaskRule *SessionWorker::ruleOf(int task)
         {T::TaskRestartToDFU, on<&W::m_commands, &C::restartToDFU>, true, false},
         {T::TaskMeasure, on<&W::m_commands, &C::measure>, true, false},
         {T::TaskSetZero, on<&W::setZero>, true, false},
+        {T::TaskCallOffCapture, on<&W::m_capture, &CaptureRun::callOffCapture>, true, false},
     };
     const auto found =
         std::find_if(std::begin(rules), std::end(rules), [task](const TaskRule &rule) { return rule.task == task; });

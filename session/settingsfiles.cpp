@@ -6,6 +6,8 @@ void SessionWorker::saveSettingsFile(const SaveFileRequest &request)
     const QString message = request.parameters.saveToFile(request.fileName);
     if (!message.isEmpty())
         m_context.errors.tell(MessageKind::FileFailed, message);
+    else
+        emit m_out.settingsFileSaved(request.fileName, request.parameters);
 }
 
 void SessionWorker::loadSettingsFile(const LoadFileRequest &request)

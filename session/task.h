@@ -41,6 +41,7 @@ struct SessionTasks
         TaskRestartToDFU = 29,
         TaskMeasure = 30,
         TaskSetZero = 31,
+        TaskCallOffCapture = 32, ///< disarms the recorder; nothing while none is armed
     };
 };
 

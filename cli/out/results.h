@@ -3,6 +3,8 @@
 #ifndef RESULTS_H
 #define RESULTS_H
 
+#include "numbertext.h"
+
 #include <QByteArray>
 #include <QJsonValue>
 #include <QList>
@@ -23,12 +25,6 @@ struct Results
     QStringList lines;
     QJsonValue json = QJsonValue::Undefined;
 };
-
-/// As many of 15 digits as it takes.
-inline QString shortNumber(double value)
-{
-    return QString::number(value, 'g', 15);
-}
 
 /// One line a row, without the column names.
 QStringList tabSeparated(const Table &table);

@@ -48,8 +48,11 @@ BusSearch::Result BusSearch::searchDrives()
 {
     m_noisyExchanges = 0;
     QMap<int, NodeType> found;
-    for (int address : scanAddresses())
-        searchAt(address, found);
+    const QList<int> addresses = scanAddresses();
+    for (int i = 0; i < addresses.size(); ++i) {
+        emit m_out.scanProgress(i, int(addresses.size()));
+        searchAt(addresses[i], found);
+    }
     return {found.values(), m_noisyExchanges >= noisyLimit, m_line.isGone()};
 }
 

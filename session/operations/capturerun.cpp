@@ -19,6 +19,15 @@ void CaptureRun::startCapture(const ScopeRequest &request)
         announceCapture(CaptureState::Idle);
 }
 
+void CaptureRun::callOffCapture()
+{
+    if (!m_run.pending) // full already, or never armed: then there is nothing to take back
+        return;
+    m_run.pending = false;
+    m_drive.writeAndFetch(reg::ScopeState, 0);
+    announceCapture(CaptureState::Idle);
+}
+
 void CaptureRun::announceCapture(CaptureState state)
 {
     switch (state) {

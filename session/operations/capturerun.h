@@ -13,6 +13,8 @@ public:
 
     void announceCapture(CaptureState state);
     void startCapture(const ScopeRequest &request);
+    /// Disarms the recorder; nothing while none is armed.
+    void callOffCapture();
     /// In what was just polled: queues the download when the recorder is full.
     void lookForEnd(const DriveState &state);
     void downloadCapture();

@@ -57,8 +57,10 @@ void DriveCommands::applyEnableState(const EnableRequest &request)
 
 void DriveCommands::saveToFlash()
 {
-    writeCommand(reg::SystemCommand, reg::CommandSaveToFlash,
-                 SessionText::tr("The drive refused to save its settings to flash.<br>Device errors: <br>%1"));
+    const Reply reply =
+        writeCommand(reg::SystemCommand, reg::CommandSaveToFlash,
+                     SessionText::tr("The drive refused to save its settings to flash.<br>Device errors: <br>%1"));
+    emit m_out.savedToFlash(reply == Reply::Done);
 }
 
 void DriveCommands::startHoming()

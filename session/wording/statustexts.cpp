@@ -88,7 +88,8 @@ bool isReasonForInactivity(const DriveState &state, bool isSet, bool isReason, b
 DriveFlag flagValue(const DriveState &state, const Flag &flag, qint32 value)
 {
     const bool isSet = (value & flag.mask) != 0;
-    return {SessionText::tr(flag.label), isSet, isReasonForInactivity(state, isSet, flag.isReason, flag.expected)};
+    return {SessionText::tr(flag.label), isSet, isReasonForInactivity(state, isSet, flag.isReason, flag.expected),
+            flag.mask};
 }
 
 template <std::size_t count>

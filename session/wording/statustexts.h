@@ -17,6 +17,7 @@ struct DriveFlag
     QString label; ///< translated, as in the panel
     bool isSet = false;
     bool isReason = false; ///< keeps the drive from running: marked "!" in the panel
+    int mask = 0;          ///< its bit in its register
 };
 
 /// The flags of the panels, in their order. A bootloader has faults only.

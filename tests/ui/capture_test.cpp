@@ -220,6 +220,22 @@ TEST_F(Capture, WithoutChannelsSaysSoAndNothingIsArmed)
     EXPECT_EQ(timesArmed(), 0);
 }
 
+TEST_F(Capture, TellsBeforehandHowMuchItHoldsAndCanBeCalledOff)
+{
+    tickAll();
+    choose(Rise, "10000 Hz");
+    EXPECT_EQ(label("recordLength")->text(), "33 ms at 10 kHz with 6 channels");
+    control<QSpinBox>("stimulusTarget1")->setValue(100000); // 0.25 s at the drive's velocity limit
+    EXPECT_EQ(label("recordLength")->text(), "33 ms at 10 kHz with 6 channels: a move of 250 ms will be cut off");
+    EXPECT_FALSE(button("callOffCapture")->isEnabled());
+    arm();
+    ASSERT_TRUE(waitFor([this] { return button("callOffCapture")->isEnabled(); }));
+    click("callOffCapture");
+    ASSERT_TRUE(waitFor([this] { return captureText() == "Start capture"; }));
+    EXPECT_TRUE(waitFor([this] { return statusBarText() == "Capture called off"; }));
+    EXPECT_EQ(bus().read(DriveAddress, SCOPE_STATE), 0);
+}
+
 TEST_F(Capture, PlotZoomsAndRestores)
 {
     tickAll();

@@ -343,15 +343,12 @@ TEST_F(FirmwareDialogTest, PermanentStopIsCuredByTheRestartThatIsSuggestedOnce)
     bus().set(DriveAddress, SoftEnable, 1);
     const int motor = control<QComboBox>("MT")->currentIndex();
     control<QComboBox>("MT")->setCurrentIndex(motor == 1 ? 3 : 1);
-    QStringList found;
     m_answers.press("Restart drive now");
     m_answers.press("Discard changes");
-    chooseFirstNode(found);
     click("apply_button");
     ASSERT_TRUE(waitForConnection("Restarting device"));
     EXPECT_TRUE(m_answers.texts.last().startsWith("Some paramets have been changed since last Save to drive."));
     ASSERT_TRUE(waitForConnection("Connected"));
-    EXPECT_EQ(found, QStringList{"Tarnwell Devices KETA at bus address 5"});
     ASSERT_TRUE(waitFor([&] { return control<QComboBox>("MT")->currentIndex() == motor; })) << "as the flash has it";
     // Asked again it would be an unexpected box: some polls go by.
     bus().clearReceived();

@@ -340,6 +340,9 @@ public:
     QWebEngineView view;
     std::unique_ptr<Picture> picture;
     bool plotStands = false; ///< the plot page on display is loaded to its end
+
+    /// Dark pages under a dark palette, from the next load on; the one on display follows by itself.
+    void followPalette(const QPalette &palette);
 };
 
 HelpView::Engines::Engines(HelpView *owner) : page(&profile, owner)
@@ -353,8 +356,44 @@ HelpView::Engines::Engines(HelpView *owner) : page(&profile, owner)
     script.setInjectionPoint(QWebEngineScript::DocumentReady);
     script.setWorldId(QWebEngineScript::MainWorld);
     profile.scripts()->insert(script);
+    followPalette(owner->palette());
     view.setPage(&page);
     view.setContextMenuPolicy(Qt::NoContextMenu); // the engine's own offers to save and to open windows
+}
+
+void HelpView::Engines::followPalette(const QPalette &palette)
+{
+    const bool dark = palette.color(QPalette::Window).lightness() < 128;
+    QWebEngineScript script;
+    script.setName(QStringLiteral("palette"));
+    // A page of the network that sets no background means white, with dark text on it.
+    script.setSourceCode(QStringLiteral(R"(
+        (function (root) {
+            root.classList.remove("light", "dark");
+            root.classList.add("%1");
+            if (location.protocol.indexOf("http") !== 0)
+                return;
+            var style = document.createElement("style");
+            style.textContent = ":where(html) { background: #fff; }";
+            root.insertBefore(style, root.firstChild);
+        })(document.documentElement);)")
+                             .arg(dark ? QStringLiteral("dark") : QStringLiteral("light")));
+    page.setBackgroundColor(dark ? QColor(0x1e, 0x1e, 0x1e) : QColor(Qt::white)); // no white flash before a page
+    script.setInjectionPoint(QWebEngineScript::DocumentCreation);
+    script.setWorldId(QWebEngineScript::MainWorld);
+    // Of this page only: a picture of a plot is for paper and stays light.
+    const auto former = page.scripts().find(QStringLiteral("palette"));
+    for (const QWebEngineScript &old : former)
+        page.scripts().remove(old);
+    page.scripts().insert(script);
+    page.runJavaScript(script.sourceCode());
+}
+
+void HelpView::changeEvent(QEvent *event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange && m_engines)
+        m_engines->followPalette(palette());
 }
 
 // --- The pane -----------------------------------------------------------------------------------------------------

@@ -1,6 +1,7 @@
 #include "applydesk.h"
 
 #include "connection.h"
+#include "driveboard.h"
 #include "editedfield.h"
 #include "editedsettings.h"
 #include "errorwindow.h"
@@ -12,17 +13,19 @@
 #include <QPushButton>
 #include <QSpinBox>
 #include <QStatusBar>
+#include <utility>
 
 ApplyDesk::ApplyDesk(QWidget *window, const Controls &controls, Connection &session, EditedSettings &settings,
-                     ParameterPages *pages, const Reports &reports)
+                     ParameterPages *pages, DriveBoard *board, const Reports &reports)
     : QObject(window), m_window(window), m_controls(controls), m_session(session), m_settings(settings),
-      m_pages(pages), m_reports(reports)
+      m_pages(pages), m_board(board), m_reports(reports)
 {
 }
 
 void ApplyDesk::updateButton()
 {
     m_pages->collect();
+    m_board->refresh();
     // A number that is just being typed counts with the next Apply.
     const bool pending = m_settings.isPending() || isNewNumberTyped();
     m_controls.apply->setDefault(pending);
@@ -64,13 +67,17 @@ bool ApplyDesk::applyNow()
         return false;
     if (!driveWasRead(tr("Nothing applied: the settings of this drive have not been read yet")))
         return false;
-    m_reports.errors->note(m_pages->sanityWarnings());
-    m_session.setWatchedParameter(m_controls.watchedRegister->value());
     m_pages->collect();
+    m_board->refresh();
+    if (!m_board->confirmApply(m_pages->sanityWarnings()))
+        return false;
+    m_session.setWatchedParameter(m_controls.watchedRegister->value());
+    m_board->applyBegins();
     m_settings.applied();
     m_session.setParams(m_settings.edited());
     m_session.command(Connection::TaskSetParams);
     m_session.checkErrors();
+    m_session.getParams(); // what it has taken
     emit m_pages->unitsChanged();
     updateButton();
     return true;
@@ -84,6 +91,27 @@ void ApplyDesk::saveToFlash()
         return;
     m_session.command(Connection::TaskSaveToFlash);
     m_settings.setSaved(true);
+    m_board->saveToDriveBegins();
+}
+
+void ApplyDesk::savedToFlash(bool done)
+{
+    if (!done)
+        m_settings.setSaved(false);
+    m_board->saveToDriveEnded(done);
+}
+
+void ApplyDesk::takeSettings(const Parameters &list, bool loadedFromFile)
+{
+    if (!loadedFromFile && m_board->isOutdatedRead())
+        return;
+    m_board->fillingBegins();
+    m_pages->take(list, loadedFromFile);
+    const QString file = loadedFromFile ? std::exchange(m_loading, QString()) : QString();
+    if (!file.isEmpty())
+        m_reports.status->showMessage(
+            tr("Loaded %1. Nothing of it is in the drive before it is applied").arg(file));
+    m_board->fillingEnds(file);
 }
 
 // --- Questions ----------------------------------------------------------------------------------------------------
@@ -204,5 +232,6 @@ void ApplyDesk::loadFile(const QString &file)
 {
     m_lastFolder = folderOf(file);
     m_session.setSettingsFileName(file);
+    m_loading = file;
     m_session.command(Connection::TaskLoadSettingsFile);
 }

@@ -9,8 +9,10 @@
 #include <QString>
 
 class Connection;
+class DriveBoard;
 class EditedSettings;
 class ParameterPages;
+class Parameters;
 class QPushButton;
 class QSpinBox;
 enum class Reach;
@@ -36,11 +38,16 @@ public:
         const QSpinBox *watchedRegister; ///< of the overrides dialog
     };
     ApplyDesk(QWidget *window, const Controls &controls, Connection &session, EditedSettings &settings,
-              ParameterPages *pages, const Reports &reports);
+              ParameterPages *pages, DriveBoard *board, const Reports &reports);
 
     void updateButton();
     void updateSaveToFileButton();
     void showConnection(Reach reach);
+    /// A list that was read or loaded. The read behind an apply tells what the drive has taken; edits made meanwhile
+    /// stay.
+    void takeSettings(const Parameters &list, bool loadedFromFile);
+    /// The drive has answered a save to its flash.
+    void savedToFlash(bool done);
 
     /// The Apply button: what is being typed counts.
     void apply();
@@ -72,7 +79,9 @@ private:
     Connection &m_session;
     EditedSettings &m_settings;
     ParameterPages *m_pages;
+    DriveBoard *m_board;
     Reports m_reports;
+    QString m_loading; ///< file that was asked for and has not arrived
     QString m_lastFolder = QStringLiteral("~");
 };
 

@@ -6,6 +6,7 @@
 
 #include <QApplication>
 #include <QDebug>
+#include <utility>
 
 ConnectPage::ConnectPage(QWidget *window, const Ui_ConnectPage &form, Connection &session, QuestionQueue *questions)
     : QObject(window), m_form(form), m_session(session),
@@ -65,11 +66,18 @@ void ConnectPage::search()
     if (!m_form.connect_button->isEnabled())
         return;
     qDebug() << "attempt connecting";
+    m_returnTo = 0; // whoever searches wants to choose
     emit searching();
     emit leaving();
     m_session.command(Connection::TaskDisconnect);
     m_session.getListOfBusNodes(chosenPort());
     m_form.connect_button->setText(tr("Searching devices..."));
+}
+
+void ConnectPage::searchForLast()
+{
+    search();
+    m_returnTo = m_lastAddress;
 }
 
 void ConnectPage::searchAfterUpgrade()
@@ -81,6 +89,11 @@ void ConnectPage::searchAfterUpgrade()
 void ConnectPage::nodesFound(const QList<NodeType> &nodes)
 {
     m_form.connect_button->setText(tr("Connect to drive"));
+    const int returnTo = std::exchange(m_returnTo, 0);
+    for (const NodeType &node : nodes) {
+        if (node.address == returnTo && !node.firmwareUpgradeMode && !node.unreadable)
+            return connectTo(returnTo);
+    }
     m_chooser.offer(nodes);
 }
 
@@ -92,7 +105,7 @@ void ConnectPage::messageCame(const Message &message)
 
 void ConnectPage::connectTo(int address)
 {
-    emit connecting();
+    emit connecting(address);
     m_lastPort = chosenPort();
     m_lastAddress = address;
     m_session.connectDevice(m_lastPort, address);

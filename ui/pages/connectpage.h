@@ -30,6 +30,8 @@ public:
 
     /// The Connect button: ends a connection and searches the bus of the chosen port.
     void search();
+    /// The same behind a restart: a drive that answers at the former address is connected again without a question.
+    void searchForLast();
     /// The same without a click, for the drive that has just got new firmware: it is at another address now.
     void searchAfterUpgrade();
     void nodesFound(const QList<NodeType> &nodes);
@@ -53,7 +55,7 @@ signals:
     /// The connection is about to end by the user's will; everything that moves the drive has to stop.
     void leaving();
     /// A drive was chosen and is about to be connected.
-    void connecting();
+    void connecting(int address);
 
 private:
     void connectTo(int address);
@@ -65,6 +67,7 @@ private:
     Ports m_ports;
     QString m_lastPort; ///< of the drive that was connected last, empty before the first
     int m_lastAddress = 0;
+    int m_returnTo = 0; ///< address of a drive that was restarted, 0 when none is awaited
 };
 
 #endif

@@ -55,10 +55,12 @@ void DriveDesk::disable()
                                                                  : DisableWatch::Reach::Nobody);
 }
 
-void DriveDesk::clearFaults()
+bool DriveDesk::clearFaults()
 {
-    if (m_connectPage->canClearFaults()) // the shortcut reaches the slot all the same
-        m_session.clearDriveFaults();
+    if (!m_connectPage->canClearFaults()) // the shortcut reaches the slot all the same
+        return false;
+    m_session.clearDriveFaults();
+    return true;
 }
 
 void DriveDesk::startHoming()

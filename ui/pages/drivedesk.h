@@ -28,7 +28,8 @@ public:
     void enable(Enable how);
     void disable();
     void connectionLost() { m_watch.connectionLost(); }
-    void clearFaults();
+    /// Whether it was sent.
+    bool clearFaults();
     void startHoming();
     void abortHoming();
     void measure();

@@ -85,7 +85,10 @@ void FirmwareDesk::restartBy(Connection::Task task)
     emit restarting();
     m_session.command(task);
     m_session.command(Connection::TaskDisconnect);
-    m_connectPage->search();
+    if (task == Connection::TaskRestartDrive)
+        m_connectPage->searchForLast();
+    else
+        m_connectPage->search();
 }
 
 void FirmwareDesk::suggestRestart()

@@ -76,8 +76,11 @@ public:
     void feedbackDeviceChosen(const QString &name);
     void underVoltageTyped(double volts);
     void toggleAdvanced();
+    bool showsAdvanced() const { return m_showAdvanced; }
 
 signals:
+    /// A rule has changed a field by itself: its mnemonic, and why.
+    void corrected(const QString &field, const QString &text);
     /// A control that values in machine units depend on has changed.
     void unitsChanged();
     /// A drive was read that can be told by its identity.

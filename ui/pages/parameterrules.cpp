@@ -12,29 +12,47 @@
 
 namespace {
 
-template <typename Box> void orderPair(Box *low, Box *high, ParameterPages::Typed typed)
+/// Whether something had to be changed.
+template <typename Box> bool orderPair(Box *low, Box *high, ParameterPages::Typed typed)
 {
+    if (low->value() <= high->value())
+        return false;
     if (typed == ParameterPages::Typed::Low)
         high->setValue(orderedAfterLow(low->value(), high->value()).second);
     else
         low->setValue(orderedAfterHigh(low->value(), high->value()).first);
+    return true;
 }
 
 } // namespace
 
 void ParameterPages::makePolesEven()
 {
-    m_forms.machine.MPC->setValue(evenPoleCount(m_forms.machine.MPC->value()));
+    const int typed = m_forms.machine.MPC->value();
+    if (typed == evenPoleCount(typed))
+        return;
+    m_forms.machine.MPC->setValue(evenPoleCount(typed));
+    emit corrected(QStringLiteral("MPC"), tr("Poles come in pairs: %1 was rounded to an even number.").arg(typed));
 }
 
 void ParameterPages::orderCurrents(Typed typed)
 {
-    orderPair(m_forms.machine.MCC, m_forms.machine.MMC, typed);
+    if (!orderPair(m_forms.machine.MCC, m_forms.machine.MMC, typed))
+        return;
+    if (typed == Typed::Low)
+        emit corrected(QStringLiteral("MMC"), tr("Raised with [MCC]: the peak is never below it."));
+    else
+        emit corrected(QStringLiteral("MCC"), tr("Lowered with [MMC]: it is never above the peak."));
 }
 
 void ParameterPages::orderTravelLimits(Typed typed)
 {
-    orderPair(m_forms.machine.HLL, m_forms.machine.HHL, typed);
+    if (!orderPair(m_forms.machine.HLL, m_forms.machine.HHL, typed))
+        return;
+    if (typed == Typed::Low)
+        emit corrected(QStringLiteral("HHL"), tr("Raised with [HLL]: it is never below it."));
+    else
+        emit corrected(QStringLiteral("HLL"), tr("Lowered with [HHL]: it is never above it."));
 }
 
 void ParameterPages::updateVisibility()

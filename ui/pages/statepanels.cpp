@@ -4,8 +4,20 @@
 #include <QFocusEvent>
 #include <QLabel>
 #include <QMouseEvent>
+#include <QRegularExpression>
 #include <QTextDocument>
 #include <algorithm>
+
+namespace {
+
+/// Flags that are set begin with a full circle; bold, they stand out among the many that are not.
+QString withLitLinesBold(QString html)
+{
+    static const QRegularExpression lit(QStringLiteral("(&#9679;.*?)(<br>)"));
+    return html.replace(lit, QStringLiteral("<b>\\1</b>\\2"));
+}
+
+} // namespace
 
 StatePanels::StatePanels(QObject *parent) : QObject(parent) {}
 
@@ -27,7 +39,7 @@ void StatePanels::show(QLabel *panel, const QString &html)
         return;
     found->filled = true;
     setLive(*found, true);
-    found->waiting = html;
+    found->waiting = withLitLinesBold(html);
     // A new text would end the selecting or the click on a link that is going on, and make an open menu's "Copy" idle.
     const QWidget *popup = QApplication::activePopupWidget();
     if (m_pressed != panel && !(popup && popup->parentWidget() == panel))

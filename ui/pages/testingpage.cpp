@@ -2,6 +2,7 @@
 
 #include "applydesk.h"
 #include "connectpage.h"
+#include "captureaid.h"
 #include "connection.h"
 #include "editedfield.h"
 #include "parameterpages.h"
@@ -9,6 +10,7 @@
 #include "ui_testingpage.h"
 
 #include <QDebug>
+#include <algorithm>
 
 TestingPage::TestingPage(QWidget *window, const Ui_TestingPage &form, Connection &session, const Helpers &helpers)
     : QObject(window), m_window(window), m_form(form), m_session(session), m_use(helpers)
@@ -19,6 +21,42 @@ TestingPage::TestingPage(QWidget *window, const Ui_TestingPage &form, Connection
                             static_cast<QWidget *>(form.scopePWM2), static_cast<QWidget *>(form.scopePWM3)})
         widget->hide();
     connectPanels();
+    buildAid();
+}
+
+void TestingPage::buildAid()
+{
+    m_aid = new CaptureAid(
+        {m_form.captureControlsLayout, m_form.ScopeSampleRate, channels(), [this] { return moveTime(); }}, this);
+    for (const QSpinBox *target : {m_form.stimulusTarget1, m_form.stimulusTarget2})
+        connect(target, &QSpinBox::valueChanged, m_aid, &CaptureAid::refresh);
+    const auto type = Qt::QueuedConnection; // from the worker
+    connect(&m_session, &Connection::captureStateChanged, m_aid, &CaptureAid::captureStateChanged, type);
+    connect(&m_session, &Connection::driveParametersChanged, m_aid, &CaptureAid::refresh, type);
+    connect(m_aid, &CaptureAid::callOffAsked, this, [this] { m_session.command(Connection::TaskCallOffCapture); });
+}
+
+/// The longer of the moves to the two targets from where the setpoint is, with the drive's own limits, s; 0 outside
+/// position control.
+double TestingPage::moveTime() const
+{
+    const auto value = [this](const char *name) { return m_use.settings.drive().getParam(QLatin1String(name)).value; };
+    const double divider = value("DIV");
+    if (!m_use.settings.driveWasRead() || divider <= 0.0 || value("CM") != 0.0)
+        return 0.0;
+    const MoveLimits limits{value("MUL") / divider, value("CVL") / divider, value("CAL") / divider, value("PIF")};
+    const double from = m_lastSetpoint.toDouble();
+    return std::max(moveSeconds(m_form.stimulusTarget1->value() - from, limits),
+                    moveSeconds(m_form.stimulusTarget2->value() - from, limits));
+}
+
+// The PWM channels come before the debug and flux channels, unlike on the page.
+QVector<QCheckBox *> TestingPage::channels() const
+{
+    return {m_form.ScopeTorqRef, m_form.ScopeTorqMeas, m_form.ScopeVelRef,      m_form.ScopeVelMeas,
+            m_form.ScopePosRef,  m_form.ScopePosMeas,  m_form.ScopePosFerror,   m_form.ScopeOutVoltage,
+            m_form.ScopeHVBus,   m_form.scopePWM1,     m_form.scopePWM2,        m_form.scopePWM3,
+            m_form.ScopeDebug,   m_form.ScopeDebug2,   m_form.scopeFluxCurrent, m_form.scopeFluxVoltage};
 }
 
 void TestingPage::connectPanels()
@@ -124,6 +162,7 @@ void TestingPage::setpointPolled(double setpoint)
 {
     m_lastSetpoint = QString::number(setpoint);
     m_form.setpointNow->setText(tr("Setpoint now: %1").arg(m_lastSetpoint));
+    m_aid->refresh();
 }
 
 void TestingPage::updateTargetLabels()
@@ -142,14 +181,8 @@ void TestingPage::capture()
     if (!m_form.repeatCapture->isChecked() && m_use.apply->askToApply() == ApplyDesk::Answer::Stay)
         return;
     const double rate = m_form.ScopeSampleRate->currentText().section(QLatin1Char(' '), 0, 0).toDouble();
-    // Channel order: the PWM channels come before the debug and flux channels, unlike on the page.
-    const QCheckBox *const channels[] = {
-        m_form.ScopeTorqRef, m_form.ScopeTorqMeas, m_form.ScopeVelRef,      m_form.ScopeVelMeas,
-        m_form.ScopePosRef,  m_form.ScopePosMeas,  m_form.ScopePosFerror,   m_form.ScopeOutVoltage,
-        m_form.ScopeHVBus,   m_form.scopePWM1,     m_form.scopePWM2,        m_form.scopePWM3,
-        m_form.ScopeDebug,   m_form.ScopeDebug2,   m_form.scopeFluxCurrent, m_form.scopeFluxVoltage};
     QList<bool> selected;
-    for (const QCheckBox *channel : channels)
+    for (const QCheckBox *channel : channels())
         selected.append(channel->isChecked());
     m_request = {rate, m_form.captureTrigger->currentIndex(), {}, {}};
     if (m_form.stimulusEnabled->isChecked())

@@ -10,9 +10,11 @@
 #include <QObject>
 
 class ApplyDesk;
+class CaptureAid;
 class ConnectPage;
 class Connection;
 class ParameterPages;
+class QCheckBox;
 class QPushButton;
 class QSpinBox;
 class TriesDesk;
@@ -53,11 +55,16 @@ public:
     void plot(const QList<CaptureData> &captures);
 
     void showConnection(Reach reach);
+    CaptureAid *captureAid() const { return m_aid; }
     /// The panels as plain text, one below the other.
     QString deviceState() const { return m_panels.plainText(); }
 
 private:
     void connectPanels();
+    void buildAid();
+    /// In channel order.
+    QVector<QCheckBox *> channels() const;
+    double moveTime() const;
     void showEnd();
     void showMaximumSampleRate();
 
@@ -66,6 +73,7 @@ private:
     Connection &m_session;
     Helpers m_use;
     StatePanels m_panels;
+    CaptureAid *m_aid = nullptr;
     CaptureRequest m_request; ///< of the capture that waits or is being read, with the motion since it was armed
     QString m_lastSetpoint;   ///< as polled last, empty before the first poll
 };

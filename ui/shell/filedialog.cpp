@@ -28,6 +28,25 @@ public:
     }
 };
 
+/// "csv" of "Raw data as text file (*.csv)".
+QString endingOf(const QString &filter)
+{
+    return filter.section(QLatin1String("(*."), 1).section(QLatin1Char(')'), 0, 0);
+}
+
+/// The name gets the chosen filter's ending, also when it had another one's.
+void followFilter(QFileDialog &dialog)
+{
+    dialog.setDefaultSuffix(endingOf(dialog.selectedNameFilter()));
+    QObject::connect(&dialog, &QFileDialog::filterSelected, &dialog, [&dialog](const QString &filter) {
+        const QString ending = endingOf(filter);
+        dialog.setDefaultSuffix(ending);
+        const QFileInfo named(dialog.selectedFiles().value(0));
+        if (!ending.isEmpty() && !named.isDir() && !named.completeBaseName().isEmpty())
+            dialog.selectFile(named.completeBaseName() + QLatin1Char('.') + ending);
+    });
+}
+
 void addControl(QFileDialog &dialog, const FileQuestion &question)
 {
     auto *layout = qobject_cast<QGridLayout *>(dialog.layout()); // of the toolkit's own dialog
@@ -52,7 +71,10 @@ QString askFile(QWidget *parent, const FileQuestion &question, QFileDialog::Acce
     dialog.setIconProvider(&icons);
     dialog.setAcceptMode(mode);
     dialog.setFileMode(mode == QFileDialog::AcceptSave ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
-    dialog.setDefaultSuffix(question.defaultSuffix);
+    if (mode == QFileDialog::AcceptSave)
+        followFilter(dialog);
+    if (!question.defaultSuffix.isEmpty())
+        dialog.setDefaultSuffix(question.defaultSuffix);
     if (!place.isDir())
         dialog.selectFile(place.fileName());
     addControl(dialog, question);

@@ -6,6 +6,7 @@
 #include "connectpage.h"
 #include "controlmoderule.h"
 #include "disclaimer.h"
+#include "driveboard.h"
 #include "drivedesk.h"
 #include "errorwindow.h"
 #include "escapefilter.h"
@@ -18,6 +19,7 @@
 #include "pagetable.h"
 #include "parameterpages.h"
 #include "questionqueue.h"
+#include "statusstrip.h"
 #include "testingpage.h"
 #include "triesdesk.h"
 #include "ui_connectpage.h"
@@ -70,6 +72,7 @@ MW::MW(const Options &options, QWidget *parent)
     buildPageList();
     connectPages();
     connectSession();
+    connectBoard();
     createShortcuts();
     new WheelGuard(this);
     restoreLayout();
@@ -117,6 +120,7 @@ void MW::buildPages(const Options &options)
 {
     const auto &connectForm = formAmong<Ui_ConnectPage>(*m_form->pages);
     const Reports reports{statusBar(), m_errorWindow};
+    buildBoard();
     m_questions = new QuestionQueue(m_errorWindow, this);
     m_help = new HelpBrowser(m_form->helpContainer, m_form->offlineHelpNotification, options.webEngine);
     m_parameters = new ParameterPages(
@@ -126,7 +130,7 @@ void MW::buildPages(const Options &options)
         m_connection, m_settings);
     m_apply = new ApplyDesk(
         this, {m_form->apply_button, connectForm.save_settings_to_file, m_overridesForm->customParamDisplay},
-        m_connection, m_settings, m_parameters, reports);
+        m_connection, m_settings, m_parameters, m_board, reports);
     m_connectPage = new ConnectPage(this, connectForm, m_connection, m_questions);
     const auto &testingForm = formAmong<Ui_TestingPage>(*m_form->pages);
     m_tries = new TriesDesk(this, testingForm.testingContentsLayout, m_form->settingsPane, m_connection,
@@ -191,11 +195,15 @@ void MW::connectPages()
     connect(m_help, &HelpBrowser::saved, this, &MW::pictureSaved);
 
     connect(m_parameters, &ParameterPages::unitsChanged, this, &MW::updateUnitLabels);
-    connect(m_parameters, &ParameterPages::driveRead, m_news, [this] { m_news->ask(m_settings); });
+    connect(m_parameters, &ParameterPages::driveRead, m_news, [this] {
+        if (!m_board->isReadBack()) // an apply makes no other drive of it
+            m_news->ask(m_settings);
+    });
     connect(m_parameters, &ParameterPages::bootloaderRead, m_connectPage, &ConnectPage::showBootloader);
     connect(m_connectPage, &ConnectPage::searching, statusBar(), &QStatusBar::clearMessage);
     connect(m_connectPage, &ConnectPage::leaving, m_testing, &TestingPage::stopStimulus);
-    connect(m_connectPage, &ConnectPage::connecting, this, [this] {
+    connect(m_connectPage, &ConnectPage::connecting, this, [this](int address) {
+        m_board->connectingTo(address);
         FWUpgrade_close_clicked();
         m_parameters->collect();
         m_settings.settle();
@@ -358,6 +366,8 @@ void MW::connectionStatusChanged(bool connected, QString text)
     m_parameters->showConnection(reach);
     m_testing->showConnection(reach);
     m_firmware->showCapabilities();
+    m_board->connectionChanged(connected);
+    m_board->strip()->setButtons(reach == Reach::Firmware, connected || m_connectPage->lastAddress() != 0, connected);
     if (connected)
         statusBar()->clearMessage(); // what was wrong before is over
     else

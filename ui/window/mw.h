@@ -13,6 +13,8 @@
 #include <memory>
 
 class ApplyDesk;
+class DriveBoard;
+class PaneKeys;
 class BusyDialog;
 class ConnectPage;
 class ControlModeRule;
@@ -155,6 +157,14 @@ private:
     void saveLayout() const;
     void pictureSaved(const QString &failure);
 
+    // The drive at a glance (mwboard.cpp)
+    void buildBoard();
+    void connectBoard();
+    void nameControls();
+    void goToSetting(const QString &name);
+    void showFaultHelp(int faultBit);
+    void showHelpFile(const QString &file, const QString &anchor);
+
     std::unique_ptr<Ui_MW> m_form;
     std::unique_ptr<Ui_overrideParams> m_overridesForm;
     QDialog *m_overridesDialog = nullptr;
@@ -162,6 +172,8 @@ private:
     ErrorWindow *m_errorWindow = nullptr;
     QLabel *m_connectionStatusLabel = nullptr;
 
+    DriveBoard *m_board = nullptr;
+    PaneKeys *m_paneKeys = nullptr;
     QuestionQueue *m_questions = nullptr;
     HelpBrowser *m_help = nullptr;
     ParameterPages *m_parameters = nullptr;

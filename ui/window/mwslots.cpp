@@ -2,8 +2,10 @@
 #include "mw.h"
 
 #include "applydesk.h"
+#include "actwatch.h"
 #include "connectpage.h"
 #include "controlmoderule.h"
+#include "driveboard.h"
 #include "drivedesk.h"
 #include "firmwaredesk.h"
 #include "helpbrowser.h"
@@ -14,6 +16,7 @@
 
 #include <QClipboard>
 #include <QGuiApplication>
+#include <QStatusBar>
 
 using Target = TestingPage::Target;
 using Move = TestingPage::Move;
@@ -23,6 +26,7 @@ using Move = TestingPage::Move;
 void MW::availableBusNodesListReceived(QList<NodeType> list)
 {
     m_firmware->searchEnded();
+    statusBar()->showMessage(tr("Drives found: %1").arg(list.size()));
     m_connectPage->nodesFound(list);
 }
 
@@ -108,7 +112,7 @@ void MW::on_showAdvancedSettings_clicked()
 
 void MW::paramsRetreived(Parameters params, bool loadedFromFile)
 {
-    m_parameters->take(params, loadedFromFile);
+    m_apply->takeSettings(params, loadedFromFile);
     m_tries->showLimits();
     m_apply->updateSaveToFileButton();
     updateUnitLabels();
@@ -203,22 +207,26 @@ void MW::deviceControlModeChanged(int newmode)
 
 void MW::on_enable_drive_clicked()
 {
+    m_board->acts()->enableAsked();
     m_drive->enable(DriveDesk::Enable::Usual);
 }
 
 void MW::on_force_enable_clicked()
 {
+    m_board->acts()->enableAsked();
     m_drive->enable(DriveDesk::Enable::Forced);
 }
 
 void MW::on_disable_drive_clicked()
 {
     m_drive->disable();
+    m_board->acts()->forget(); // an enable that was asked for before
 }
 
 void MW::on_clear_faults_clicked()
 {
-    m_drive->clearFaults();
+    if (m_drive->clearFaults())
+        m_board->acts()->clearFaultsAsked();
 }
 
 void MW::on_start_homing_clicked()

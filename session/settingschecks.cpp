@@ -1,9 +1,10 @@
 #include "settingschecks.h"
 
 #include "catalogue.h"
-#include "results.h"
+#include "numbertext.h"
 
 #include <QCoreApplication>
+#include <algorithm>
 #include <cmath>
 
 namespace {
@@ -58,6 +59,36 @@ QList<Difference> differences(const Parameters &first, const Parameters &second,
             found.append({a.name, a.value, b.value});
     }
     return found;
+}
+
+ApplyResult applyResult(const Parameters &before, const Parameters &wanted, const Parameters &held,
+                        const QString &modelName)
+{
+    ApplyResult result;
+    result.notTaken = differences(wanted, held, modelName);
+    const auto refused = [&result](const QString &name) {
+        return std::any_of(result.notTaken.cbegin(), result.notTaken.cend(),
+                           [&name](const Difference &difference) { return difference.name == name; });
+    };
+    for (const Difference &difference : differences(wanted, before, modelName)) {
+        if (!refused(difference.name))
+            result.applied.append(difference);
+    }
+    return result;
+}
+
+QString applyLine(const ApplyResult &result)
+{
+    if (result.notTaken.isEmpty())
+        return result.applied.isEmpty() ? tr("Applied: the drive had these values already")
+                                        : tr("%1 applied").arg(result.applied.size());
+    QStringList names;
+    for (const Difference &difference : result.notTaken)
+        names.append(tr("%1 %2 -> %3")
+                         .arg(difference.name, shortNumber(difference.first), shortNumber(difference.second)));
+    return tr("%1 applied, %2 not taken: %3")
+        .arg(QString::number(result.applied.size()), QString::number(result.notTaken.size()),
+             names.join(QLatin1String(", ")));
 }
 
 QStringList keepWhereFileHasNone(Parameters &loaded, const Parameters &drive, const QString &modelName)

@@ -66,3 +66,33 @@ TEST(SettingsChecks, AssignmentsAreNamesAndFiniteNumbers)
     for (const char *text : {"", "=", "=5", "KVP", "KVP=", "KVP=1,5", "KVP=1 2", "KVP=inf", "KVP=0x10"})
         EXPECT_FALSE(parseAssignment(text)) << text;
 }
+
+TEST(ApplyResults, TellWhatTheDriveTookAndWhatItHasInstead)
+{
+    Parameters before = driveParameterCatalogue();
+    const auto with = [](Parameters list, const QList<QPair<QString, double>> &values) {
+        for (const auto &[name, value] : values) {
+            SingleParam p = list.getParam(name);
+            p.value = value;
+            list.replaceParam(p);
+        }
+        return list;
+    };
+    before = with(before, {{"KVP", 360}, {"KVI", 360}, {"MCC", 13}});
+    struct Row
+    {
+        QList<QPair<QString, double>> wanted, held;
+        const char *line;
+    };
+    const Row rows[] = {
+        {{{"KVP", 400}, {"KVI", 500}, {"MCC", 14}}, {{"KVP", 400}, {"KVI", 500}, {"MCC", 14}}, "3 applied"},
+        {{{"KVP", 4000}, {"KVI", 500}, {"MCC", 14}},
+         {{"KVP", 3800}, {"KVI", 500}, {"MCC", 14}},
+         "2 applied, 1 not taken: KVP 4000 -> 3800"},
+        {{{"KVP", 400}}, {}, "0 applied, 1 not taken: KVP 400 -> 360"},
+        {{{"KVI", 500}}, {{"KVI", 500}, {"MCC", 2.5}}, "1 applied, 1 not taken: MCC 13 -> 2.5"}, // by another hand
+        {{{"MCC", 13.0000001}}, {}, "Applied: the drive had these values already"}, // the same on the bus
+    };
+    for (const Row &row : rows)
+        EXPECT_EQ(applyLine(applyResult(before, with(before, row.wanted), with(before, row.held), "KETA")), row.line);
+}

@@ -34,6 +34,18 @@ struct Difference
 /// rounding makes is none.
 QList<Difference> differences(const Parameters &first, const Parameters &second, const QString &modelName);
 
+/// What became of a write: the settings that were wanted otherwise than the drive had them, told apart by what it holds
+/// behind it. `first` is what was wanted; `second` what the drive had, or, where it did not take it, what it has.
+struct ApplyResult
+{
+    QList<Difference> applied;
+    QList<Difference> notTaken;
+};
+ApplyResult applyResult(const Parameters &before, const Parameters &wanted, const Parameters &held,
+                        const QString &modelName);
+/// "3 applied", "2 applied, 1 not taken: KVP 4000 -> 3800": one line, by name.
+QString applyLine(const ApplyResult &result);
+
 /// A file that was saved without a drive, or from a model that lacks a setting, holds a mark (0 or -1, no limits) and
 /// no value for it. Puts the drive's own records back there, so that no mark is ever written, and returns their names
 /// as far as the model has them.

@@ -1,0 +1,113 @@
+// What a screen reader and a keyboard find in the window.
+#include "windowfixture.h"
+
+#include "panekeys.h"
+
+#include <QAccessible>
+#include <QSpinBox>
+#include <set>
+
+namespace {
+
+constexpr int TESTING_PAGE = 6;
+
+class Accessibility : public WindowFixture
+{
+protected:
+    /// "role objectName" of every control under `widget` that can be seen and has no name; buttons without an action
+    /// for "press", too.
+    static QStringList nameless(QAccessibleInterface *node)
+    {
+        QStringList found;
+        const QWidget *widget = qobject_cast<QWidget *>(node->object());
+        if (node->state().invisible || (widget && widget->objectName() == "helpView")) // the engine speaks for itself
+            return found;
+        static const std::set<QAccessible::Role> controls = {
+            QAccessible::PushButton, QAccessible::CheckBox, QAccessible::ComboBox, QAccessible::SpinBox,
+            QAccessible::List,       QAccessible::Table,    QAccessible::Button,   QAccessible::EditableText,
+            QAccessible::ButtonMenu, QAccessible::Slider,   QAccessible::Grouping, QAccessible::ListItem};
+        const bool inner = widget && widget->objectName().startsWith("qt_"); // parts of a control that has the name
+        if (!inner && controls.count(node->role()) && node->text(QAccessible::Name).trimmed().isEmpty())
+            found << QString("role %1 %2").arg(node->role()).arg(widget ? widget->objectName() : QString());
+        const bool isButton = node->role() == QAccessible::PushButton && widget && widget->isEnabled();
+        if (isButton && !(node->actionInterface() &&
+                          node->actionInterface()->actionNames().contains(QAccessibleActionInterface::pressAction())))
+            found << "no action " + widget->objectName();
+        for (int i = 0; i < node->childCount(); ++i) {
+            if (QAccessibleInterface *child = node->child(i); child && node->role() != QAccessible::SpinBox)
+                found << nameless(child);
+        }
+        return found;
+    }
+    QStringList namelessIn(QWidget *widget) { return nameless(QAccessible::queryAccessibleInterface(widget)); }
+    static QString nameOf(QWidget *widget)
+    {
+        return QAccessible::queryAccessibleInterface(widget)->text(QAccessible::Name);
+    }
+};
+
+} // namespace
+
+TEST_F(Accessibility, EveryControlOfEveryPageHasANameAndAnAction)
+{
+    QAccessible::setActive(true);
+    openWindow();
+    for (const bool connected : {false, true}) {
+        if (connected)
+            connectToDrive();
+        for (int page = 0; page < control<QListWidget>("pageSelector")->count(); ++page) {
+            goTo(page);
+            EXPECT_EQ(namelessIn(m_window.get()), QStringList()) << page << connected;
+        }
+    }
+    for (const char *dialog : {"overrideParams", "settingFinder", "firmwareUpgradeDlg"}) {
+        auto *widget = control<QDialog>(dialog);
+        widget->setModal(false);
+        widget->show();
+        EXPECT_EQ(namelessIn(widget), QStringList()) << dialog;
+        widget->close();
+    }
+    // Drive controls, greyed as they were before the first connection and after.
+    EXPECT_EQ(nameOf(button("enable_drive")), "Soft enable drive");
+    EXPECT_EQ(nameOf(button("setAbs2")), "Set Abs 2");
+    // The panels are read out themselves; what they are is a description.
+    goTo(TESTING_PAGE);
+    ASSERT_TRUE(waitFor([this] { return label("statusRegister")->text().contains("Voltages good"); }));
+    EXPECT_TRUE(nameOf(label("statusRegister")).contains("Voltages good"));
+}
+
+TEST_F(Accessibility, KeysWalkPanesAndPagesAndFoldTheHelpAway)
+{
+    openWindow();
+    press(Qt::Key_5, Qt::ControlModifier);
+    EXPECT_EQ(control<QListWidget>("pageSelector")->currentRow(), 4);
+    auto *gain = control<QSpinBox>("KVP");
+    gain->setFocus();
+    const auto focusIsIn = [this](const char *pane) {
+        const auto *widget = m_window->findChild<QWidget *>(pane);
+        QWidget *focus = QApplication::focusWidget();
+        return widget == focus || widget->isAncestorOf(focus);
+    };
+    QStringList walked;
+    for (int i = 0; i < 6; ++i) {
+        press(Qt::Key_F6);
+        for (const char *pane : {"pageSelector", "pages", "helpPane", "statusStrip"}) {
+            if (focusIsIn(pane))
+                walked << pane;
+        }
+    }
+    EXPECT_TRUE(walked.contains("pageSelector"));
+    EXPECT_TRUE(walked.contains("pages"));
+    while (!gain->hasFocus() && walked.size() < 12) {
+        press(Qt::Key_F6);
+        walked << "";
+    }
+    EXPECT_TRUE(gain->hasFocus()) << "back where the keyboard was";
+
+    auto *help = m_window->findChild<QWidget *>("helpPane");
+    EXPECT_TRUE(help->isVisible());
+    press(Qt::Key_F1);
+    EXPECT_FALSE(help->isVisible());
+    press(Qt::Key_F1);
+    EXPECT_TRUE(help->isVisible());
+}

@@ -1,0 +1,243 @@
+// The strip along the window, the marks, undo, the box before an apply, what the status bar says, and finding.
+#include "windowfixture.h"
+
+#include "applybox.h"
+#include "driveboard.h"
+#include "statusstrip.h"
+
+#include <QComboBox>
+#include <QDir>
+#include <QElapsedTimer>
+#include <QLineEdit>
+#include <QSpinBox>
+#include <QStatusBar>
+#include <QToolButton>
+
+namespace {
+
+constexpr int KVP = 202;
+constexpr int UNDER_VOLTAGE = 570;
+constexpr int TUNING_PAGE = 4;
+
+class Board : public WindowFixture
+{
+protected:
+    QSpinBox *kvp() const { return control<QSpinBox>("KVP"); }
+    QString word() const { return label("stripWord")->text(); }
+    QString spoken() const { return label("stripWord")->accessibleName(); }
+    bool waitForWord(const QString &wanted, int limitMs = 10000)
+    {
+        return waitFor([&] { return word() == wanted; }, limitMs);
+    }
+    QString said() const { return m_window->statusBar()->currentMessage(); }
+    bool waitToBeSaid(const QString &text)
+    {
+        const bool came = waitFor([&] { return said() == text; }, 5000);
+        EXPECT_TRUE(came) << qPrintable(said());
+        return came;
+    }
+    QString mark(const char *name) const { return label(name)->accessibleName(); }
+    bool waitForMark(const char *name, const QString &text)
+    {
+        const bool came = waitFor([&] { return mark(name) == text; }, 5000);
+        EXPECT_TRUE(came) << qPrintable(mark(name));
+        return came;
+    }
+};
+
+} // namespace
+
+TEST_F(Board, StripFollowsTheDriveWhoeverMovesItAndSaysWhenItIsThePast)
+{
+    openWindow();
+    EXPECT_EQ(spoken(), "Not connected");
+    EXPECT_FALSE(button("stripEnable")->isEnabled());
+    EXPECT_FALSE(button("stripDisable")->isEnabled());
+    connectToDrive();
+    ASSERT_TRUE(waitForWord("disabled"));
+    EXPECT_TRUE(waitFor([this] { return spoken().contains("serial number 240117"); }));
+    EXPECT_TRUE(spoken().startsWith("disabled, standing, KETA at address")) << qPrintable(spoken());
+    click("stripEnable");
+    EXPECT_TRUE(waitForWord("ENABLED"));
+    EXPECT_TRUE(waitToBeSaid("Enabled: the motor is powered"));
+
+    bus().set(DriveAddress, UNDER_VOLTAGE, 6000); // the drive trips by itself, at 48 V
+    EXPECT_TRUE(waitForWord("FAULT"));
+    EXPECT_TRUE(label("stripDetail")->text().startsWith("Under voltage")) << qPrintable(spoken());
+    EXPECT_TRUE(control<QToolButton>("stripFaultHelp")->isVisible());
+    bus().set(DriveAddress, UNDER_VOLTAGE, 3600);
+    click("stripClearFaults");
+    EXPECT_TRUE(waitToBeSaid("Faults cleared"));
+    EXPECT_TRUE(waitFor([this] { return !word().startsWith("FAULT"); }));
+    click("stripDisable");
+    EXPECT_TRUE(waitForWord("disabled"));
+
+    bus().unplug();
+    EXPECT_TRUE(waitForWord("Last known: disabled"));
+    EXPECT_TRUE(waitFor([this] { return label("stripDetail")->text().endsWith("s ago, not connected"); }));
+    EXPECT_TRUE(button("stripDisable")->isEnabled()); // it also reaches a drive that was lost
+    EXPECT_FALSE(button("stripEnable")->isEnabled());
+}
+
+TEST_F(Board, MarksTellAtAnyMomentWhereTheValuesLive)
+{
+    openConnectedWindow();
+    EXPECT_TRUE(waitForMark("markEdited", "Nothing edited"));
+    EXPECT_TRUE(waitForMark("markWorking", "In the drive"));
+    EXPECT_EQ(mark("markFlash"), "Saved over power-off: not known");
+    goTo(TUNING_PAGE);
+    kvp()->setValue(400);
+    EXPECT_TRUE(waitForMark("markEdited", "Edited (1 change)"));
+    EXPECT_EQ(mark("markWorking"), "Not in the drive yet");
+    auto *drive = control<QToolButton>("KVPdrive");
+    EXPECT_EQ(drive->text(), "drive: 360");
+    EXPECT_TRUE(drive->isVisible());
+    drive->click();
+    EXPECT_EQ(kvp()->value(), 360);
+    EXPECT_TRUE(waitForMark("markEdited", "Nothing edited"));
+    EXPECT_FALSE(drive->isVisible());
+
+    kvp()->setValue(400);
+    click("apply_button");
+    EXPECT_TRUE(waitToBeSaid("1 applied"));
+    EXPECT_TRUE(waitForMark("markWorking", "In the drive, lost at power-off"));
+    EXPECT_EQ(mark("markFlash"), "Not saved over power-off");
+    ASSERT_TRUE(button("stripSaveToDrive")->isVisible());
+    click("stripSaveToDrive");
+    EXPECT_TRUE(waitForMark("markFlash", "Saved over power-off"));
+    EXPECT_EQ(said(), "Saved to the drive: the settings survive a power-off");
+    EXPECT_FALSE(button("stripSaveToDrive")->isVisible());
+
+    EXPECT_EQ(mark("markFile"), "In no file");
+    const QString file = QDir::current().filePath("mine.drc");
+    m_answers.chooseFile(file);
+    click("save_settings_to_file");
+    EXPECT_TRUE(waitForMark("markFile", "In the file mine.drc"));
+    EXPECT_EQ(said(), "Saved to the file " + file);
+    kvp()->setValue(401);
+    EXPECT_TRUE(waitForMark("markFile", "In no file"));
+}
+
+TEST_F(Board, UndoTakesPendingEditsBackOverAllPagesAsNamedSteps)
+{
+    openConnectedWindow();
+    goTo(TUNING_PAGE);
+    bringToFront();
+    kvp()->setFocus();
+    kvp()->stepBy(1);
+    kvp()->stepBy(1); // one step in all
+    goTo(3);
+    auto *continuous = control<QDoubleSpinBox>("MCC");
+    auto *peak = control<QDoubleSpinBox>("MMC");
+    continuous->setFocus();
+    continuous->selectAll();
+    QTest::keyClicks(continuous, "33");
+    QTest::keyClick(continuous, Qt::Key_Return);
+    EXPECT_EQ(peak->value(), 33.0);
+    EXPECT_EQ(said(), "[MMC] Raised with [MCC]: the peak is never below it.");
+    EXPECT_EQ(peak->accessibleDescription(), "Raised with [MCC]: the peak is never below it.");
+    QTest::keyClicks(continuous, "4"); // being typed: the field's own undo comes first
+    press(Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(continuous->value(), 33.0);
+    press(Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(said(), "Undone: MCC 13 A -> 33 A");
+    EXPECT_EQ(continuous->value(), 13.0);
+    EXPECT_EQ(peak->value(), 32.0);
+    press(Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(said(), "Undone: KVP 360 -> 380");
+    EXPECT_EQ(kvp()->value(), 360);
+    press(Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(said(), "There is no edit to undo");
+    press(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(kvp()->value(), 380);
+
+    // Applied is applied: undoing makes another edit of it, and nothing goes to the drive.
+    click("apply_button");
+    EXPECT_TRUE(waitToBeSaid("1 applied"));
+    press(Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(kvp()->value(), 360);
+    EXPECT_TRUE(waitForMark("markEdited", "Edited (1 change)"));
+    EXPECT_EQ(bus().read(DriveAddress, KVP), 380);
+}
+
+TEST_F(Board, BoxBeforeAnApplyListsWhatWillChangeAndLeadsBack)
+{
+    openConnectedWindow();
+    control<QDoubleSpinBox>("FOC")->setValue(57);
+    control<QDoubleSpinBox>("MCC")->setValue(2);
+    EXPECT_TRUE(waitForMark("markEdited", "Edited (2 changes)"));
+    click("apply_button"); // no box
+    EXPECT_TRUE(waitToBeSaid("2 applied"));
+
+    control<QDoubleSpinBox>("MCC")->setValue(12);
+    const auto answer = [this](const char *buttonText, const QString &part) {
+        m_answers.expect([=](QWidget *box) {
+            const auto *warnings = box->findChild<QLabel *>("applyWarnings");
+            EXPECT_TRUE(part.isEmpty() ? !warnings : warnings && warnings->text().contains(part)) << buttonText;
+            const auto buttons = box->findChildren<QAbstractButton *>();
+            for (QAbstractButton *one : buttons) {
+                if (one->text().remove('&') == buttonText) {
+                    one->click();
+                    return true;
+                }
+            }
+            return false;
+        });
+    };
+    answer("Back, change nothing", "[MCC] Continuous current grows more than threefold: 2 A -&gt; 12 A.");
+    click("apply_button");
+    EXPECT_EQ(mark("markEdited"), "Edited (1 change)");
+    EXPECT_EQ(bus().read(DriveAddress, 410), 2000);
+    control<QDoubleSpinBox>("MCC")->setValue(3);
+    control<QSpinBox>("FEV")->setValue(50); // the drive would trip at its own velocity limit
+    answer("Apply settings", "Parameter sanity check warnings:");
+    click("apply_button");
+    EXPECT_TRUE(waitToBeSaid("2 applied"));
+    for (const char *name : {"KVP", "KVI", "KPP", "FPT"})
+        control<QSpinBox>(name)->setValue(control<QSpinBox>(name)->value() + 1);
+    control<QSpinBox>("FEV")->setValue(240);
+    answer("Apply settings", QString()); // five are listed, nothing warns
+    click("apply_button");
+    EXPECT_TRUE(waitToBeSaid("5 applied"));
+}
+
+TEST_F(Board, WhatTheDriveDoesNotTakeIsToldByNameAndEditsMadeMeanwhileStay)
+{
+    openConnectedWindow();
+    goTo(TUNING_PAGE);
+    bus().withDrive(DriveAddress, [](sim::VirtualDrive &drive) { drive.refuseWrites(KVP); });
+    kvp()->setValue(400);
+    control<QSpinBox>("KVI")->setValue(370);
+    bus().setTurnAround(std::chrono::milliseconds(3));
+    click("apply_button");
+    control<QSpinBox>("KPP")->setValue(99); // while the write is on its way
+    EXPECT_TRUE(waitToBeSaid("1 applied, 1 not taken: KVP 400 -> 360"));
+    EXPECT_EQ(kvp()->value(), 360);
+    EXPECT_EQ(control<QSpinBox>("KPP")->value(), 99);
+    EXPECT_TRUE(waitForMark("markEdited", "Edited (1 change)"));
+}
+
+TEST_F(Board, FindingLeadsToTheFieldWhereverItIs)
+{
+    openConnectedWindow();
+    const auto find = [this](const char *text) {
+        press(Qt::Key_F, Qt::ControlModifier);
+        auto *line = control<QLineEdit>("findText");
+        line->setText(text);
+        const QString first = control<QListWidget>("findList")->item(0)->text();
+        QTest::keyClick(line, Qt::Key_Return);
+        bringToFront();
+        return first;
+    };
+    EXPECT_EQ(find("kpp"), "[KPP] Position P gain: Tuning");
+    EXPECT_EQ(control<QListWidget>("pageSelector")->currentRow(), TUNING_PAGE);
+    EXPECT_TRUE(control<QSpinBox>("KPP")->hasFocus());
+    EXPECT_EQ(find("brake closing"), "[BED] Brake engage delay (s): Machine"); // words of its help
+    EXPECT_TRUE(control<QDoubleSpinBox>("BED")->hasFocus());
+    EXPECT_EQ(find("friction speed"), "[VFF] Velocity feed-forward gain: Tuning"); // advanced
+    EXPECT_TRUE(control<QSpinBox>("VFF")->hasFocus());
+    EXPECT_EQ(find("TRA1"), "[TRA1] Cogging compensation amplitude (A): not on this model");
+    EXPECT_TRUE(said().startsWith("[TRA1] is not")) << qPrintable(said());
+    EXPECT_EQ(find("no such thing"), "No setting has these words");
+    control<QDialog>("settingFinder")->close();
+}

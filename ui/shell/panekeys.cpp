@@ -1,0 +1,120 @@
+#include "panekeys.h"
+
+#include <QApplication>
+#include <QEvent>
+#include <QHash>
+#include <QListWidget>
+#include <QShortcut>
+#include <QSplitter>
+#include <algorithm>
+
+namespace {
+
+/// A plot that is narrower shows nothing; then the page has the room.
+constexpr int leastHelpWidth = 260;
+
+} // namespace
+
+PaneKeys::PaneKeys(QWidget *window, QListWidget *pages, QSplitter *splitter, QWidget *help,
+                   const QVector<QWidget *> &panes)
+    : QObject(window), m_pages(pages), m_splitter(splitter), m_help(help), m_panes(panes.cbegin(), panes.cend())
+{
+    const auto add = [window](const QKeySequence &keys) {
+        auto *shortcut = new QShortcut(keys, window);
+        shortcut->setAutoRepeat(false);
+        return shortcut;
+    };
+    connect(add(QKeySequence(Qt::Key_F6)), &QShortcut::activated, this, [this] { walk(1); });
+    connect(add(QKeySequence(Qt::SHIFT | Qt::Key_F6)), &QShortcut::activated, this, [this] { walk(-1); });
+    connect(add(QKeySequence(Qt::Key_F1)), &QShortcut::activated, this, [this] { showHelp(!isHelpShown()); });
+    for (int page = 0; page < pages->count(); ++page)
+        connect(add(QKeySequence(Qt::CTRL | Qt::Key(Qt::Key_1 + page))), &QShortcut::activated, this,
+                [pages, page] { pages->setCurrentRow(page, QItemSelectionModel::ClearAndSelect); });
+    connect(qApp, &QApplication::focusChanged, this, [this](QWidget *, QWidget *now) {
+        for (QWidget *pane : qAsConst(m_panes)) {
+            if (now && pane && pane->isAncestorOf(now))
+                m_last[pane] = now;
+        }
+    });
+    splitter->installEventFilter(this);
+    pages->viewport()->installEventFilter(this);
+}
+
+bool PaneKeys::isHelpShown() const
+{
+    return !m_help->isHidden();
+}
+
+void PaneKeys::showHelp(bool shown)
+{
+    m_wish = shown ? Wish::Shown : Wish::Hidden;
+    if (isHelpShown() == shown)
+        return;
+    if (!shown && m_help->isAncestorOf(QApplication::focusWidget()))
+        walk(1);
+    m_help->setVisible(shown);
+    emit helpShown(shown);
+}
+
+QWidget *PaneKeys::focusTargetIn(QWidget *pane)
+{
+    if (pane->focusPolicy() & Qt::TabFocus)
+        return pane;
+    for (QWidget *next = pane->nextInFocusChain(); next && next != pane; next = next->nextInFocusChain()) {
+        if (pane->isAncestorOf(next) && next->isVisible() && next->isEnabled() && (next->focusPolicy() & Qt::TabFocus))
+            return next;
+    }
+    return nullptr;
+}
+
+void PaneKeys::walk(int step)
+{
+    QWidget *focus = QApplication::focusWidget();
+    int at = -1;
+    for (int i = 0; i < m_panes.size(); ++i) {
+        if (focus && (m_panes[i] == focus || m_panes[i]->isAncestorOf(focus)))
+            at = i;
+    }
+    const int count = int(m_panes.size());
+    for (int i = 1; i <= count; ++i) {
+        QWidget *pane = m_panes[((at + step * i) % count + count) % count];
+        QWidget *last = m_last.value(pane);
+        const bool lastFits = last && last->isVisible() && last->isEnabled();
+        QWidget *target = pane->isVisible() ? (lastFits ? last : focusTargetIn(pane)) : nullptr;
+        if (target) {
+            target->setFocus(Qt::TabFocusReason);
+            return;
+        }
+    }
+}
+
+bool PaneKeys::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == m_splitter && (event->type() == QEvent::Resize || event->type() == QEvent::LayoutRequest))
+        makeRoom();
+    if (watched == m_pages->viewport() && event->type() == QEvent::Resize)
+        spreadPages();
+    return QObject::eventFilter(watched, event);
+}
+
+void PaneKeys::makeRoom()
+{
+    const QWidget *page = m_splitter->widget(0);
+    const int needed = page->minimumSizeHint().width() + m_splitter->handleWidth() + leastHelpWidth;
+    const bool shown = m_splitter->width() >= needed;
+    if (m_wish != Wish::None || shown == isHelpShown())
+        return;
+    m_help->setVisible(shown);
+    emit helpShown(shown);
+}
+
+// All pages in view where the window is high enough for icon and name of each.
+void PaneKeys::spreadPages()
+{
+    const QSize wanted = m_pages->item(0)->sizeHint();
+    const int least = m_pages->iconSize().height() + m_pages->fontMetrics().height() + 6;
+    const int each = m_pages->viewport()->height() / m_pages->count() - 1;
+    const QSize grid(wanted.width(), std::clamp(each, least, std::max(least, wanted.height())));
+    if (m_pages->gridSize() != grid)
+        m_pages->setGridSize(grid);
+}

@@ -1,0 +1,48 @@
+/// \file
+/// The keyboard's way about the window: F6 walks the panes, Ctrl+1 to Ctrl+7 show the pages, F1 folds the help away.
+#ifndef PANEKEYS_H
+#define PANEKEYS_H
+
+#include <QHash>
+#include <QObject>
+#include <QPointer>
+#include <QVector>
+#include <QWidget>
+
+class QListWidget;
+class QSplitter;
+
+class PaneKeys : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// Panes in the order of F6. `help` is the one that can be folded away, the last of `splitter`.
+    PaneKeys(QWidget *window, QListWidget *pages, QSplitter *splitter, QWidget *help, const QVector<QWidget *> &panes);
+
+    bool isHelpShown() const;
+    void showHelp(bool shown);
+
+signals:
+    void helpShown(bool shown);
+
+protected:
+    /// A window that has become narrow takes the help's room before a page's.
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    void walk(int step);
+    void makeRoom();
+    void spreadPages();
+    /// The control of a pane that had the keyboard last, or its first.
+    static QWidget *focusTargetIn(QWidget *pane);
+
+    QListWidget *m_pages;
+    QSplitter *m_splitter;
+    QWidget *m_help;
+    QVector<QPointer<QWidget>> m_panes;
+    QHash<QWidget *, QPointer<QWidget>> m_last; ///< control of each pane that had the keyboard
+    enum class Wish { None, Shown, Hidden } m_wish = Wish::None; ///< what was asked for goes before what fits
+};
+
+#endif

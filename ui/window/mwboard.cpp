@@ -1,0 +1,118 @@
+// The drive at a glance: the board beside the pages, and where its wishes go.
+#include "actwatch.h"
+#include "applydesk.h"
+#include "captureaid.h"
+#include "connectpage.h"
+#include "driveboard.h"
+#include "formpage.h"
+#include "helpbrowser.h"
+#include "mw.h"
+#include "panekeys.h"
+#include "parameterpages.h"
+#include "settingfinder.h"
+#include "statusstrip.h"
+#include "testingpage.h"
+#include "ui_mw.h"
+#include "ui_testingpage.h"
+
+#include <QDir>
+#include <QScrollArea>
+#include <QShortcut>
+
+void MW::buildBoard()
+{
+    m_board = new DriveBoard(this, m_form->centralLayout, m_connection, m_settings);
+    nameControls();
+    connect(m_board, &DriveBoard::enableAsked, this, &MW::on_enable_drive_clicked);
+    connect(m_board, &DriveBoard::disableAsked, this, &MW::on_disable_drive_clicked);
+    connect(m_board, &DriveBoard::clearFaultsAsked, this, &MW::on_clear_faults_clicked);
+    connect(m_board, &DriveBoard::saveToDriveAsked, this, &MW::on_saveToFlash_clicked);
+    connect(m_board, &DriveBoard::faultHelpAsked, this, &MW::showFaultHelp);
+    connect(m_board, &DriveBoard::settingChosen, this, &MW::goToSetting);
+    connect(m_board, &DriveBoard::refreshAsked, this, &MW::updateApplyButtonState);
+    connect(m_board, &DriveBoard::report, this, [this](const QString &text) { statusBar()->showMessage(text); });
+    const auto shortcut = [this](const char *keys) {
+        auto *key = new QShortcut(QKeySequence(QLatin1String(keys)), this);
+        key->setAutoRepeat(false);
+        return key;
+    };
+    connect(shortcut("Ctrl+Z"), &QShortcut::activated, m_board, &DriveBoard::undo);
+    connect(shortcut("Ctrl+Shift+Z"), &QShortcut::activated, m_board, &DriveBoard::redo);
+    connect(shortcut("Ctrl+F"), &QShortcut::activated, m_board, &DriveBoard::openFinder);
+}
+
+/// Buttons whose text stands there twice, and parts of the frame that have none.
+void MW::nameControls()
+{
+    const auto &testing = formAmong<Ui_TestingPage>(*m_form->pages);
+    testing.setAbs1->setAccessibleName(tr("Set Abs 1"));
+    testing.setInc1->setAccessibleName(tr("Set Inc 1"));
+    testing.setAbs2->setAccessibleName(tr("Set Abs 2"));
+    testing.setInc2->setAccessibleName(tr("Set Inc 2"));
+    statusBar()->setAccessibleName(tr("Messages"));
+}
+
+void MW::connectBoard()
+{
+    m_paneKeys = new PaneKeys(this, m_form->pageSelector, m_form->splitter, m_form->helpPane,
+                              {m_form->pageSelector, m_form->pages, m_form->helpPane, m_board->strip()});
+    connect(m_parameters, &ParameterPages::corrected, m_board, &DriveBoard::note);
+    connect(m_connectPage, &ConnectPage::leaving, m_board->strip(), &StatusStrip::expectEnd);
+    connect(m_testing->captureAid(), &CaptureAid::callOffAsked, m_board->acts(), &ActWatch::captureCalledOff);
+    const auto type = Qt::QueuedConnection; // from the worker
+    connect(&m_connection, &Connection::statePolled, m_board->strip(), &StatusStrip::statePolled, type);
+    connect(&m_connection, &Connection::statePolled, m_board->acts(), &ActWatch::statePolled, type);
+    connect(&m_connection, &Connection::plotReady, m_board->acts(), &ActWatch::plotReady, type);
+    connect(&m_connection, &Connection::captureStateChanged, m_board->acts(), &ActWatch::captureStateChanged, type);
+    connect(&m_connection, &Connection::settingsFileSaved, m_board, &DriveBoard::savedToFile, type);
+    connect(&m_connection, &Connection::savedToFlash, m_apply, &ApplyDesk::savedToFlash, type);
+    connect(
+        &m_connection, &Connection::scanProgress, this,
+        [this](int asked, int total) {
+            statusBar()->showMessage(tr("Searching devices: address %1 of %2").arg(asked + 1).arg(total));
+        },
+        type);
+}
+
+void MW::showHelpFile(const QString &file, const QString &anchor)
+{
+    QUrl url = QUrl::fromLocalFile(QDir::currentPath() + QLatin1String("/help/") + file);
+    url.setFragment(anchor);
+    m_paneKeys->showHelp(true);
+    browserLinkClicked(url);
+}
+
+void MW::showFaultHelp(int faultBit)
+{
+    showHelpFile(QStringLiteral("Faults_and_status.htm"), QStringLiteral("fault-%1").arg(faultBit));
+}
+
+void MW::goToSetting(const QString &name)
+{
+    const SettingField *field = m_board->fields().find(name);
+    const QString place = helpPlaceOf(m_board->fields(), name);
+    const bool hasControl = field && field->control && field->name == name;
+    if (hasControl && field->page >= 0)
+        m_form->pageSelector->setCurrentRow(field->page, QItemSelectionModel::ClearAndSelect);
+    else if (hasControl && field->isEditable)
+        on_actionRaw_parameters_triggered();
+    showHelpFile(place.section(QLatin1Char('#'), 0, 0), place.section(QLatin1Char('#'), 1));
+    if (!hasControl)
+        return;
+    QWidget *control = field->control;
+    const QWidget *page = field->page >= 0 ? m_form->pages->widget(field->page) : control->window();
+    if (!control->isVisibleTo(page) && !m_parameters->showsAdvanced())
+        m_parameters->toggleAdvanced();
+    if (!control->isVisibleTo(page)) {
+        statusBar()->showMessage(
+            tr("[%1] is not shown: this model lacks it, or other settings leave it without effect").arg(name));
+        return;
+    }
+    if (!control->isEnabled())
+        statusBar()->showMessage(tr("[%1] is not on this model").arg(name));
+    for (QWidget *up = control; up; up = up->parentWidget()) {
+        if (auto *area = qobject_cast<QScrollArea *>(up))
+            area->ensureWidgetVisible(control);
+    }
+    control->setFocus(Qt::ShortcutFocusReason);
+}
