@@ -72,7 +72,8 @@ TEST_F(Accessibility, EveryControlOfEveryPageHasANameAndAnAction)
     EXPECT_EQ(nameOf(button("setAbs2")), "Set Abs 2");
     // The panels are read out themselves; what they are is a description.
     goTo(TESTING_PAGE);
-    ASSERT_TRUE(waitFor([this] { return label("statusRegister")->text().contains("Voltages good"); }));
+    ASSERT_TRUE(waitFor([this] { return label("statusRegister")->text().contains("Voltages good"); }))
+        << qPrintable(label("statusRegister")->text());
     EXPECT_TRUE(nameOf(label("statusRegister")).contains("Voltages good"));
 }
 

@@ -45,6 +45,7 @@ StatusStrip::StatusStrip(QWidget *parent) : QWidget(parent)
     m_word->setFont(larger(font()));
     m_shape->setFont(m_word->font());
     row->insertWidget(0, m_shape);
+    row->addSpacing(6);
     m_detail = addLabel(row, "stripDetail");
     m_faultHelp = new QToolButton(this);
     m_faultHelp->setObjectName(QStringLiteral("stripFaultHelp"));

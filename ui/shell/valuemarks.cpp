@@ -67,6 +67,7 @@ ValueMarks::ValueMarks(QWidget *parent) : QWidget(parent)
     m_save->setAutoDefault(false);
     connect(m_save, &QPushButton::clicked, this, &ValueMarks::saveToDriveAsked);
     row->addWidget(m_save);
+    setMinimumHeight(m_save->sizeHint().height()); // nothing jumps when it comes and goes
     m_flash = add("markFlash");
     m_file = add("markFile");
     row->addStretch(1);

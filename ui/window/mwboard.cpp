@@ -12,10 +12,12 @@
 #include "settingfinder.h"
 #include "statusstrip.h"
 #include "testingpage.h"
+#include "ui_connectpage.h"
 #include "ui_mw.h"
 #include "ui_testingpage.h"
 
 #include <QDir>
+#include <QLineEdit>
 #include <QScrollArea>
 #include <QShortcut>
 
@@ -49,6 +51,8 @@ void MW::nameControls()
     testing.setInc1->setAccessibleName(tr("Set Inc 1"));
     testing.setAbs2->setAccessibleName(tr("Set Abs 2"));
     testing.setInc2->setAccessibleName(tr("Set Inc 2"));
+    auto *port = formAmong<Ui_ConnectPage>(*m_form->pages).communicationInterface;
+    port->lineEdit()->setAccessibleName(tr("Communication interface device"));
     statusBar()->setAccessibleName(tr("Messages"));
 }
 
