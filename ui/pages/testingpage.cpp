@@ -2,6 +2,7 @@
 
 #include "applydesk.h"
 #include "connectpage.h"
+#include "editedsettings.h"
 #include "captureaid.h"
 #include "connection.h"
 #include "editedfield.h"

@@ -13,6 +13,7 @@ class ApplyDesk;
 class CaptureAid;
 class ConnectPage;
 class Connection;
+class EditedSettings;
 class ParameterPages;
 class QCheckBox;
 class QPushButton;
@@ -35,6 +36,7 @@ public:
         ApplyDesk *apply;            ///< asks before a capture of settings that are not applied
         const ConnectPage *connect;  ///< knows the drive's address
         TriesDesk *tries;            ///< shows captures
+        const EditedSettings &settings;
     };
     TestingPage(QWidget *window, const Ui_TestingPage &form, Connection &session, const Helpers &helpers);
 

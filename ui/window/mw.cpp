@@ -136,7 +136,7 @@ void MW::buildPages(const Options &options)
     m_tries = new TriesDesk(this, testingForm.testingContentsLayout, m_form->settingsPane, m_connection,
                             {m_settings, m_parameters, m_apply, m_connectPage, m_help, reports});
     m_testing =
-        new TestingPage(this, testingForm, m_connection, {m_parameters, m_apply, m_connectPage, m_tries});
+        new TestingPage(this, testingForm, m_connection, {m_parameters, m_apply, m_connectPage, m_tries, m_settings});
     m_drive = new DriveDesk(this, m_connection, m_connectPage, m_testing, m_apply, reports);
     m_firmware = new FirmwareDesk(this, m_connection, m_connectPage, m_apply, m_questions);
     m_controlMode = new ControlModeRule(this, m_connection, m_settings, m_questions);
