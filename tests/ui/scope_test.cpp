@@ -145,6 +145,30 @@ TEST_F(Scope, ASavedPageShowsTheSamePictureAndFiguresWithoutADriveAndBadFilesCha
     EXPECT_EQ(samples("Position", 1), then);
 }
 
+TEST_F(Scope, ASeriesKeepsZoomCursorsAndPlaceOnThePage)
+{
+    channels({"ScopeTorqRef", "ScopePosMeas"});
+    choose(Instantly, "20000 Hz");
+    click("ScopeCaptureNow");
+    waitForPlot();
+    ASSERT_TRUE(waitFor([this] { return !figures().isEmpty(); }));
+    run("velbrinScope.showTime(0.01, 0.02); velbrinScope.setCursor(0, 0.015); window.scrollTo(0, 200)");
+    const QString state = "JSON.stringify([velbrinScope.seenTime(), velbrinScope.cursors, window.scrollY,"
+                          " document.documentElement.scrollHeight, $('#Position').offset().top,"
+                          " $('#Position').data('plot').getPlotOffset().left])";
+    const QString before = run(state).toString();
+    auto *repeat = control<QCheckBox>("repeatCapture");
+    repeat->setChecked(true);
+    click("ScopeCaptureNow");
+    ASSERT_TRUE(waitFor([this] { return tries()->rowCount() >= 4; }, 20000));
+    repeat->setChecked(false);
+    ASSERT_TRUE(waitFor([this] { return captureText() == "Start capture"; }));
+    // A row or two may have come to the list of captures, below the charts in this narrow pane.
+    const auto part = [](const QString &text, int i) { return QJsonDocument::fromJson(text.toUtf8()).array().at(i); };
+    for (const int i : {0, 1, 2, 4, 5})
+        EXPECT_EQ(part(run(state).toString(), i), part(before, i)) << i;
+}
+
 TEST_F(Scope, TheChartsTakeTheWindowAndGiveItBackAndEscStillDisables)
 {
     press(Qt::Key_F11);
