@@ -60,13 +60,6 @@ TEST_F(Accessibility, EveryControlOfEveryPageHasANameAndAnAction)
             EXPECT_EQ(namelessIn(m_window.get()), QStringList()) << page << connected;
         }
     }
-    for (const char *dialog : {"overrideParams", "settingFinder", "firmwareUpgradeDlg"}) {
-        auto *widget = control<QDialog>(dialog);
-        widget->setModal(false);
-        widget->show();
-        EXPECT_EQ(namelessIn(widget), QStringList()) << dialog;
-        widget->close();
-    }
     // Drive controls, greyed as they were before the first connection and after.
     EXPECT_EQ(nameOf(button("enable_drive")), "Soft enable drive");
     EXPECT_EQ(nameOf(button("setAbs2")), "Set Abs 2");
@@ -75,6 +68,13 @@ TEST_F(Accessibility, EveryControlOfEveryPageHasANameAndAnAction)
     ASSERT_TRUE(waitFor([this] { return label("statusRegister")->text().contains("Voltages good"); }))
         << qPrintable(label("statusRegister")->text());
     EXPECT_TRUE(nameOf(label("statusRegister")).contains("Voltages good"));
+    for (const char *dialog : {"overrideParams", "settingFinder", "firmwareUpgradeDlg"}) {
+        auto *widget = control<QDialog>(dialog);
+        widget->setModal(false);
+        widget->show();
+        EXPECT_EQ(namelessIn(widget), QStringList()) << dialog;
+        widget->close();
+    }
 }
 
 TEST_F(Accessibility, KeysWalkPanesAndPagesAndFoldTheHelpAway)

@@ -12,6 +12,9 @@
 #include <QSpinBox>
 #include <QStatusBar>
 #include <QToolButton>
+#include <algorithm>
+#include <cstdio>
+#include <vector>
 
 namespace {
 
@@ -77,6 +80,43 @@ TEST_F(Board, StripFollowsTheDriveWhoeverMovesItAndSaysWhenItIsThePast)
     EXPECT_TRUE(waitFor([this] { return label("stripDetail")->text().endsWith("s ago, not connected"); }));
     EXPECT_TRUE(button("stripDisable")->isEnabled()); // it also reaches a drive that was lost
     EXPECT_FALSE(button("stripEnable")->isEnabled());
+}
+
+TEST_F(Board, StripChangesWithinOnePollAndCostsNothingThatOneCanFeel)
+{
+    openConnectedWindow();
+    ASSERT_TRUE(waitForWord("disabled"));
+    std::vector<qint64> delays;
+    QElapsedTimer since;
+    since.start();
+    // Two polls: what was on its way when the drive changed knew nothing of it.
+    for (int i = 0; i < 5; ++i) {
+        since.restart();
+        bus().set(DriveAddress, UNDER_VOLTAGE, 6000);
+        ASSERT_TRUE(waitForWord("FAULT"));
+        delays.push_back(since.elapsed());
+        bus().set(DriveAddress, UNDER_VOLTAGE, 3600);
+        click("stripClearFaults");
+        ASSERT_TRUE(waitForWord("disabled"));
+    }
+    std::sort(delays.begin(), delays.end());
+    EXPECT_LT(delays[2], 800);
+
+    auto *strip = m_window->findChild<StatusStrip *>();
+    DriveState state;
+    state.deviceType = 11000;
+    constexpr int count = 1000;
+    since.restart();
+    for (int i = 0; i < count; ++i) {
+        state.when = std::chrono::steady_clock::now();
+        state.position = i; // each brings another text
+        state.statusRegister = i % 2 ? 24 : 0;
+        strip->statePolled(state);
+    }
+    const double each = since.nsecsElapsed() / 1e6 / count;
+    EXPECT_LT(each, 1.0);
+    std::printf("strip: delay %d..%d ms, median %d; %.3f ms a poll\n", int(delays.front()), int(delays.back()),
+                int(delays[2]), each);
 }
 
 TEST_F(Board, MarksTellAtAnyMomentWhereTheValuesLive)

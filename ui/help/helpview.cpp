@@ -366,9 +366,10 @@ void HelpView::Engines::followPalette(const QPalette &palette)
     const bool dark = palette.color(QPalette::Window).lightness() < 128;
     QWebEngineScript script;
     script.setName(QStringLiteral("palette"));
-    // A page of the network that sets no background means white, with dark text on it.
-    script.setSourceCode(QStringLiteral(R"(
-        (function (root) {
+    // Before any script of the page, which has no root yet when this runs. A page of the network that sets no background
+    // means white, with dark text on it.
+    script.setSourceCode(QStringLiteral(R"((function () {
+        function paint(root) {
             root.classList.remove("light", "dark");
             root.classList.add("%1");
             if (location.protocol.indexOf("http") !== 0)
@@ -376,7 +377,16 @@ void HelpView::Engines::followPalette(const QPalette &palette)
             var style = document.createElement("style");
             style.textContent = ":where(html) { background: #fff; }";
             root.insertBefore(style, root.firstChild);
-        })(document.documentElement);)")
+        }
+        if (document.documentElement)
+            return paint(document.documentElement);
+        new MutationObserver(function (changes, observer) {
+            if (!document.documentElement)
+                return;
+            observer.disconnect();
+            paint(document.documentElement);
+        }).observe(document, { childList: true });
+    })();)")
                              .arg(dark ? QStringLiteral("dark") : QStringLiteral("light")));
     page.setBackgroundColor(dark ? QColor(0x1e, 0x1e, 0x1e) : QColor(Qt::white)); // no white flash before a page
     script.setInjectionPoint(QWebEngineScript::DocumentCreation);

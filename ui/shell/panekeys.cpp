@@ -10,8 +10,8 @@
 
 namespace {
 
-/// A plot that is narrower shows nothing; then the page has the room.
-constexpr int leastHelpWidth = 260;
+/// A plot that is narrower shows nothing; then the page has the room, or gives some of it when help is asked for.
+constexpr int leastHelpWidth = 320;
 
 } // namespace
 
@@ -53,7 +53,15 @@ void PaneKeys::showHelp(bool shown)
     if (!shown && m_help->isAncestorOf(QApplication::focusWidget()))
         walk(1);
     m_help->setVisible(shown);
+    if (shown && m_help->width() < leastHelpWidth)
+        m_splitter->setSizes({m_splitter->width() - m_splitter->handleWidth() - leastHelpWidth, leastHelpWidth});
     emit helpShown(shown);
+}
+
+void PaneKeys::plotCame()
+{
+    if (m_wish != Wish::Hidden)
+        showHelp(true);
 }
 
 QWidget *PaneKeys::focusTargetIn(QWidget *pane)
@@ -100,7 +108,7 @@ bool PaneKeys::eventFilter(QObject *watched, QEvent *event)
 void PaneKeys::makeRoom()
 {
     const QWidget *page = m_splitter->widget(0);
-    const int needed = page->minimumSizeHint().width() + m_splitter->handleWidth() + leastHelpWidth;
+    const int needed = page->sizeHint().width() + m_splitter->handleWidth() + leastHelpWidth;
     const bool shown = m_splitter->width() >= needed;
     if (m_wish != Wish::None || shown == isHelpShown())
         return;

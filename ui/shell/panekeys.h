@@ -22,6 +22,8 @@ public:
 
     bool isHelpShown() const;
     void showHelp(bool shown);
+    /// Something is to be seen there, unless the user has folded it away.
+    void plotCame();
 
 signals:
     void helpShown(bool shown);

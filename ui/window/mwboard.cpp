@@ -66,6 +66,7 @@ void MW::connectBoard()
     const auto type = Qt::QueuedConnection; // from the worker
     connect(&m_connection, &Connection::statePolled, m_board->strip(), &StatusStrip::statePolled, type);
     connect(&m_connection, &Connection::statePolled, m_board->acts(), &ActWatch::statePolled, type);
+    connect(&m_connection, &Connection::plotReady, m_paneKeys, &PaneKeys::plotCame, type);
     connect(&m_connection, &Connection::plotReady, m_board->acts(), &ActWatch::plotReady, type);
     connect(&m_connection, &Connection::captureStateChanged, m_board->acts(), &ActWatch::captureStateChanged, type);
     connect(&m_connection, &Connection::settingsFileSaved, m_board, &DriveBoard::savedToFile, type);
