@@ -129,6 +129,7 @@ TEST_F(Board, MarksTellAtAnyMomentWhereTheValuesLive)
     kvp()->setValue(400);
     EXPECT_TRUE(waitForMark("markEdited", "Edited (1 change)"));
     EXPECT_EQ(mark("markWorking"), "Not in the drive yet");
+    EXPECT_EQ(label("changeCount")->text(), "1 change");
     auto *drive = control<QToolButton>("KVPdrive");
     EXPECT_EQ(drive->text(), "drive: 360");
     EXPECT_TRUE(drive->isVisible());

@@ -9,6 +9,7 @@
 #include "parameterpages.h"
 
 #include <QDebug>
+#include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QSpinBox>
@@ -29,6 +30,12 @@ void ApplyDesk::updateButton()
     // A number that is just being typed counts with the next Apply.
     const bool pending = m_settings.isPending() || isNewNumberTyped();
     m_controls.apply->setDefault(pending);
+    const auto count = m_board->changes().size();
+    QString changes = count == 1 ? tr("1 change") : tr("%1 changes").arg(count);
+    if (count == 0)
+        changes.clear();
+    m_controls.changeCount->setText(changes);
+    m_controls.apply->setAccessibleDescription(changes);
     m_controls.apply->setText(pending ? tr("Apply settings (parameters changed)") : tr("Apply settings [Alt+A]"));
     emit buttonChanged(m_controls.apply->text(), m_controls.apply->isEnabled());
 }

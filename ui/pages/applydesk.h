@@ -13,6 +13,7 @@ class DriveBoard;
 class EditedSettings;
 class ParameterPages;
 class Parameters;
+class QLabel;
 class QPushButton;
 class QSpinBox;
 enum class Reach;
@@ -34,6 +35,7 @@ public:
     struct Controls
     {
         QPushButton *apply;
+        QLabel *changeCount; ///< beside the Apply button
         QPushButton *saveToFile;
         const QSpinBox *watchedRegister; ///< of the overrides dialog
     };

@@ -14,7 +14,10 @@ ApplyBox::ApplyBox(const QList<SettingChange> &changes, const QString &warnings,
     auto *layout = new QVBoxLayout(this);
     const QStringList growth = growthWarnings(changes);
     addWarnings(layout, warnings, growth);
-    layout->addWidget(new QLabel(tr("%1 settings of the drive will change:").arg(changes.size()), this));
+    QString heading = tr("%1 settings of the drive will change:").arg(changes.size());
+    if (changes.size() < 2)
+        heading = changes.isEmpty() ? tr("No setting differs from the drive's.") : tr("One setting of the drive will change:");
+    layout->addWidget(new QLabel(heading, this));
     addTable(layout, changes);
     auto *buttons = new QDialogButtonBox(this);
     QPushButton *apply = buttons->addButton(tr("Apply settings"), QDialogButtonBox::AcceptRole);

@@ -130,8 +130,11 @@ void DriveBoard::refresh()
 {
     QStringList names;
     const auto differences = m_settings.differences();
-    for (const EditedSettings::Difference &difference : differences)
-        names << difference.name;
+    for (const EditedSettings::Difference &difference : differences) {
+        // What a file brings for another model is nobody's edit: it is never sent.
+        if (m_settings.drive().getParam(difference.name).supportedInDevice(model()))
+            names << difference.name;
+    }
     m_changes = m_marks->show(m_settings.drive(), m_settings.edited(), names);
     ValueHomes homes;
     homes.changes = int(m_changes.size());

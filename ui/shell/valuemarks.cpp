@@ -35,7 +35,7 @@ QString flashText(const ValueHomes &homes)
     case ValueHomes::Flash::Saving:
         return ValueMarks::tr("Being saved over power-off");
     case ValueHomes::Flash::Saved:
-        return homes.isPending ? ValueMarks::tr("Edits not saved over power-off")
+        return homes.isPending || homes.changes > 0 ? ValueMarks::tr("Edits not saved over power-off")
                                : ValueMarks::tr("Saved over power-off");
     case ValueHomes::Flash::Unknown:
         break;
@@ -78,17 +78,19 @@ void ValueMarks::show(const ValueHomes &homes)
 {
     using Flash = ValueHomes::Flash;
     const bool behind = homes.driveKnown && homes.flash == Flash::Behind;
-    const bool inDrive = homes.driveKnown && !homes.isPending;
-    setMark(m_edited, homes.isPending, changesText(homes));
+    // Also where the user has gone on without applying: the fields still show something else than the drive has.
+    const bool isEdited = homes.isPending || homes.changes > 0;
+    const bool inDrive = homes.driveKnown && !isEdited;
+    setMark(m_edited, isEdited, changesText(homes));
     QString working = tr("In the drive");
     if (!homes.driveKnown)
         working = tr("In no drive");
     else if (behind)
-        working = homes.isPending ? tr("Applied before, lost at power-off") : tr("In the drive, lost at power-off");
-    else if (homes.isPending)
+        working = isEdited ? tr("Applied before, lost at power-off") : tr("In the drive, lost at power-off");
+    else if (isEdited)
         working = tr("Not in the drive yet");
     setMark(m_working, inDrive || behind, working);
-    setMark(m_flash, homes.driveKnown && !homes.isPending && homes.flash == Flash::Saved,
+    setMark(m_flash, homes.driveKnown && !isEdited && homes.flash == Flash::Saved,
             flashText(homes));
     if (m_save->isHidden() == behind)
         m_save->setVisible(behind);

@@ -129,7 +129,7 @@ void MW::buildPages(const Options &options)
          formAmong<Ui_TuningPage>(*m_form->pages), formAmong<Ui_FaultLimitsPage>(*m_form->pages)},
         m_connection, m_settings);
     m_apply = new ApplyDesk(
-        this, {m_form->apply_button, connectForm.save_settings_to_file, m_overridesForm->customParamDisplay},
+        this, {m_form->apply_button, m_changeCount, connectForm.save_settings_to_file, m_overridesForm->customParamDisplay},
         m_connection, m_settings, m_parameters, m_board, reports);
     m_connectPage = new ConnectPage(this, connectForm, m_connection, m_questions);
     const auto &testingForm = formAmong<Ui_TestingPage>(*m_form->pages);
@@ -343,6 +343,7 @@ void MW::pageChanged()
     m_form->pages->setCurrentIndex(m_currentPage);
     const PageInfo &page = pageTable()[std::size_t(m_currentPage)];
     m_form->apply_button->setVisible(page.hasSettings);
+    m_changeCount->setVisible(page.hasSettings);
     if (page.hasSettings)
         updateApplyButtonState();
     m_help->leavePage();

@@ -171,6 +171,7 @@ private:
     BusyDialog *m_busyDialog = nullptr;
     ErrorWindow *m_errorWindow = nullptr;
     QLabel *m_connectionStatusLabel = nullptr;
+    QLabel *m_changeCount = nullptr; ///< beside the Apply button
 
     DriveBoard *m_board = nullptr;
     PaneKeys *m_paneKeys = nullptr;

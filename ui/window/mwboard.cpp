@@ -17,6 +17,7 @@
 #include "ui_testingpage.h"
 
 #include <QDir>
+#include <QLabel>
 #include <QLineEdit>
 #include <QScrollArea>
 #include <QShortcut>
@@ -25,6 +26,9 @@ void MW::buildBoard()
 {
     m_board = new DriveBoard(this, m_form->centralLayout, m_connection, m_settings);
     nameControls();
+    m_changeCount = new QLabel(this);
+    m_changeCount->setObjectName(QStringLiteral("changeCount"));
+    m_form->applyLayout->insertWidget(m_form->applyLayout->indexOf(m_form->apply_button), m_changeCount);
     connect(m_board, &DriveBoard::enableAsked, this, &MW::on_enable_drive_clicked);
     connect(m_board, &DriveBoard::disableAsked, this, &MW::on_disable_drive_clicked);
     connect(m_board, &DriveBoard::clearFaultsAsked, this, &MW::on_clear_faults_clicked);
