@@ -282,3 +282,23 @@ TEST_F(Board, FindingLeadsToTheFieldWhereverItIs)
     EXPECT_EQ(find("no such thing"), "No setting has these words");
     control<QDialog>("settingFinder")->close();
 }
+
+TEST_F(Board, SaveDialogGivesTheNameTheEndingOfItsFilter)
+{
+    openWindow();
+    m_answers.expect([](QWidget *widget) {
+        auto *dialog = qobject_cast<QFileDialog *>(widget);
+        if (!dialog)
+            return false;
+        EXPECT_EQ(dialog->defaultSuffix(), "png");
+        const QString text = "Raw data as text file (*.csv)";
+        dialog->selectFile("step.png");
+        dialog->selectNameFilter(text);
+        QMetaObject::invokeMethod(dialog, "filterSelected", Q_ARG(QString, text)); // as choosing it does
+        EXPECT_TRUE(dialog->selectedFiles().value(0).endsWith("/step.csv"));
+        EXPECT_EQ(dialog->defaultSuffix(), "csv");
+        dialog->reject();
+        return true;
+    });
+    QMetaObject::invokeMethod(m_window.get(), "saveTestResults_clicked");
+}

@@ -4,7 +4,6 @@
 
 #include <QAccessible>
 #include <QEvent>
-#include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
 #include <QToolButton>
@@ -40,6 +39,8 @@ StatusStrip::StatusStrip(QWidget *parent) : QWidget(parent)
     lines->setSpacing(2);
     auto *row = new QHBoxLayout;
     lines->addLayout(row);
+    m_secondLine = new QHBoxLayout;
+    lines->addLayout(m_secondLine);
     m_shape = new StateShape(this);
     m_word = addLabel(row, "stripWord");
     m_word->setFont(larger(font()));
@@ -96,7 +97,7 @@ QPushButton *StatusStrip::addButton(QHBoxLayout *row, const char *name, const QS
 
 void StatusStrip::addSecondLine(QWidget *widget)
 {
-    layout()->addWidget(widget);
+    m_secondLine->insertWidget(0, widget, 1);
 }
 
 void StatusStrip::setBusAddress(int address)

@@ -6,10 +6,10 @@
 #include "driveheadline.h"
 
 #include <QElapsedTimer>
+#include <QHBoxLayout>
 #include <QTimer>
 #include <QWidget>
 
-class QHBoxLayout;
 class QLabel;
 class QPushButton;
 class QToolButton;
@@ -35,6 +35,8 @@ public:
     void setButtons(bool mayEnable, bool mayDisable, bool mayClear);
     /// Room behind the first line, for the marks that say where the values live.
     void addSecondLine(QWidget *widget);
+    /// At the right end of that line.
+    void addToSecondLine(QWidget *widget) { m_secondLine->addWidget(widget); }
 
     const DriveHeadline &shown() const { return m_shown; }
 
@@ -63,6 +65,7 @@ private:
     DriveHeadline m_shown;
     QTimer m_ageTimer;
     QElapsedTimer m_sinceLook; ///< at the age of what is shown
+    QHBoxLayout *m_secondLine;
     StateShape *m_shape = nullptr;
     QLabel *m_word = nullptr;
     QLabel *m_detail;

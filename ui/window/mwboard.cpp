@@ -21,6 +21,7 @@
 #include <QLineEdit>
 #include <QScrollArea>
 #include <QShortcut>
+#include <QToolButton>
 
 void MW::buildBoard()
 {
@@ -64,6 +65,14 @@ void MW::connectBoard()
 {
     m_paneKeys = new PaneKeys(this, m_form->pageSelector, m_form->splitter, m_form->helpPane,
                               {m_form->pageSelector, m_form->pages, m_form->helpPane, m_board->strip()});
+    auto *help = new QToolButton;
+    help->setObjectName(QStringLiteral("helpShown"));
+    help->setText(tr("Help [F1]"));
+    help->setCheckable(true);
+    help->setChecked(m_paneKeys->isHelpShown());
+    m_board->strip()->addToSecondLine(help);
+    connect(help, &QToolButton::clicked, m_paneKeys, &PaneKeys::showHelp);
+    connect(m_paneKeys, &PaneKeys::helpShown, help, &QToolButton::setChecked);
     connect(m_parameters, &ParameterPages::corrected, m_board, &DriveBoard::note);
     connect(m_connectPage, &ConnectPage::leaving, m_board->strip(), &StatusStrip::expectEnd);
     connect(m_testing->captureAid(), &CaptureAid::callOffAsked, m_board->acts(), &ActWatch::captureCalledOff);
