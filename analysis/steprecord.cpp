@@ -85,10 +85,14 @@ StepRecord stepRecordOf(const CaptureRecord &capture)
     for (const Pair &pair : pairs) {
         std::optional<StepRecord> record = recordOf(capture, pair);
         if (record)
+            record->before = knownBefore(capture, *record);
+        if (record)
             found.insert(pair.controlMode == mode ? found.begin() : found.end(), std::move(*record));
     }
-    const auto moving =
-        std::find_if(found.begin(), found.end(), [](const StepRecord &record) { return changes(record.setpoint); });
+    // A step that started the recorder may lie before the first sample: the setpoint then only follows as if at rest.
+    const auto moving = std::find_if(found.begin(), found.end(), [](const StepRecord &record) {
+        return changes(record.setpoint) || (record.before && *record.before != record.setpoint.front());
+    });
     StepRecord record = moving != found.end() ? *moving : found.empty() ? StepRecord() : found.front();
     record.period = capture.samplePeriod;
     record.torqueSetpoint = traceOf(capture, QStringLiteral("torqueref"), record.setpoint.size());
@@ -97,6 +101,5 @@ StepRecord stepRecordOf(const CaptureRecord &capture)
     const double limit = capture.setting(QStringLiteral("MMC"), 0.0);
     if (limit > 0.0)
         record.currentLimit = limit;
-    record.before = knownBefore(capture, record);
     return record;
 }

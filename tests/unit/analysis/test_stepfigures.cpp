@@ -171,6 +171,10 @@ TEST(StepFigures, ChannelsOfACaptureAreChosenByControlModeAndMotion)
     ASSERT_TRUE(figure.value);
     EXPECT_NEAR(*figure.value, 0.001 * (1.0 + 50.0 / 55.0), 1e-12);
 
+    capture.channels << channel("velreference", "vel", {0, 10, 5}) << channel("velmeas", "vel", {0, 5, 5});
+    capture.settings = Parameters();
+    EXPECT_EQ(stepRecordOf(capture).channel, "posmeas") << "it has moved, though no sample shows it";
+
     // Positions are 16-bit words.
     capture.channels = {channel("posreference", "cnts", {32700, -32736, -32736}),
                         channel("posmeas", "cnts", {32700, -32766, -32736})};
