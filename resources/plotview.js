@@ -34,6 +34,13 @@
         document.body.textContent = "";
         while (fresh.body.firstChild)
             document.body.appendChild(document.adoptNode(fresh.body.firstChild));
+        // Drawn once, as wide and as high as the charts before them, not once more when frame and heights are known.
+        var places = Array.prototype.filter.call(document.body.children, function (child) {
+            return child.tagName === "DIV" && child.id && child.style.height;
+        });
+        if (places.length === scope.charts.length)
+            places.forEach(function (place) { place.style.height = scope.charts[0].element.style.height; });
+        scope.buildFrame(places);
         new Function("$", source)(readyQuery);
         scope.attach(keepZoom ? signature : "");
         window.scrollTo(left, top);

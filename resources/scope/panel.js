@@ -145,18 +145,24 @@
         }).join("  \u00b7  ")]);
     }
 
-    scope.afterAttach.unshift(function () {
-        var charts = element("div", { id: "scope-charts" }), first = scope.charts[0];
+    // Around the places of the charts, drawn or not: what is drawn into them later has its final width at once.
+    scope.buildFrame = function (places) {
+        if (document.getElementById("scope-main"))
+            return;
+        var charts = element("div", { id: "scope-charts" }), first = places[0];
         var main = element("div", { id: "scope-main" }, [charts, element("aside", { id: "scope-panel" })]);
         if (!first) {
             document.body.insertBefore(main, document.body.querySelector("p ~ *"));
         } else {
-            first.element.parentNode.insertBefore(main, first.element);
+            first.parentNode.insertBefore(main, first);
             while (main.nextSibling && (main.nextSibling.nodeType === 3 || main.nextSibling.classList.contains("unitnote") ||
-                   scope.charts.some(function (chart) { return chart.element === main.nextSibling; })))
+                   places.indexOf(main.nextSibling) >= 0))
                 charts.appendChild(main.nextSibling);
         }
         main.parentNode.insertBefore(element("div", { id: "scope-head" }), main);
+    };
+    scope.afterAttach.unshift(function () {
+        scope.buildFrame(scope.charts.map(function (chart) { return chart.element; }));
     });
 
     // Only what is another than before is put in: focus, selection and scrolling of the rest stay.

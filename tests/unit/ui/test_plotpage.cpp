@@ -419,14 +419,16 @@ TEST_F(PlotPage, OpenedOutTheChartsFitTheWindowAndSixteenChannelsAreDrawnInATent
     view.updateScope({{"isOpenedOut", true}});
     EXPECT_LE(run("$('#Last').offset().top + $('#Last').height()").toInt(), 7 * (150 + 40) + 120);
     const QString page = pageOf(16, 125);
-    QElapsedTimer taken;
-    for (int i = 0; i < 3; ++i) { // the first one warms the engine up
+    qint64 quickest = 10000; // others share the machine
+    for (int i = 0; i < 8; ++i) {
+        QElapsedTimer taken;
         taken.start();
         view.showPlot(page, QUrl("file:///" + QDir::currentPath() + "/flot/examples/"), HelpView::Zoom::Keep);
         run("1");
+        quickest = std::min(quickest, taken.elapsed());
     }
-    RecordProperty("drawnMs", int(taken.elapsed()));
-    EXPECT_LT(taken.elapsed(), 500) << "about 70 ms on an idle machine";
+    RecordProperty("drawnMs", int(quickest));
+    EXPECT_LT(quickest, 250) << "87 ms where others left it some time";
 }
 
 TEST(HelpViewEngine, ThatCannotStartIsSaidInWords)
