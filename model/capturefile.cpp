@@ -61,9 +61,12 @@ QString plotPageOf(const CaptureRecord &capture)
         channel.name = channel.name.toHtmlEscaped();
         channel.name.replace(QLatin1Char('\\'), QLatin1String("&#92;")).replace(QLatin1Char('\n'), QLatin1Char(' '));
         channel.name.replace(QLatin1Char('\r'), QLatin1Char(' '));
+        channel.name.replace(QLatin1Char('%'), QLatin1String("&#37;")); // no placeholder of the page
     }
+    QString model = capture.drive.model.toHtmlEscaped();
+    model.replace(QLatin1Char('\\'), QLatin1String("&#92;")).replace(QLatin1Char('%'), QLatin1String("&#37;"));
     return CapturePlotter().generatePlotPage(channels, capture.settings.getParamsHTMLList(),
-                                             capture.drive.model.toHtmlEscaped());
+                                             model);
 }
 
 QString capturePage(const CaptureRecord &capture, const QJsonObject &extra)

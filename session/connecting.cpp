@@ -36,6 +36,8 @@ void SessionWorker::connectDrive(const ConnectRequest &request)
         disconnectDrive();
     qCDebug(sessionLog) << "connecting" << request.portName;
     resetDriveState();
+    if (!m_stops.hasTarget()) // a drive that cannot be identified can be told to stop all the same
+        m_stops.setTarget(request.portName, request.nodeAddress);
     if (!openLine(request.portName, m_data.replyTimeoutMs))
         return;
     qCDebug(sessionLog) << "connected" << m_context.line.handle();
@@ -159,7 +161,17 @@ void SessionWorker::scanBus(const ScanRequest &request)
     if (m_data.connected || !openLine(request.portName, scanTimeoutMs))
         return;
     emit m_out.busy(true, true);
-    const BusSearch::Result result = BusSearch(m_context).searchDrives();
+    // A disable does not wait for the search's end, which may be seconds away.
+    const auto serveDisable = [this, &request] {
+        QueuedTask disable;
+        if (!m_context.queue.takeDisable(disable))
+            return true;
+        m_context.line.close();
+        m_context.line.clearStatus();
+        m_stops.disableWithoutConnection();
+        return openLine(request.portName, scanTimeoutMs);
+    };
+    const BusSearch::Result result = BusSearch(m_context, serveDisable).searchDrives();
     m_context.line.close();
     m_context.line.clearStatus();
     emit m_out.busy(false, true);

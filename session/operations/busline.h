@@ -51,8 +51,8 @@ public:
     bool isDead() const;
     /// Between these a stop is being sent: also on a line that counts as dead, and without reviving it for the task
     /// that goes on afterwards.
-    void beginStop() { m_stopping = true; }
-    void endStop() { m_stopping = false; }
+    void beginStop() { ++m_stopping; }
+    void endStop() { --m_stopping; }
     /// Whether nothing at all came in answer to the last request.
     bool wasSilent() const;
 
@@ -125,7 +125,7 @@ private:
     bool m_wasSent = false;     ///< the last batch, which was not spoiled
     bool m_mayComeLate = false; ///< the reply to it
     int m_straysInARow = 0;
-    bool m_stopping = false;
+    int m_stopping = 0; ///< stops that are under way, one inside another
     int m_timeoutMs = 0;
     int m_openError = 0;
     LineMeter m_meter;

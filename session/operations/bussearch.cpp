@@ -50,6 +50,8 @@ BusSearch::Result BusSearch::searchDrives()
     QMap<int, NodeType> found;
     const QList<int> addresses = scanAddresses();
     for (int i = 0; i < addresses.size(); ++i) {
+        if (!m_serveDisable())
+            return {found.values(), false, true};
         emit m_out.scanProgress(i, int(addresses.size()));
         searchAt(addresses[i], found);
     }

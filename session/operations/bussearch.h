@@ -13,7 +13,11 @@ constexpr int scanTimeoutMs = 100; ///< read time-out of a search: what a silent
 class BusSearch : private Operation
 {
 public:
-    explicit BusSearch(OperationContext &context) : Operation(context) {}
+    /// `serveDisable` disables a drive where that was asked for meanwhile; false when the line could not be opened again.
+    BusSearch(OperationContext &context, std::function<bool()> serveDisable)
+        : Operation(context), m_serveDisable(std::move(serveDisable))
+    {
+    }
 
     struct Result
     {
@@ -30,6 +34,7 @@ private:
     void searchAt(int address, QMap<int, NodeType> &found);
     bool isOver() const;
 
+    std::function<bool()> m_serveDisable;
     int m_noisyExchanges = 0; ///< in a row
 };
 

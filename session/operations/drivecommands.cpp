@@ -41,13 +41,15 @@ void DriveCommands::applyEnableState(const EnableRequest &request)
         return;
     }
     m_stops.beginEnable();
+    const int servedBefore = m_stops.servedDisables();
     // Once only: what enables a drive is never repeated.
     const Reply enabled =
         writeCommand(reg::SoftEnable, 1, SessionText::tr("The drive refused to be enabled.<br>Device errors: <br>%1"));
     if (enabled == Reply::None)
         m_stops.undoEnable();
-    // Not past a disable that was asked for meanwhile, and not on a drive that did not answer.
-    if (!request.force || enabled != Reply::Done || m_pauses.serveWaitingDisable())
+    // Not past a disable that was asked for meanwhile, waiting or served already, and not on a drive that did not answer.
+    if (!request.force || enabled != Reply::Done || m_pauses.serveWaitingDisable() ||
+        m_stops.servedDisables() != servedBefore)
         return;
     if (writeCommand(reg::ForceEnable, reg::ForceEnableKey,
                      SessionText::tr("The drive refused to be enabled by force.<br>Device errors: <br>%1")) ==

@@ -28,6 +28,12 @@ void StopService::setTarget(const QString &portName, int nodeAddress)
     m_data.targetNode = nodeAddress;
 }
 
+bool StopService::hasTarget() const
+{
+    std::lock_guard<std::mutex> lock(m_data.mutex);
+    return !m_data.targetPort.isEmpty();
+}
+
 bool StopService::serveWaitingDisable()
 {
     // Without a connection it stays in the queue, for disableWithoutConnection.
@@ -42,6 +48,7 @@ bool StopService::serveWaitingDisable()
 
 void StopService::disableDrive()
 {
+    ++m_servedDisables;
     const int errorsBefore = m_line.meter().errors;
     const bool acknowledged = m_drive.sendStop(reg::SoftEnable, 0);
     m_disableSent = Clock::now();
@@ -64,6 +71,7 @@ void StopService::disableRestartingDrive(Clock::time_point deadline)
     QueuedTask entry;
     if (!m_queue.takeDisable(entry) || !m_data.connected || m_data.firmwareUpgradeMode)
         return;
+    ++m_servedDisables;
     const bool restarts = m_line.isClean(); // otherwise the restart itself went wrong, which is still to be reported
     bool acknowledged = m_drive.sendStop(reg::SoftEnable, 0);
     while (!acknowledged && restarts && !m_queue.isClosing() && Clock::now() < deadline) {
@@ -171,6 +179,8 @@ void StopService::undoEnable()
     if (outcome == DisableOutcome::Disabled) {
         m_line.startTask();
         m_line.clearStatus(); // told here; the line works
+        // 2534 := 0 is refused by a drive that was not forced, which is nobody's news and not the next command's answer.
+        m_drive.writeSetting(reg::ErrorBits, 0);
         m_atStake.mayBeEnabled = false;
     } else {
         m_atStake.stopIsUnconfirmed = true;
@@ -194,10 +204,14 @@ void StopService::stopWhatWasLeft()
         port = m_data.targetPort;
     }
     // A disable that waits comes first, and does this, too.
-    if (!m_streamWasLost || m_queue.contains(SessionTasks::TaskApplyEnableState) ||
-        !m_line.open(port, m_data.replyTimeoutMs))
+    if (!m_streamWasLost || m_queue.contains(SessionTasks::TaskApplyEnableState))
         return;
-    m_streamWasLost = !m_drive.sendStop(reg::SystemCommand, reg::CommandStopStream);
+    if (m_line.open(port, m_data.replyTimeoutMs))
+        m_streamWasLost = !m_drive.sendStop(reg::SystemCommand, reg::CommandStopStream);
+    if (m_streamWasLost)
+        m_errors.tell(MessageKind::UnconfirmedStop,
+                      SessionText::tr("The stop of the test stimulus was not confirmed: the axis may go on moving for up "
+                                      "to five seconds. Esc disables the drive; the sure way is the machine's own stop."));
     m_line.close();
     m_line.clearStatus();
 }

@@ -20,8 +20,11 @@ public:
 
     /// Disables the connected drive.
     void disableDrive();
+    /// How many disables have been sent: whoever is about to enable looks whether one came in between.
+    int servedDisables() const { return m_servedDisables; }
     /// The port and address that a disable goes to while no drive is connected.
     void setTarget(const QString &portName, int nodeAddress);
+    bool hasTarget() const;
     void disableWithoutConnection();
     /// In what was just polled: whether a disable took effect.
     void lookForDisable(const DriveState &state);
@@ -52,6 +55,7 @@ private:
     std::optional<Clock::time_point> m_disableSent; ///< until its outcome was announced
     bool m_enableIsToBeUndone = false;              ///< by a new opening of the port, since the old one gave no answer
     bool m_streamWasLost = false;
+    int m_servedDisables = 0;
 };
 
 #endif

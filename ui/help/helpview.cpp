@@ -124,6 +124,12 @@ public:
     }
 
 protected:
+    // No file dialogs and no boxes of a page's own: neither help nor plots have any.
+    QStringList chooseFiles(FileSelectionMode, const QStringList &, const QStringList &) override { return {}; }
+    void javaScriptAlert(const QUrl &, const QString &) override {}
+    bool javaScriptConfirm(const QUrl &, const QString &) override { return false; }
+    bool javaScriptPrompt(const QUrl &, const QString &, const QString &, QString *) override { return false; }
+
     bool acceptNavigationRequest(const QUrl &url, NavigationType type, bool isMainFrame) override
     {
         const bool fromNetwork = this->url().scheme().startsWith(QLatin1String("http"));
@@ -470,6 +476,8 @@ void HelpView::startEngine()
         showNote(tr("<h3>Help and plots cannot be shown</h3>The browser engine cannot start: %1.").arg(problem));
         return;
     }
+    if (isSaving())
+        emit pictureSaved(tr("The picture of the graphs was given up: the browser engine was started again"));
     m_engines.reset();
     m_engines = std::make_unique<Engines>(this);
     m_stack->addWidget(&m_engines->view);
@@ -498,10 +506,14 @@ void HelpView::startEngine()
 void HelpView::loadEnded(bool ok, const QUrl &url)
 {
     // A load that was replaced may still fail, with an address that nobody waits for any more.
-    if (!m_loading || (!ok && !url.matches(m_wantedUrl, QUrl::NormalizePathSegments)))
+    // Its success, too, is not the plot's, nor a plot's that of a help page.
+    const bool isPlot = url.scheme() == QLatin1String(plotScheme);
+    if (!m_loading || (!ok && !url.matches(m_wantedUrl, QUrl::NormalizePathSegments)) || isPlot == m_plot.isEmpty())
         return;
     m_loading = false;
     m_engines->plotStands = ok && !m_plot.isEmpty();
+    if (m_engines->plotStands) // what came while the page was loading
+        updateScope(QJsonObject(m_scope));
     emit pageLoaded(ok);
 }
 
@@ -606,7 +618,8 @@ void HelpView::savePng(const QString &fileName, int width)
         return;
     if (!isRunning() || !m_engines->plotStands) {
         emit pictureSaved(tr("Error writing graphs to file %1: %2")
-                              .arg(QDir::toNativeSeparators(fileName), tr("no plot is shown to make a picture of")));
+                              .arg(QDir::toNativeSeparators(fileName).toHtmlEscaped(),
+                                   tr("no plot is shown to make a picture of")));
         return;
     }
     m_engines->picture = std::make_unique<Picture>(&m_engines->profile, this, m_engines->plotFiles.pageUrl,
