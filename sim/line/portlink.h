@@ -23,10 +23,12 @@ public:
     void remove();
 
 private:
-    std::string inTheWay(const std::string &port) const;
+    std::string inTheWay(const std::string &port);
+    bool claimName();
 
     std::string m_path;
     std::string m_made; ///< what the link points at; empty when there is none of ours
+    int m_claim = -1;   ///< a socket that says, while this process lives, that the name is in use
 };
 
 } // namespace sim

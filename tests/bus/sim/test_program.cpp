@@ -231,7 +231,8 @@ TEST_F(VelbrinSim, LinkOfARunningSimulatorIsRefusedAndOfAKilledOneReplaced)
     EXPECT_EQ(std::filesystem::read_symlink("COM1").string(), port);
     EXPECT_EQ(first.end(SIGKILL), 128 + SIGKILL);
     Program third({"--link", "COM1"});
-    EXPECT_EQ(third.line(), std::filesystem::read_symlink("COM1").string());
+    const std::string taken = third.line();
+    EXPECT_EQ(taken, std::filesystem::read_symlink("COM1").string());
     EXPECT_EQ(third.end(SIGTERM), 0);
 }
 
