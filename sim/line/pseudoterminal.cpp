@@ -16,18 +16,6 @@ std::string failure(const char *what)
     return std::string(what) + ": " + std::strerror(errno);
 }
 
-/// The mark by which a served port is known: a record lock, which ends with whoever holds it and has nothing to do with
-/// the lock of the whole port that a program on the other end takes.
-struct flock servedMark()
-{
-    struct flock mark = {};
-    mark.l_type = F_WRLCK;
-    mark.l_whence = SEEK_SET;
-    mark.l_start = 0;
-    mark.l_len = 1;
-    return mark;
-}
-
 } // namespace
 
 std::string PseudoTerminal::open()
@@ -53,21 +41,8 @@ std::string PseudoTerminal::open()
     tcgetattr(m_slave, &settings);
     cfmakeraw(&settings);
     tcsetattr(m_slave, TCSANOW, &settings);
-    struct flock mark = servedMark();
-    fcntl(m_slave, F_OFD_SETLK, &mark);
     m_name = name;
     return {};
-}
-
-bool PseudoTerminal::isServed(const std::string &name)
-{
-    const int descriptor = ::open(name.c_str(), O_RDWR | O_NOCTTY | O_NONBLOCK | O_CLOEXEC);
-    if (descriptor < 0)
-        return false;
-    struct flock mark = servedMark();
-    const bool isMarked = fcntl(descriptor, F_OFD_GETLK, &mark) == 0 && mark.l_type != F_UNLCK;
-    ::close(descriptor);
-    return isMarked;
 }
 
 void PseudoTerminal::close()

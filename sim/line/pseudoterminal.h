@@ -23,10 +23,6 @@ public:
     void close();
     bool isOpen() const { return m_master >= 0; }
 
-    /// Whether a virtual bus, of this process or another, has this port open now. A port that is gone, or has become
-    /// somebody's terminal meanwhile, is not served.
-    static bool isServed(const std::string &name);
-
     /// Path of the port to open, kept after close.
     const std::string &name() const { return m_name; }
     /// For poll().
