@@ -4,6 +4,12 @@
 
 logs=build/logs
 
+# A bare system has the locale "C", on which Qt from 6.5 on remarks at every start of a program.
+case ${LC_ALL:-${LC_CTYPE:-${LANG:-}}} in
+*[Uu][Tt][Ff]*) ;;
+*) export LC_ALL=C.UTF-8 ;;
+esac
+
 # step TEXT LOG COMMAND...: runs the command with its output in build/logs/LOG. Ends the script when it fails.
 step() {
     local text=$1 log=$logs/$2
