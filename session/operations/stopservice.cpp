@@ -204,14 +204,10 @@ void StopService::stopWhatWasLeft()
         port = m_data.targetPort;
     }
     // A disable that waits comes first, and does this, too.
-    if (!m_streamWasLost || m_queue.contains(SessionTasks::TaskApplyEnableState))
+    if (!m_streamWasLost || m_queue.contains(SessionTasks::TaskApplyEnableState) ||
+        !m_line.open(port, m_data.replyTimeoutMs))
         return;
-    if (m_line.open(port, m_data.replyTimeoutMs))
-        m_streamWasLost = !m_drive.sendStop(reg::SystemCommand, reg::CommandStopStream);
-    if (m_streamWasLost)
-        m_errors.tell(MessageKind::UnconfirmedStop,
-                      SessionText::tr("The stop of the test stimulus was not confirmed: the axis may go on moving for up "
-                                      "to five seconds. Esc disables the drive; the sure way is the machine's own stop."));
+    m_streamWasLost = !m_drive.sendStop(reg::SystemCommand, reg::CommandStopStream);
     m_line.close();
     m_line.clearStatus();
 }
