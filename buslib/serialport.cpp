@@ -20,7 +20,7 @@ namespace {
 struct BaudRate
 {
     int rate;
-    tcflag_t speed;
+    speed_t speed; // B460800 is a flag pattern in older C libraries and the plain number in newer ones
 };
 
 constexpr BaudRate baudRates[] = {
@@ -29,7 +29,6 @@ constexpr BaudRate baudRates[] = {
     {9600, B9600},     {19200, B19200},   {38400, B38400},   {57600, B57600},   {115200, B115200},   {230400, B230400},
     {460800, B460800}, {500000, B500000}, {576000, B576000}, {921600, B921600}, {1000000, B1000000},
 };
-static_assert(B460800 != 460800, "the speed is carried in c_cflag: B460800 has to be a flag pattern, not a number");
 
 // A read that a signal interrupts is no time-out and is tried again, but not for ever.
 constexpr int interruptedReads = 8;
@@ -52,14 +51,14 @@ int failWith(const char *message, int port, int error)
     return -1;
 }
 
-bool applySettings(int port, tcflag_t speed)
+bool applySettings(int port, speed_t speed)
 {
     termios settings = {};
     settings.c_iflag = IGNPAR;
-    settings.c_cflag = speed | CS8 | CREAD | CLOCAL;
+    settings.c_cflag = CS8 | CREAD | CLOCAL;
     settings.c_cc[VTIME] = static_cast<cc_t>(readTimeoutMs / 100);
     settings.c_cc[VMIN] = 0;
-    return tcsetattr(port, TCSANOW, &settings) == 0;
+    return cfsetspeed(&settings, speed) == 0 && tcsetattr(port, TCSANOW, &settings) == 0;
 }
 
 bool isPseudoTerminal(int port)

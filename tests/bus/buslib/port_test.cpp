@@ -35,7 +35,10 @@ TEST_F(Port, IsRawAt460800BaudWithItsTimeoutInTenths)
         EXPECT_EQ(settings.c_iflag, static_cast<tcflag_t>(IGNPAR));
         EXPECT_EQ(settings.c_oflag, 0u);
         EXPECT_EQ(settings.c_lflag, 0u);
-        EXPECT_EQ(settings.c_cflag, static_cast<tcflag_t>(B460800 | CS8 | CREAD | CLOCAL));
+        constexpr tcflag_t framing = CSIZE | CSTOPB | CREAD | PARENB | PARODD | HUPCL | CLOCAL | CRTSCTS;
+        EXPECT_EQ(settings.c_cflag & framing, static_cast<tcflag_t>(CS8 | CREAD | CLOCAL));
+        EXPECT_EQ(cfgetospeed(&settings), static_cast<speed_t>(B460800));
+        EXPECT_EQ(cfgetispeed(&settings), static_cast<speed_t>(B460800));
         EXPECT_EQ(zbCloseBus(bus), ZB_ERR_NODEVICE);
         EXPECT_EQ(zbIsHandleOpen(bus), 0);
     }
