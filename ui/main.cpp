@@ -1,5 +1,6 @@
 // The program: command line, the built-in virtual drives, the window, and a clean end.
 #include "datafolder.h"
+#include "enginestart.h"
 #include "mw.h"
 #include "programoptions.h"
 #include "quitsignals.h"
@@ -45,7 +46,7 @@ int main(int argc, char **argv)
 {
     if (wantsTextOnly(argc, argv))
         qputenv("QT_QPA_PLATFORM", "offscreen");
-    HelpView::prepareEngine();
+    prepareEngine();
     QGuiApplication::setDesktopFileName(QStringLiteral("velbrin")); // where Wayland finds name and icon
     QApplication application(argc, argv);
     const ProgramOptions options = parseProgramOptions(QApplication::arguments());
