@@ -5,6 +5,7 @@
 #include "programoptions.h"
 #include "quitsignals.h"
 #include "tour.h"
+#include "utf8locale.h"
 #include "virtualport.h"
 
 #include <QApplication>
@@ -44,6 +45,7 @@ int failed(const QString &text, int exitCode)
 
 int main(int argc, char **argv)
 {
+    useUtf8();
     if (wantsTextOnly(argc, argv))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     prepareEngine();

@@ -102,6 +102,9 @@ void HelpView::processEnded(const QString &how)
 {
     m_loading = false;
     m_engine->plotStands = false;
+    // A picture that still waits to hear what is seen on the screen would wait in vain.
+    if (isSaving() && !m_engine->picture->hasBegun())
+        m_engine->picture->giveUp(tr("the browser engine has ended unexpectedly"));
     showNote(
         tr("<h3>The view has stopped</h3>The browser engine behind help and plots has ended unexpectedly (%1). The "
            "connection to the drive is not affected.<p><a href=\"restart:\">Start it again</a></p>")

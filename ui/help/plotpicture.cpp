@@ -12,14 +12,22 @@ constexpr int stepMs = 40;
 }
 
 PlotPicture::PlotPicture(QWebEngineProfile *profile, const QUrl &url, const QString &file, int width)
-    : m_file(file), m_page(profile, nullptr)
+    : m_file(file), m_width(width), m_page(profile, nullptr)
 {
     m_view.setAttribute(Qt::WA_DontShowOnScreen);
     m_view.setPage(&m_page);
     const double ratio = m_view.devicePixelRatioF();
     m_page.setZoomFactor(1.0 / ratio);
-    m_view.resize(qRound(width / ratio), qRound(width / ratio));
+    // Some pixels too wide, and later too high, where the scale of the screen does not divide the size; write() cuts them
+    // off.
+    m_view.resize(qCeil(width / ratio), qCeil(width / ratio));
     m_view.show();
+    connect(&m_page, &QWebEnginePage::renderProcessTerminated, this,
+            [this] { end(tr("the browser engine has ended unexpectedly")); });
+    connect(&m_page, &QWebEnginePage::loadFinished, this, [this](bool ok) {
+        if (!ok)
+            end(tr("the plot could not be loaded"));
+    });
     m_page.load(url);
     m_timer.setInterval(stepMs);
     connect(&m_timer, &QTimer::timeout, this, &PlotPicture::look);
@@ -58,7 +66,7 @@ void PlotPicture::take(const QVariant &answer)
         m_painted = answer.toBool();
     } else if (answer.toInt() > 0) {
         m_height = answer.toInt();
-        m_view.resize(m_view.width(), qCeil(m_height / m_view.devicePixelRatioF()));
+        m_view.resize(m_view.width(), qCeil(m_height / m_view.devicePixelRatioF()) + 1);
     }
 }
 
@@ -85,6 +93,7 @@ bool PlotPicture::isBlank(const QImage &image)
 void PlotPicture::write(QImage image)
 {
     image.setDevicePixelRatio(1.0);
+    image = image.copy(0, 0, m_width, m_height);
     QByteArray bytes;
     QBuffer buffer(&bytes);
     image.save(&buffer, "PNG");
@@ -97,6 +106,9 @@ void PlotPicture::write(QImage image)
 
 void PlotPicture::end(const QString &failure)
 {
+    if (m_hasEnded)
+        return;
+    m_hasEnded = true;
     m_timer.stop();
     const QString text =
         tr("Error writing graphs to file %1<br>%2").arg(m_file.toHtmlEscaped(), failure.toHtmlEscaped());

@@ -22,10 +22,13 @@ public:
 
     /// `state`: zoom, cursors and units on the screen, as the page's script tells them. Nothing is drawn before.
     void begin(const QString &state);
+    bool hasBegun() const { return !m_state.isEmpty(); }
+    /// Ends it without a file, for the reason given. Nothing happens when it has ended already.
+    void giveUp(const QString &reason) { end(reason); }
 
 signals:
-    /// Once: the file is written, or not, after 20 s at the latest; then with the reason. Nobody may end the picture within
-    /// this call.
+    /// Once: the file is written, or not, after 20 s at the latest and at once when the engine's process dies; then with
+    /// the reason. Nobody may delete the picture within this call.
     void ended(const QString &failure);
 
 private:
@@ -37,6 +40,7 @@ private:
     void end(const QString &failure);
 
     QString m_file;
+    int m_width;
     HelpPage m_page;
     QWebEngineView m_view; // goes before its page
     QTimer m_timer;
@@ -44,6 +48,7 @@ private:
     QString m_state;
     int m_height = 0; ///< of the whole page, once it is drawn
     bool m_painted = false;
+    bool m_hasEnded = false;
     bool m_asking = false; ///< the page has not answered yet
     QImage m_last;
 };
