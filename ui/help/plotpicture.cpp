@@ -5,11 +5,21 @@
 #include <QBuffer>
 #include <QPointer>
 #include <QtMath>
+#include <cmath>
 
 namespace {
 constexpr int timeLimitMs = 20000;
 constexpr int stepMs = 40;
+
+/// The view's size for so many pixels of the picture. Where the scale of the screen does not divide them, the last pixels
+/// of the view are only partly covered and hold anything: then it is larger, and compare() cuts that off.
+int logicalSize(int pixels, double scale)
+{
+    const double exact = pixels / scale;
+    return exact == std::floor(exact) ? int(exact) : qCeil(exact) + 1;
 }
+
+} // namespace
 
 PlotPicture::PlotPicture(QWebEngineProfile *profile, const QUrl &url, const QString &file, int width)
     : m_file(file), m_width(width), m_page(profile, nullptr)
@@ -18,9 +28,7 @@ PlotPicture::PlotPicture(QWebEngineProfile *profile, const QUrl &url, const QStr
     m_view.setPage(&m_page);
     const double ratio = m_view.devicePixelRatioF();
     m_page.setZoomFactor(1.0 / ratio);
-    // Some pixels too wide, and later too high, where the scale of the screen does not divide the size; write() cuts them
-    // off.
-    m_view.resize(qCeil(width / ratio), qCeil(width / ratio));
+    m_view.resize(logicalSize(width, ratio), logicalSize(width, ratio));
     m_view.show();
     connect(&m_page, &QWebEnginePage::renderProcessTerminated, this,
             [this] { end(tr("the browser engine has ended unexpectedly")); });
@@ -66,13 +74,13 @@ void PlotPicture::take(const QVariant &answer)
         m_painted = answer.toBool();
     } else if (answer.toInt() > 0) {
         m_height = answer.toInt();
-        m_view.resize(m_view.width(), qCeil(m_height / m_view.devicePixelRatioF()) + 1);
+        m_view.resize(m_view.width(), logicalSize(m_height, m_view.devicePixelRatioF()));
     }
 }
 
 void PlotPicture::compare()
 {
-    const QImage now = m_view.grab().toImage();
+    const QImage now = m_view.grab().toImage().copy(0, 0, m_width, m_height);
     if (now == m_last && !isBlank(now))
         write(now);
     m_last = now;
@@ -93,7 +101,6 @@ bool PlotPicture::isBlank(const QImage &image)
 void PlotPicture::write(QImage image)
 {
     image.setDevicePixelRatio(1.0);
-    image = image.copy(0, 0, m_width, m_height);
     QByteArray bytes;
     QBuffer buffer(&bytes);
     image.save(&buffer, "PNG");
