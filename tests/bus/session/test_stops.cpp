@@ -223,6 +223,46 @@ TEST_F(Stops, ADisableDoesNotWaitForAConnectionThatDoesNotComeAbout)
     EXPECT_FALSE(isEnabled());
 }
 
+TEST_F(Stops, ADriveThatCouldNotBeConnectedToCanBeDisabledAllTheSame)
+{
+    setEnabled(true);
+    setFault(Fault::Deaf);
+    EXPECT_FALSE(connectTo(4)); // a slip of the finger
+    EXPECT_FALSE(connectTo());
+    bus().clearFaults();
+    disable();
+    ASSERT_TRUE(waitForOutcome());
+    EXPECT_EQ(log().outcomes.last(), DisableOutcome::Disabled);
+    EXPECT_FALSE(isEnabled());
+    // From here on a drive is known that may move: it stays the one to be stopped.
+    begin(true);
+    session().connectDevice(port(), 4);
+    ASSERT_TRUE(waitForDisconnect());
+    disable();
+    ASSERT_TRUE(waitForOutcome());
+    EXPECT_EQ(log().outcomes.last(), DisableOutcome::Disabled);
+}
+
+TEST_F(Stops, ADisableDoesNotWaitForTheEndOfASearch)
+{
+    begin(true);
+    session().command(Connection::TaskDisconnect);
+    ASSERT_TRUE(waitUntilIdle());
+    bus().clearReceived();
+    session().getListOfBusNodes(port());
+    ASSERT_TRUE(waitForRequests(1));
+    disable();
+    const std::size_t asked = bus().received().size();
+    ASSERT_TRUE(waitForOutcome());
+    EXPECT_EQ(log().outcomes.last(), DisableOutcome::Disabled);
+    const std::vector<std::string> sent = payloads();
+    const auto served = std::find(sent.begin(), sent.end(), bothDisables);
+    EXPECT_LE(served - sent.begin(), asked + 1) << "of 25 addresses";
+    ASSERT_TRUE(waitUntil([this] { return !log().nodes.isEmpty(); })) << "the search goes on";
+    ASSERT_THAT(log().nodes.last(), SizeIs(1));
+    EXPECT_EQ(log().nodes.last().first().address, 5);
+}
+
 TEST_F(Stops, AStreamDoesNotOutliveItsConnectionWhateverHappensToOneReply)
 {
     const struct
