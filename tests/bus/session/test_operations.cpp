@@ -26,7 +26,7 @@ protected:
         data.wanted.parameters = data.drive = driveParameterCatalogue();
         data.connected = true;
         data.deviceType = 11000;
-        ASSERT_TRUE(with.line.open(port(), 100));
+        ASSERT_TRUE(with.line.open(port(), shortTimeoutMs));
         with.line.setNodeAddress(DriveAddress);
         with.drive.setAsksAgain(true);
     }
@@ -73,8 +73,7 @@ TEST_F(Operations, NothingIsForcedBehindAnEnableThatFailedOrPastADisable)
          },
          0},
         {refused, [this] { bus().withDrive(5, [](sim::VirtualDrive &drive) { drive.refuseWrites(2533, 1); }); }, 0},
-        {"disable waits",
-         [this] { askToDisable(); }, 0},
+        {"disable waits", [this] { askToDisable(); }, 0},
         {"disable served before the enable's outcome is known",
          [this] {
              setFault({Fault::Missing, 0, 1, 1}); // the question for error bits, behind which there is a pause
@@ -230,7 +229,8 @@ TEST_F(Operations, AStreamIsSetUpOnceInAConnection)
     with.errors.finishTask();
     ASSERT_EQ(messages.count(), 1) << "the only one about a stop that is tried again and may fail again";
     const QString told = messages.at(0).at(0).value<Message>().text;
-    EXPECT_TRUE(told.startsWith("<b>The drive may still be powered.</b>") && told.contains("The test stimulus was running"))
+    EXPECT_TRUE(told.startsWith("<b>The drive may still be powered.</b>") &&
+                told.contains("The test stimulus was running"))
         << qPrintable(told);
     stream.reset();
     EXPECT_EQ(stream.state(), Stream::Fresh);
