@@ -182,16 +182,6 @@ TEST_F(Worker, ADisableIsSentUntilItIsAcknowledgedAtMostThreeTimes)
     }
 }
 
-TEST_F(Worker, AnEnableThatIsLostIsNotRepeated)
-{
-    session().setReplyTimeout(shortTimeoutMs);
-    ASSERT_TRUE(connectTo());
-    setFault(sim::LineFault::Deaf);
-    enable();
-    ASSERT_TRUE(waitForDisconnect());
-    EXPECT_EQ(received(enableWrite), 1);
-}
-
 TEST_F(Worker, ADisableIsSentAlsoWhereTheLineCountsAsDead)
 {
     session().setReplyTimeout(500);
