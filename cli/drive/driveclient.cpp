@@ -151,8 +151,8 @@ int DriveClient::deviceType() const
 
 std::optional<Parameters> DriveClient::readBack(const QString &what)
 {
-    // A read that broke off still hands over its list, and the error comes after it. A poll that follows the list
-    // proves that the connection has survived.
+    // The end of a connection is told behind the list of its last read: a poll that follows the list proves that the
+    // connection has survived.
     m_received.list.reset();
     m_connection->getParams();
     m_connection->command(Connection::TaskUpdateStatus);

@@ -48,11 +48,14 @@ Table settingsTable(const Parameters &list, const QStringList &names)
     return table;
 }
 
+QString nodeName(const NodeType &node)
+{
+    return node.unreadable ? tr("answers that cannot be read") : Connection::deviceModelName(node.deviceType, false);
+}
+
 QString nodeLine(const NodeType &node)
 {
-    const QString who =
-        node.unreadable ? tr("answers that cannot be read") : Connection::deviceModelName(node.deviceType, false);
-    return QStringLiteral("%1\t%2").arg(QString::number(node.address), who);
+    return QStringLiteral("%1\t%2").arg(QString::number(node.address), nodeName(node));
 }
 
 std::optional<int> nodeOf(DriveClient &client, const CommandLine &line, Use use, QStringList &messages)

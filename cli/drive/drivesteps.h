@@ -16,6 +16,8 @@ struct CommandLine;
 QString modelName(const DriveClient &client);
 /// "normal" or "upgrade".
 QString modeName(bool upgradeMode);
+/// Model of a drive that a search has found, or that its answers cannot be read.
+QString nodeName(const NodeType &node);
 /// Address and model of a drive that a search has found, tab separated.
 QString nodeLine(const NodeType &node);
 /// name, value, minimum, maximum of the named settings in their order; of all, in catalogue order, without names.
@@ -23,7 +25,7 @@ Table settingsTable(const Parameters &list, const QStringList &names);
 
 /// What a command connects for.
 enum class Use {
-    Look, ///< reads, or stops
+    Look, ///< reads
     Act,  ///< writes or moves: on a real bus the drive has to be named
 };
 

@@ -26,7 +26,7 @@ protected:
         data.wanted.parameters = data.drive = driveParameterCatalogue();
         data.connected = true;
         data.deviceType = 11000;
-        ASSERT_TRUE(with.line.open(port(), 100));
+        ASSERT_TRUE(with.line.open(port(), shortTimeoutMs));
         with.line.setNodeAddress(DriveAddress);
         with.drive.setAsksAgain(true);
     }
@@ -38,6 +38,12 @@ protected:
         }));
     }
     void setFault(Fault fault) { bus().setFault(fault); }
+    void askToDisable()
+    {
+        QueuedTask disable;
+        disable.task = SessionTasks::TaskApplyEnableState;
+        queue.push(disable);
+    }
 
     SessionData data;
     TaskQueue queue;
@@ -67,11 +73,11 @@ TEST_F(Operations, NothingIsForcedBehindAnEnableThatFailedOrPastADisable)
          },
          0},
         {refused, [this] { bus().withDrive(5, [](sim::VirtualDrive &drive) { drive.refuseWrites(2533, 1); }); }, 0},
-        {"disable waits",
+        {"disable waits", [this] { askToDisable(); }, 0},
+        {"disable served before the enable's outcome is known",
          [this] {
-             QueuedTask disable;
-             disable.task = SessionTasks::TaskApplyEnableState;
-             queue.push(disable);
+             setFault({Fault::Missing, 0, 1, 1}); // the question for error bits, behind which there is a pause
+             askToDisable();
          },
          0},
     };
@@ -88,6 +94,30 @@ TEST_F(Operations, NothingIsForcedBehindAnEnableThatFailedOrPastADisable)
         with.line.startTask();
         bus().withDrive(5, [](sim::VirtualDrive &drive) { drive.write(2533, 0); });
     }
+}
+
+TEST_F(Operations, AnEnableThatWasUndoneLeavesNoRefusalForTheNextOne)
+{
+    QSignalSpy messages(&out, &SessionEvents::message);
+    setFault({Fault::Missing, 0, 0, 1});
+    commands.applyEnableState({true, false}); // taken back also by 2534 := 0, which a drive that was not forced refuses
+    commands.applyEnableState({true, false});
+    ASSERT_EQ(messages.count(), 1);
+    EXPECT_EQ(messages.at(0).at(0).value<Message>().kind, MessageKind::Undone);
+    EXPECT_EQ(bus().read(5, 2533), 1);
+}
+
+TEST_F(Operations, ADisableInsideTheUndoingOfAnEnableLeavesThatAStop)
+{
+    QSignalSpy messages(&out, &SessionEvents::message);
+    // The enable, what is read after both disables, and the disable that is served before that is read again: three
+    // failures in a row, after which only a stop is still sent.
+    bus().setFaults({{Fault::Missing, 0, 0, 1}, {Fault::Missing, 0, 1, 1}, {Fault::Missing, 0, 0, 1}});
+    askToDisable();
+    commands.applyEnableState({true, false});
+    ASSERT_EQ(messages.count(), 1);
+    EXPECT_EQ(messages.at(0).at(0).value<Message>().kind, MessageKind::Undone) << "it was seen to be disabled";
+    EXPECT_EQ(received(disables), 3) << "with 2534 := 0, then the one that was asked for, twice";
 }
 
 TEST_F(Operations, APollWithoutAGoodReplyCountsForNothing)
@@ -195,6 +225,13 @@ TEST_F(Operations, AStreamIsSetUpOnceInAConnection)
     setFault({Fault::Deaf});
     EXPECT_FALSE(stream.stop());
     EXPECT_EQ(stream.state(), Stream::Running) << "as far as anybody knows";
+    QSignalSpy messages(&out, &SessionEvents::message);
+    with.errors.finishTask();
+    ASSERT_EQ(messages.count(), 1) << "the only one about a stop that is tried again and may fail again";
+    const QString told = messages.at(0).at(0).value<Message>().text;
+    EXPECT_TRUE(told.startsWith("<b>The drive may still be powered.</b>") &&
+                told.contains("The test stimulus was running"))
+        << qPrintable(told);
     stream.reset();
     EXPECT_EQ(stream.state(), Stream::Fresh);
     EXPECT_FALSE(data.stimulusIsActive());
