@@ -53,29 +53,32 @@ bool PaneKeys::isHelpShown() const
 void PaneKeys::showHelp(bool shown)
 {
     m_wish = shown ? Wish::Shown : Wish::Hidden;
-    if (isHelpShown() == shown)
+    fold(!shown);
+}
+
+void PaneKeys::fold(bool away)
+{
+    if (isHelpShown() != away)
         return;
-    if (!shown && m_help->isAncestorOf(QApplication::focusWidget()))
+    if (away && m_help->isAncestorOf(QApplication::focusWidget()))
         walk(1);
-    m_help->setVisible(shown);
+    m_help->setVisible(!away);
     share();
-    emit helpShown(shown);
+    emit helpShown(!away);
 }
 
 void PaneKeys::plotCame()
 {
-    if (m_wish == Wish::Hidden)
-        return;
-    const bool asked = m_wish == Wish::Shown;
-    showHelp(true);
-    if (!asked)
-        m_wish = Wish::Plot;
+    m_plotPage = m_stack->currentIndex();
+    pageCame();
 }
 
 void PaneKeys::pageCame()
 {
+    if (m_wish == Wish::None || m_wish == Wish::Plot)
+        m_wish = m_stack->currentIndex() == m_plotPage ? Wish::Plot : Wish::None;
     if (m_wish == Wish::Plot)
-        m_wish = Wish::None;
+        fold(false);
     makeRoom();
     share();
 }
@@ -128,11 +131,8 @@ bool PaneKeys::eventFilter(QObject *watched, QEvent *event)
 void PaneKeys::makeRoom()
 {
     const bool fits = m_splitter->width() >= neededByWidestPage() + m_splitter->handleWidth() + usefulHelpWidth;
-    if (m_wish != Wish::None || fits == isHelpShown())
-        return;
-    m_help->setVisible(fits);
-    share();
-    emit helpShown(fits);
+    if (m_wish == Wish::None)
+        fold(!fits);
 }
 
 // The help has its useful width, less only where the page would have to be scrolled sideways.
@@ -173,7 +173,10 @@ void PaneKeys::spreadPages()
     const QSize wanted = m_pages->item(0)->sizeHint();
     const int least = m_pages->iconSize().height() + m_pages->fontMetrics().height() + 6;
     const int each = m_pages->viewport()->height() / m_pages->count() - 1;
-    const QSize grid(m_pages->viewport()->width(), std::clamp(each, least, std::max(least, wanted.height())));
+    const bool scrolls = least * m_pages->count() > m_pages->viewport()->height();
+    const int bar = scrolls ? m_pages->verticalScrollBar()->sizeHint().width() : 0;
+    m_pages->setFixedWidth(wanted.width() + 2 * m_pages->frameWidth() + 2 + bar); // the icons stand in its middle
+    const QSize grid(wanted.width(), std::clamp(each, least, std::max(least, wanted.height())));
     if (m_pages->gridSize() != grid)
         m_pages->setGridSize(grid);
 }

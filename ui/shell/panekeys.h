@@ -23,7 +23,7 @@ public:
 
     bool isHelpShown() const;
     void showHelp(bool shown);
-    /// Something is to be seen there, unless the user has folded it away; until another page is shown.
+    /// Something is to be seen there, unless the user has folded it away: on this page, not beside others.
     void plotCame();
 
 signals:
@@ -35,6 +35,7 @@ protected:
 
 private:
     void walk(int step);
+    void fold(bool away);
     void makeRoom();
     void pageCame();
     void share();
@@ -51,6 +52,7 @@ private:
     QWidget *m_help;
     QVector<QPointer<QWidget>> m_panes;
     QHash<QWidget *, QPointer<QWidget>> m_last; ///< control of each pane that had the keyboard
+    int m_plotPage = -1; ///< the page beside which there is something to be seen
     enum class Wish { None, Shown, Plot, Hidden } m_wish = Wish::None; ///< what was asked for goes before what fits
 };
 

@@ -26,7 +26,10 @@ QString changesText(const ValueHomes &homes)
         return ValueMarks::tr("Edited (1 change)");
     if (homes.changes > 1)
         return ValueMarks::tr("Edited (%1 changes)").arg(homes.changes);
-    return homes.isPending ? ValueMarks::tr("File loaded, not applied") : ValueMarks::tr("Nothing edited");
+    if (!homes.isPending)
+        return ValueMarks::tr("Nothing edited");
+    // Without a drive there is nothing to count against.
+    return homes.file.isEmpty() ? ValueMarks::tr("Edited, not applied") : ValueMarks::tr("File loaded, not applied");
 }
 
 QString flashText(const ValueHomes &homes)
