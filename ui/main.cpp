@@ -1,5 +1,6 @@
 // The program: command line, the built-in virtual drives, the window, and a clean end.
 #include "datafolder.h"
+#include "disabledink.h"
 #include "enginestart.h"
 #include "mw.h"
 #include "programoptions.h"
@@ -79,6 +80,7 @@ int main(int argc, char **argv)
         tour.start(); // before the window, whose disclaimer is its first stop
     MW mainWindow(window);
     setStyle();
+    new DisabledInk(&application);
     mainWindow.show();
     const int status = QApplication::exec();
     return tour.failed() ? EXIT_FAILURE : status;

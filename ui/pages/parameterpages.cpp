@@ -238,7 +238,6 @@ void ParameterPages::connectUnitLabels()
     for (const QSpinBox *box : {goals.MUL, goals.DIV, m_forms.machine.FBR})
         connect(box, &QSpinBox::valueChanged, this, &ParameterPages::unitsChanged);
     connect(goals.AXS, &QDoubleSpinBox::valueChanged, this, &ParameterPages::unitsChanged);
-    connect(goals.AXT, &QComboBox::currentIndexChanged, this, &ParameterPages::unitsChanged);
 }
 
 void ParameterPages::updateUnitLabels()

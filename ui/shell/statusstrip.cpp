@@ -1,5 +1,6 @@
 #include "statusstrip.h"
 
+#include "elided.h"
 #include "stateshape.h"
 
 #include <QAccessible>
@@ -38,16 +39,17 @@ StatusStrip::StatusStrip(QWidget *parent) : QWidget(parent)
     lines->setContentsMargins(6, 2, 6, 2);
     lines->setSpacing(2);
     auto *row = new QHBoxLayout;
+    row->setSpacing(6);
     lines->addLayout(row);
     m_secondLine = new QHBoxLayout;
     lines->addLayout(m_secondLine);
     m_shape = new StateShape(this);
-    m_word = addLabel(row, "stripWord");
+    m_word = addLabel(row, new QLabel(this), "stripWord");
     m_word->setFont(larger(font()));
     m_shape->setFont(m_word->font());
     row->insertWidget(0, m_shape);
     row->addSpacing(6);
-    m_detail = addLabel(row, "stripDetail");
+    m_detail = addLabel(row, new ElidedLabel(this), "stripDetail");
     m_faultHelp = new QToolButton(this);
     m_faultHelp->setObjectName(QStringLiteral("stripFaultHelp"));
     m_faultHelp->setText(QStringLiteral("?"));
@@ -56,9 +58,9 @@ StatusStrip::StatusStrip(QWidget *parent) : QWidget(parent)
     m_faultHelp->hide();
     row->addWidget(m_faultHelp);
     row->addStretch(1);
-    m_identity = addLabel(row, "stripIdentity");
+    m_identity = addLabel(row, new ElidedLabel(this), "stripIdentity");
     row->addSpacing(12);
-    m_figures = addLabel(row, "stripFigures");
+    m_figures = addLabel(row, new QLabel(this), "stripFigures");
     row->addSpacing(8);
     m_enable = addButton(row, "stripEnable", tr("Enable"), tr("Gives the software enable, as on the Connect page."));
     m_disable = addButton(row, "stripDisable", tr("Disable [Esc]"), tr("Takes the power off the motor."));
@@ -75,9 +77,8 @@ StatusStrip::StatusStrip(QWidget *parent) : QWidget(parent)
     refresh();
 }
 
-QLabel *StatusStrip::addLabel(QHBoxLayout *row, const char *name)
+QLabel *StatusStrip::addLabel(QHBoxLayout *row, QLabel *label, const char *name)
 {
-    auto *label = new QLabel(this);
     label->setObjectName(QLatin1String(name));
     label->setTextFormat(Qt::PlainText);
     label->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);

@@ -55,7 +55,7 @@ protected:
     void changeEvent(QEvent *event) override;
 
 private:
-    QLabel *addLabel(QHBoxLayout *row, const char *name);
+    QLabel *addLabel(QHBoxLayout *row, QLabel *label, const char *name);
     QPushButton *addButton(QHBoxLayout *row, const char *name, const QString &text, const QString &toolTip);
     void lookAtAge();
     void refresh();

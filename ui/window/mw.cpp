@@ -113,6 +113,7 @@ void MW::buildForms()
     m_connectionStatusLabel->setObjectName(QStringLiteral("connectionStatus"));
     m_connectionStatusLabel->setMargin(2);
     statusBar()->addPermanentWidget(m_connectionStatusLabel);
+    connect(statusBar(), &QStatusBar::messageChanged, statusBar(), &QWidget::setToolTip); // where it is cut off
     statusBar()->showMessage(tr("Program started"));
 }
 

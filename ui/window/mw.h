@@ -161,6 +161,7 @@ private:
     void buildBoard();
     void connectBoard();
     void nameControls();
+    void orderKeyboard();
     void goToSetting(const QString &name);
     void showFaultHelp(int faultBit);
     void showHelpFile(const QString &file, const QString &anchor);

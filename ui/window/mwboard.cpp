@@ -61,8 +61,28 @@ void MW::nameControls()
     statusBar()->setAccessibleName(tr("Messages"));
 }
 
+/// The Testing page's panels are built behind its form, but stand between its groups.
+void MW::orderKeyboard()
+{
+    const auto &testing = formAmong<Ui_TestingPage>(*m_form->pages);
+    const auto follow = [this](QWidget *last, const char *group) {
+        const auto inside = findChild<QWidget *>(QLatin1String(group))->findChildren<QWidget *>();
+        for (QWidget *control : inside) {
+            if (!(control->focusPolicy() & Qt::TabFocus) || control->focusProxy())
+                continue;
+            setTabOrder(last, control);
+            last = control;
+        }
+    };
+    follow(testing.setZero, "gainsGroup");
+    auto *callOff = findChild<QWidget *>(QStringLiteral("callOffCapture"));
+    setTabOrder(testing.repeatCapture, callOff);
+    follow(callOff, "triesGroup");
+}
+
 void MW::connectBoard()
 {
+    orderKeyboard();
     m_paneKeys = new PaneKeys(this, m_form->pageSelector, m_form->splitter, m_form->helpPane,
                               {m_form->pageSelector, m_form->pages, m_form->helpPane, m_board->strip()});
     auto *help = new QToolButton;
