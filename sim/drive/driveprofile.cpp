@@ -8,17 +8,17 @@ namespace sim {
 
 namespace {
 
-constexpr Winding LowVoltage{0.10, 150, 500, 4800};
-constexpr Winding HighVoltage{0.40, 2400, 8000, 32000};
+constexpr Winding lowVoltage{0.10, 150, 500, 4800};
+constexpr Winding highVoltage{0.40, 2400, 8000, 32000};
 
-constexpr int TorvaRate = 17500;
-constexpr int KetaRate = 20000;
-static_assert(TorvaRate % CycleRate == 0 && KetaRate % CycleRate == 0, "whole base periods in a control cycle");
+constexpr int torvaRate = 17500;
+constexpr int ketaRate = 20000;
+static_assert(torvaRate % cycleRate == 0 && ketaRate % cycleRate == 0, "whole base periods in a control cycle");
 
-constexpr std::int32_t ProtocolVersionNow = 25;
-constexpr std::int32_t Serial = 240117;
-constexpr std::int32_t Revision = 0x1A4C7E2;
-constexpr std::int32_t Unique = 0x1C35A90B;
+constexpr std::int32_t protocolVersionNow = 25;
+constexpr std::int32_t serial = 240117;
+constexpr std::int32_t revision = 0x1A4C7E2;
+constexpr std::int32_t unique = 0x1C35A90B;
 
 /// Settings of every model: register, value at the factory, minimum, maximum.
 const RegisterInfo CommonSettings[] = {
@@ -73,9 +73,9 @@ const RegisterInfo CommonSettings[] = {
     {8120, 0, 0, 32767},                         // overrideAddr1
     {8121, 0, 0, 32767},                         // overrideAddr2
     {8122, 0, 0, 32767},                         // overrideAddr3
-    {8125, 0, RegisterMinimum, RegisterMaximum}, // overrideVal1
-    {8126, 0, RegisterMinimum, RegisterMaximum}, // overrideVal2
-    {8127, 0, RegisterMinimum, RegisterMaximum}, // overrideVal3
+    {8125, 0, registerMinimum, registerMaximum}, // overrideVal1
+    {8126, 0, registerMinimum, registerMaximum}, // overrideVal2
+    {8127, 0, registerMinimum, registerMaximum}, // overrideVal3
     {911, 0, 0, 10000},                          // BED
     {910, 0, 0, 10000},                          // BER
     {912, 0, 0, 10000},                          // BDD
@@ -136,20 +136,20 @@ template <std::size_t Count> void replace(std::vector<RegisterInfo> &list, const
 void appendIdentity(std::vector<RegisterInfo> &list, const DriveProfile &profile)
 {
     const auto fixed = [&](int address, std::int32_t value) {
-        list.push_back({address, value, 0, RegisterMaximum, RegisterInfo::Fixed});
+        list.push_back({address, value, 0, registerMaximum, RegisterInfo::Fixed});
     };
-    fixed(reg::ProtocolVersion, ProtocolVersionNow);
-    fixed(reg::ProtocolCompanion, ProtocolVersionNow);
-    fixed(reg::SerialNumber, Serial);
+    fixed(reg::ProtocolVersion, protocolVersionNow);
+    fixed(reg::ProtocolCompanion, protocolVersionNow);
+    fixed(reg::SerialNumber, serial);
     fixed(reg::Firmware, profile.firmware);
     fixed(reg::FirmwareCompanion, profile.firmware);
     fixed(reg::CoreFirmware, profile.firmware);
     fixed(reg::CoreCompanion, profile.firmware);
     fixed(reg::DeviceType, profile.deviceType);
-    list.push_back({reg::ControlRate, CycleRate, CycleRate, CycleRate, RegisterInfo::Fixed});
+    list.push_back({reg::ControlRate, cycleRate, cycleRate, cycleRate, RegisterInfo::Fixed});
     if (profile.deviceType / 1000 == Keta) {
-        fixed(reg::UniqueId, Unique);
-        fixed(reg::BuildRevision, Revision);
+        fixed(reg::UniqueId, unique);
+        fixed(reg::BuildRevision, revision);
     }
 }
 
@@ -158,10 +158,10 @@ void appendIdentity(std::vector<RegisterInfo> &list, const DriveProfile &profile
 const std::vector<DriveProfile> &driveProfiles()
 {
     static const std::vector<DriveProfile> profiles = {
-        {"keta", "Keta, 48 V, one processor", KetaType, 1078, false, KetaRate, LowVoltage},
-        {"keta-pro", "Keta Pro, 48 V, with torque ripple compensation", KetaProType, 1078, false, KetaRate, LowVoltage},
-        {"keta-hc", "Keta for high currents, up to 50 A", KetaHighCurrentType, 1078, false, KetaRate, LowVoltage},
-        {"torva", "Torva, 320 V, two processors", TorvaType, 1090, true, TorvaRate, HighVoltage},
+        {"keta", "Keta, 48 V, one processor", KetaType, 1078, false, ketaRate, lowVoltage},
+        {"keta-pro", "Keta Pro, 48 V, with torque ripple compensation", KetaProType, 1078, false, ketaRate, lowVoltage},
+        {"keta-hc", "Keta for high currents, up to 50 A", KetaHighCurrentType, 1078, false, ketaRate, lowVoltage},
+        {"torva", "Torva, 320 V, two processors", TorvaType, 1090, true, torvaRate, highVoltage},
     };
     return profiles;
 }

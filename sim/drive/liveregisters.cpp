@@ -8,7 +8,7 @@ namespace {
 
 using Drive = VirtualDrive;
 
-constexpr std::int32_t EncoderMillivolts = 2500; ///< both analog encoder lines rest at half their supply
+constexpr std::int32_t encoderMillivolts = 2500; ///< both analog encoder lines rest at half their supply
 
 const LiveRegister Registers[] = {
     {reg::Status, [](const Drive &d) { return d.axis().status(); }},
@@ -26,8 +26,8 @@ const LiveRegister Registers[] = {
      [](Drive &d, std::int32_t v) { d.axis().inputs().analog[0] = v; }},
     {reg::AnalogIn2, [](const Drive &d) { return d.axis().inputs().analog[1]; },
      [](Drive &d, std::int32_t v) { d.axis().inputs().analog[1] = v; }},
-    {reg::AnalogEncoderA, [](const Drive &) { return EncoderMillivolts; }},
-    {reg::AnalogEncoderB, [](const Drive &) { return EncoderMillivolts; }},
+    {reg::AnalogEncoderA, [](const Drive &) { return encoderMillivolts; }},
+    {reg::AnalogEncoderB, [](const Drive &) { return encoderMillivolts; }},
     {reg::DigitalInputs, [](const Drive &d) { return d.axis().digitalInputs(); }},
     {reg::ControlInputs, [](const Drive &d) { return d.axis().controlInputs(); },
      [](Drive &d, std::int32_t v) { d.axis().inputs().controls = v; }},

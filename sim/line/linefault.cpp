@@ -50,8 +50,8 @@ const KindRow *find(LineFault::Kind kind)
     return row == std::end(Kinds) ? nullptr : row;
 }
 
-constexpr int DefaultLateness = 100; // ms
-constexpr std::size_t MostDigits = 6;
+constexpr int defaultLateness = 100; // ms
+constexpr std::size_t mostDigits = 6;
 
 /// Takes a number that stands behind `mark` off the text's end. False when there is a mark without one.
 bool takeNumber(std::string &text, char mark, int &number)
@@ -60,7 +60,7 @@ bool takeNumber(std::string &text, char mark, int &number)
     if (at == std::string::npos)
         return true;
     const std::string digits = text.substr(at + 1);
-    const bool isNumber = !digits.empty() && digits.size() <= MostDigits &&
+    const bool isNumber = !digits.empty() && digits.size() <= mostDigits &&
                           std::all_of(digits.begin(), digits.end(), [](unsigned char c) { return std::isdigit(c); });
     if (isNumber)
         number = std::stoi(digits);
@@ -151,7 +151,7 @@ Bytes LineDamage::damaged(Bytes reply, LineFault::Kind kind)
 
 std::chrono::milliseconds LineDamage::lateness() const
 {
-    return std::chrono::milliseconds(m_at == LineFault::AnyByte ? DefaultLateness : m_at);
+    return std::chrono::milliseconds(m_at == LineFault::anyByte ? defaultLateness : m_at);
 }
 
 Bytes LineDamage::noise(std::size_t count)
@@ -164,7 +164,7 @@ Bytes LineDamage::noise(std::size_t count)
 
 std::size_t LineDamage::pick(std::size_t size)
 {
-    if (m_at != LineFault::AnyByte)
+    if (m_at != LineFault::anyByte)
         return static_cast<std::size_t>(m_at);
     return size == 0 ? 0 : m_random() % size;
 }

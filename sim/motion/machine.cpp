@@ -92,7 +92,7 @@ std::string parseMachine(const std::string &text, Machine &machine)
 
 std::string machineHelp()
 {
-    constexpr std::size_t Column = 21;
+    constexpr std::size_t column = 21;
     std::ostringstream help;
     help.imbue(std::locale::classic());
     for (const Property &property : Properties) {
@@ -102,7 +102,7 @@ std::string machineHelp()
         if (property.maximum > 1.0 || property.ifNamed != 1.0)
             name << '[' << '=' << property.ifNamed << ']';
         const std::string text = name.str();
-        help << "  " << text << std::string(std::max(Column, text.size() + 1) - text.size(), ' ') << property.help
+        help << "  " << text << std::string(std::max(column, text.size() + 1) - text.size(), ' ') << property.help
              << '\n';
     }
     return help.str();
