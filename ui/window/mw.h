@@ -4,6 +4,7 @@
 #define MW_H
 
 #include "capturedata.h"
+#include "catalogue.h"
 #include "connection.h"
 #include "editedsettings.h"
 #include "helpview.h"
@@ -187,7 +188,7 @@ private:
     ControlModeRule *m_controlMode = nullptr;
     MakerNews *m_news = nullptr;
 
-    EditedSettings m_settings;
+    EditedSettings m_settings{driveParameterCatalogue()};
     int m_currentPage = 0;
     bool m_closeWhenSaved = false; ///< a picture is still being written; the window closes behind it
 
