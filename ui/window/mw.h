@@ -154,15 +154,12 @@ private:
     void createShortcuts();
     void hideForGood();
     void showFirstState(const Options &options);
-    void restoreLayout();
-    void saveLayout() const;
     void pictureSaved(const QString &failure);
 
     // The drive at a glance (mwboard.cpp)
     void buildBoard();
     void connectBoard();
     void nameControls();
-    void goToSetting(const QString &name);
     void showFaultHelp(int faultBit);
     void showHelpFile(const QString &file, const QString &anchor);
 
