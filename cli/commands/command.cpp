@@ -2,8 +2,6 @@
 
 #include "commandline.h"
 
-#include <algorithm>
-
 Command &Command::says(const char *shortly, const char *atLength)
 {
     summary = shortly;
@@ -48,14 +46,6 @@ Command &Command::offlineWith(const char *option, Offline function)
     offlineOption = option;
     runOffline = function;
     return *this;
-}
-
-const Option *Command::findOption(const QString &optionName) const
-{
-    const auto found = std::find_if(options.cbegin(), options.cend(), [&optionName](const Option &option) {
-        return optionName == QLatin1String(option.name);
-    });
-    return found == options.cend() ? nullptr : &*found;
 }
 
 bool Command::needsDrive(const CommandLine &line) const

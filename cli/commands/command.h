@@ -46,7 +46,6 @@ public:
     /// With this option it needs no drive and runs as `run`.
     Command &offlineWith(const char *option, Offline run);
 
-    const Option *findOption(const QString &optionName) const; ///< null for a name that is none of its options
     bool needsDrive(const CommandLine &line) const;
 
     const char *name;
