@@ -21,7 +21,7 @@ constexpr std::int32_t revision = 0x1A4C7E2;
 constexpr std::int32_t unique = 0x1C35A90B;
 
 /// Settings of every model: register, value at the factory, minimum, maximum.
-const RegisterInfo CommonSettings[] = {
+const RegisterInfo commonSettings[] = {
     {565, 2500, 1, 1000000},                     // FBR
     {493, 1, 0, 6},                              // FBD
     {494, 0, 0, 4},                              // FB2D
@@ -81,13 +81,13 @@ const RegisterInfo CommonSettings[] = {
     {912, 0, 0, 10000},                          // BDD
 };
 
-const RegisterInfo KetaSettings[] = {
+const RegisterInfo ketaSettings[] = {
     {573, 0, 0, 1}, // CEI
     {14, 0, 0, 15}, // ZBO
 };
 
 /// Torque ripple compensation.
-const RegisterInfo KetaProSettings[] = {
+const RegisterInfo ketaProSettings[] = {
     {424, 0, 0, 25},       // TRF1
     {426, 0, 0, 25},       // TRF2
     {425, 0, -5000, 5000}, // TRA1
@@ -95,7 +95,7 @@ const RegisterInfo KetaProSettings[] = {
 };
 
 /// The smaller current range of the high-voltage stage, and the motor wound for it.
-const RegisterInfo TorvaDifferences[] = {
+const RegisterInfo torvaDifferences[] = {
     {reg::PeakCurrent, 8000, 0, 20000},
     {reg::ContinuousCurrent, 3250, 0, 20000},
     {reg::HomingCurrent, 1625, 0, 20000},
@@ -108,7 +108,7 @@ const RegisterInfo TorvaDifferences[] = {
     {reg::VelocityI, 90, 0, 32767},
 };
 
-const RegisterInfo HighCurrentDifferences[] = {
+const RegisterInfo highCurrentDifferences[] = {
     {reg::PeakCurrent, 32000, 0, 50000},
     {reg::ContinuousCurrent, 13000, 0, 50000},
     {reg::HomingCurrent, 6500, 0, 50000},
@@ -179,15 +179,15 @@ std::vector<RegisterInfo> registersOf(const DriveProfile &profile)
 {
     std::vector<RegisterInfo> list;
     appendIdentity(list, profile);
-    append(list, CommonSettings);
+    append(list, commonSettings);
     if (profile.deviceType / 1000 == Keta)
-        append(list, KetaSettings);
+        append(list, ketaSettings);
     if (profile.deviceType == KetaProType)
-        append(list, KetaProSettings);
+        append(list, ketaProSettings);
     if (profile.deviceType == KetaHighCurrentType)
-        replace(list, HighCurrentDifferences);
+        replace(list, highCurrentDifferences);
     if (profile.deviceType / 1000 == Torva)
-        replace(list, TorvaDifferences);
+        replace(list, torvaDifferences);
     return list;
 }
 

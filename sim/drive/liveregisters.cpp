@@ -10,7 +10,7 @@ using Drive = VirtualDrive;
 
 constexpr std::int32_t encoderMillivolts = 2500; ///< both analog encoder lines rest at half their supply
 
-const LiveRegister Registers[] = {
+const LiveRegister registerTable[] = {
     {reg::Status, [](const Drive &d) { return d.axis().status(); }},
     {reg::BusVoltage, [](const Drive &d) { return d.axis().readings().busVoltage; },
      [](Drive &d, std::int32_t v) { d.axis().inputs().supplyCentivolts = v; }},
@@ -45,7 +45,7 @@ const LiveRegister Registers[] = {
 
 const LiveRegister *LiveRegister::find(int address)
 {
-    for (const LiveRegister &live : Registers) {
+    for (const LiveRegister &live : registerTable) {
         if (live.address == address)
             return &live;
     }

@@ -19,7 +19,7 @@ bool setSetpoint(Drive &drive, std::int32_t setpoint)
 
 } // namespace
 
-const SpecialRegister SpecialRegister::Table[] = {
+const SpecialRegister SpecialRegister::table[] = {
     // Bus and return control
     {reg::NormalMode, 0, 1, [](const Drive &d, const Context &) { return d.isInUpgradeMode() ? 0 : 1; }, nullptr,
      Always},
@@ -89,7 +89,7 @@ const SpecialRegister SpecialRegister::Table[] = {
 
 const SpecialRegister *SpecialRegister::find(int address, bool upgradeMode)
 {
-    for (const SpecialRegister &special : Table) {
+    for (const SpecialRegister &special : table) {
         if (special.address == address && special.presence != (upgradeMode ? NormalOnly : UpgradeOnly))
             return &special;
     }

@@ -23,7 +23,7 @@ Bytes::iterator byteAt(Bytes &reply, std::size_t at)
     return reply.begin() + static_cast<std::ptrdiff_t>(at);
 }
 
-const KindRow Kinds[] = {
+const KindRow kindTable[] = {
     {LineFault::Drop, "drop", "a byte of every reply is lost (AT: which, from 0)",
      [](Bytes &reply, std::size_t at, Random &) { reply.erase(byteAt(reply, at)); }},
     {LineFault::Flip, "flip", "a bit of a byte is inverted (AT: which byte)",
@@ -46,8 +46,9 @@ const KindRow Kinds[] = {
 
 const KindRow *find(LineFault::Kind kind)
 {
-    const auto row = std::find_if(std::begin(Kinds), std::end(Kinds), [=](const KindRow &r) { return r.kind == kind; });
-    return row == std::end(Kinds) ? nullptr : row;
+    const auto row =
+        std::find_if(std::begin(kindTable), std::end(kindTable), [=](const KindRow &r) { return r.kind == kind; });
+    return row == std::end(kindTable) ? nullptr : row;
 }
 
 constexpr int defaultLateness = 100; // ms
@@ -74,7 +75,7 @@ const std::vector<LineFault::Kind> &LineFault::allKinds()
 {
     static const std::vector<Kind> kinds = [] {
         std::vector<Kind> list;
-        for (const KindRow &row : Kinds)
+        for (const KindRow &row : kindTable)
             list.push_back(row.kind);
         return list;
     }();
@@ -98,9 +99,9 @@ std::string parseLineFault(const std::string &text, LineFault &fault)
         !name.empty() && std::all_of(name.begin(), name.end(), [](char c) { return c >= 'a' && c <= 'z'; });
     if (!isForm || !isWord)
         return "\"" + text + "\" is not of the form KIND[=AT][+SKIP][xCOUNT]";
-    const auto known = std::find_if(std::begin(Kinds), std::end(Kinds),
+    const auto known = std::find_if(std::begin(kindTable), std::end(kindTable),
                                     [&](const KindRow &candidate) { return name == candidate.name; });
-    if (known == std::end(Kinds))
+    if (known == std::end(kindTable))
         return "there is no line fault \"" + name + "\"";
     parsed.kind = known->kind;
     fault = parsed;
@@ -110,7 +111,7 @@ std::string parseLineFault(const std::string &text, LineFault &fault)
 std::string lineFaultHelp()
 {
     std::string help;
-    for (const KindRow &kind : Kinds)
+    for (const KindRow &kind : kindTable)
         help += "  " + std::string(kind.name) + std::string(11 - std::string(kind.name).size(), ' ') + kind.help + "\n";
     return help;
 }
