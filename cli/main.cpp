@@ -1,5 +1,5 @@
 // velbrin-cli: the drive session without a window, for scripts and for benches with many machines.
-#include "commandline.h"
+#include "commandparser.h"
 #include "commands.h"
 #include "driveclient.h"
 #include "interruption.h"

@@ -1,5 +1,5 @@
 // Commands that let a drive move, and those that stop it.
-#include "commands.h"
+#include "commandgroups.h"
 
 #include "commandline.h"
 #include "driveclient.h"

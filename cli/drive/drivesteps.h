@@ -3,8 +3,8 @@
 #ifndef DRIVESTEPS_H
 #define DRIVESTEPS_H
 
+#include "editedsettings.h"
 #include "outcome.h"
-#include "parameters.h"
 
 #include <optional>
 
@@ -38,12 +38,15 @@ std::optional<int> nodeOf(DriveClient &client, const CommandLine &line, Use use,
 /// Connects and reads all settings.
 std::optional<Parameters> readDrive(DriveClient &client, const CommandLine &line, Use use, QStringList &messages);
 
-/// Loads a file over the drive's list. No value when the file was refused; a warning is a message.
-std::optional<Parameters> loadFile(const DriveClient &client, const QString &fileName, const Parameters &drive,
-                                   QStringList &messages);
+/// readDrive() as the start of edits.
+std::optional<EditedSettings> readToEdit(DriveClient &client, const CommandLine &line, Use use, QStringList &messages);
 
-/// Writes `wanted`, reads it back, reports what the drive did not take, and saves to flash where that was asked for and
-/// everything was taken. The result shows the settings named in `names`.
-Outcome applySettings(DriveClient &client, const CommandLine &line, const Parameters &wanted, const QStringList &names);
+/// Loads a file over the drive's settings. False when the file was refused; a warning is a message.
+bool loadFile(const DriveClient &client, const QString &fileName, EditedSettings &settings, QStringList &messages);
+
+/// Writes what is edited, reads it back, reports what the drive did not take, and saves to flash where that was asked
+/// for and everything was taken. The result shows the settings named in `names`.
+Outcome applySettings(DriveClient &client, const CommandLine &line, const EditedSettings &settings,
+                      const QStringList &names);
 
 #endif

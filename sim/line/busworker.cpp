@@ -14,14 +14,14 @@ namespace {
 using namespace std::chrono_literals;
 using Nanoseconds = std::chrono::nanoseconds;
 
-constexpr std::int64_t BaudRate = 460800;
-constexpr int BitsPerByte = 10;
-constexpr Nanoseconds ByteTime{1000000000LL * BitsPerByte / BaudRate};
+constexpr std::int64_t baudRate = 460800;
+constexpr int bitsPerByte = 10;
+constexpr Nanoseconds byteTime{1000000000LL * bitsPerByte / baudRate};
 /// Longer than any gap within a packet, shorter than any time-out of a master.
-constexpr auto PacketGap = 30ms;
+constexpr auto packetGap = 30ms;
 /// How often the drives catch up with the wall clock when the bus is idle.
-constexpr auto IdleStep = 5ms;
-constexpr auto NoiseStep = 2ms;
+constexpr auto idleStep = 5ms;
+constexpr auto noiseStep = 2ms;
 
 } // namespace
 
@@ -143,7 +143,7 @@ void VirtualBus::Worker::run()
                 return;
             serve();
             descriptor = port.descriptor();
-            until = m_replies.nextDue(Clock::now() + (isNoisy ? NoiseStep : IdleStep));
+            until = m_replies.nextDue(Clock::now() + (isNoisy ? noiseStep : idleStep));
         }
         waitForWork(descriptor, until);
     }
@@ -186,7 +186,7 @@ void VirtualBus::Worker::advanceDrives()
 void VirtualBus::Worker::take(const Bytes &bytes)
 {
     const Clock::time_point now = Clock::now();
-    if (now - m_lastByte > PacketGap)
+    if (now - m_lastByte > packetGap)
         m_parser.reset();
     m_lastByte = now;
     for (const std::uint8_t byte : bytes) {
@@ -223,7 +223,7 @@ void VirtualBus::Worker::reply(const Packet &request, const Packet &answer, Line
     const Bytes bytes = damage.damaged(frame(answer), fault);
     Clock::time_point due = Clock::now() + options.turnAround;
     if (options.lineRate)
-        due += ByteTime * static_cast<std::int64_t>(frame(request).size() + bytes.size());
+        due += byteTime * static_cast<std::int64_t>(frame(request).size() + bytes.size());
     if (fault == LineFault::Late)
         due += damage.lateness();
     m_replies.add(due, bytes);
@@ -232,7 +232,7 @@ void VirtualBus::Worker::reply(const Packet &request, const Packet &answer, Line
 void VirtualBus::Worker::makeNoise()
 {
     const Clock::time_point now = Clock::now();
-    const auto count = (now - m_lastNoise) / ByteTime;
+    const auto count = (now - m_lastNoise) / byteTime;
     m_lastNoise = now;
     port.write(damage.noise(static_cast<std::size_t>(std::clamp<std::int64_t>(count, 1, 1024))));
 }

@@ -168,7 +168,7 @@ QString ParameterPages::sanityWarnings() const
     in.trackingThreshold = m_forms.faultLimits.FPT->value();
     in.controlMode = m_forms.goals.CM->currentIndex();
     in.limitVelocity = scale.velocity(m_forms.goals.CVL->value());
-    in.faultVelocity = scale.velocity(m_forms.faultLimits.FEV->value(), false, true);
+    in.faultVelocity = scale.velocity(m_forms.faultLimits.FEV->value(), UnitConversion::Scale::Raw);
     return ::sanityWarnings(in);
 }
 

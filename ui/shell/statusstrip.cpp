@@ -50,6 +50,22 @@ StatusStrip::StatusStrip(QWidget *parent) : QWidget(parent)
     row->insertWidget(0, m_shape);
     row->addSpacing(6);
     m_detail = addLabel(row, new ElidedLabel(this), "stripDetail");
+    addFaultHelp(row);
+    row->addStretch(1);
+    m_identity = addLabel(row, new ElidedLabel(this), "stripIdentity");
+    row->addSpacing(12);
+    m_figures = addLabel(row, new QLabel(this), "stripFigures");
+    row->addSpacing(8);
+    addButtons(row);
+    connect(&m_ageTimer, &QTimer::timeout, this, &StatusStrip::lookAtAge);
+    m_ageTimer.start(ageIntervalMs);
+    m_sinceLook.start();
+    setButtons(false, false, false);
+    refresh();
+}
+
+void StatusStrip::addFaultHelp(QHBoxLayout *row)
+{
     m_faultHelp = new QToolButton(this);
     m_faultHelp->setObjectName(QStringLiteral("stripFaultHelp"));
     m_faultHelp->setText(QStringLiteral("?"));
@@ -57,11 +73,11 @@ StatusStrip::StatusStrip(QWidget *parent) : QWidget(parent)
     m_faultHelp->setAccessibleName(tr("Help on this fault"));
     m_faultHelp->hide();
     row->addWidget(m_faultHelp);
-    row->addStretch(1);
-    m_identity = addLabel(row, new ElidedLabel(this), "stripIdentity");
-    row->addSpacing(12);
-    m_figures = addLabel(row, new QLabel(this), "stripFigures");
-    row->addSpacing(8);
+    connect(m_faultHelp, &QToolButton::clicked, this, [this] { emit faultHelpAsked(m_shown.faultBit); });
+}
+
+void StatusStrip::addButtons(QHBoxLayout *row)
+{
     m_enable = addButton(row, "stripEnable", tr("Enable"), tr("Gives the software enable, as on the Connect page."));
     m_disable = addButton(row, "stripDisable", tr("Disable [Esc]"), tr("Takes the power off the motor."));
     m_clear = addButton(row, "stripClearFaults", tr("Clear faults"),
@@ -69,12 +85,6 @@ StatusStrip::StatusStrip(QWidget *parent) : QWidget(parent)
     connect(m_enable, &QPushButton::clicked, this, &StatusStrip::enableAsked);
     connect(m_disable, &QPushButton::clicked, this, &StatusStrip::disableAsked);
     connect(m_clear, &QPushButton::clicked, this, &StatusStrip::clearFaultsAsked);
-    connect(m_faultHelp, &QToolButton::clicked, this, [this] { emit faultHelpAsked(m_shown.faultBit); });
-    connect(&m_ageTimer, &QTimer::timeout, this, &StatusStrip::lookAtAge);
-    m_ageTimer.start(ageIntervalMs);
-    m_sinceLook.start();
-    setButtons(false, false, false);
-    refresh();
 }
 
 QLabel *StatusStrip::addLabel(QHBoxLayout *row, QLabel *label, const char *name)

@@ -56,6 +56,8 @@ protected:
 
 private:
     QLabel *addLabel(QHBoxLayout *row, QLabel *label, const char *name);
+    void addFaultHelp(QHBoxLayout *row);
+    void addButtons(QHBoxLayout *row);
     QPushButton *addButton(QHBoxLayout *row, const char *name, const QString &text, const QString &toolTip);
     void lookAtAge();
     void refresh();

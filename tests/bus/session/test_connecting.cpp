@@ -339,7 +339,7 @@ TEST_F(Connecting, ADriveThatIsTooOldIsOnlySaidToBeRestartedWhenItConfirmedThat)
     bus().set(5, 6015, 1077);
     session().setReplyTimeout(shortTimeoutMs);
     // Both readings of the identity, four requests each, come through.
-    bus().setFault({sim::LineFault::Deaf, sim::LineFault::AnyByte, 8, 1});
+    bus().setFault({sim::LineFault::Deaf, sim::LineFault::anyByte, 8, 1});
     expectRefused("Connect failed", "Device could not be restarted in firmware upgrade mode");
     EXPECT_THAT(log().errors.last().toStdString(), Not(HasSubstr("now has been restarted")));
     EXPECT_EQ(received(wire("822a 00000040")), 1) << "once only";

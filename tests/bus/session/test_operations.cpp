@@ -127,7 +127,7 @@ TEST_F(Operations, APollWithoutAGoodReplyCountsForNothing)
     QSignalSpy enabled(&out, &SessionEvents::enableStatePolled), panels(&out, &SessionEvents::faultRegisterUpdated);
     bus().withDrive(5, [](sim::VirtualDrive &drive) { drive.write(2533, 1); });
     for (Fault::Kind kind : {Fault::Cut, Fault::Missing, Fault::Flip}) {
-        setFault({kind, 9, 0, Fault::Forever});
+        setFault({kind, 9, 0, Fault::unlimited});
         with.line.startTask();
         with.line.clearStatus();
         EXPECT_FALSE(monitor.poll()) << Fault::name(kind);

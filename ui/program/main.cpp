@@ -17,7 +17,7 @@
 
 namespace {
 
-constexpr int EXIT_USAGE = 2;
+constexpr int wrongUsage = 2;
 
 // Help and version are asked for on machines without a display, too.
 bool wantsTextOnly(int argc, char **argv)
@@ -54,7 +54,7 @@ int main(int argc, char **argv)
     QApplication application(argc, argv);
     const ProgramOptions options = parseProgramOptions(QApplication::arguments());
     if (!options.error.isEmpty())
-        return failed(options.error, EXIT_USAGE);
+        return failed(options.error, wrongUsage);
     if (!options.text.isEmpty()) {
         std::fputs(qPrintable(options.text), stdout);
         return 0;
