@@ -76,9 +76,7 @@ TEST_F(CliFailure, LineLostWhileWritingSaysWhatMayHaveHappened)
     bus().setTurnAround(std::chrono::milliseconds(5)); // leaves time to pull the plug in the middle of 60 writes
     QProcess process;
     start(process, {"--port", port(), "--node", "5", "write", "KVP=400", "--to-flash"});
-    ASSERT_TRUE(bus().waitForReceived([](const sim::ReceivedRequests &requests) {
-        return !requests.empty() && requests.back().packet.payload == sim::Bytes{0x80, 0x0a, 0x00, 0x00, 0x00, 0x03};
-    }));
+    ASSERT_TRUE(waitForPayload(bus(), "800a00000003")); // how the answers to writes are wanted, before the first
     bus().unplug();
     const Ran ran = finish(process);
     EXPECT_EQ(ran.status, 1);
