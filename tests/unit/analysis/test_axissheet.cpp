@@ -6,6 +6,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdio>
 #include <random>
 
 namespace {
@@ -79,6 +80,8 @@ TEST(AxisSheet, PlusMinusHoldsTheTruthInNinetyFiveOfAHundred)
         EXPECT_LT(sheet.acceleration.plusMinus, 0.03 * acceleration) << "a range that holds everything is no range";
         EXPECT_LT(sheet.dryFriction.plusMinus, dryFriction);
     }
+    std::printf("of 100: acceleration %d, dry friction %d, hanging load %d, drags %d, viscous friction %d\n",
+                accelerations, frictions, loads, drags, viscous);
     EXPECT_GE(accelerations, 95);
     EXPECT_GE(frictions, 95);
     EXPECT_GE(loads, 95);
@@ -131,6 +134,7 @@ TEST(AxisSheet, ASpringyAxisIsRefusedOrToldWithinFivePercent)
         move.machine.inertiaRatio = row.ratio;
         EXPECT_FALSE(axisSheet(recordMove(move)).isUsable()) << row.hertz;
     }
+    std::printf("springy axes: %d told, %d refused\n", told, refused);
     EXPECT_GT(refused, 150);
     EXPECT_GT(told, 5) << "a very stiff coupling is as good as none";
 }
