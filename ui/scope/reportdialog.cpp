@@ -1,6 +1,5 @@
 #include "reportdialog.h"
 
-#include "devicemodel.h"
 #include "scopecontext.h"
 #include "settingfacts.h"
 
@@ -59,20 +58,13 @@ void ReportDialog::addNotes()
     m_notes->verticalHeader()->hide();
     m_notes->horizontalHeader()->setStretchLastSection(true);
     m_notes->setTabKeyNavigation(false);
-    const bool torva = isTorvaModel(m_drive.drive.type);
-    const QString model = deviceModelName(m_drive.drive.type, false);
-    for (int i = 0; i < m_drive.settings.getParamCount(); ++i) {
-        const SingleParam setting = m_drive.settings.getParam(i);
-        const bool isIts = !setting.readonly && setting.supportedInDevice(model);
-        const std::optional<SettingFacts> facts = isIts ? settingFacts(setting.name, torva) : std::nullopt;
-        if (!facts || facts->standard == setting.value)
-            continue;
+    for (const auto &[setting, facts] : changedSettings(m_drive.settings, m_drive.drive.type)) {
         const int row = m_notes->rowCount();
         m_notes->insertRow(row);
         m_notes->setItem(row, NameColumn, fixedItem(setting.name));
-        m_notes->item(row, NameColumn)->setToolTip(facts->caption);
+        m_notes->item(row, NameColumn)->setToolTip(facts.caption);
         m_notes->setItem(row, ValueColumn, fixedItem(settingText(setting.value)));
-        m_notes->setItem(row, StandardColumn, fixedItem(settingText(facts->standard)));
+        m_notes->setItem(row, StandardColumn, fixedItem(settingText(facts.standard)));
         m_notes->setItem(row, WordsColumn, new QTableWidgetItem);
     }
 }

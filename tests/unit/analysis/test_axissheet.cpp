@@ -108,6 +108,7 @@ TEST(AxisSheet, ASpringyAxisIsRefusedOrToldWithinFivePercent)
                     const AxisSheet sheet = axisSheet(recordMove(move));
                     (sheet.isUsable() ? told : refused) += 1;
                     if (sheet.isUsable()) {
+                        EXPECT_NEAR(sheet.dryFriction.value, dryFriction, 0.05 * dryFriction);
                         EXPECT_NEAR(sheet.acceleration.value, acceleration, 0.05 * acceleration)
                             << hertz << " Hz, ratio " << ratio << ", " << counts << " counts, KVP "
                             << (gain.empty() ? 360 : gain.at(VelocityP));
@@ -192,6 +193,13 @@ TEST(AxisSheet, RefusesWithTheReason)
     const QJsonObject json = toJson(axisSheet(capture));
     EXPECT_EQ(json.value("refusal").toString(), "Torque achieved and position achieved have to be captured together.");
     EXPECT_TRUE(json.value("acceleration").isNull() && json.contains("AFF") && json.value("AFF").isNull());
+
+    // What is no record must not become a window of millions of samples.
+    for (const double period : {1e-300, 1e-9, 0.0, std::nan("")}) {
+        CaptureRecord odd = recordMove(Move());
+        odd.samplePeriod = period;
+        EXPECT_FALSE(axisSheet(odd).isUsable()) << period;
+    }
 
     // Pushed by what is in no current, and held by what is not there all the time.
     Move cogging, backlash;
