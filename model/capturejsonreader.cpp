@@ -225,6 +225,8 @@ void Reader::readSettings(const QJsonArray &array, Parameters *settings)
         setting.addr = integer(object, "address");
         setting.readonly = flag(object, "readOnly");
         setting.auxFlag = flag(object, "shown");
+        if (object.contains(QLatin1String("models"))) // the first files have none
+            setting.devices = text(object, "models");
         for (const auto &field : settingFields)
             setting.*field.field = number(object, field.name);
         if (setting.scaling == 0.0) // display values are divided by it

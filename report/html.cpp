@@ -24,7 +24,7 @@ QString html::paragraph(const QString &text)
 
 QString html::table(const Facts &rows)
 {
-    QString text = QStringLiteral("<table>\n");
+    QString text = QStringLiteral("<table class=\"facts\">\n");
     for (const auto &[caption, value] : rows)
         text += QLatin1String("<tr><th>") + caption.toHtmlEscaped() + QLatin1String("</th><td>") +
                 value.toHtmlEscaped() + QLatin1String("</td></tr>\n");

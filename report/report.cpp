@@ -40,7 +40,8 @@ body { font: 11pt sans-serif; color: #000; background: #fff; max-width: 62em; ma
 h1 { font-size: 1.6em; } h2 { font-size: 1.2em; border-bottom: 1px solid #999; margin-top: 1.6em; }
 table { border-collapse: collapse; width: 100%; margin: .5em 0; }
 th, td { text-align: left; padding: .15em .5em; border-bottom: 1px solid #ddd; vertical-align: top; }
-td.value { text-align: right; white-space: nowrap; } td + td + td + td + td + td { width: 40%; }
+td.value { text-align: right; white-space: nowrap; } td + td + td + td + td + td { width: 32%; }
+tbody td:nth-child(4) { white-space: nowrap; } .facts { width: auto; } .facts th { padding-right: 2em; }
 tr.differs { font-weight: bold; background: #f3f3e0; } .note { font-weight: normal; font-style: italic; }
 .warning { font-weight: bold; } code { word-break: break-all; } svg { max-width: 100%; height: auto; }
 .sign td { height: 3em; border: 1px solid #999; }
