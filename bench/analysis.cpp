@@ -83,7 +83,7 @@ void time(const char *name, double reference, const std::function<void()> &work)
 {
     double worst = 0.0;
     const double median = medianOf(work, worst);
-    std::printf("%s\t%.2f\t%.2f\t%.1f\n", name, median, worst, median / reference);
+    std::printf("%s\t%.2f\t%.2f\t%.3f\n", name, median, worst, median / reference);
 }
 
 /// A report with `count` captures, of a drive with all its settings.

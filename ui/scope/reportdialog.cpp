@@ -15,6 +15,7 @@
 namespace {
 
 constexpr int onFault = 3; ///< trigger code of the recorder
+constexpr int longestShownNote = 100; ///< characters, beside a capture's time
 enum NoteColumn { NameColumn, ValueColumn, StandardColumn, WordsColumn, NoteColumns };
 
 QTableWidgetItem *fixedItem(const QString &text)
@@ -74,7 +75,9 @@ void ReportDialog::addCaptures(const CaptureHistory &history)
     m_stopTest->addItem(tr("none: capture on fault, press the machine's stop, and choose the capture here"));
     for (auto capture = history.all().crbegin(); capture != history.all().crend(); ++capture) {
         m_captures.append(*capture);
-        auto *item = new QListWidgetItem(captureTitle(*capture), m_list);
+        const QString note = capture->record.note.simplified().left(longestShownNote);
+        auto *item = new QListWidgetItem(
+            note.isEmpty() ? captureTitle(*capture) : tr("%1: %2").arg(captureTitle(*capture), note), m_list);
         const bool isShown = history.shown() && history.shown()->id == capture->id;
         item->setCheckState(isShown ? Qt::Checked : Qt::Unchecked);
         if (capture->record.trigger == onFault)

@@ -40,7 +40,6 @@ TriesPanel::TriesPanel(QWidget *parent) : QGroupBox(parent)
     m_table->setSelectionBehavior(QAbstractItemView::SelectRows);
     m_table->setSelectionMode(QAbstractItemView::SingleSelection);
     m_table->setEditTriggers(QAbstractItemView::DoubleClicked);
-    m_table->horizontalHeader()->setStretchLastSection(true);
     m_table->verticalHeader()->setMaximumSectionSize(3 * m_table->fontMetrics().height()); // notes may have many lines
     m_table->verticalHeader()->hide();
     m_table->setToolTip(tr("<p>Every capture of this session, the newest on top, with the settings in which they differ. "
@@ -135,14 +134,22 @@ void TriesPanel::show(const CaptureHistory &history)
         if (history.shown() && capture.id == history.shown()->id)
             m_table->selectRow(row);
     }
-    m_table->resizeColumnsToContents();
-    const int note = int(captions.size()) - 1;
-    m_table->setColumnWidth(note, qMin(m_table->columnWidth(note), widestNote));
+    fitColumns(int(captions.size()) - 1);
     m_table->resizeRowsToContents();
     m_table->setMinimumHeight(m_table->horizontalHeader()->sizeHint().height() +
                               visibleRows * m_table->fontMetrics().height() * 3 / 2);
     m_take->setEnabled(chosen() != 0);
     m_under->setEnabled(all.size() > 1);
+}
+
+/// The note has the room that is left, and some where there is none.
+void TriesPanel::fitColumns(int note)
+{
+    QHeaderView *header = m_table->horizontalHeader();
+    header->setStretchLastSection(false); // it would keep the width that it is given here
+    m_table->resizeColumnsToContents();
+    m_table->setColumnWidth(note, qMin(m_table->columnWidth(note), widestNote));
+    header->setStretchLastSection(true);
 }
 
 void TriesPanel::fillRow(int row, const KeptCapture &capture, const QStringList &settings)

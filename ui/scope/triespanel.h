@@ -35,6 +35,7 @@ signals:
 private:
     void connectNotes();
     bool isTyping() const;
+    void fitColumns(int note);
     void fillRow(int row, const KeptCapture &capture, const QStringList &settings);
     int chosen() const; ///< id, 0 when there is none
     QPushButton *addButton(const QString &name, const QString &text, const QString &toolTip);
