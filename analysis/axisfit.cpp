@@ -9,6 +9,7 @@ namespace {
 
 constexpr double twoPi = 6.283185307179586;
 constexpr double speedWindow = 0.002;    ///< s on either side
+constexpr double mostReach = 1e6;         ///< samples; no record has as many
 constexpr double slowestShare = 0.03;    ///< of the highest speed
 constexpr double slowestSteps = 1.5;     ///< encoder steps in the time over which speed is taken
 constexpr double fewestCounts = 100.0;   ///< a run shorter than this is no motion
@@ -156,7 +157,7 @@ AxisFit fitOfCurrent(const Solution &solution)
 
 std::size_t speedReach(double period)
 {
-    return std::max<std::size_t>(1, static_cast<std::size_t>(std::ceil(speedWindow / period)));
+    return static_cast<std::size_t>(std::clamp(std::ceil(speedWindow / period), 1.0, mostReach));
 }
 
 std::vector<double> speedOf(const std::vector<double> &position, double period)
@@ -224,6 +225,8 @@ Beside swingingLoad(const AxisRecord &record, double hertz)
 std::optional<AxisFit> fitAxis(const AxisRecord &record, const std::vector<Run> &runs, std::size_t length,
                                Explains explains, const Beside &beside)
 {
+    if (length >= record.position.size())
+        return std::nullopt;
     const Bump bump(length);
     const std::size_t hop = std::max<std::size_t>(1, length / bumpsInLength);
     Equations equations;

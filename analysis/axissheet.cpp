@@ -121,7 +121,8 @@ void proposeGains(AxisSheet &sheet, double cycleRate)
 
 std::size_t shortestLength(const AxisRecord &record)
 {
-    return std::max(fewestSamples, static_cast<std::size_t>(std::lround(shortestBump / record.period)));
+    const double samples = std::min(std::round(shortestBump / record.period), double(record.position.size()));
+    return std::max(fewestSamples, static_cast<std::size_t>(samples));
 }
 
 /// Bumps of one, two and three times the shortest length; the longest is missing where the move is short. Nothing when
@@ -237,7 +238,9 @@ AxisRecord axisRecordOf(const CaptureRecord &capture)
     const std::size_t rows = rowsOf(capture);
     AxisRecord record;
     record.period = capture.samplePeriod;
-    record.cycleRate = capture.setting(QStringLiteral("PIF"), record.cycleRate);
+    const double cycleRate = capture.setting(QStringLiteral("PIF"), 0.0);
+    if (cycleRate > 0.0)
+        record.cycleRate = cycleRate;
     record.position = unwrapped(traceOf(capture, QStringLiteral("posmeas"), rows));
     record.torque = traceOf(capture, QStringLiteral("torquemeas"), rows);
     record.torqueSetpoint = traceOf(capture, QStringLiteral("torqueref"), rows);

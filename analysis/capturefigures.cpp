@@ -36,7 +36,8 @@ bool movesBackAndForth(const CaptureRecord &capture)
         if (capture.channel(QLatin1String(key)) == nullptr)
             continue;
         const Travel travel = travelOf(unwrapped(traceOf(capture, QLatin1String(key), rows)));
-        return std::min(travel.up, travel.down) > leastShare * std::max(travel.up, travel.down);
+        const double less = std::min(travel.up, travel.down);
+        return less > 0.0 && less >= leastShare * std::max(travel.up, travel.down);
     }
     return false;
 }

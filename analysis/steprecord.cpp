@@ -80,7 +80,7 @@ std::optional<double> knownBefore(const CaptureRecord &capture, const StepRecord
 
 StepRecord stepRecordOf(const CaptureRecord &capture)
 {
-    const int mode = static_cast<int>(capture.setting(QStringLiteral("CM"), positionControl));
+    const int mode = truncateToInt32(capture.setting(QStringLiteral("CM"), positionControl));
     std::vector<StepRecord> found;
     for (const Pair &pair : pairs) {
         std::optional<StepRecord> record = recordOf(capture, pair);

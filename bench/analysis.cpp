@@ -1,11 +1,12 @@
-// What the figures of a step, the axis sheet and a capture's file cost, on a full record of the virtual drive.
-#include "axissheet.h"
-#include "capturefile.h"
+// What the figures of a step, the axis sheet, a capture's file and the report cost, on a full record of the virtual drive.
 #include "capturejson.h"
+#include "catalogue.h"
 #include "registers.h"
-#include "stepfigures.h"
+#include "report.h"
+#include "savedpage.h"
 #include "virtualdrive.h"
 
+#include <QCryptographicHash>
 #include <QJsonDocument>
 
 #include <algorithm>
@@ -22,6 +23,7 @@ constexpr int divider = 7;
 constexpr int holdCycles = 220;
 constexpr int distance = 1900;
 constexpr int runs = 50;
+constexpr int reportedCaptures = 8;
 
 CaptureRecord record()
 {
@@ -55,7 +57,7 @@ CaptureRecord record()
     return capture;
 }
 
-void time(const char *name, const std::function<void()> &work)
+double medianOf(const std::function<void()> &work, double &worst)
 {
     using Clock = std::chrono::steady_clock;
     std::vector<double> milliseconds;
@@ -65,7 +67,35 @@ void time(const char *name, const std::function<void()> &work)
         milliseconds.push_back(std::chrono::duration<double, std::milli>(Clock::now() - start).count());
     }
     std::sort(milliseconds.begin(), milliseconds.end());
-    std::printf("%s\t%.2f\t%.2f\n", name, milliseconds[runs / 2], milliseconds.back());
+    worst = milliseconds.back();
+    return milliseconds[runs / 2];
+}
+
+/// What the ratios are against: something that any machine does, and that nobody here makes quicker or slower.
+double checksumOfAMegabyte()
+{
+    const QByteArray megabyte(1 << 20, 'x');
+    double worst = 0.0;
+    return medianOf([&] { QCryptographicHash::hash(megabyte, QCryptographicHash::Sha256); }, worst);
+}
+
+void time(const char *name, double reference, const std::function<void()> &work)
+{
+    double worst = 0.0;
+    const double median = medianOf(work, worst);
+    std::printf("%s\t%.2f\t%.2f\t%.3f\n", name, median, worst, median / reference);
+}
+
+/// A report with `count` captures, of a drive with all its settings.
+Report reportOf(const CaptureRecord &capture, int count)
+{
+    Report report;
+    report.drive.type = 11000;
+    report.settings = driveParameterCatalogue();
+    for (int i = 0; i < count; ++i)
+        report.captures.append({QStringLiteral("capture"), capture});
+    report.stopTest = capture;
+    return report;
 }
 
 } // namespace
@@ -78,14 +108,19 @@ int main()
         return 1;
     }
     const QByteArray block = QJsonDocument(captureToJson(capture)).toJson(QJsonDocument::Compact);
-    std::printf("of a record of 2000 words\tmedian ms\tworst ms\n");
-    time("figures of the step", [&] { stepFigures(capture); });
-    time("axis sheet", [&] { axisSheet(capture); });
-    time("plot page with its block", [&] { capturePage(capture); });
-    time("reading the block", [&] {
+    const Report report = reportOf(capture, reportedCaptures);
+    const double reference = checksumOfAMegabyte();
+    std::printf("of a record of 2000 words\tmedian ms\tworst ms\tratio to SHA-256 of 1 MB (%.2f ms)\n", reference);
+    time("figures of the step", reference, [&] { stepFigures(capture); });
+    time("axis sheet", reference, [&] { axisSheet(capture); });
+    time("all figures", reference, [&] { captureFigures(capture); });
+    time("saved page with its block", reference, [&] { savedCapturePage(capture, captureFigures(capture)); });
+    time("reading the block", reference, [&] {
         CaptureRecord copy;
         captureFromJson(block, &copy);
     });
+    time("report with eight captures", reference, [&] { reportPage(report); });
     std::printf("block: %.1f KB\n", double(block.size()) / 1000.0);
+    std::printf("report: %.1f KB\n", double(reportPage(report).size()) / 1000.0);
     return 0;
 }

@@ -27,7 +27,7 @@ QString readBytes(const QString &fileName, QByteArray &bytes)
         return tr("The capture cannot be opened: %1.").arg(file.errorString());
     if (file.size() > largestFile)
         return tr("The file is far too large to be a capture.");
-    bytes = file.read(largestFile);
+    bytes = file.read(file.size());
     return file.error() == QFileDevice::NoError ? QString()
                                                 : tr("The capture cannot be read: %1.").arg(file.errorString());
 }
@@ -53,7 +53,7 @@ QString readCaptureFile(const QString &fileName, const QList<CaptureData> &known
                            : captureFromJson(block, capture);
 }
 
-QString plotPageOf(const CaptureRecord &capture)
+QString plotPageOf(const CaptureRecord &capture, const QString &belowCharts)
 {
     QList<CaptureData> channels = capture.channels;
     for (CaptureData &channel : channels) {
@@ -65,11 +65,12 @@ QString plotPageOf(const CaptureRecord &capture)
     }
     QString model = capture.drive.model.toHtmlEscaped();
     model.replace(QLatin1Char('\\'), QLatin1String("&#92;")).replace(QLatin1Char('%'), QLatin1String("&#37;"));
-    return CapturePlotter().generatePlotPage(channels, capture.settings.getParamsHTMLList(),
-                                             model);
+    QString below = belowCharts;
+    below.replace(QLatin1String("%D"), QLatin1String("&#37;D")); // no placeholder of the page either
+    return CapturePlotter().generatePlotPage(channels, below + capture.settings.getParamsHTMLList(), model);
 }
 
-QString capturePage(const CaptureRecord &capture, const QJsonObject &extra)
+QString capturePage(const CaptureRecord &capture, const QJsonObject &extra, const QString &belowCharts)
 {
-    return withCaptureBlock(plotPageOf(capture), captureToJson(capture, extra));
+    return withCaptureBlock(plotPageOf(capture, belowCharts), captureToJson(capture, extra));
 }

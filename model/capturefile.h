@@ -12,10 +12,11 @@
 /// is wrong, as one sentence without markup; then `capture` is as it was. Only plain files of up to 8 MB are read.
 QString readCaptureFile(const QString &fileName, const QList<CaptureData> &known, CaptureRecord *capture);
 
-/// The page of CapturePlotter, with every text of the capture made harmless and its settings below the charts.
-QString plotPageOf(const CaptureRecord &capture);
+/// The page of CapturePlotter, with every text of the capture made harmless and its settings below the charts; between
+/// the two stands `belowCharts`, which is HTML.
+QString plotPageOf(const CaptureRecord &capture, const QString &belowCharts = {});
 
 /// The same with the capture in it: the block stands before its end (see captureToJson for `extra`).
-QString capturePage(const CaptureRecord &capture, const QJsonObject &extra = {});
+QString capturePage(const CaptureRecord &capture, const QJsonObject &extra = {}, const QString &belowCharts = {});
 
 #endif

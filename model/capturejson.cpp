@@ -51,7 +51,8 @@ QJsonArray toJson(const Parameters &settings)
         QJsonObject object{{QStringLiteral("name"), setting.name},
                            {QStringLiteral("address"), setting.addr},
                            {QStringLiteral("readOnly"), setting.readonly},
-                           {QStringLiteral("shown"), setting.auxFlag}};
+                           {QStringLiteral("shown"), setting.auxFlag},
+                           {QStringLiteral("models"), setting.devices}};
         for (const auto &number : settingFields)
             object.insert(QLatin1String(number.name), setting.*number.field);
         array.append(object);

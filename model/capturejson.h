@@ -11,6 +11,8 @@
 /// Version of the block that is written. Blocks of this version and older ones are read, newer ones are refused.
 constexpr int captureFormatVersion = 1;
 
+constexpr qsizetype longestNote = 20000; ///< characters of a capture's note; a longer one is refused
+
 /// The capture as members of one object; only enabled channels are kept. `extra` (figures, an axis sheet) is added at
 /// the top level and must not use the names of the format; reading ignores it.
 QJsonObject captureToJson(const CaptureRecord &capture, const QJsonObject &extra = {});

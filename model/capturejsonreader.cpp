@@ -17,11 +17,15 @@ constexpr qsizetype mostChannels = 64;
 constexpr qsizetype mostSamples = 1000000; // of all channels together
 constexpr qsizetype mostSettings = 1000;
 constexpr qsizetype longestName = 100;
-constexpr qsizetype longestNote = 20000;
 
 QString tr(const char *text)
 {
     return QCoreApplication::translate("CaptureRecord", text);
+}
+
+bool isSane(double number)
+{
+    return std::abs(number) <= largestCaptureNumber; // false for a number that is none
 }
 
 /// One reading of a block. The first thing that is wrong stays; what is read after it does not matter.
@@ -61,7 +65,7 @@ private:
 double Reader::number(const QJsonObject &object, const char *name)
 {
     const QJsonValue value = object.value(QLatin1String(name));
-    if (!value.isDouble() || !std::isfinite(value.toDouble()))
+    if (!value.isDouble() || !isSane(value.toDouble()))
         refuseMember(name);
     return value.toDouble();
 }
@@ -129,7 +133,7 @@ void Reader::readHead(const QJsonObject &block, CaptureRecord *capture)
 {
     capture->rate = number(block, "rate");
     capture->samplePeriod = number(block, "samplePeriod");
-    if (!(capture->samplePeriod > 0.0 && capture->samplePeriod < 3600.0))
+    if (capture->samplePeriod < shortestSamplePeriod || capture->samplePeriod > longestSamplePeriod)
         refuseMember("samplePeriod");
     capture->trigger = integer(block, "trigger");
     capture->program = text(block, "program");
@@ -167,6 +171,8 @@ CaptureData Reader::channel(const QJsonObject &object, double samplePeriod)
     channel.unit = text(object, "unit");
     channel.group = identifier(object, "group");
     channel.scale = number(object, "scale");
+    if (channel.scale == 0.0) // raw words are values divided by it
+        refuseMember("scale");
     channel.isUnsigned = flag(object, "unsigned");
     const double bit = number(object, "sourceBit");
     if (!(bit >= 0.0 && bit <= 4294967295.0))
@@ -178,7 +184,7 @@ CaptureData Reader::channel(const QJsonObject &object, double samplePeriod)
     m_sampleCount += values.size();
     channel.samples.reserve(values.size());
     for (const QJsonValue &value : values) {
-        if (!value.isDouble() || !std::isfinite(value.toDouble())) {
+        if (!value.isDouble() || !isSane(value.toDouble())) {
             refuseMember("values");
             break;
         }
@@ -219,6 +225,8 @@ void Reader::readSettings(const QJsonArray &array, Parameters *settings)
         setting.addr = integer(object, "address");
         setting.readonly = flag(object, "readOnly");
         setting.auxFlag = flag(object, "shown");
+        if (object.contains(QLatin1String("models"))) // the first files have none
+            setting.devices = text(object, "models");
         for (const auto &field : settingFields)
             setting.*field.field = number(object, field.name);
         if (setting.scaling == 0.0) // display values are divided by it

@@ -48,14 +48,14 @@ QStringList fieldsOf(const QString &line, QChar separator)
     return fields << field;
 }
 
-/// False when a field is no finite number.
+/// False when a field is no number, or one that no drive records.
 bool numbersOf(const QStringList &fields, QList<double> &numbers)
 {
     numbers.clear();
     for (const QString &field : fields) {
         bool isNumber = false;
         const double number = field.toDouble(&isNumber); // always with a decimal point
-        if (!isNumber || !std::isfinite(number))
+        if (!isNumber || !(std::abs(number) <= largestCaptureNumber))
             return false;
         numbers.append(number);
     }
@@ -85,12 +85,12 @@ QString channelsOf(const QStringList &captions, const QList<CaptureData> &known,
     return QString();
 }
 
-/// Time between rows, or 0 when they are not evenly spaced. The file's times are rounded to six digits.
+/// Time between rows, or 0 when they are not evenly spaced or no drive records so. The file's times are rounded to six digits.
 double periodOf(const QList<double> &times)
 {
     const double span = times.last() - times.first();
     const double period = span / (times.size() - 1);
-    if (!(period > 0.0))
+    if (!(period >= shortestSamplePeriod && period <= longestSamplePeriod))
         return 0.0;
     for (qsizetype row = 0; row < times.size(); ++row) {
         if (std::abs(times.at(row) - times.first() - row * period) > 0.1 * period + 1e-5 * times.last())

@@ -59,5 +59,5 @@ ReportCheck checkReportFile(const QString &fileName)
         check.problem = tr("The report cannot be opened: %1.").arg(file.errorString());
     else if (file.size() > largestFile)
         check.problem = tr("The file is far too large to be a report.");
-    return check.problem.isEmpty() ? checkReport(file.read(largestFile)) : check;
+    return check.problem.isEmpty() ? checkReport(file.read(file.size())) : check;
 }

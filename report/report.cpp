@@ -4,11 +4,19 @@
 #include "chart.h"
 #include "checksum.h"
 #include "devicemodel.h"
+#include "html.h"
 #include "settingfacts.h"
 
 #include <QCoreApplication>
 
 namespace {
+
+using html::known;
+using html::number;
+using html::paragraph;
+using html::section;
+using html::table;
+using html::when;
 
 QString tr(const char *text)
 {
@@ -32,7 +40,8 @@ body { font: 11pt sans-serif; color: #000; background: #fff; max-width: 62em; ma
 h1 { font-size: 1.6em; } h2 { font-size: 1.2em; border-bottom: 1px solid #999; margin-top: 1.6em; }
 table { border-collapse: collapse; width: 100%; margin: .5em 0; }
 th, td { text-align: left; padding: .15em .5em; border-bottom: 1px solid #ddd; vertical-align: top; }
-td.value { text-align: right; white-space: nowrap; } td + td + td + td + td + td { width: 40%; }
+td.value { text-align: right; white-space: nowrap; } td + td + td + td + td + td { width: 32%; }
+tbody td:nth-child(4) { white-space: nowrap; } .facts { width: auto; } .facts th { padding-right: 2em; }
 tr.differs { font-weight: bold; background: #f3f3e0; } .note { font-weight: normal; font-style: italic; }
 .warning { font-weight: bold; } code { word-break: break-all; } svg { max-width: 100%; height: auto; }
 .sign td { height: 3em; border: 1px solid #999; }
@@ -42,78 +51,17 @@ tr.differs { font-weight: bold; background: #f3f3e0; } .note { font-weight: norm
 }
 )";
 
-QString number(double value)
+QString driveSection(const Report &report)
 {
-    return QString::number(value, 'g', 15);
-}
-
-QString known(int value, int base = 10)
-{
-    return value != 0 ? QString::number(value, base).toUpper() : tr("not known");
-}
-
-QString when(const QDateTime &time)
-{
-    return time.isValid() ? time.toString(QStringLiteral("yyyy-MM-dd hh:mm:ss t")) : tr("not known");
-}
-
-QString section(const QString &title, const QString &contents)
-{
-    return QStringLiteral("<section>\n<h2>%1</h2>\n").arg(title.toHtmlEscaped()) + contents +
-           QLatin1String("</section>\n");
-}
-
-QString paragraph(const QString &text)
-{
-    return QLatin1String("<p>") + text.toHtmlEscaped() + QLatin1String("</p>\n");
-}
-
-/// Two columns: what it is, and what it is there.
-QString facts(const QList<QPair<QString, QString>> &rows)
-{
-    QString html = QStringLiteral("<table>\n");
-    for (const auto &[caption, value] : rows)
-        html += QLatin1String("<tr><th>") + caption.toHtmlEscaped() + QLatin1String("</th><td>") +
-                value.toHtmlEscaped() + QLatin1String("</td></tr>\n");
-    return html + QLatin1String("</table>\n");
-}
-
-QList<SingleParam> settingsOf(const Report &report)
-{
-    const QString model = deviceModelName(report.drive.type, false);
-    QList<SingleParam> settings;
-    for (int i = 0; i < report.settings.getParamCount(); ++i) {
-        const SingleParam setting = report.settings.getParam(i);
-        if (!setting.readonly && setting.supportedInDevice(model))
-            settings.append(setting);
-    }
-    return settings;
-}
-
-QString identity(const Report &report)
-{
-    const DriveIdentity &drive = report.drive;
-    QList<QPair<QString, QString>> rows = {
-        {tr("Model"), drive.model},
-        {tr("HW type ID"), known(drive.type)},
-        {tr("Serial number"), known(drive.serial)},
-        {tr("Bus address"), known(drive.address)},
-        {tr("TarnwellCore firmware version"), known(drive.firmware)},
-    };
-    if (drive.ioFirmware != 0)
-        rows.append({tr("I/O side firmware version"), known(drive.ioFirmware)});
-    if (drive.buildRevision != 0)
-        rows.append({tr("Firmware revision ID"), known(drive.buildRevision, 16)});
+    html::Facts rows = html::identity(report.drive);
     rows += {{tr("Report made"), when(report.time)}, {tr("Velbrin version"), report.program}};
-    return section(tr("Drive"), facts(rows));
+    return section(tr("Drive"), table(rows));
 }
 
 QString settingRow(const SingleParam &setting, const Report &report)
 {
     const std::optional<SettingFacts> about = settingFacts(setting.name, isTorvaModel(report.drive.type));
-    // As it goes over the bus: what rounding makes is no difference.
-    const bool differs =
-        about && setting.convertToDeviceScale(setting.value) != setting.convertToDeviceScale(about->standard);
+    const bool differs = about && differsFromStandard(setting, *about);
     const QString note = report.notes.value(setting.name);
     QString caption = about ? about->caption.toHtmlEscaped() : QString();
     if (!note.isEmpty())
@@ -131,18 +79,18 @@ QString settingRow(const SingleParam &setting, const Report &report)
 
 QString settings(const Report &report)
 {
-    QString html = QStringLiteral("<table>\n<thead><tr>");
+    QString text = QStringLiteral("<table>\n<thead><tr>");
     for (const QString &head : {tr("Setting"), tr("Value"), tr("Unit"), tr("The drive's limits"), tr("Default"),
                                 tr("Differs"), tr("What it is")})
-        html += QLatin1String("<th>") + head.toHtmlEscaped() + QLatin1String("</th>");
-    html += QLatin1String("</tr></thead>\n<tbody>\n");
-    for (const SingleParam &setting : settingsOf(report))
-        html += settingRow(setting, report);
-    html += QLatin1String("</tbody></table>\n");
-    html += paragraph(tr("Checksum of the settings (SHA-256), which \"velbrin-cli report --verify FILE\" checks:"));
-    html += QStringLiteral("<p><code id=\"settings-checksum\">%1</code></p>\n")
+        text += QLatin1String("<th>") + head.toHtmlEscaped() + QLatin1String("</th>");
+    text += QLatin1String("</tr></thead>\n<tbody>\n");
+    for (const SingleParam &setting : settingsOfDrive(report.settings, report.drive.type))
+        text += settingRow(setting, report);
+    text += QLatin1String("</tbody></table>\n");
+    text += paragraph(tr("Checksum of the settings (SHA-256), which \"velbrin-cli report --verify FILE\" checks:"));
+    text += QStringLiteral("<p><code id=\"settings-checksum\">%1</code></p>\n")
                 .arg(settingsChecksum(printedSettings(report)));
-    return section(tr("Settings"), html);
+    return section(tr("Settings"), text);
 }
 
 /// What keeps a capture from being one of this drive as it is now.
@@ -150,41 +98,41 @@ QString whatIsOther(const CaptureRecord &capture, const Report &report)
 {
     if (capture.settings.getParamCount() == 0)
         return paragraph(tr("The file does not say with which drive and settings it was recorded."));
-    QString html;
+    QString text;
     if (capture.drive.serial != report.drive.serial)
-        html += QLatin1String("<p class=\"warning\">") +
+        text += QLatin1String("<p class=\"warning\">") +
                 tr("Recorded on another drive: serial number %1.").arg(known(capture.drive.serial)).toHtmlEscaped() +
                 QLatin1String("</p>\n");
     QStringList others;
-    for (const SingleParam &now : settingsOf(report)) {
+    for (const SingleParam &now : settingsOfDrive(report.settings, report.drive.type)) {
         const SingleParam then = capture.settings.getParam(now.name);
         if (then.name == now.name && now.convertToDeviceScale(then.value) != now.convertToDeviceScale(now.value))
             others.append(now.name + QLatin1Char('=') + number(then.value));
     }
     if (!others.isEmpty())
-        html += paragraph(tr("Recorded with other settings: %1.").arg(others.join(QLatin1String(", "))));
-    return html;
+        text += paragraph(tr("Recorded with other settings: %1.").arg(others.join(QLatin1String(", "))));
+    return text;
 }
 
 QString captured(const ReportedCapture &capture, const Report &report)
 {
-    QString html = QStringLiteral("<h3>%1</h3>\n").arg(capture.title.toHtmlEscaped()) +
+    QString text = QStringLiteral("<h3>%1</h3>\n").arg(capture.title.toHtmlEscaped()) +
                    paragraph(tr("Recorded: %1").arg(when(capture.record.time)));
     if (!capture.record.note.isEmpty())
-        html += paragraph(tr("Note: %1").arg(capture.record.note));
-    html += whatIsOther(capture.record, report) + captureChart(capture.record);
-    QList<QPair<QString, QString>> rows;
+        text += paragraph(tr("Note: %1").arg(capture.record.note));
+    text += whatIsOther(capture.record, report) + captureChart(capture.record);
+    html::Facts rows;
     for (const FigureLine &line : figureLines(captureFigures(capture.record)))
         rows.append({line.caption, line.value});
-    return QLatin1String("<section class=\"capture\">\n") + html + facts(rows) + QLatin1String("</section>\n");
+    return QLatin1String("<section class=\"capture\">\n") + text + table(rows) + QLatin1String("</section>\n");
 }
 
 QString captures(const Report &report)
 {
-    QString html;
+    QString text;
     for (const ReportedCapture &capture : report.captures)
-        html += captured(capture, report);
-    return section(tr("Captures"), html.isEmpty() ? paragraph(tr("None were chosen.")) : html);
+        text += captured(capture, report);
+    return section(tr("Captures"), text.isEmpty() ? paragraph(tr("None were chosen.")) : text);
 }
 
 QString figure(const Figure &figure, double scale, const QString &unit)
@@ -198,7 +146,7 @@ QString stopTest(const Report &report)
         return section(tr("Stop test"), paragraph(tr("Not done.")));
     const StopFigures figures = stopFigures(*report.stopTest);
     const double countsPerRevolution = 4.0 * report.settings.getParam(QStringLiteral("FBR")).value;
-    QList<QPair<QString, QString>> rows = {
+    html::Facts rows = {
         {tr("Time to standstill"), figure(figures.time, 1000.0, tr("ms"))},
         {tr("Distance to standstill"), figure(figures.distance, 1.0, tr("counts"))},
         {tr("Farthest point on the way"), figure(figures.farthest, 1.0, tr("counts"))},
@@ -208,14 +156,14 @@ QString stopTest(const Report &report)
     return section(
         tr("Stop test"),
         paragraph(tr("Measured from the fault that the machine's stop raised, %1.").arg(when(report.stopTest->time))) +
-            captureChart(*report.stopTest) + facts(rows));
+            captureChart(*report.stopTest) + table(rows));
 }
 
 QString whatToSign()
 {
-    QString html = QStringLiteral("<table>\n");
+    QString text = QStringLiteral("<table>\n");
     for (const char *question : checklist)
-        html +=
+        text +=
             QLatin1String("<tr><td>&#9744;</td><td>") + tr(question).toHtmlEscaped() + QLatin1String("</td></tr>\n");
     QString names = QStringLiteral("<table class=\"sign\">\n<tr>");
     for (const QString &head : {QString(), tr("Name"), tr("Date"), tr("Signature")})
@@ -223,7 +171,7 @@ QString whatToSign()
     names += QLatin1String("</tr>\n");
     for (const QString &who : {tr("Commissioned by:"), tr("Accepted by:")})
         names += QLatin1String("<tr><td>") + who.toHtmlEscaped() + QLatin1String("</td><td></td><td></td><td></td></tr>\n");
-    return section(tr("Checklist"), html + QLatin1String("</table>\n")) +
+    return section(tr("Checklist"), text + QLatin1String("</table>\n")) +
            section(tr("Signatures"), names + QLatin1String("</table>\n"));
 }
 
@@ -232,7 +180,7 @@ QString whatToSign()
 QList<QPair<QString, QString>> printedSettings(const Report &report)
 {
     QList<QPair<QString, QString>> printed;
-    for (const SingleParam &setting : settingsOf(report))
+    for (const SingleParam &setting : settingsOfDrive(report.settings, report.drive.type))
         printed.append({setting.name, number(setting.value)});
     return printed;
 }
@@ -245,7 +193,7 @@ QByteArray reportPage(const Report &report)
     const QString page = QStringLiteral("<!DOCTYPE html>\n<html>\n<head>\n<meta charset=\"utf-8\">\n<title>") +
                          escaped + QLatin1String("</title>\n<style>") + QLatin1String(style) +
                          QLatin1String("</style>\n</head>\n<body>\n<h1>") + escaped + QLatin1String("</h1>\n") +
-                         identity(report) + settings(report) + captures(report) + stopTest(report) + whatToSign() +
+                         driveSection(report) + settings(report) + captures(report) + stopTest(report) + whatToSign() +
                          QLatin1String("</body>\n</html>\n");
     return page.toUtf8();
 }

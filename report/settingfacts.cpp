@@ -1,5 +1,7 @@
 #include "settingfacts.h"
 
+#include "devicemodel.h"
+
 #include <QCoreApplication>
 
 #include <algorithm>
@@ -93,4 +95,32 @@ std::optional<SettingFacts> settingFacts(const QString &name, bool isTorva)
         return std::nullopt;
     return SettingFacts{QCoreApplication::translate("SettingFacts", row->caption), QString::fromUtf8(row->unit),
                         isTorva ? row->torvaStandard : row->standard};
+}
+
+bool differsFromStandard(const SingleParam &setting, const SettingFacts &facts)
+{
+    return setting.convertToDeviceScale(setting.value) != setting.convertToDeviceScale(facts.standard);
+}
+
+QList<SingleParam> settingsOfDrive(const Parameters &settings, int driveType)
+{
+    const QString model = deviceModelName(driveType, false);
+    QList<SingleParam> list;
+    for (int i = 0; i < settings.getParamCount(); ++i) {
+        const SingleParam setting = settings.getParam(i);
+        if (!setting.readonly && setting.supportedInDevice(model))
+            list.append(setting);
+    }
+    return list;
+}
+
+QList<ChangedSetting> changedSettings(const Parameters &settings, int driveType)
+{
+    QList<ChangedSetting> changed;
+    for (const SingleParam &setting : settingsOfDrive(settings, driveType)) {
+        const std::optional<SettingFacts> facts = settingFacts(setting.name, isTorvaModel(driveType));
+        if (facts && differsFromStandard(setting, *facts))
+            changed.append({setting, *facts});
+    }
+    return changed;
 }

@@ -3,7 +3,7 @@
 #ifndef SETTINGFACTS_H
 #define SETTINGFACTS_H
 
-#include <QString>
+#include "parameters.h"
 
 #include <optional>
 
@@ -16,5 +16,21 @@ struct SettingFacts
 
 /// Nothing for a name that is no writable setting.
 std::optional<SettingFacts> settingFacts(const QString &name, bool isTorva);
+
+/// A setting that is not as a new drive has it.
+struct ChangedSetting
+{
+    SingleParam setting;
+    SettingFacts facts;
+};
+
+/// Whether its value is another one than a new drive's, as it goes over the bus: what rounding makes is no difference.
+bool differsFromStandard(const SingleParam &setting, const SettingFacts &facts);
+
+/// The writable settings that a drive of this type has, in the order of the list.
+QList<SingleParam> settingsOfDrive(const Parameters &settings, int driveType);
+
+/// Those of them that differ; the same ones wherever they are told.
+QList<ChangedSetting> changedSettings(const Parameters &settings, int driveType);
 
 #endif

@@ -14,6 +14,32 @@
     }
     Object.assign(readyQuery, jQuery);
 
+    // The page's charts without legend and numbers, which cost most of the time: attach() draws every chart anew, with its
+    // own legend and with the numbers of the part that is seen.
+    readyQuery.plot = Object.assign(function (element, data, options) {
+        var bare = { legend: jQuery.extend({}, options.legend, { show: false }),
+                     xaxis: jQuery.extend({}, options.xaxis, { show: false }),
+                     yaxis: jQuery.extend({}, options.yaxis, { show: false }) };
+        var plot = jQuery.plot(element, data, jQuery.extend({}, options, bare));
+        plot.getOptions().xaxes.concat(plot.getOptions().yaxes).forEach(function (axis) { axis.show = null; });
+        return plot;
+    }, jQuery.plot);
+
+    // How large a text is: the engine lays the page out for each that it is asked for, and the numbers at the axes of one
+    // capture are those of the last. The library asks for texts out of sight.
+    var sizes = {}, known = 0, most = 5000;
+    var measure = SVGGraphicsElement.prototype.getBBox;
+    SVGTextElement.prototype.getBBox = function () {
+        if (this.getAttribute("x") !== "-9999")
+            return measure.call(this);
+        var key = this.getAttribute("class") + "\n" + this.style.font + "\n" + this.textContent;
+        if (!sizes[key] && ++known > most) {
+            sizes = {};
+            known = 0;
+        }
+        return sizes[key] = sizes[key] || measure.call(this);
+    };
+
     // Draws the page given as text into this one. The part of the record that is seen stays for the same channels; cursors,
     // units and hidden channels stay in any case.
     function replace(html, keepZoom) {

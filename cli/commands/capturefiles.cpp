@@ -1,12 +1,12 @@
 #include "capturefiles.h"
 
 #include "capturefigures.h"
-#include "capturefile.h"
 #include "capturejson.h"
 #include "captureplotter.h"
 #include "capturetext.h"
 #include "datafolder.h"
 #include "plotpage.h"
+#include "savedpage.h"
 
 #include <QCoreApplication>
 #include <QJsonArray>
@@ -24,7 +24,7 @@ QString tr(const char *text)
 
 QByteArray pageOf(const CaptureRecord &capture, const QString &flotFolder, QString &problem)
 {
-    return standalonePage(capturePage(capture, toJson(captureFigures(capture))), flotFolder, problem).toUtf8();
+    return standalonePage(savedCapturePage(capture, captureFigures(capture)), flotFolder, problem).toUtf8();
 }
 
 Table channelTable(const CaptureRecord &capture)

@@ -6,7 +6,10 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdio>
+#include <cstdlib>
+#include <fstream>
 #include <functional>
+#include <sstream>
 #include <utility>
 
 namespace {
@@ -210,40 +213,56 @@ Chart positionForward()
                           Speed, 375);
 }
 
-/// The three tries of the guide's session on a springy axis.
-const Row springyTries[] = {
-    {"try 1: 720, 360, 240", Orange, {{reg::VelocityP, 720}, {reg::VelocityI, 360}, {reg::PositionP, 240}}},
-    {"try 2: 480, 360, 240", Green, {{reg::VelocityP, 480}, {reg::VelocityI, 360}, {reg::PositionP, 240}}},
-    {"try 3: 420, 180, 140", Blue, {{reg::VelocityP, 420}, {reg::VelocityI, 180}, {reg::PositionP, 140}}},
-};
-
-Signals springyStep(const Row &row)
+/// The three tries of the guide's session on a springy axis, as springy-session.sh has captured them.
+struct Try
 {
-    Trial trial;
-    trial.changes = row.changes;
-    trial.machine = "flexible";
-    trial.setpoint = [](int) { return PositionStep; };
-    return run(trial);
+    const char *file, *name, *colour;
+};
+constexpr Try springyTries[] = {
+    {"springy-1.csv", "try 1: 720, 360, 240", Orange},
+    {"springy-2.csv", "try 2: 480, 360, 240", Green},
+    {"springy-3.csv", "try 3: 420, 180, 140", Blue},
+};
+constexpr int SpringySamples = 375; // one a control cycle
+enum SpringyColumn { TorqueColumn = 1, PositionSetpointColumn, PositionColumn };
+
+/// One column of a capture, less what the setpoint was before the step where `isPosition`.
+std::vector<double> captured(const Try &attempt, int column, bool isPosition)
+{
+    std::ifstream file(std::string(VELBRIN_HELP_CAPTURES "/") + attempt.file);
+    std::string line;
+    std::getline(file, line); // names
+    std::getline(file, line); // units
+    std::vector<double> values;
+    double start = 0.0;
+    while (values.size() < SpringySamples && std::getline(file, line)) {
+        std::istringstream fields(line);
+        std::vector<double> row;
+        for (std::string field; std::getline(fields, field, ',');)
+            row.push_back(std::atof(field.c_str()));
+        if (values.empty() && isPosition)
+            start = row.at(PositionSetpointColumn);
+        values.push_back(row.at(std::size_t(column)) - start);
+    }
+    if (values.size() < SpringySamples)
+        std::fprintf(stderr, "%s is no capture of %d samples\n", attempt.file, SpringySamples);
+    return values;
 }
 
 Chart springyPosition()
 {
     Chart chart("time, ms", "position, counts", CycleMs);
-    chart.add({"setpoint", Wanted, std::vector<double>(376, PositionStep), true});
-    for (const Row &row : springyTries) {
-        const Signals signals = springyStep(row);
-        chart.add({row.name, row.colour, valuesOf(signals, &AxisSignals::position)});
-        std::printf("  %-14s %s\n", row.name, describeStep(signals, &AxisSignals::position, PositionStep).c_str());
-    }
+    chart.add({"setpoint", Wanted, captured(springyTries[0], PositionSetpointColumn, true), true});
+    for (const Try &attempt : springyTries)
+        chart.add({attempt.name, attempt.colour, captured(attempt, PositionColumn, true)});
     return chart;
 }
 
 Chart springyTorque()
 {
     Chart chart("time, ms", "torque setpoint, A", CycleMs);
-    for (const Row &row : {springyTries[0], springyTries[2]})
-        chart.add({row.name, row.colour,
-                   valuesOf(springyStep(row), &AxisSignals::torqueSetpoint, AmperesPerCount)});
+    for (const Try &attempt : {springyTries[0], springyTries[2]})
+        chart.add({attempt.name, attempt.colour, captured(attempt, TorqueColumn, false)});
     return chart;
 }
 

@@ -1,7 +1,6 @@
 #include "trial.h"
 
 #include "driveprofile.h"
-#include "machine.h"
 #include "registerfile.h"
 #include "servoaxis.h"
 
@@ -27,10 +26,7 @@ std::vector<sim::AxisSignals> run(const Trial &trial)
     sim::RegisterFile registers(profile);
     for (const Trial::Change &change : trial.changes)
         registers.setValue(change.address, change.value);
-    sim::Machine machine;
-    if (const std::string problem = sim::parseMachine(trial.machine, machine); !problem.empty())
-        std::fprintf(stderr, "%s\n", problem.c_str());
-    sim::ServoAxis axis(profile, registers, machine);
+    sim::ServoAxis axis(profile, registers);
     axis.powerUp();
     axis.setSoftEnable(true);
     for (int i = 0; i < SettleCycles; ++i)

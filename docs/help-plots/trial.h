@@ -21,7 +21,6 @@ struct Trial
         std::int32_t value;
     };
     std::vector<Change> changes;
-    std::string machine; ///< what is bolted to the motor, as velbrin-sim --load takes it; the plain axis if empty
     int cycles = 375;
     std::function<std::int32_t(int cycle)> setpoint; ///< in setpoint units, from the first cycle on
     std::function<double(int cycle)> load;           ///< Nm against the positive direction; may be empty

@@ -52,7 +52,8 @@
             if (!values || !chart.plot.getData()[place].lines.show)
                 return;
             context.strokeStyle = grey;
-            context.setLineDash(place % 2 ? [] : [5, 3]); // setpoints stand first in their groups
+            // Setpoints stand first in their groups; what is alone needs no telling apart.
+            context.setLineDash(place % 2 || chart.channels.length === 1 ? [] : [5, 3]);
             context.beginPath();
             values.forEach(function (value, k) {
                 context.lineTo(axes.xaxis.p2c(k * capture.period), axes.yaxis.p2c(value * factor));

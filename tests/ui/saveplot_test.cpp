@@ -91,6 +91,7 @@ TEST_F(SavePlot, NumbersHaveARowASample)
 {
     save(path("graphs.csv"));
     QFile file(path("graphs.csv"));
+    ASSERT_TRUE(waitFor([&] { return file.exists(); }));
     ASSERT_TRUE(file.open(QIODevice::ReadOnly));
     const QList<QByteArray> lines = file.readAll().split('\n');
     EXPECT_EQ(lines.size(), 1 + 2000 / 3 + 1) << "a heading, the rows, and nothing behind the last line feed";

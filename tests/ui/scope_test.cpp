@@ -109,9 +109,17 @@ TEST_F(Scope, ASavedPageShowsTheSamePictureAndFiguresWithoutADriveAndBadFilesCha
     const QString figuresThen = figures();
     const QVector<QPointF> then = samples("Position", 1);
     const QString file = path("step.html");
+    // The user's words on it, typed into its row.
+    QTableWidgetItem *note = tries()->item(0, tries()->columnCount() - 1);
+    tries()->editItem(note);
+    auto *editor = tries()->viewport()->findChild<QLineEdit *>();
+    ASSERT_NE(editor, nullptr);
+    editor->setText("belt <b>loose");
+    QTest::keyClick(editor, Qt::Key_Return);
+    ASSERT_TRUE(waitFor([this] { return run("$('body').text()").toString().contains("belt <b>loose"); }));
     m_answers.chooseFile(file);
     clickLink("tdext://exportpdf");
-    ASSERT_TRUE(QFile::exists(file)) << qPrintable(shownMessage(m_window.get()));
+    ASSERT_TRUE(waitFor([&] { return QFile::exists(file); })) << qPrintable(shownMessage(m_window.get()));
     EXPECT_LT(QFileInfo(file).size(), 1000000);
     m_window.reset();
 
@@ -122,6 +130,7 @@ TEST_F(Scope, ASavedPageShowsTheSamePictureAndFiguresWithoutADriveAndBadFilesCha
     ASSERT_TRUE(waitFor([&] { return figures() == figuresThen; })) << qPrintable(figures());
     EXPECT_EQ(samples("Position", 1), then);
     EXPECT_EQ(tries()->rowCount(), 1);
+    EXPECT_EQ(cell(0, "Note"), "belt <b>loose");
 
     const struct { const char *name; QByteArray text; const char *says; } bad[] = {
         {"empty.html", "", "is empty"},
@@ -211,6 +220,7 @@ TEST_F(Scope, ReportHasTheMachineTheNotesAndTheChosenCapture)
     m_answers.chooseFile(file);
     click("triesReport");
     QFile report(file);
+    ASSERT_TRUE(waitFor([&] { return report.exists(); })) << qPrintable(statusBarText());
     ASSERT_TRUE(report.open(QIODevice::ReadOnly)) << qPrintable(statusBarText());
     const QByteArray text = report.readAll();
     EXPECT_TRUE(text.contains("Saw &lt;b&gt;7"));

@@ -1,5 +1,7 @@
 #include "capturehistory.h"
 
+#include "capturejson.h"
+
 #include <QHash>
 #include <QLocale>
 
@@ -75,6 +77,17 @@ bool CaptureHistory::layUnder(int id)
         return false;
     m_under = id;
     return true;
+}
+
+bool CaptureHistory::setNote(int id, const QString &note)
+{
+    for (KeptCapture &capture : m_all) {
+        if (capture.id != id)
+            continue;
+        capture.record.note = note.left(longestNote);
+        return true;
+    }
+    return false;
 }
 
 void CaptureHistory::setFigures(int id, const CaptureFigures &figures)

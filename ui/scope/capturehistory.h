@@ -48,6 +48,8 @@ public:
     bool show(int id);
     /// 0 takes the older one away. The one that is shown cannot lie under itself.
     bool layUnder(int id);
+    /// The user's own words; no more of them than a file may hold. False when there is none with this id.
+    bool setNote(int id, const QString &note);
     void setFigures(int id, const CaptureFigures &figures);
 
     /// The oldest first.

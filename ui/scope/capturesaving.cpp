@@ -1,10 +1,10 @@
 #include "capturesaving.h"
 
-#include "capturefile.h"
 #include "captureplotter.h"
 #include "capturetext.h"
 #include "outputfile.h"
 #include "plotpage.h"
+#include "savedpage.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -23,8 +23,8 @@ QString commasFilter()
 
 QByteArray pageOf(const KeptCapture &capture, QString &problem)
 {
-    const QJsonObject figures = toJson(capture.figures ? *capture.figures : captureFigures(capture.record));
-    return standalonePage(capturePage(capture.record, figures), QDir::current().filePath(QStringLiteral("flot")),
+    const CaptureFigures figures = capture.figures ? *capture.figures : captureFigures(capture.record);
+    return standalonePage(savedCapturePage(capture.record, figures), QDir::current().filePath(QStringLiteral("flot")),
                           problem)
         .toUtf8();
 }

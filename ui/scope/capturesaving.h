@@ -17,7 +17,8 @@ enum class CaptureFormat {
 QString captureFilters();
 /// The ending decides, in any case of letters; which kind of ".csv" it is the filter that was chosen.
 CaptureFormat captureFormatOf(const QString &fileName, const QString &filter);
-/// Writes any but a picture, whole or not at all. Returns an empty text, or why not, without markup.
+/// Writes any but a picture, whole or not at all. Returns an empty text, or why not, without markup. Any thread: it may
+/// have to work out the figures.
 QString saveCapture(const KeptCapture &capture, CaptureFormat format, const QString &fileName);
 
 #endif

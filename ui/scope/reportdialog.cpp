@@ -1,6 +1,5 @@
 #include "reportdialog.h"
 
-#include "devicemodel.h"
 #include "scopecontext.h"
 #include "settingfacts.h"
 
@@ -16,6 +15,7 @@
 namespace {
 
 constexpr int onFault = 3; ///< trigger code of the recorder
+constexpr int longestShownNote = 100; ///< characters, beside a capture's time
 enum NoteColumn { NameColumn, ValueColumn, StandardColumn, WordsColumn, NoteColumns };
 
 QTableWidgetItem *fixedItem(const QString &text)
@@ -59,20 +59,13 @@ void ReportDialog::addNotes()
     m_notes->verticalHeader()->hide();
     m_notes->horizontalHeader()->setStretchLastSection(true);
     m_notes->setTabKeyNavigation(false);
-    const bool torva = isTorvaModel(m_drive.drive.type);
-    const QString model = deviceModelName(m_drive.drive.type, false);
-    for (int i = 0; i < m_drive.settings.getParamCount(); ++i) {
-        const SingleParam setting = m_drive.settings.getParam(i);
-        const bool isIts = !setting.readonly && setting.supportedInDevice(model);
-        const std::optional<SettingFacts> facts = isIts ? settingFacts(setting.name, torva) : std::nullopt;
-        if (!facts || facts->standard == setting.value)
-            continue;
+    for (const auto &[setting, facts] : changedSettings(m_drive.settings, m_drive.drive.type)) {
         const int row = m_notes->rowCount();
         m_notes->insertRow(row);
         m_notes->setItem(row, NameColumn, fixedItem(setting.name));
-        m_notes->item(row, NameColumn)->setToolTip(facts->caption);
+        m_notes->item(row, NameColumn)->setToolTip(facts.caption);
         m_notes->setItem(row, ValueColumn, fixedItem(settingText(setting.value)));
-        m_notes->setItem(row, StandardColumn, fixedItem(settingText(facts->standard)));
+        m_notes->setItem(row, StandardColumn, fixedItem(settingText(facts.standard)));
         m_notes->setItem(row, WordsColumn, new QTableWidgetItem);
     }
 }
@@ -82,7 +75,9 @@ void ReportDialog::addCaptures(const CaptureHistory &history)
     m_stopTest->addItem(tr("none: capture on fault, press the machine's stop, and choose the capture here"));
     for (auto capture = history.all().crbegin(); capture != history.all().crend(); ++capture) {
         m_captures.append(*capture);
-        auto *item = new QListWidgetItem(captureTitle(*capture), m_list);
+        const QString note = capture->record.note.simplified().left(longestShownNote);
+        auto *item = new QListWidgetItem(
+            note.isEmpty() ? captureTitle(*capture) : tr("%1: %2").arg(captureTitle(*capture), note), m_list);
         const bool isShown = history.shown() && history.shown()->id == capture->id;
         item->setCheckState(isShown ? Qt::Checked : Qt::Unchecked);
         if (capture->record.trigger == onFault)

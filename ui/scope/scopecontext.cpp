@@ -9,7 +9,7 @@
 namespace {
 
 constexpr double cyclesPerSecond = 2500.0; // where a file does not tell (PIF)
-constexpr int longestNote = 2000;          // characters, in the plot view
+constexpr int longestShownNote = 2000;     // characters, in the plot view
 
 QString tr(const char *text)
 {
@@ -29,7 +29,8 @@ QJsonObject unitSystem(const QString &name, double velocity, const QString &velo
 
 double countsPerRevolution(const CaptureRecord &capture)
 {
-    return 4.0 * capture.setting(QStringLiteral("FBR"), 0.0);
+    const double lines = capture.setting(QStringLiteral("FBR"), 0.0);
+    return lines >= 1.0 ? 4.0 * lines : 0.0; // less than one is no encoder
 }
 
 QJsonArray channels(const CaptureRecord &capture)
@@ -106,7 +107,7 @@ QJsonArray unitSystems(const CaptureRecord &capture)
     const double counts = countsPerRevolution(capture);
     const double rate = capture.setting(QStringLiteral("PIF"), cyclesPerSecond);
     const double scale = capture.setting(QStringLiteral("AXS"), 0.0);
-    const int axis = int(capture.setting(QStringLiteral("AXT"), -1.0));
+    const int axis = truncateToInt32(capture.setting(QStringLiteral("AXT"), -1.0));
     QJsonArray systems;
     if (counts > 0.0 && rate > 0.0)
         systems.append(unitSystem(tr("rev/s, degrees"), rate / counts, tr("rev/s"), 360.0 / counts, tr("degrees")));
@@ -153,7 +154,7 @@ QJsonObject scopeContext(const CaptureHistory &history)
     context.insert(QStringLiteral("captures"), captureList(history));
     context.insert(QStringLiteral("overlay"), overlay(history.under(), *shown));
     context.insert(QStringLiteral("title"), captureTitle(*shown));
-    context.insert(QStringLiteral("note"), shown->record.note.left(longestNote));
+    context.insert(QStringLiteral("note"), shown->record.note.left(longestShownNote));
     context.insert(QStringLiteral("canOpenOut"), true);
     context.insert(QStringLiteral("canOpenFiles"), true);
     context.insert(QStringLiteral("texts"), scopeTexts());

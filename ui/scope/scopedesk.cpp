@@ -59,6 +59,15 @@ void ScopeDesk::layUnder(int id)
         emit scopeChanged(scopeContext(m_history));
 }
 
+void ScopeDesk::setNote(int id, const QString &note)
+{
+    if (!m_history.setNote(id, note))
+        return;
+    if (m_history.shown() && m_history.shown()->id == id)
+        emit scopeChanged(scopeContext(m_history));
+    emit historyChanged();
+}
+
 void ScopeDesk::figuresCame(int id, const CaptureFigures &figures)
 {
     m_history.setFigures(id, figures);

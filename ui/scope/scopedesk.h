@@ -30,6 +30,8 @@ public:
     void show(int id);
     /// In grey under the capture that is shown, or under the newest other one when this is shown; 0 takes it away.
     void layUnder(int id);
+    /// The user's own words on a capture: shown, saved with it and in the report.
+    void setNote(int id, const QString &note);
     /// The page of the capture that is shown, once more; before the first capture an empty one.
     void redraw(bool keepZoom);
 

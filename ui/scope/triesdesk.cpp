@@ -7,6 +7,7 @@
 #include "editedsettings.h"
 #include "errorwindow.h"
 #include "filedialog.h"
+#include "filework.h"
 #include "gainspanel.h"
 #include "helpbrowser.h"
 #include "numberbox.h"
@@ -32,12 +33,14 @@ TriesDesk::TriesDesk(QWidget *window, QVBoxLayout *layout, QWidget *pagesPane, c
                      const Helpers &helpers)
     : QObject(window), m_window(window), m_pagesPane(pagesPane), m_session(session), m_use(helpers),
       m_scope(new ScopeDesk(this)), m_gains(new GainsPanel(window, layout->parentWidget())),
-      m_tries(new TriesPanel(layout->parentWidget()))
+      m_tries(new TriesPanel(layout->parentWidget())), m_captureFiles(new FileWork(this)),
+      m_reportFiles(new FileWork(this))
 {
     m_scope->setKnownChannels(scopeChannels());
     layout->insertWidget(gainsPlace, m_gains);
     layout->insertWidget(triesPlace, m_tries);
     connectPanels();
+    connectFiles();
 }
 
 void TriesDesk::connectPanels()
@@ -48,6 +51,9 @@ void TriesDesk::connectPanels()
     connect(m_tries, &TriesPanel::layUnderWanted, m_scope, &ScopeDesk::layUnder);
     connect(m_tries, &TriesPanel::openFileWanted, this, &TriesDesk::open);
     connect(m_tries, &TriesPanel::takeWanted, this, &TriesDesk::takeSettingsOf);
+    // Later: what was typed makes the table anew.
+    connect(m_tries, &TriesPanel::noteEdited, m_scope, &ScopeDesk::setNote, Qt::QueuedConnection);
+    connect(m_tries, &TriesPanel::refreshWanted, this, [this] { m_tries->show(m_scope->history()); });
     connect(m_tries, &TriesPanel::reportWanted, this, &TriesDesk::writeReport);
     connect(m_scope, &ScopeDesk::historyChanged, this, [this] { m_tries->show(m_scope->history()); });
     connect(m_scope, &ScopeDesk::plotReady, this, [this](const QString &page, QJsonObject scope, bool keepZoom) {
@@ -61,6 +67,21 @@ void TriesDesk::connectPanels()
     connect(m_use.browser, &HelpBrowser::scopeLink, m_scope, &ScopeDesk::follow);
     // Help has no link back to the pages.
     connect(m_use.browser, &HelpBrowser::plotLeft, this, [this] { setOpenedOut(false); });
+}
+
+void TriesDesk::connectFiles()
+{
+    connect(m_captureFiles, &FileWork::finished, this, [this](const QString &file, const QString &problem) {
+        if (!problem.isEmpty())
+            fail(tr("Error writing graphs to file %1").arg(file), problem);
+    });
+    connect(m_reportFiles, &FileWork::finished, this, [this](const QString &file, const QString &problem) {
+        m_use.reports.status->clearMessage();
+        if (problem.isEmpty())
+            m_use.reports.status->showMessage(tr("Report written to %1").arg(file));
+        else
+            fail(file, problem);
+    });
 }
 
 void TriesDesk::captured(const CaptureRecord &record)
@@ -140,9 +161,8 @@ void TriesDesk::save()
             tr("Nothing saved: give the file a name that ends in .png, .csv or .html"), hintMs);
         return;
     }
-    const QString problem = saveCapture(shown ? *shown : KeptCapture(), format, file);
-    if (!problem.isEmpty())
-        fail(tr("Error writing graphs to file %1").arg(file), problem);
+    const KeptCapture capture = shown ? *shown : KeptCapture();
+    m_captureFiles->begin(file, [capture, format](const QString &name) { return saveCapture(capture, format, name); });
 }
 
 void TriesDesk::writeReport()
@@ -164,14 +184,13 @@ void TriesDesk::writeReport()
     if (name.isEmpty())
         return;
     m_lastFolder = folderOf(name);
-    OutputFile file(name);
-    QString problem = file.open();
-    if (problem.isEmpty())
-        problem = file.write(reportPage(dialog.report()));
-    if (problem.isEmpty())
-        m_use.reports.status->showMessage(tr("Report written to %1").arg(name));
-    else
-        fail(name, problem);
+    const Report report = dialog.report();
+    m_use.reports.status->showMessage(tr("Writing report..."));
+    m_reportFiles->begin(name, [report](const QString &fileName) {
+        OutputFile file(fileName);
+        const QString problem = file.open();
+        return problem.isEmpty() ? file.write(reportPage(report)) : problem;
+    });
 }
 
 // --- From a capture into the pages --------------------------------------------------------------------------------
@@ -181,7 +200,7 @@ void TriesDesk::takeSettingsOf(int id)
     const KeptCapture *capture = m_scope->history().find(id);
     if (!capture)
         return;
-    const int type = int(m_use.settings.value(QStringLiteral("HWTYPE")));
+    const int type = truncateToInt32(m_use.settings.value(QStringLiteral("HWTYPE")));
     const int captured = capture->record.drive.type;
     if (type > 0 && captured > 0 && type != captured)
         return m_use.reports.errors->note(tr("Nothing taken: this capture is of another type of drive."));

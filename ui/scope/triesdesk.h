@@ -12,6 +12,7 @@ class ApplyDesk;
 class ConnectPage;
 class Connection;
 class EditedSettings;
+class FileWork;
 class GainsPanel;
 class HelpBrowser;
 class ParameterPages;
@@ -53,6 +54,7 @@ public:
 
 private:
     void connectPanels();
+    void connectFiles();
     void setOpenedOut(bool openedOut);
     void takeSettingsOf(int id);
     void putIntoPages(const QList<QPair<QString, double>> &settings);
@@ -65,6 +67,8 @@ private:
     ScopeDesk *m_scope;
     GainsPanel *m_gains;
     TriesPanel *m_tries;
+    FileWork *m_captureFiles;
+    FileWork *m_reportFiles;
     QString m_lastFolder = QStringLiteral("~");
     bool m_openedOut = false;
 };

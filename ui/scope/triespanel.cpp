@@ -5,7 +5,9 @@
 
 #include <QHBoxLayout>
 #include <QHeaderView>
+#include <QLineEdit>
 #include <QPushButton>
+#include <QShortcut>
 #include <QSignalBlocker>
 #include <QTableWidget>
 #include <QVBoxLayout>
@@ -13,6 +15,7 @@
 namespace {
 
 constexpr int visibleRows = 6;
+constexpr int widestNote = 300; // pixels, where there is no more room anyway
 constexpr int mostSettings = 12; ///< columns; another drive's capture differs in everything
 
 struct FigureColumn
@@ -36,10 +39,11 @@ TriesPanel::TriesPanel(QWidget *parent) : QGroupBox(parent)
     m_table->setObjectName(QStringLiteral("triesTable"));
     m_table->setSelectionBehavior(QAbstractItemView::SelectRows);
     m_table->setSelectionMode(QAbstractItemView::SingleSelection);
-    m_table->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    m_table->setEditTriggers(QAbstractItemView::DoubleClicked);
+    m_table->verticalHeader()->setMaximumSectionSize(3 * m_table->fontMetrics().height()); // notes may have many lines
     m_table->verticalHeader()->hide();
     m_table->setToolTip(tr("<p>Every capture of this session, the newest on top, with the settings in which they differ. "
-                           "A click shows it.</p>"));
+                           "A click shows it; a double click on its note, or F2, changes the note.</p>"));
     m_table->setAccessibleName(tr("Tries"));
     m_table->setTabKeyNavigation(false);
     auto *buttons = new QHBoxLayout;
@@ -67,7 +71,31 @@ TriesPanel::TriesPanel(QWidget *parent) : QGroupBox(parent)
     connect(m_under, &QPushButton::clicked, this, [this] { emit layUnderWanted(chosen()); });
     connect(open, &QPushButton::clicked, this, &TriesPanel::openFileWanted);
     connect(report, &QPushButton::clicked, this, &TriesPanel::reportWanted);
+    connectNotes();
     show(CaptureHistory());
+}
+
+void TriesPanel::connectNotes()
+{
+    connect(m_table, &QTableWidget::itemChanged, this, [this](QTableWidgetItem *item) {
+        emit noteEdited(m_table->item(item->row(), 0)->data(Qt::UserRole).toInt(), item->text());
+    });
+    // What came while somebody was typing was not shown.
+    connect(
+        m_table->itemDelegate(), &QAbstractItemDelegate::closeEditor, this, [this] { emit refreshWanted(); },
+        Qt::QueuedConnection);
+    // The table's own F2 knows only the field that was clicked.
+    auto *edit = new QShortcut(QKeySequence(Qt::Key_F2), m_table, nullptr, nullptr, Qt::WidgetShortcut);
+    connect(edit, &QShortcut::activated, this, [this] {
+        if (chosen() != 0)
+            m_table->editItem(m_table->item(m_table->selectedItems().first()->row(), m_table->columnCount() - 1));
+    });
+}
+
+bool TriesPanel::isTyping() const
+{
+    const auto *editor = m_table->viewport()->findChild<QLineEdit *>();
+    return editor && !editor->isHidden();
 }
 
 QPushButton *TriesPanel::addButton(const QString &name, const QString &text, const QString &toolTip)
@@ -86,6 +114,8 @@ int TriesPanel::chosen() const
 
 void TriesPanel::show(const CaptureHistory &history)
 {
+    if (isTyping())
+        return;
     const QSignalBlocker blocker(m_table);
     const QList<KeptCapture> &all = history.all();
     const QStringList settings = settingsThatVary(all).mid(0, mostSettings);
@@ -93,6 +123,7 @@ void TriesPanel::show(const CaptureHistory &history)
     captions += settings;
     for (const FigureColumn &column : figureColumns)
         captions += tr(column.caption);
+    captions += tr("Note");
     m_table->setColumnCount(int(captions.size()));
     m_table->setHorizontalHeaderLabels(captions);
     m_table->setRowCount(int(all.size()));
@@ -103,12 +134,22 @@ void TriesPanel::show(const CaptureHistory &history)
         if (history.shown() && capture.id == history.shown()->id)
             m_table->selectRow(row);
     }
-    m_table->resizeColumnsToContents();
+    fitColumns(int(captions.size()) - 1);
     m_table->resizeRowsToContents();
     m_table->setMinimumHeight(m_table->horizontalHeader()->sizeHint().height() +
                               visibleRows * m_table->fontMetrics().height() * 3 / 2);
     m_take->setEnabled(chosen() != 0);
     m_under->setEnabled(all.size() > 1);
+}
+
+/// The note has the room that is left, and some where there is none.
+void TriesPanel::fitColumns(int note)
+{
+    QHeaderView *header = m_table->horizontalHeader();
+    header->setStretchLastSection(false); // it would keep the width that it is given here
+    m_table->resizeColumnsToContents();
+    m_table->setColumnWidth(note, qMin(m_table->columnWidth(note), widestNote));
+    header->setStretchLastSection(true);
 }
 
 void TriesPanel::fillRow(int row, const KeptCapture &capture, const QStringList &settings)
@@ -117,6 +158,7 @@ void TriesPanel::fillRow(int row, const KeptCapture &capture, const QStringList 
     const auto put = [&](const QString &text, const QString &toolTip = QString()) {
         auto *item = new QTableWidgetItem(text);
         item->setToolTip(toolTip);
+        item->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable);
         if (column > 0)
             item->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
         m_table->setItem(row, column++, item);
@@ -138,4 +180,9 @@ void TriesPanel::fillRow(int row, const KeptCapture &capture, const QStringList 
         }
         put(text, reason);
     }
+    put(capture.record.note, tr("<p>Your own words on this try: double-click, or F2. They go into a saved page and into the "
+                                "report.</p>"));
+    QTableWidgetItem *note = m_table->item(row, column - 1);
+    note->setFlags(note->flags() | Qt::ItemIsEditable);
+    note->setTextAlignment(Qt::AlignLeft | Qt::AlignVCenter);
 }

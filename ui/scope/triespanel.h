@@ -18,7 +18,8 @@ class TriesPanel : public QGroupBox
 public:
     explicit TriesPanel(QWidget *parent = nullptr);
 
-    /// The newest on top. The row of the capture that is shown is the selected one.
+    /// The newest on top. The row of the capture that is shown is the selected one. Nothing changes under somebody who
+    /// types a note; refreshWanted() comes after that.
     void show(const CaptureHistory &history);
 
 signals:
@@ -26,10 +27,15 @@ signals:
     void layUnderWanted(int id);
     /// Put the settings of this try into the pages.
     void takeWanted(int id);
+    void noteEdited(int id, const QString &note);
+    void refreshWanted();
     void openFileWanted();
     void reportWanted();
 
 private:
+    void connectNotes();
+    bool isTyping() const;
+    void fitColumns(int note);
     void fillRow(int row, const KeptCapture &capture, const QStringList &settings);
     int chosen() const; ///< id, 0 when there is none
     QPushButton *addButton(const QString &name, const QString &text, const QString &toolTip);

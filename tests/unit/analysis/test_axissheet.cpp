@@ -6,6 +6,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdio>
 #include <random>
 
 namespace {
@@ -79,6 +80,8 @@ TEST(AxisSheet, PlusMinusHoldsTheTruthInNinetyFiveOfAHundred)
         EXPECT_LT(sheet.acceleration.plusMinus, 0.03 * acceleration) << "a range that holds everything is no range";
         EXPECT_LT(sheet.dryFriction.plusMinus, dryFriction);
     }
+    std::printf("of 100: acceleration %d, dry friction %d, hanging load %d, drags %d, viscous friction %d\n",
+                accelerations, frictions, loads, drags, viscous);
     EXPECT_GE(accelerations, 95);
     EXPECT_GE(frictions, 95);
     EXPECT_GE(loads, 95);
@@ -105,6 +108,7 @@ TEST(AxisSheet, ASpringyAxisIsRefusedOrToldWithinFivePercent)
                     const AxisSheet sheet = axisSheet(recordMove(move));
                     (sheet.isUsable() ? told : refused) += 1;
                     if (sheet.isUsable()) {
+                        EXPECT_NEAR(sheet.dryFriction.value, dryFriction, 0.05 * dryFriction);
                         EXPECT_NEAR(sheet.acceleration.value, acceleration, 0.05 * acceleration)
                             << hertz << " Hz, ratio " << ratio << ", " << counts << " counts, KVP "
                             << (gain.empty() ? 360 : gain.at(VelocityP));
@@ -131,6 +135,7 @@ TEST(AxisSheet, ASpringyAxisIsRefusedOrToldWithinFivePercent)
         move.machine.inertiaRatio = row.ratio;
         EXPECT_FALSE(axisSheet(recordMove(move)).isUsable()) << row.hertz;
     }
+    std::printf("springy axes: %d told, %d refused\n", told, refused);
     EXPECT_GT(refused, 150);
     EXPECT_GT(told, 5) << "a very stiff coupling is as good as none";
 }
@@ -188,6 +193,13 @@ TEST(AxisSheet, RefusesWithTheReason)
     const QJsonObject json = toJson(axisSheet(capture));
     EXPECT_EQ(json.value("refusal").toString(), "Torque achieved and position achieved have to be captured together.");
     EXPECT_TRUE(json.value("acceleration").isNull() && json.contains("AFF") && json.value("AFF").isNull());
+
+    // What is no record must not become a window of millions of samples.
+    for (const double period : {1e-300, 1e-9, 0.0, std::nan("")}) {
+        CaptureRecord odd = recordMove(Move());
+        odd.samplePeriod = period;
+        EXPECT_FALSE(axisSheet(odd).isUsable()) << period;
+    }
 
     // Pushed by what is in no current, and held by what is not there all the time.
     Move cogging, backlash;

@@ -181,6 +181,8 @@ TEST(Capture, DamagedForeignAndNewerFilesEndInOneSentenceAndChangeNothing)
         {with("version", "1"), "damaged"},
         {with("format", "other"), "not a capture"},
         {with("samplePeriod", 0), "samplePeriod"},
+        {with("samplePeriod", 1e-300), "samplePeriod"}, // millions of samples in every window of the analysis
+        {with("rate", 1e300), "rate"},
         {with("trigger", 1.5), "trigger"},
         {with("time", "yesterday"), "time"},
         {with("note", QString(20001, 'x')), "note"},
@@ -195,6 +197,8 @@ TEST(Capture, DamagedForeignAndNewerFilesEndInOneSentenceAndChangeNothing)
         {inChannel("group", ""), "group"},
         {inChannel("values", QJsonArray{1, "2"}), "values"},
         {inChannel("values", QJsonArray{QJsonValue()}), "values"},
+        {inChannel("values", QJsonArray{1e200}), "values"}, // its square is no number
+        {inChannel("scale", 0), "scale"},
         {inChannel("sourceBit", -1), "sourceBit"},
         {inSetting("name", "<b>"), "name"},
         {inSetting("scaling", 0), "scaling"},
@@ -204,6 +208,8 @@ TEST(Capture, DamagedForeignAndNewerFilesEndInOneSentenceAndChangeNothing)
         {"Time;Torque setpoint [A]\n0;1\n1;x\n", "line 3"},
         {"Time;Torque setpoint [A]\n0;1\n1;2;3\n", "line 3"},
         {"Time;Torque setpoint [A]\n0;1\n1;2\n1.5;3\n", "evenly"},
+        {"Time;Torque setpoint [A]\n0;1\n1e-20;2\n", "evenly"},
+        {"Time;Torque setpoint [A]\n0;1\n1;2e200\n", "line 3"},
         {"Time;Torque setpoint [A];Torque setpoint [A]\n0;1;1\n1;2;2\n", "repeats"},
         {"Time;Speed\n0;1\n1;2\n", "column 2"},
         {"Date;Torque setpoint [A]\n0;1\n1;2\n", "does not name"},

@@ -1,5 +1,6 @@
 // What becomes of captures before anything is drawn: which are kept, what the page is told, what a file is written as.
 #include "capturesaving.h"
+#include "filework.h"
 #include "gainspanel.h"
 #include "numberbox.h"
 #include "scopecontext.h"
@@ -10,6 +11,7 @@
 #include <QJsonDocument>
 #include <QSignalSpy>
 #include <QTemporaryDir>
+#include <QThread>
 #include <QTest>
 #include <QUrl>
 
@@ -148,7 +150,19 @@ TEST(CaptureSaving, EndingAndFilterChooseTheFormatAndWhatIsWrittenCanBeOpenedAga
     EXPECT_EQ(captureFormatOf("a.Html", filters[0]), CaptureFormat::Page);
     EXPECT_EQ(captureFormatOf("a.txt", filters[2]), CaptureFormat::None);
 
+    // Beside the window's thread, and written also when nobody is left to hear of it.
     QTemporaryDir folder;
+    auto files = std::make_unique<FileWork>();
+    QThread *writer = nullptr;
+    files->begin(folder.filePath("late"), [&writer](const QString &name) {
+        writer = QThread::currentThread();
+        QFile file(name);
+        return file.open(QIODevice::WriteOnly) ? QString() : file.errorString();
+    });
+    files.reset();
+    EXPECT_TRUE(QFile::exists(folder.filePath("late")));
+    EXPECT_NE(writer, QThread::currentThread());
+
     KeptCapture capture;
     capture.record = record();
     ScopeDesk desk;
