@@ -81,8 +81,8 @@ inline double amplitude(const std::vector<double> &values, double frequency)
     double sine = 0.0, cosine = 0.0;
     for (std::size_t i = 0; i < values.size(); ++i) {
         const double window = 1.0 - std::cos(2.0 * Pi * double(i) / count);
-        sine += window * (values[i] - middle) * std::sin(2.0 * Pi * frequency * double(i) / CycleRate);
-        cosine += window * (values[i] - middle) * std::cos(2.0 * Pi * frequency * double(i) / CycleRate);
+        sine += window * (values[i] - middle) * std::sin(2.0 * Pi * frequency * double(i) / cycleRate);
+        cosine += window * (values[i] - middle) * std::cos(2.0 * Pi * frequency * double(i) / cycleRate);
     }
     return 2.0 / count * std::hypot(sine, cosine);
 }
@@ -107,7 +107,7 @@ inline std::vector<double> accelerationTorque(Axis &axis, int cycles, double ine
     double before = axis.axis().motor().velocity();
     return record(axis, cycles, [&, inertia] {
         const double now = axis.axis().motor().velocity();
-        const double torque = (now - before) / CountsPerRadian * CycleRate * CycleRate * inertia;
+        const double torque = (now - before) / CountsPerRadian * cycleRate * cycleRate * inertia;
         before = now;
         return torque;
     });

@@ -31,7 +31,7 @@ TEST(Spring, ResonanceDampingAndInertiaRatioAreWhereTheyWereSet)
         EXPECT_NEAR(strongest(speed, row.hertz), row.hertz, 0.002 * row.hertz);
         // The swing decays by exp(-2 pi f d t).
         const std::vector<double> early(speed.begin(), speed.begin() + 1000), late(speed.begin() + 1000, speed.end());
-        const double decay = std::log(amplitude(early, row.hertz) / amplitude(late, row.hertz)) / (1000.0 / CycleRate);
+        const double decay = std::log(amplitude(early, row.hertz) / amplitude(late, row.hertz)) / (1000.0 / cycleRate);
         EXPECT_NEAR(decay / (2.0 * Pi * row.hertz), row.damping, 0.1 * row.damping + 0.0005);
 
         // With the motor held, the load swings alone: slower by the root of 1 + ratio.
