@@ -66,6 +66,7 @@ TEST_F(Board, StripFollowsTheDriveWhoeverMovesItAndSaysWhenItIsThePast)
 
     bus().set(DriveAddress, UNDER_VOLTAGE, 6000); // the drive trips by itself, at 48 V
     EXPECT_TRUE(waitForWord("FAULT"));
+    EXPECT_TRUE(waitFor([this] { return said().startsWith("The drive has stopped by itself: Under voltage"); }));
     EXPECT_TRUE(label("stripDetail")->text().startsWith("Under voltage")) << qPrintable(spoken());
     EXPECT_TRUE(control<QToolButton>("stripFaultHelp")->isVisible());
     bus().set(DriveAddress, UNDER_VOLTAGE, 3600);

@@ -40,6 +40,7 @@ void ActWatch::ask(Act act)
 
 void ActWatch::statePolled(const DriveState &state)
 {
+    lookForTrip(state);
     // A poll that was on its way when the user pressed says nothing about it.
     const auto age = std::chrono::steady_clock::now() - state.when;
     if (m_act == Act::None || std::chrono::duration_cast<std::chrono::milliseconds>(age).count() >= m_since.elapsed())
@@ -48,6 +49,14 @@ void ActWatch::statePolled(const DriveState &state)
         lookForEnable(state);
     else
         lookForCleared(state);
+}
+
+// What was said last, that the motor is powered, would stand there for good.
+void ActWatch::lookForTrip(const DriveState &state)
+{
+    if (m_isPowered && m_act == Act::None && state.faultRegister != 0 && !state.isRunning())
+        emit report(tr("The drive has stopped by itself: %1").arg(faultNames(state).join(QLatin1String(", "))));
+    m_isPowered = state.isRunning();
 }
 
 void ActWatch::lookForEnable(const DriveState &state)

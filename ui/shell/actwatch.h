@@ -9,8 +9,8 @@
 #include <QElapsedTimer>
 #include <QObject>
 
-/// Follows an enable and a clearing of faults until the polls show what they did, and a capture until its end. A
-/// disable has a watch of its own (DisableWatch). User-interface thread.
+/// Follows an enable and a clearing of faults until the polls show what they did, a capture until its end, and says so
+/// when a fault takes the motor's power. A disable has a watch of its own (DisableWatch). User-interface thread.
 class ActWatch : public QObject
 {
     Q_OBJECT
@@ -26,7 +26,11 @@ public:
     void clearFaultsAsked() { ask(Act::ClearFaults); }
     void captureCalledOff() { m_calledOff = true; }
     /// Something else was asked for, or there is nobody left to ask: nothing is awaited any more.
-    void forget() { m_act = Act::None; }
+    void forget()
+    {
+        m_act = Act::None;
+        m_isPowered = false;
+    }
 
 public slots:
     void statePolled(const DriveState &state);
@@ -39,12 +43,14 @@ signals:
 private:
     enum class Act { None, Enable, ClearFaults };
     void ask(Act act);
+    void lookForTrip(const DriveState &state);
     void lookForEnable(const DriveState &state);
     void lookForCleared(const DriveState &state);
     void finish(const QString &text);
 
     Act m_act = Act::None;
     QElapsedTimer m_since;
+    bool m_isPowered = false; ///< as polled last
     CaptureState m_capture = CaptureState::Idle;
     bool m_plotCame = false;
     bool m_calledOff = false;

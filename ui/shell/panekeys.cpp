@@ -63,7 +63,7 @@ void PaneKeys::fold(bool away)
     if (away && m_help->isAncestorOf(QApplication::focusWidget()))
         walk(1);
     m_help->setVisible(!away);
-    share();
+    share(std::max(usefulHelpWidth, m_splitter->width() / 3)); // as much as at the start
     emit helpShown(!away);
 }
 
@@ -80,7 +80,7 @@ void PaneKeys::pageCame()
     if (m_wish == Wish::Plot)
         fold(false);
     makeRoom();
-    share();
+    share(usefulHelpWidth);
 }
 
 QWidget *PaneKeys::focusTargetIn(QWidget *pane)
@@ -121,7 +121,7 @@ bool PaneKeys::eventFilter(QObject *watched, QEvent *event)
         makeRoom();
     if (watched == m_splitter && event->type() == QEvent::Resize) {
         makeRoom();
-        share();
+        share(usefulHelpWidth);
     }
     if (watched == m_pages->viewport() && event->type() == QEvent::Resize)
         spreadPages();
@@ -135,15 +135,15 @@ void PaneKeys::makeRoom()
         fold(!fits);
 }
 
-// The help has its useful width, less only where the page would have to be scrolled sideways.
-void PaneKeys::share()
+// The help has at least what is wanted for it, less only where the page would have to be scrolled sideways.
+void PaneKeys::share(int wanted)
 {
     const QWidget *settings = m_splitter->widget(0);
     if (!isHelpShown() || settings->isHidden() || !m_splitter->isVisible())
         return;
     const int both = m_splitter->width() - m_splitter->handleWidth();
     const int page = neededBeside(m_stack->currentWidget());
-    const int help = std::max(m_help->minimumSizeHint().width(), std::min(usefulHelpWidth, both - page));
+    const int help = std::max(m_help->minimumSizeHint().width(), std::min(wanted, both - page));
     const QList<int> sizes = m_splitter->sizes();
     if (sizes[0] < page || sizes[1] < help)
         m_splitter->setSizes({both - help, help});

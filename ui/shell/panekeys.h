@@ -38,7 +38,7 @@ private:
     void fold(bool away);
     void makeRoom();
     void pageCame();
-    void share();
+    void share(int wanted);
     /// What a page needs beside the help so that nothing has to be scrolled sideways.
     int neededBeside(const QWidget *page) const;
     int neededByWidestPage() const;
