@@ -10,10 +10,10 @@
 
 namespace {
 
-QString tr(const char *text)
+struct Text
 {
-    return QCoreApplication::translate("Report", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(Report)
+};
 
 const char *const checklist[] = {
     QT_TRANSLATE_NOOP("Report", "The machine's own emergency stop works, and does not depend on the program."),
@@ -49,12 +49,12 @@ QString number(double value)
 
 QString known(int value, int base = 10)
 {
-    return value != 0 ? QString::number(value, base).toUpper() : tr("not known");
+    return value != 0 ? QString::number(value, base).toUpper() : Text::tr("not known");
 }
 
 QString when(const QDateTime &time)
 {
-    return time.isValid() ? time.toString(QStringLiteral("yyyy-MM-dd hh:mm:ss t")) : tr("not known");
+    return time.isValid() ? time.toString(QStringLiteral("yyyy-MM-dd hh:mm:ss t")) : Text::tr("not known");
 }
 
 QString section(const QString &title, const QString &contents)
@@ -94,18 +94,18 @@ QString identity(const Report &report)
 {
     const DriveIdentity &drive = report.drive;
     QList<QPair<QString, QString>> rows = {
-        {tr("Model"), drive.model},
-        {tr("HW type ID"), known(drive.type)},
-        {tr("Serial number"), known(drive.serial)},
-        {tr("Bus address"), known(drive.address)},
-        {tr("TarnwellCore firmware version"), known(drive.firmware)},
+        {Text::tr("Model"), drive.model},
+        {Text::tr("HW type ID"), known(drive.type)},
+        {Text::tr("Serial number"), known(drive.serial)},
+        {Text::tr("Bus address"), known(drive.address)},
+        {Text::tr("TarnwellCore firmware version"), known(drive.firmware)},
     };
     if (drive.ioFirmware != 0)
-        rows.append({tr("I/O side firmware version"), known(drive.ioFirmware)});
+        rows.append({Text::tr("I/O side firmware version"), known(drive.ioFirmware)});
     if (drive.buildRevision != 0)
-        rows.append({tr("Firmware revision ID"), known(drive.buildRevision, 16)});
-    rows += {{tr("Report made"), when(report.time)}, {tr("Velbrin version"), report.program}};
-    return section(tr("Drive"), facts(rows));
+        rows.append({Text::tr("Firmware revision ID"), known(drive.buildRevision, 16)});
+    rows += {{Text::tr("Report made"), when(report.time)}, {Text::tr("Velbrin version"), report.program}};
+    return section(Text::tr("Drive"), facts(rows));
 }
 
 QString settingRow(const SingleParam &setting, const Report &report)
@@ -118,9 +118,10 @@ QString settingRow(const SingleParam &setting, const Report &report)
     QString caption = about ? about->caption.toHtmlEscaped() : QString();
     if (!note.isEmpty())
         caption += QLatin1String("<br><span class=\"note\">") + note.toHtmlEscaped() + QLatin1String("</span>");
-    const QString cells[] = {
-        about ? about->unit.toHtmlEscaped() : QString(), tr("%1 to %2").arg(number(setting.min), number(setting.max)),
-        about ? number(about->standard) : tr("not known"), differs ? tr("differs") : QString(), caption};
+    const QString cells[] = {about ? about->unit.toHtmlEscaped() : QString(),
+                             Text::tr("%1 to %2").arg(number(setting.min), number(setting.max)),
+                             about ? number(about->standard) : Text::tr("not known"),
+                             differs ? Text::tr("differs") : QString(), caption};
     QString row = differs ? QStringLiteral("<tr class=\"differs\">") : QStringLiteral("<tr>");
     row += QLatin1String("<th scope=\"row\">") + setting.name.toHtmlEscaped() +
            QLatin1String("</th><td class=\"value\">") + number(setting.value) + QLatin1String("</td>");
@@ -132,29 +133,32 @@ QString settingRow(const SingleParam &setting, const Report &report)
 QString settings(const Report &report)
 {
     QString html = QStringLiteral("<table>\n<thead><tr>");
-    for (const QString &head : {tr("Setting"), tr("Value"), tr("Unit"), tr("The drive's limits"), tr("Default"),
-                                tr("Differs"), tr("What it is")})
+    for (const QString &head :
+         {Text::tr("Setting"), Text::tr("Value"), Text::tr("Unit"), Text::tr("The drive's limits"), Text::tr("Default"),
+          Text::tr("Differs"), Text::tr("What it is")})
         html += QLatin1String("<th>") + head.toHtmlEscaped() + QLatin1String("</th>");
     html += QLatin1String("</tr></thead>\n<tbody>\n");
     for (const SingleParam &setting : settingsOf(report))
         html += settingRow(setting, report);
     html += QLatin1String("</tbody></table>\n");
-    html += paragraph(tr("Checksum of the settings (SHA-256), which \"velbrin-cli report --verify FILE\" checks:"));
+    html +=
+        paragraph(Text::tr("Checksum of the settings (SHA-256), which \"velbrin-cli report --verify FILE\" checks:"));
     html += QStringLiteral("<p><code id=\"settings-checksum\">%1</code></p>\n")
                 .arg(settingsChecksum(printedSettings(report)));
-    return section(tr("Settings"), html);
+    return section(Text::tr("Settings"), html);
 }
 
 /// What keeps a capture from being one of this drive as it is now.
 QString whatIsOther(const CaptureRecord &capture, const Report &report)
 {
     if (capture.settings.getParamCount() == 0)
-        return paragraph(tr("The file does not say with which drive and settings it was recorded."));
+        return paragraph(Text::tr("The file does not say with which drive and settings it was recorded."));
     QString html;
     if (capture.drive.serial != report.drive.serial)
-        html += QLatin1String("<p class=\"warning\">") +
-                tr("Recorded on another drive: serial number %1.").arg(known(capture.drive.serial)).toHtmlEscaped() +
-                QLatin1String("</p>\n");
+        html +=
+            QLatin1String("<p class=\"warning\">") +
+            Text::tr("Recorded on another drive: serial number %1.").arg(known(capture.drive.serial)).toHtmlEscaped() +
+            QLatin1String("</p>\n");
     QStringList others;
     for (const SingleParam &now : settingsOf(report)) {
         const SingleParam then = capture.settings.getParam(now.name);
@@ -162,16 +166,16 @@ QString whatIsOther(const CaptureRecord &capture, const Report &report)
             others.append(now.name + QLatin1Char('=') + number(then.value));
     }
     if (!others.isEmpty())
-        html += paragraph(tr("Recorded with other settings: %1.").arg(others.join(QLatin1String(", "))));
+        html += paragraph(Text::tr("Recorded with other settings: %1.").arg(others.join(QLatin1String(", "))));
     return html;
 }
 
 QString captured(const ReportedCapture &capture, const Report &report)
 {
     QString html = QStringLiteral("<h3>%1</h3>\n").arg(capture.title.toHtmlEscaped()) +
-                   paragraph(tr("Recorded: %1").arg(when(capture.record.time)));
+                   paragraph(Text::tr("Recorded: %1").arg(when(capture.record.time)));
     if (!capture.record.note.isEmpty())
-        html += paragraph(tr("Note: %1").arg(capture.record.note));
+        html += paragraph(Text::tr("Note: %1").arg(capture.record.note));
     html += whatIsOther(capture.record, report) + captureChart(capture.record);
     QList<QPair<QString, QString>> rows;
     for (const FigureLine &line : figureLines(captureFigures(capture.record)))
@@ -184,30 +188,32 @@ QString captures(const Report &report)
     QString html;
     for (const ReportedCapture &capture : report.captures)
         html += captured(capture, report);
-    return section(tr("Captures"), html.isEmpty() ? paragraph(tr("None were chosen.")) : html);
+    return section(Text::tr("Captures"), html.isEmpty() ? paragraph(Text::tr("None were chosen.")) : html);
 }
 
 QString figure(const Figure &figure, double scale, const QString &unit)
 {
-    return figure.value ? tr("%1 %2").arg(QString::number(*figure.value * scale, 'g', 4), unit) : figure.reason;
+    return figure.value ? Text::tr("%1 %2").arg(QString::number(*figure.value * scale, 'g', 4), unit) : figure.reason;
 }
 
 QString stopTest(const Report &report)
 {
     if (!report.stopTest)
-        return section(tr("Stop test"), paragraph(tr("Not done.")));
+        return section(Text::tr("Stop test"), paragraph(Text::tr("Not done.")));
     const StopFigures figures = stopFigures(*report.stopTest);
     const double countsPerRevolution = 4.0 * report.settings.getParam(QStringLiteral("FBR")).value;
     QList<QPair<QString, QString>> rows = {
-        {tr("Time to standstill"), figure(figures.time, 1000.0, tr("ms"))},
-        {tr("Distance to standstill"), figure(figures.distance, 1.0, tr("counts"))},
-        {tr("Farthest point on the way"), figure(figures.farthest, 1.0, tr("counts"))},
+        {Text::tr("Time to standstill"), figure(figures.time, 1000.0, Text::tr("ms"))},
+        {Text::tr("Distance to standstill"), figure(figures.distance, 1.0, Text::tr("counts"))},
+        {Text::tr("Farthest point on the way"), figure(figures.farthest, 1.0, Text::tr("counts"))},
     };
     if (countsPerRevolution > 0.0 && figures.distance.value)
-        rows.insert(2, {tr("Distance in revolutions"), figure(figures.distance, 1.0 / countsPerRevolution, tr("rev"))});
+        rows.insert(2, {Text::tr("Distance in revolutions"),
+                        figure(figures.distance, 1.0 / countsPerRevolution, Text::tr("rev"))});
     return section(
-        tr("Stop test"),
-        paragraph(tr("Measured from the fault that the machine's stop raised, %1.").arg(when(report.stopTest->time))) +
+        Text::tr("Stop test"),
+        paragraph(
+            Text::tr("Measured from the fault that the machine's stop raised, %1.").arg(when(report.stopTest->time))) +
             captureChart(*report.stopTest) + facts(rows));
 }
 
@@ -215,16 +221,17 @@ QString whatToSign()
 {
     QString html = QStringLiteral("<table>\n");
     for (const char *question : checklist)
-        html +=
-            QLatin1String("<tr><td>&#9744;</td><td>") + tr(question).toHtmlEscaped() + QLatin1String("</td></tr>\n");
+        html += QLatin1String("<tr><td>&#9744;</td><td>") + Text::tr(question).toHtmlEscaped() +
+                QLatin1String("</td></tr>\n");
     QString names = QStringLiteral("<table class=\"sign\">\n<tr>");
-    for (const QString &head : {QString(), tr("Name"), tr("Date"), tr("Signature")})
+    for (const QString &head : {QString(), Text::tr("Name"), Text::tr("Date"), Text::tr("Signature")})
         names += QLatin1String("<th>") + head.toHtmlEscaped() + QLatin1String("</th>");
     names += QLatin1String("</tr>\n");
-    for (const QString &who : {tr("Commissioned by:"), tr("Accepted by:")})
-        names += QLatin1String("<tr><td>") + who.toHtmlEscaped() + QLatin1String("</td><td></td><td></td><td></td></tr>\n");
-    return section(tr("Checklist"), html + QLatin1String("</table>\n")) +
-           section(tr("Signatures"), names + QLatin1String("</table>\n"));
+    for (const QString &who : {Text::tr("Commissioned by:"), Text::tr("Accepted by:")})
+        names +=
+            QLatin1String("<tr><td>") + who.toHtmlEscaped() + QLatin1String("</td><td></td><td></td><td></td></tr>\n");
+    return section(Text::tr("Checklist"), html + QLatin1String("</table>\n")) +
+           section(Text::tr("Signatures"), names + QLatin1String("</table>\n"));
 }
 
 } // namespace
@@ -239,8 +246,8 @@ QList<QPair<QString, QString>> printedSettings(const Report &report)
 
 QByteArray reportPage(const Report &report)
 {
-    const QString title =
-        report.machine.isEmpty() ? tr("Commissioning report") : tr("Commissioning report: %1").arg(report.machine);
+    const QString title = report.machine.isEmpty() ? Text::tr("Commissioning report")
+                                                   : Text::tr("Commissioning report: %1").arg(report.machine);
     const QString escaped = title.toHtmlEscaped();
     const QString page = QStringLiteral("<!DOCTYPE html>\n<html>\n<head>\n<meta charset=\"utf-8\">\n<title>") +
                          escaped + QLatin1String("</title>\n<style>") + QLatin1String(style) +

@@ -1,10 +1,8 @@
 # The window's translations: one .ts a language in this folder, compiled and put into the program as resources. The
 # tools are looked for where the toolkit has them: they come in a small package of their own, the toolkit's own module
 # for them in a larger one.
-get_target_property(qt_tool Qt6::qmake IMPORTED_LOCATION)
-get_filename_component(qt_tools ${qt_tool} DIRECTORY)
-find_program(VELBRIN_LRELEASE NAMES lrelease HINTS ${qt_tools} ${qt_tools}/../lib/qt6/bin REQUIRED)
-find_program(VELBRIN_LUPDATE NAMES lupdate HINTS ${qt_tools} ${qt_tools}/../lib/qt6/bin REQUIRED)
+find_program(VELBRIN_LRELEASE NAMES lrelease HINTS ${QT6_INSTALL_PREFIX}/${QT6_INSTALL_BINS} REQUIRED)
+find_program(VELBRIN_LUPDATE NAMES lupdate HINTS ${QT6_INSTALL_PREFIX}/${QT6_INSTALL_BINS} REQUIRED)
 set(translations_folder ${CMAKE_CURRENT_LIST_DIR})
 
 # What is translated: every room that the window takes its texts from. What is printed stays English, so that scripts
@@ -15,9 +13,16 @@ foreach(room analysis buslib desk model report session ui)
 endforeach()
 file(GLOB_RECURSE translated CONFIGURE_DEPENDS ${patterns})
 list(FILTER translated EXCLUDE REGEX "/(main|programoptions|tour)\\.[a-z]+$")
+# Where it finds the headers that say which context a text has.
+foreach(file ${translated})
+    get_filename_component(folder ${file} DIRECTORY)
+    list(APPEND folders -I${folder})
+endforeach()
+list(REMOVE_DUPLICATES folders)
 list(JOIN translated "\n" lines)
+list(JOIN folders "\n" folders)
 set(VELBRIN_TRANSLATED ${CMAKE_BINARY_DIR}/translations/sources.lst)
-file(CONFIGURE OUTPUT ${VELBRIN_TRANSLATED} CONTENT "${lines}\n")
+file(CONFIGURE OUTPUT ${VELBRIN_TRANSLATED} CONTENT "${folders}\n${lines}\n")
 
 # velbrin_add_translations(<target>): the resources "/translations/velbrin_<language>.qm".
 function(velbrin_add_translations target)
