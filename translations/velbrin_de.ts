@@ -1447,6 +1447,10 @@
         <source>Invalid comm task</source>
         <translation>Ungültige Kommunikationsaufgabe</translation>
     </message>
+    <message>
+        <source>The test stimulus was running: the axis may go on moving for up to five seconds.</source>
+        <translation>Das Testsignal lief: Die Achse kann sich noch bis zu fünf Sekunden weiterbewegen.</translation>
+    </message>
 </context>
 <context>
     <name>ControlModeRule</name>
@@ -2152,18 +2156,6 @@
 <context>
     <name>HelpView</name>
     <message>
-        <source>the plot could not be drawn in %1 s</source>
-        <translation>das Diagramm konnte in %1 s nicht gezeichnet werden</translation>
-    </message>
-    <message>
-        <source>the plot is too large for a picture</source>
-        <translation>das Diagramm ist zu groß für ein Bild</translation>
-    </message>
-    <message>
-        <source>Error writing graphs to file %1&lt;br&gt;%2</source>
-        <translation>Fehler beim Schreiben der Diagramme in die Datei %1&lt;br&gt;%2</translation>
-    </message>
-    <message>
         <source>its program %1 is missing</source>
         <translation>ihr Programm %1 fehlt</translation>
     </message>
@@ -2206,6 +2198,10 @@
     <message>
         <source>no plot is shown to make a picture of</source>
         <translation>es ist kein Diagramm zu sehen, von dem ein Bild gemacht werden könnte</translation>
+    </message>
+    <message>
+        <source>the browser engine has ended unexpectedly</source>
+        <translation>die Browser-Engine hat sich unerwartet beendet</translation>
     </message>
 </context>
 <context>
@@ -2381,14 +2377,6 @@
         <translation>Suche Geräte: Adresse %1 von %2</translation>
     </message>
     <message>
-        <source>[%1] is not shown: this model lacks it, or other settings leave it without effect</source>
-        <translation>[%1] ist nicht zu sehen: Dieses Modell hat es nicht, oder andere Einstellungen machen es wirkungslos</translation>
-    </message>
-    <message>
-        <source>[%1] is not on this model</source>
-        <translation>[%1] gibt es bei diesem Modell nicht</translation>
-    </message>
-    <message>
         <source>Drives found: %1</source>
         <translation>Gefundene Antriebe: %1</translation>
     </message>
@@ -2557,7 +2545,7 @@
     </message>
     <message>
         <source>until 63&#xa0;% of its final temperature</source>
-        <translation>bis 63 % der Endtemperatur</translation>
+        <translation>bis 63&#xa0;% der Endtemperatur</translation>
     </message>
     <message>
         <source>&lt;p&gt;Highest speed that motor and machine allow, used for choosing a fitting [DIV]. It limits nothing by itself; set [CVL] for that.&lt;/p&gt;</source>
@@ -3107,6 +3095,29 @@
     <message>
         <source>%1 cannot be read: %2.</source>
         <translation>%1 kann nicht gelesen werden: %2.</translation>
+    </message>
+</context>
+<context>
+    <name>PlotPicture</name>
+    <message>
+        <source>the browser engine has ended unexpectedly</source>
+        <translation>die Browser-Engine hat sich unerwartet beendet</translation>
+    </message>
+    <message>
+        <source>the plot could not be loaded</source>
+        <translation>das Diagramm konnte nicht geladen werden</translation>
+    </message>
+    <message>
+        <source>the plot could not be drawn in %1 s</source>
+        <translation>das Diagramm konnte in %1 s nicht gezeichnet werden</translation>
+    </message>
+    <message>
+        <source>the plot is too large for a picture</source>
+        <translation>das Diagramm ist zu groß für ein Bild</translation>
+    </message>
+    <message>
+        <source>Error writing graphs to file %1&lt;br&gt;%2</source>
+        <translation>Fehler beim Schreiben der Diagramme in die Datei %1&lt;br&gt;%2</translation>
     </message>
 </context>
 <context>
@@ -4021,6 +4032,17 @@
     </message>
 </context>
 <context>
+    <name>SettingGuide</name>
+    <message>
+        <source>[%1] is not shown: this model lacks it, or other settings leave it without effect</source>
+        <translation>[%1] ist nicht zu sehen: Dieses Modell hat es nicht, oder andere Einstellungen machen es wirkungslos</translation>
+    </message>
+    <message>
+        <source>[%1] is not on this model</source>
+        <translation>[%1] gibt es bei diesem Modell nicht</translation>
+    </message>
+</context>
+<context>
     <name>SettingsChecks</name>
     <message>
         <source>%1 is not on this model (%2).</source>
@@ -4743,12 +4765,16 @@
         <source>In the file %1</source>
         <translation>In der Datei %1</translation>
     </message>
+    <message>
+        <source>Edited, not applied</source>
+        <translation>Geändert, nicht angewendet</translation>
+    </message>
 </context>
 <context>
     <name>WelcomePage</name>
     <message>
-        <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;&lt;span style=&quot;font-size:20pt; font-weight:600;&quot;&gt;Welcome to Velbrin&lt;/span&gt;&lt;br/&gt;&lt;span style=&quot;color:#5b6670;&quot;&gt;Version %VELBRIN_VERSION&lt;/span&gt;&lt;/p&gt;&lt;p&gt;Velbrin configures, tunes and starts up Tarnwell servo drives of the Torva, Keta and Keta Pro families over the Zetabus.&lt;/p&gt;&lt;p&gt;&lt;span style=&quot;font-size:13pt; font-weight:600;&quot;&gt;First steps&lt;/span&gt;&lt;/p&gt;&lt;table border=&quot;0&quot; cellspacing=&quot;0&quot; cellpadding=&quot;5&quot;&gt;&lt;tr&gt;&lt;td&gt;&lt;b&gt;1&lt;/b&gt;&lt;/td&gt;&lt;td&gt;&lt;b&gt;Connect&lt;/b&gt;&lt;/td&gt;&lt;td&gt;Choose the adapter, search the bus and pick your drive. Velbrin then reads all of its settings.&lt;/td&gt;&lt;/tr&gt;&lt;tr&gt;&lt;td&gt;&lt;b&gt;2&lt;/b&gt;&lt;/td&gt;&lt;td&gt;&lt;b&gt;Goals&lt;/b&gt;&lt;/td&gt;&lt;td&gt;Say what the axis shall do: control mode, where the setpoint comes from, axis units and motion limits.&lt;/td&gt;&lt;/tr&gt;&lt;tr&gt;&lt;td&gt;&lt;b&gt;3&lt;/b&gt;&lt;/td&gt;&lt;td&gt;&lt;b&gt;Machine&lt;/b&gt;&lt;/td&gt;&lt;td&gt;Describe what is bolted on: motor, feedback, homing, brake and limit switches.&lt;/td&gt;&lt;/tr&gt;&lt;tr&gt;&lt;td&gt;&lt;b&gt;4&lt;/b&gt;&lt;/td&gt;&lt;td&gt;&lt;b&gt;Tuning&lt;/b&gt;&lt;/td&gt;&lt;td&gt;Set the torque bandwidth, then the velocity gains, then the position gains.&lt;/td&gt;&lt;/tr&gt;&lt;tr&gt;&lt;td&gt;&lt;b&gt;5&lt;/b&gt;&lt;/td&gt;&lt;td&gt;&lt;b&gt;Fault&amp;nbsp;limits&lt;/b&gt;&lt;/td&gt;&lt;td&gt;Decide when the drive shall stop by itself to protect people, motor and machine.&lt;/td&gt;&lt;/tr&gt;&lt;tr&gt;&lt;td&gt;&lt;b&gt;6&lt;/b&gt;&lt;/td&gt;&lt;td&gt;&lt;b&gt;Testing&lt;/b&gt;&lt;/td&gt;&lt;td&gt;Move the axis with a test stimulus, capture what it does and look at the graphs.&lt;/td&gt;&lt;/tr&gt;&lt;/table&gt;&lt;p&gt;Settings that you change are sent to the drive by &lt;b&gt;Apply settings&lt;/b&gt; and kept over a power-off by &lt;b&gt;Save settings on drive non-volatile memory&lt;/b&gt;. Save them to a file as well, so that a second machine or a spare drive is set up in a minute.&lt;/p&gt;&lt;p&gt;&lt;b&gt;Before anything moves:&lt;/b&gt; keep the emergency stop within reach and people out of the machine. &lt;b&gt;Esc&lt;/b&gt; disables the drive from anywhere in the program.&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
-        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;&lt;span style=&quot;font-size:20pt; font-weight:600;&quot;&gt;Willkommen bei Velbrin&lt;/span&gt;&lt;br/&gt;&lt;span style=&quot;color:#5b6670;&quot;&gt;Version %VELBRIN_VERSION&lt;/span&gt;&lt;/p&gt;&lt;p&gt;Mit Velbrin konfigurieren Sie Tarnwell-Servoantriebe der Familien Torva, Keta und Keta Pro über den Zetabus, stimmen sie ab und nehmen sie in Betrieb.&lt;/p&gt;&lt;p&gt;&lt;span style=&quot;font-size:13pt; font-weight:600;&quot;&gt;Erste Schritte&lt;/span&gt;&lt;/p&gt;&lt;table border=&quot;0&quot; cellspacing=&quot;0&quot; cellpadding=&quot;5&quot;&gt;&lt;tr&gt;&lt;td&gt;&lt;b&gt;1&lt;/b&gt;&lt;/td&gt;&lt;td&gt;&lt;b&gt;Verbinden&lt;/b&gt;&lt;/td&gt;&lt;td&gt;Wählen Sie den Adapter, durchsuchen Sie den Bus und wählen Sie Ihren Antrieb. Velbrin liest dann alle seine Einstellungen.&lt;/td&gt;&lt;/tr&gt;&lt;tr&gt;&lt;td&gt;&lt;b&gt;2&lt;/b&gt;&lt;/td&gt;&lt;td&gt;&lt;b&gt;Ziele&lt;/b&gt;&lt;/td&gt;&lt;td&gt;Sagen Sie, was die Achse tun soll: Regelart, Herkunft des Sollwerts, Einheiten der Achse und Bewegungsgrenzen.&lt;/td&gt;&lt;/tr&gt;&lt;tr&gt;&lt;td&gt;&lt;b&gt;3&lt;/b&gt;&lt;/td&gt;&lt;td&gt;&lt;b&gt;Maschine&lt;/b&gt;&lt;/td&gt;&lt;td&gt;Beschreiben Sie, was angebaut ist: Motor, Geber, Referenzfahrt, Bremse und Endschalter.&lt;/td&gt;&lt;/tr&gt;&lt;tr&gt;&lt;td&gt;&lt;b&gt;4&lt;/b&gt;&lt;/td&gt;&lt;td&gt;&lt;b&gt;Abstimmen&lt;/b&gt;&lt;/td&gt;&lt;td&gt;Stellen Sie die Drehmomentbandbreite ein, dann die Verstärkungen der Geschwindigkeit, dann die der Position.&lt;/td&gt;&lt;/tr&gt;&lt;tr&gt;&lt;td&gt;&lt;b&gt;5&lt;/b&gt;&lt;/td&gt;&lt;td&gt;&lt;b&gt;Grenzen&lt;/b&gt;&lt;/td&gt;&lt;td&gt;Entscheiden Sie, wann der Antrieb von selbst anhalten soll, um Menschen, Motor und Maschine zu schützen.&lt;/td&gt;&lt;/tr&gt;&lt;tr&gt;&lt;td&gt;&lt;b&gt;6&lt;/b&gt;&lt;/td&gt;&lt;td&gt;&lt;b&gt;Testen&lt;/b&gt;&lt;/td&gt;&lt;td&gt;Bewegen Sie die Achse mit einem Testsignal, zeichnen Sie auf, was sie tut, und sehen Sie sich die Diagramme an.&lt;/td&gt;&lt;/tr&gt;&lt;/table&gt;&lt;p&gt;Einstellungen, die Sie ändern, sendet &lt;b&gt;Einstellungen anwenden&lt;/b&gt; an den Antrieb; &lt;b&gt;Einstellungen dauerhaft im Antrieb speichern&lt;/b&gt; erhält sie über das Ausschalten hinweg. Speichern Sie sie auch in eine Datei, damit eine zweite Maschine oder ein Ersatzantrieb in einer Minute eingerichtet ist.&lt;/p&gt;&lt;p&gt;&lt;b&gt;Bevor sich etwas bewegt:&lt;/b&gt; Halten Sie den Not-Halt in Reichweite und Menschen von der Maschine fern. &lt;b&gt;Esc&lt;/b&gt; sperrt den Antrieb von überall im Programm aus.&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
+        <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;&lt;span style=&quot;font-size:20pt; font-weight:600;&quot;&gt;Welcome to Velbrin&lt;/span&gt;&lt;br/&gt;Version %VELBRIN_VERSION&lt;/p&gt;&lt;p&gt;Velbrin configures, tunes and starts up Tarnwell servo drives of the Torva, Keta and Keta Pro families over the Zetabus.&lt;/p&gt;&lt;p&gt;&lt;span style=&quot;font-size:13pt; font-weight:600;&quot;&gt;First steps&lt;/span&gt;&lt;/p&gt;&lt;table border=&quot;0&quot; cellspacing=&quot;0&quot; cellpadding=&quot;5&quot;&gt;&lt;tr&gt;&lt;td&gt;&lt;b&gt;1&lt;/b&gt;&lt;/td&gt;&lt;td&gt;&lt;b&gt;Connect&lt;/b&gt;&lt;/td&gt;&lt;td&gt;Choose the adapter, search the bus and pick your drive. Velbrin then reads all of its settings.&lt;/td&gt;&lt;/tr&gt;&lt;tr&gt;&lt;td&gt;&lt;b&gt;2&lt;/b&gt;&lt;/td&gt;&lt;td&gt;&lt;b&gt;Goals&lt;/b&gt;&lt;/td&gt;&lt;td&gt;Say what the axis shall do: control mode, where the setpoint comes from, axis units and motion limits.&lt;/td&gt;&lt;/tr&gt;&lt;tr&gt;&lt;td&gt;&lt;b&gt;3&lt;/b&gt;&lt;/td&gt;&lt;td&gt;&lt;b&gt;Machine&lt;/b&gt;&lt;/td&gt;&lt;td&gt;Describe what is bolted on: motor, feedback, homing, brake and limit switches.&lt;/td&gt;&lt;/tr&gt;&lt;tr&gt;&lt;td&gt;&lt;b&gt;4&lt;/b&gt;&lt;/td&gt;&lt;td&gt;&lt;b&gt;Tuning&lt;/b&gt;&lt;/td&gt;&lt;td&gt;Set the torque bandwidth, then the velocity gains, then the position gains.&lt;/td&gt;&lt;/tr&gt;&lt;tr&gt;&lt;td&gt;&lt;b&gt;5&lt;/b&gt;&lt;/td&gt;&lt;td&gt;&lt;b&gt;Fault&amp;nbsp;limits&lt;/b&gt;&lt;/td&gt;&lt;td&gt;Decide when the drive shall stop by itself to protect people, motor and machine.&lt;/td&gt;&lt;/tr&gt;&lt;tr&gt;&lt;td&gt;&lt;b&gt;6&lt;/b&gt;&lt;/td&gt;&lt;td&gt;&lt;b&gt;Testing&lt;/b&gt;&lt;/td&gt;&lt;td&gt;Move the axis with a test stimulus, capture what it does and look at the graphs.&lt;/td&gt;&lt;/tr&gt;&lt;/table&gt;&lt;p&gt;Settings that you change are sent to the drive by &lt;b&gt;Apply settings&lt;/b&gt; and kept over a power-off by &lt;b&gt;Save settings on drive non-volatile memory&lt;/b&gt;. Save them to a file as well, so that a second machine or a spare drive is set up in a minute.&lt;/p&gt;&lt;p&gt;&lt;b&gt;Before anything moves:&lt;/b&gt; keep the emergency stop within reach and people out of the machine. &lt;b&gt;Esc&lt;/b&gt; disables the drive from anywhere in the program.&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
+        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;&lt;span style=&quot;font-size:20pt; font-weight:600;&quot;&gt;Willkommen bei Velbrin&lt;/span&gt;&lt;br/&gt;Version %VELBRIN_VERSION&lt;/p&gt;&lt;p&gt;Mit Velbrin konfigurieren Sie Tarnwell-Servoantriebe der Familien Torva, Keta und Keta Pro über den Zetabus, stimmen sie ab und nehmen sie in Betrieb.&lt;/p&gt;&lt;p&gt;&lt;span style=&quot;font-size:13pt; font-weight:600;&quot;&gt;Erste Schritte&lt;/span&gt;&lt;/p&gt;&lt;table border=&quot;0&quot; cellspacing=&quot;0&quot; cellpadding=&quot;5&quot;&gt;&lt;tr&gt;&lt;td&gt;&lt;b&gt;1&lt;/b&gt;&lt;/td&gt;&lt;td&gt;&lt;b&gt;Verbinden&lt;/b&gt;&lt;/td&gt;&lt;td&gt;Wählen Sie den Adapter, durchsuchen Sie den Bus und wählen Sie Ihren Antrieb. Velbrin liest dann alle seine Einstellungen.&lt;/td&gt;&lt;/tr&gt;&lt;tr&gt;&lt;td&gt;&lt;b&gt;2&lt;/b&gt;&lt;/td&gt;&lt;td&gt;&lt;b&gt;Ziele&lt;/b&gt;&lt;/td&gt;&lt;td&gt;Sagen Sie, was die Achse tun soll: Regelart, Herkunft des Sollwerts, Einheiten der Achse und Bewegungsgrenzen.&lt;/td&gt;&lt;/tr&gt;&lt;tr&gt;&lt;td&gt;&lt;b&gt;3&lt;/b&gt;&lt;/td&gt;&lt;td&gt;&lt;b&gt;Maschine&lt;/b&gt;&lt;/td&gt;&lt;td&gt;Beschreiben Sie, was angebaut ist: Motor, Geber, Referenzfahrt, Bremse und Endschalter.&lt;/td&gt;&lt;/tr&gt;&lt;tr&gt;&lt;td&gt;&lt;b&gt;4&lt;/b&gt;&lt;/td&gt;&lt;td&gt;&lt;b&gt;Abstimmen&lt;/b&gt;&lt;/td&gt;&lt;td&gt;Stellen Sie die Drehmomentbandbreite ein, dann die Verstärkungen der Geschwindigkeit, dann die der Position.&lt;/td&gt;&lt;/tr&gt;&lt;tr&gt;&lt;td&gt;&lt;b&gt;5&lt;/b&gt;&lt;/td&gt;&lt;td&gt;&lt;b&gt;Grenzen&lt;/b&gt;&lt;/td&gt;&lt;td&gt;Entscheiden Sie, wann der Antrieb von selbst anhalten soll, um Menschen, Motor und Maschine zu schützen.&lt;/td&gt;&lt;/tr&gt;&lt;tr&gt;&lt;td&gt;&lt;b&gt;6&lt;/b&gt;&lt;/td&gt;&lt;td&gt;&lt;b&gt;Testen&lt;/b&gt;&lt;/td&gt;&lt;td&gt;Bewegen Sie die Achse mit einem Testsignal, zeichnen Sie auf, was sie tut, und sehen Sie sich die Diagramme an.&lt;/td&gt;&lt;/tr&gt;&lt;/table&gt;&lt;p&gt;Einstellungen, die Sie ändern, sendet &lt;b&gt;Einstellungen anwenden&lt;/b&gt; an den Antrieb; &lt;b&gt;Einstellungen dauerhaft im Antrieb speichern&lt;/b&gt; erhält sie über das Ausschalten hinweg. Speichern Sie sie auch in eine Datei, damit eine zweite Maschine oder ein Ersatzantrieb in einer Minute eingerichtet ist.&lt;/p&gt;&lt;p&gt;&lt;b&gt;Bevor sich etwas bewegt:&lt;/b&gt; Halten Sie den Not-Halt in Reichweite und Menschen von der Maschine fern. &lt;b&gt;Esc&lt;/b&gt; sperrt den Antrieb von überall im Programm aus.&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
     </message>
 </context>
 <context>
