@@ -4,11 +4,6 @@
 
 namespace {
 
-QString tr(const char *text)
-{
-    return AnalysisText::tr(text);
-}
-
 QString text(double value)
 {
     return QString::number(value, 'g', 4);
@@ -16,14 +11,14 @@ QString text(double value)
 
 QString withUnit(double value, const QString &unit)
 {
-    return unit.isEmpty() ? text(value) : tr("%1 %2").arg(text(value), unit);
+    return unit.isEmpty() ? text(value) : AnalysisText::tr("%1 %2").arg(text(value), unit);
 }
 
 QString withRange(const Estimate &estimate, double scale, const QString &unit)
 {
-    const QString range =
-        tr("%1 ± %2").arg(text(estimate.value * scale), QString::number(estimate.plusMinus * scale, 'g', 2));
-    return unit.isEmpty() ? range : tr("%1 %2").arg(range, unit);
+    const QString range = AnalysisText::tr("%1 ± %2").arg(text(estimate.value * scale),
+                                                          QString::number(estimate.plusMinus * scale, 'g', 2));
+    return unit.isEmpty() ? range : AnalysisText::tr("%1 %2").arg(range, unit);
 }
 
 } // namespace
@@ -38,23 +33,24 @@ QList<FigureLine> figureLines(const StepFigures &figures)
         double scale;
         QString unit;
     } rows[] = {
-        {"riseTime", QT_TRANSLATE_NOOP("Analysis", "Rise time, 10 to 90 %"), figures.riseTime, 1000.0, tr("ms")},
-        {"timeTo90", QT_TRANSLATE_NOOP("Analysis", "Time to 90 %"), figures.timeTo90, 1000.0, tr("ms")},
+        {"riseTime", QT_TRANSLATE_NOOP("Analysis", "Rise time, 10 to 90 %"), figures.riseTime, 1000.0,
+         AnalysisText::tr("ms")},
+        {"timeTo90", QT_TRANSLATE_NOOP("Analysis", "Time to 90 %"), figures.timeTo90, 1000.0, AnalysisText::tr("ms")},
         {"overshoot", QT_TRANSLATE_NOOP("Analysis", "Overshoot"), figures.overshoot, 1.0, QStringLiteral("%")},
         {"settlingTime", QT_TRANSLATE_NOOP("Analysis", "Settling time, within 2 %"), figures.settlingTime, 1000.0,
-         tr("ms")},
+         AnalysisText::tr("ms")},
         {"peakError", QT_TRANSLATE_NOOP("Analysis", "Peak tracking error"), figures.peakError, 1.0, figures.unit},
         {"rmsError", QT_TRANSLATE_NOOP("Analysis", "RMS tracking error"), figures.rmsError, 1.0, figures.unit},
         {"timeInCurrentLimit", QT_TRANSLATE_NOOP("Analysis", "Limited by MMC for"), figures.timeInCurrentLimit, 1000.0,
-         tr("ms")},
-        {"ringing", QT_TRANSLATE_NOOP("Analysis", "Ringing"), figures.ringing, 1.0, tr("Hz")},
+         AnalysisText::tr("ms")},
+        {"ringing", QT_TRANSLATE_NOOP("Analysis", "Ringing"), figures.ringing, 1.0, AnalysisText::tr("Hz")},
         {"ringingResolution", QT_TRANSLATE_NOOP("Analysis", "Resolution of the ringing"), figures.ringingResolution,
-         1.0, tr("Hz")},
+         1.0, AnalysisText::tr("Hz")},
     };
     QList<FigureLine> lines;
     for (const auto &row : rows) {
         const std::optional<double> &value = row.figure.value;
-        lines.append({QLatin1String(row.name), tr(row.caption),
+        lines.append({QLatin1String(row.name), AnalysisText::tr(row.caption),
                       value ? withUnit(*value * row.scale, row.unit) : row.figure.reason, value.has_value()});
     }
     return lines;
@@ -63,7 +59,7 @@ QList<FigureLine> figureLines(const StepFigures &figures)
 QList<FigureLine> axisLines(const AxisSheet &sheet, double countsPerRevolution)
 {
     if (!sheet.isUsable())
-        return {{QStringLiteral("refusal"), tr("Axis sheet"), sheet.refusal, false}};
+        return {{QStringLiteral("refusal"), AnalysisText::tr("Axis sheet"), sheet.refusal, false}};
     const bool inTurns = countsPerRevolution > 0.0;
     const double turns = inTurns ? 1.0 / countsPerRevolution : 1.0;
     const struct
@@ -75,18 +71,21 @@ QList<FigureLine> axisLines(const AxisSheet &sheet, double countsPerRevolution)
         QString unit;
     } rows[] = {
         {"acceleration", QT_TRANSLATE_NOOP("Analysis", "Acceleration per torque"), sheet.acceleration, turns,
-         inTurns ? tr("rev/s² per A") : tr("counts/s² per A")},
-        {"dragForward", QT_TRANSLATE_NOOP("Analysis", "Slow motion forward takes"), sheet.dragForward, 1.0, tr("A")},
-        {"dragBackward", QT_TRANSLATE_NOOP("Analysis", "Slow motion backward takes"), sheet.dragBackward, 1.0, tr("A")},
-        {"dryFriction", QT_TRANSLATE_NOOP("Analysis", "Dry friction"), sheet.dryFriction, 1.0, tr("A")},
-        {"hangingLoad", QT_TRANSLATE_NOOP("Analysis", "Hanging load"), sheet.hangingLoad, 1.0, tr("A")},
+         inTurns ? AnalysisText::tr("rev/s² per A") : AnalysisText::tr("counts/s² per A")},
+        {"dragForward", QT_TRANSLATE_NOOP("Analysis", "Slow motion forward takes"), sheet.dragForward, 1.0,
+         AnalysisText::tr("A")},
+        {"dragBackward", QT_TRANSLATE_NOOP("Analysis", "Slow motion backward takes"), sheet.dragBackward, 1.0,
+         AnalysisText::tr("A")},
+        {"dryFriction", QT_TRANSLATE_NOOP("Analysis", "Dry friction"), sheet.dryFriction, 1.0, AnalysisText::tr("A")},
+        {"hangingLoad", QT_TRANSLATE_NOOP("Analysis", "Hanging load"), sheet.hangingLoad, 1.0, AnalysisText::tr("A")},
         {"viscousFriction", QT_TRANSLATE_NOOP("Analysis", "Viscous friction"), sheet.viscousFriction, 1.0 / turns,
-         inTurns ? tr("A per rev/s") : tr("A per count/s")},
+         inTurns ? AnalysisText::tr("A per rev/s") : AnalysisText::tr("A per count/s")},
         {"AFF", QT_TRANSLATE_NOOP("Analysis", "Acceleration feed-forward that follows [AFF]"), sheet.aff, 1.0, {}},
         {"VFF", QT_TRANSLATE_NOOP("Analysis", "Velocity feed-forward that follows [VFF]"), sheet.vff, 1.0, {}},
     };
     QList<FigureLine> lines;
     for (const auto &row : rows)
-        lines.append({QLatin1String(row.name), tr(row.caption), withRange(row.estimate, row.scale, row.unit), true});
+        lines.append({QLatin1String(row.name), AnalysisText::tr(row.caption),
+                      withRange(row.estimate, row.scale, row.unit), true});
     return lines;
 }

@@ -12,11 +12,6 @@ constexpr double stillCounts = 2.0;     // what an encoder's last bit and the co
 constexpr double leastStillShare = 0.1; // of the record
 constexpr double leastMotion = 10.0;    // counts
 
-QString tr(const char *text)
-{
-    return AnalysisText::tr(text);
-}
-
 StopFigures undefined(const QString &reason)
 {
     const Figure none{std::nullopt, reason};
@@ -34,21 +29,22 @@ StopFigures stopFigures(const CaptureRecord &capture)
 {
     const CaptureData *channel = capture.channel(QStringLiteral("posmeas"));
     if (channel == nullptr || channel->samples.size() < 20)
-        return undefined(tr("The position achieved was not recorded."));
+        return undefined(AnalysisText::tr("The position achieved was not recorded."));
     const std::size_t rows = rowsOf(capture);
     const std::vector<double> position = unwrapped(traceOf(capture, channel->key, rows));
     double farthest = 0.0;
     for (const double each : position)
         farthest = std::max(farthest, std::abs(each - position.front()));
     if (farthest < leastMotion)
-        return undefined(tr("The axis did not move when the stop was pressed."));
+        return undefined(AnalysisText::tr("The axis did not move when the stop was pressed."));
     std::size_t still = position.size() - 1;
     while (still > 0 && std::abs(position[still - 1] - position.back()) <= stillCounts)
         --still;
     StopFigures figures;
     figures.farthest.value = farthest;
     if (double(position.size() - still) < leastStillShare * double(position.size())) {
-        figures.time.reason = figures.distance.reason = tr("It was still moving at the end of the record.");
+        figures.time.reason = figures.distance.reason =
+            AnalysisText::tr("It was still moving at the end of the record.");
         return figures;
     }
     figures.time.value = double(still) * capture.samplePeriod;

@@ -1,6 +1,7 @@
 // What it takes from pressing "Start capture" to the plot, on a line as quick as a real one, and what drawing a capture of
 // sixteen channels into the open view takes. Each beside what it cannot be quicker than, measured in the same run.
 #include "connection.h"
+#include "enginestart.h"
 #include "helpview.h"
 #include "mw.h"
 #include "scopechannels.h"
@@ -195,7 +196,7 @@ int main(int argc, char **argv)
     qputenv("QT_LOGGING_RULES", "*.debug=false;js.info=false");
     qputenv("VELBRIN_WIKI", "http://127.0.0.1:9"); // nobody answers
     qputenv("VELBRIN_UPDATE_SERVER", "http://127.0.0.1:9");
-    HelpView::prepareEngine();
+    prepareEngine();
     QApplication application(argc, argv);
     QDir::setCurrent(QCoreApplication::applicationDirPath() + QLatin1String("/../data"));
     const VirtualPort port(QStringLiteral("keta"), VirtualPort::Pace::RealLine);

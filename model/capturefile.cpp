@@ -5,6 +5,7 @@
 #include "captureplotter.h"
 #include "capturetext.h"
 
+#include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
 
@@ -12,24 +13,24 @@ namespace {
 
 constexpr qint64 largestFile = 8 << 20; // a page with all its scripts has some 400 KB
 
-QString tr(const char *text)
+struct Text
 {
-    return QCoreApplication::translate("CaptureRecord", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(CaptureRecord)
+};
 
 QString readBytes(const QString &fileName, QByteArray &bytes)
 {
     QFile file(fileName);
     // A pipe or a device would be waited for.
     if (QFileInfo(fileName).exists() && !QFileInfo(fileName).isFile())
-        return tr("The capture cannot be opened: it is not a plain file.");
+        return Text::tr("The capture cannot be opened: it is not a plain file.");
     if (!file.open(QIODevice::ReadOnly))
-        return tr("The capture cannot be opened: %1.").arg(file.errorString());
+        return Text::tr("The capture cannot be opened: %1.").arg(file.errorString());
     if (file.size() > largestFile)
-        return tr("The file is far too large to be a capture.");
+        return Text::tr("The file is far too large to be a capture.");
     bytes = file.read(file.size());
     return file.error() == QFileDevice::NoError ? QString()
-                                                : tr("The capture cannot be read: %1.").arg(file.errorString());
+                                                : Text::tr("The capture cannot be read: %1.").arg(file.errorString());
 }
 
 } // namespace
@@ -48,9 +49,10 @@ QString readCaptureFile(const QString &fileName, const QList<CaptureData> &known
     if (!start.startsWith('<'))
         return captureFromText(bytes, known, capture);
     const QByteArray block = captureBlockOf(bytes);
-    return block.isEmpty() ? tr("This page holds no capture. Pages that were saved by older versions of Velbrin cannot "
-                                "be opened again.")
-                           : captureFromJson(block, capture);
+    return block.isEmpty()
+               ? Text::tr("This page holds no capture. Pages that were saved by older versions of Velbrin cannot "
+                          "be opened again.")
+               : captureFromJson(block, capture);
 }
 
 QString plotPageOf(const CaptureRecord &capture, const QString &belowCharts)

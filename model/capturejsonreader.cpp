@@ -3,6 +3,7 @@
 
 #include "captureformat.h"
 
+#include <QCoreApplication>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QRegularExpression>
@@ -18,10 +19,10 @@ constexpr qsizetype mostSamples = 1000000; // of all channels together
 constexpr qsizetype mostSettings = 1000;
 constexpr qsizetype longestName = 100;
 
-QString tr(const char *text)
+struct Text
 {
-    return QCoreApplication::translate("CaptureRecord", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(CaptureRecord)
+};
 
 bool isSane(double number)
 {
@@ -42,7 +43,7 @@ private:
     }
     void refuseMember(const char *name)
     {
-        refuse(tr("The capture is damaged: its member \"%1\" is missing or is not what it should be.")
+        refuse(Text::tr("The capture is damaged: its member \"%1\" is missing or is not what it should be.")
                    .arg(QLatin1String(name)));
     }
     double number(const QJsonObject &object, const char *name);
@@ -101,7 +102,8 @@ QString Reader::identifier(const QJsonObject &object, const char *name)
 {
     // A word of the script language as a variable would keep the whole page from being drawn.
     static const QRegularExpression pattern(QStringLiteral(
-        "\\A(?!(?:arguments|await|break|case|catch|class|const|continue|debugger|default|delete|do|else|enum|eval|export|"
+        "\\A(?!(?:arguments|await|break|case|catch|class|const|continue|debugger|default|delete|do|else|enum|eval|"
+        "export|"
         "extends|false|finally|for|function|if|implements|import|in|instanceof|interface|let|new|null|options|package|"
         "private|protected|public|return|static|super|switch|this|throw|true|try|typeof|var|void|while|with|yield)\\z)"
         "[A-Za-z][A-Za-z0-9_]*\\z"));
@@ -242,15 +244,15 @@ QString Reader::read(const QByteArray &json, CaptureRecord *capture)
     QJsonParseError error;
     const QJsonDocument document = QJsonDocument::fromJson(json, &error);
     if (error.error != QJsonParseError::NoError)
-        return tr("The capture is damaged: its text breaks off or is no JSON.");
+        return Text::tr("The capture is damaged: its text breaks off or is no JSON.");
     const QJsonObject block = document.object();
     if (block.value(QLatin1String("format")).toString() != QLatin1String(captureformat::name))
-        return tr("This is not a capture of Velbrin.");
+        return Text::tr("This is not a capture of Velbrin.");
     const double version = block.value(QLatin1String("version")).toDouble();
     if (version > captureFormatVersion)
-        return tr("The capture was made by a newer version of Velbrin. Install that version to open it.");
+        return Text::tr("The capture was made by a newer version of Velbrin. Install that version to open it.");
     if (version != captureFormatVersion)
-        return tr("The capture is damaged: its version is not known.");
+        return Text::tr("The capture is damaged: its version is not known.");
 
     CaptureRecord taken;
     readHead(block, &taken);

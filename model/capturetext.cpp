@@ -1,5 +1,6 @@
 #include "capturetext.h"
 
+#include <QCoreApplication>
 #include <QStringList>
 
 #include <algorithm>
@@ -10,10 +11,10 @@ namespace {
 constexpr qsizetype mostColumns = 65;
 constexpr qsizetype mostRows = 100000;
 
-QString tr(const char *text)
+struct Text
 {
-    return QCoreApplication::translate("CaptureRecord", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(CaptureRecord)
+};
 
 QString quoted(const QString &field)
 {
@@ -65,20 +66,20 @@ bool numbersOf(const QStringList &fields, QList<double> &numbers)
 QString channelsOf(const QStringList &captions, const QList<CaptureData> &known, QList<CaptureData> &channels)
 {
     if (captions.size() < 2 || captions.size() > mostColumns || captions.first() != QLatin1String("Time"))
-        return tr("This is not a capture of Velbrin: its first line does not name the columns.");
+        return Text::tr("This is not a capture of Velbrin: its first line does not name the columns.");
     for (qsizetype column = 1; column < captions.size(); ++column) {
         const auto found = std::find_if(known.cbegin(), known.cend(), [&](const CaptureData &channel) {
             return channel.name == captions.at(column);
         });
         if (found == known.cend())
-            return tr("This is not a capture of Velbrin: the caption of column %1 is no channel of the recorder.")
+            return Text::tr("This is not a capture of Velbrin: the caption of column %1 is no channel of the recorder.")
                 .arg(column + 1);
         CaptureData channel = *found;
         channel.samples.clear();
         channel.enabled = true;
         for (const CaptureData &earlier : channels) {
             if (earlier.key == channel.key)
-                return tr("The capture is damaged: column %1 repeats an earlier one.").arg(column + 1);
+                return Text::tr("The capture is damaged: column %1 repeats an earlier one.").arg(column + 1);
         }
         channels.append(channel);
     }
@@ -125,14 +126,14 @@ QByteArray captureToText(const QList<CaptureData> &channels)
 QString captureFromText(const QByteArray &text, const QList<CaptureData> &known, CaptureRecord *capture)
 {
     if (text.count('\n') > mostRows) // before each of them becomes a text of its own
-        return tr("The file is far too large to be a capture.");
+        return Text::tr("The file is far too large to be a capture.");
     QStringList lines = QString::fromUtf8(text).split(QLatin1Char('\n'));
     for (QString &line : lines)
         line.remove(QLatin1Char('\r'));
     while (!lines.isEmpty() && lines.last().isEmpty())
         lines.removeLast();
     if (lines.isEmpty())
-        return tr("The file is empty.");
+        return Text::tr("The file is empty.");
     const QChar separator = lines.first().contains(QLatin1Char(';')) ? QLatin1Char(';') : QLatin1Char(',');
 
     CaptureRecord taken;
@@ -143,16 +144,16 @@ QString captureFromText(const QByteArray &text, const QList<CaptureData> &known,
     QList<double> times, row;
     for (qsizetype i = hasUnits ? 2 : 1; i < lines.size(); ++i) {
         if (!numbersOf(fieldsOf(lines.at(i), separator), row) || row.size() != taken.channels.size() + 1)
-            return tr("The capture is damaged: line %1 does not hold one number a column.").arg(i + 1);
+            return Text::tr("The capture is damaged: line %1 does not hold one number a column.").arg(i + 1);
         times.append(row.first());
         for (qsizetype column = 1; column < row.size(); ++column)
             taken.channels[column - 1].samples.append({row.first(), row.at(column)});
     }
     if (times.size() < 2)
-        return tr("The capture has fewer than two samples.");
+        return Text::tr("The capture has fewer than two samples.");
     taken.samplePeriod = periodOf(times);
     if (taken.samplePeriod == 0.0)
-        return tr("The capture is damaged: its samples are not evenly spaced in time.");
+        return Text::tr("The capture is damaged: its samples are not evenly spaced in time.");
     *capture = taken;
     return QString();
 }

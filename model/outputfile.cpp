@@ -13,10 +13,10 @@
 
 namespace {
 
-QString tr(const char *text)
+struct Text
 {
-    return QCoreApplication::translate("OutputFile", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(OutputFile)
+};
 
 bool isPipe(const QString &name)
 {
@@ -57,9 +57,9 @@ QString OutputFile::reason(qint64 size) const
     const QStorageInfo disk(QFileInfo(m_name).absolutePath());
     const bool isFull = qobject_cast<QSaveFile *>(m_file.get()) && disk.isValid() && disk.bytesAvailable() < size;
     if (error == ENOSPC || error == EDQUOT || isFull)
-        return tr("Full disk");
+        return Text::tr("Full disk");
     if (error == ENXIO && isPipe(m_name))
-        return tr("nobody reads from this pipe");
+        return Text::tr("nobody reads from this pipe");
     return m_file->error() != QFileDevice::NoError ? m_file->errorString() : qt_error_string(error);
 }
 
@@ -68,7 +68,7 @@ QString OutputFile::open()
     errno = 0;
     if (!m_file || (isPipe(m_name) ? openPipe() : m_file->open(QIODevice::WriteOnly)))
         return QString();
-    return tr("%1 cannot be written: %2.").arg(m_name, reason(1));
+    return Text::tr("%1 cannot be written: %2.").arg(m_name, reason(1));
 }
 
 QString OutputFile::write(const QByteArray &contents)
@@ -80,7 +80,7 @@ QString OutputFile::write(const QByteArray &contents)
     // Flushed by hand, since commit() does not notice a full disk: it would put the half of it in the old file's place.
     if (m_file->write(contents) == contents.size() && m_file->flush() && (!saved || saved->commit()))
         return QString();
-    const QString problem = tr("Error writing to %1: %2.").arg(m_name, reason(contents.size()));
+    const QString problem = Text::tr("Error writing to %1: %2.").arg(m_name, reason(contents.size()));
     m_file.reset(); // takes the begun file away
     return problem;
 }

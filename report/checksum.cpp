@@ -10,10 +10,10 @@ namespace {
 
 constexpr qint64 largestFile = 8 << 20;
 
-QString tr(const char *text)
+struct Text
 {
-    return QCoreApplication::translate("Report", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(Report)
+};
 
 } // namespace
 
@@ -42,9 +42,10 @@ ReportCheck checkReport(const QByteArray &page)
     check.settings = settings.size();
     check.checksum = printed.match(text).captured(1);
     if (settings.isEmpty() || check.checksum.isEmpty() || text.count(printed) != 1)
-        check.problem = tr("This is no commissioning report of Velbrin.");
+        check.problem = Text::tr("This is no commissioning report of Velbrin.");
     else if (settingsChecksum(settings) != check.checksum)
-        check.problem = tr("The checksum is not that of the settings in the report: something was changed in it.");
+        check.problem =
+            Text::tr("The checksum is not that of the settings in the report: something was changed in it.");
     return check;
 }
 
@@ -54,10 +55,10 @@ ReportCheck checkReportFile(const QString &fileName)
     QFile file(fileName);
     // A pipe or a device would be waited for.
     if (QFileInfo(fileName).exists() && !QFileInfo(fileName).isFile())
-        check.problem = tr("The report cannot be opened: it is not a plain file.");
+        check.problem = Text::tr("The report cannot be opened: it is not a plain file.");
     else if (!file.open(QIODevice::ReadOnly))
-        check.problem = tr("The report cannot be opened: %1.").arg(file.errorString());
+        check.problem = Text::tr("The report cannot be opened: %1.").arg(file.errorString());
     else if (file.size() > largestFile)
-        check.problem = tr("The file is far too large to be a report.");
+        check.problem = Text::tr("The file is far too large to be a report.");
     return check.problem.isEmpty() ? checkReport(file.read(file.size())) : check;
 }

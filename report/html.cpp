@@ -4,10 +4,10 @@
 
 namespace {
 
-QString tr(const char *text)
+struct Text
 {
-    return QCoreApplication::translate("Report", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(Report)
+};
 
 } // namespace
 
@@ -38,26 +38,26 @@ QString html::number(double value)
 
 QString html::known(int value, int base)
 {
-    return value != 0 ? QString::number(value, base).toUpper() : tr("not known");
+    return value != 0 ? QString::number(value, base).toUpper() : Text::tr("not known");
 }
 
 QString html::when(const QDateTime &time)
 {
-    return time.isValid() ? time.toString(QStringLiteral("yyyy-MM-dd hh:mm:ss t")) : tr("not known");
+    return time.isValid() ? time.toString(QStringLiteral("yyyy-MM-dd hh:mm:ss t")) : Text::tr("not known");
 }
 
 html::Facts html::identity(const DriveIdentity &drive)
 {
     Facts rows = {
-        {tr("Model"), drive.model},
-        {tr("HW type ID"), known(drive.type)},
-        {tr("Serial number"), known(drive.serial)},
-        {tr("Bus address"), known(drive.address)},
-        {tr("TarnwellCore firmware version"), known(drive.firmware)},
+        {Text::tr("Model"), drive.model},
+        {Text::tr("HW type ID"), known(drive.type)},
+        {Text::tr("Serial number"), known(drive.serial)},
+        {Text::tr("Bus address"), known(drive.address)},
+        {Text::tr("TarnwellCore firmware version"), known(drive.firmware)},
     };
     if (drive.ioFirmware != 0)
-        rows.append({tr("I/O side firmware version"), known(drive.ioFirmware)});
+        rows.append({Text::tr("I/O side firmware version"), known(drive.ioFirmware)});
     if (drive.buildRevision != 0)
-        rows.append({tr("Firmware revision ID"), known(drive.buildRevision, 16)});
+        rows.append({Text::tr("Firmware revision ID"), known(drive.buildRevision, 16)});
     return rows;
 }

@@ -18,10 +18,10 @@ using html::section;
 using html::table;
 using html::when;
 
-QString tr(const char *text)
+struct Text
 {
-    return QCoreApplication::translate("Report", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(Report)
+};
 
 const char *const checklist[] = {
     QT_TRANSLATE_NOOP("Report", "The machine's own emergency stop works, and does not depend on the program."),
@@ -54,8 +54,8 @@ tr.differs { font-weight: bold; background: #f3f3e0; } .note { font-weight: norm
 QString driveSection(const Report &report)
 {
     html::Facts rows = html::identity(report.drive);
-    rows += {{tr("Report made"), when(report.time)}, {tr("Velbrin version"), report.program}};
-    return section(tr("Drive"), table(rows));
+    rows += {{Text::tr("Report made"), when(report.time)}, {Text::tr("Velbrin version"), report.program}};
+    return section(Text::tr("Drive"), table(rows));
 }
 
 QString settingRow(const SingleParam &setting, const Report &report)
@@ -66,9 +66,10 @@ QString settingRow(const SingleParam &setting, const Report &report)
     QString caption = about ? about->caption.toHtmlEscaped() : QString();
     if (!note.isEmpty())
         caption += QLatin1String("<br><span class=\"note\">") + note.toHtmlEscaped() + QLatin1String("</span>");
-    const QString cells[] = {
-        about ? about->unit.toHtmlEscaped() : QString(), tr("%1 to %2").arg(number(setting.min), number(setting.max)),
-        about ? number(about->standard) : tr("not known"), differs ? tr("differs") : QString(), caption};
+    const QString cells[] = {about ? about->unit.toHtmlEscaped() : QString(),
+                             Text::tr("%1 to %2").arg(number(setting.min), number(setting.max)),
+                             about ? number(about->standard) : Text::tr("not known"),
+                             differs ? Text::tr("differs") : QString(), caption};
     QString row = differs ? QStringLiteral("<tr class=\"differs\">") : QStringLiteral("<tr>");
     row += QLatin1String("<th scope=\"row\">") + setting.name.toHtmlEscaped() +
            QLatin1String("</th><td class=\"value\">") + number(setting.value) + QLatin1String("</td>");
@@ -80,29 +81,32 @@ QString settingRow(const SingleParam &setting, const Report &report)
 QString settings(const Report &report)
 {
     QString text = QStringLiteral("<table>\n<thead><tr>");
-    for (const QString &head : {tr("Setting"), tr("Value"), tr("Unit"), tr("The drive's limits"), tr("Default"),
-                                tr("Differs"), tr("What it is")})
+    for (const QString &head :
+         {Text::tr("Setting"), Text::tr("Value"), Text::tr("Unit"), Text::tr("The drive's limits"), Text::tr("Default"),
+          Text::tr("Differs"), Text::tr("What it is")})
         text += QLatin1String("<th>") + head.toHtmlEscaped() + QLatin1String("</th>");
     text += QLatin1String("</tr></thead>\n<tbody>\n");
     for (const SingleParam &setting : settingsOfDrive(report.settings, report.drive.type))
         text += settingRow(setting, report);
     text += QLatin1String("</tbody></table>\n");
-    text += paragraph(tr("Checksum of the settings (SHA-256), which \"velbrin-cli report --verify FILE\" checks:"));
+    text +=
+        paragraph(Text::tr("Checksum of the settings (SHA-256), which \"velbrin-cli report --verify FILE\" checks:"));
     text += QStringLiteral("<p><code id=\"settings-checksum\">%1</code></p>\n")
                 .arg(settingsChecksum(printedSettings(report)));
-    return section(tr("Settings"), text);
+    return section(Text::tr("Settings"), text);
 }
 
 /// What keeps a capture from being one of this drive as it is now.
 QString whatIsOther(const CaptureRecord &capture, const Report &report)
 {
     if (capture.settings.getParamCount() == 0)
-        return paragraph(tr("The file does not say with which drive and settings it was recorded."));
+        return paragraph(Text::tr("The file does not say with which drive and settings it was recorded."));
     QString text;
     if (capture.drive.serial != report.drive.serial)
-        text += QLatin1String("<p class=\"warning\">") +
-                tr("Recorded on another drive: serial number %1.").arg(known(capture.drive.serial)).toHtmlEscaped() +
-                QLatin1String("</p>\n");
+        text +=
+            QLatin1String("<p class=\"warning\">") +
+            Text::tr("Recorded on another drive: serial number %1.").arg(known(capture.drive.serial)).toHtmlEscaped() +
+            QLatin1String("</p>\n");
     QStringList others;
     for (const SingleParam &now : settingsOfDrive(report.settings, report.drive.type)) {
         const SingleParam then = capture.settings.getParam(now.name);
@@ -110,16 +114,16 @@ QString whatIsOther(const CaptureRecord &capture, const Report &report)
             others.append(now.name + QLatin1Char('=') + number(then.value));
     }
     if (!others.isEmpty())
-        text += paragraph(tr("Recorded with other settings: %1.").arg(others.join(QLatin1String(", "))));
+        text += paragraph(Text::tr("Recorded with other settings: %1.").arg(others.join(QLatin1String(", "))));
     return text;
 }
 
 QString captured(const ReportedCapture &capture, const Report &report)
 {
     QString text = QStringLiteral("<h3>%1</h3>\n").arg(capture.title.toHtmlEscaped()) +
-                   paragraph(tr("Recorded: %1").arg(when(capture.record.time)));
+                   paragraph(Text::tr("Recorded: %1").arg(when(capture.record.time)));
     if (!capture.record.note.isEmpty())
-        text += paragraph(tr("Note: %1").arg(capture.record.note));
+        text += paragraph(Text::tr("Note: %1").arg(capture.record.note));
     text += whatIsOther(capture.record, report) + captureChart(capture.record);
     html::Facts rows;
     for (const FigureLine &line : figureLines(captureFigures(capture.record)))
@@ -132,30 +136,32 @@ QString captures(const Report &report)
     QString text;
     for (const ReportedCapture &capture : report.captures)
         text += captured(capture, report);
-    return section(tr("Captures"), text.isEmpty() ? paragraph(tr("None were chosen.")) : text);
+    return section(Text::tr("Captures"), text.isEmpty() ? paragraph(Text::tr("None were chosen.")) : text);
 }
 
 QString figure(const Figure &figure, double scale, const QString &unit)
 {
-    return figure.value ? tr("%1 %2").arg(QString::number(*figure.value * scale, 'g', 4), unit) : figure.reason;
+    return figure.value ? Text::tr("%1 %2").arg(QString::number(*figure.value * scale, 'g', 4), unit) : figure.reason;
 }
 
 QString stopTest(const Report &report)
 {
     if (!report.stopTest)
-        return section(tr("Stop test"), paragraph(tr("Not done.")));
+        return section(Text::tr("Stop test"), paragraph(Text::tr("Not done.")));
     const StopFigures figures = stopFigures(*report.stopTest);
     const double countsPerRevolution = 4.0 * report.settings.getParam(QStringLiteral("FBR")).value;
     html::Facts rows = {
-        {tr("Time to standstill"), figure(figures.time, 1000.0, tr("ms"))},
-        {tr("Distance to standstill"), figure(figures.distance, 1.0, tr("counts"))},
-        {tr("Farthest point on the way"), figure(figures.farthest, 1.0, tr("counts"))},
+        {Text::tr("Time to standstill"), figure(figures.time, 1000.0, Text::tr("ms"))},
+        {Text::tr("Distance to standstill"), figure(figures.distance, 1.0, Text::tr("counts"))},
+        {Text::tr("Farthest point on the way"), figure(figures.farthest, 1.0, Text::tr("counts"))},
     };
     if (countsPerRevolution > 0.0 && figures.distance.value)
-        rows.insert(2, {tr("Distance in revolutions"), figure(figures.distance, 1.0 / countsPerRevolution, tr("rev"))});
+        rows.insert(2, {Text::tr("Distance in revolutions"),
+                        figure(figures.distance, 1.0 / countsPerRevolution, Text::tr("rev"))});
     return section(
-        tr("Stop test"),
-        paragraph(tr("Measured from the fault that the machine's stop raised, %1.").arg(when(report.stopTest->time))) +
+        Text::tr("Stop test"),
+        paragraph(
+            Text::tr("Measured from the fault that the machine's stop raised, %1.").arg(when(report.stopTest->time))) +
             captureChart(*report.stopTest) + table(rows));
 }
 
@@ -163,16 +169,17 @@ QString whatToSign()
 {
     QString text = QStringLiteral("<table>\n");
     for (const char *question : checklist)
-        text +=
-            QLatin1String("<tr><td>&#9744;</td><td>") + tr(question).toHtmlEscaped() + QLatin1String("</td></tr>\n");
+        text += QLatin1String("<tr><td>&#9744;</td><td>") + Text::tr(question).toHtmlEscaped() +
+                QLatin1String("</td></tr>\n");
     QString names = QStringLiteral("<table class=\"sign\">\n<tr>");
-    for (const QString &head : {QString(), tr("Name"), tr("Date"), tr("Signature")})
+    for (const QString &head : {QString(), Text::tr("Name"), Text::tr("Date"), Text::tr("Signature")})
         names += QLatin1String("<th>") + head.toHtmlEscaped() + QLatin1String("</th>");
     names += QLatin1String("</tr>\n");
-    for (const QString &who : {tr("Commissioned by:"), tr("Accepted by:")})
-        names += QLatin1String("<tr><td>") + who.toHtmlEscaped() + QLatin1String("</td><td></td><td></td><td></td></tr>\n");
-    return section(tr("Checklist"), text + QLatin1String("</table>\n")) +
-           section(tr("Signatures"), names + QLatin1String("</table>\n"));
+    for (const QString &who : {Text::tr("Commissioned by:"), Text::tr("Accepted by:")})
+        names +=
+            QLatin1String("<tr><td>") + who.toHtmlEscaped() + QLatin1String("</td><td></td><td></td><td></td></tr>\n");
+    return section(Text::tr("Checklist"), text + QLatin1String("</table>\n")) +
+           section(Text::tr("Signatures"), names + QLatin1String("</table>\n"));
 }
 
 } // namespace
@@ -187,8 +194,8 @@ QList<QPair<QString, QString>> printedSettings(const Report &report)
 
 QByteArray reportPage(const Report &report)
 {
-    const QString title =
-        report.machine.isEmpty() ? tr("Commissioning report") : tr("Commissioning report: %1").arg(report.machine);
+    const QString title = report.machine.isEmpty() ? Text::tr("Commissioning report")
+                                                   : Text::tr("Commissioning report: %1").arg(report.machine);
     const QString escaped = title.toHtmlEscaped();
     const QString page = QStringLiteral("<!DOCTYPE html>\n<html>\n<head>\n<meta charset=\"utf-8\">\n<title>") +
                          escaped + QLatin1String("</title>\n<style>") + QLatin1String(style) +

@@ -9,10 +9,10 @@
 
 namespace {
 
-QString tr(const char *text)
+struct Text
 {
-    return QCoreApplication::translate("SavedPage", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(SavedPage)
+};
 
 // The charts' places are empty where no script draws them.
 const char *const withoutScripts = "<noscript>\n<style>body > div { display: none; }</style>\n%1</noscript>\n";
@@ -40,11 +40,11 @@ QString motionText(const CaptureMotion &motion)
 {
     const QString from = html::number(motion.from), to = html::number(motion.to);
     if (motion.kind == CaptureMotion::Kind::Step)
-        return tr("setpoint from %1 to %2").arg(from, to);
+        return Text::tr("setpoint from %1 to %2").arg(from, to);
     if (motion.kind == CaptureMotion::Kind::SquareWave)
-        return tr("to and fro: setpoint %1 for %2 s, %3 for %4 s")
+        return Text::tr("to and fro: setpoint %1 for %2 s, %3 for %4 s")
             .arg(from, html::number(motion.fromTime), to, html::number(motion.toTime));
-    return tr("none that is known");
+    return Text::tr("none that is known");
 }
 
 QString captureSection(const CaptureRecord &capture)
@@ -55,19 +55,19 @@ QString captureSection(const CaptureRecord &capture)
             signalNames.append(channel.name);
     }
     const bool isKnown = capture.trigger > 0 && capture.trigger < int(std::size(triggers));
-    html::Facts rows = {{tr("Recorded"), html::when(capture.time)}};
+    html::Facts rows = {{Text::tr("Recorded"), html::when(capture.time)}};
     rows += html::identity(capture.drive);
-    rows += {{tr("Trigger"), tr(triggers[isKnown ? capture.trigger : 0])},
-             {tr("Motion"), motionText(capture.motion)},
-             {tr("Signals"), signalNames.join(QLatin1String(", "))},
-             {tr("Sample rate"), capture.samplePeriod > 0.0
-                                     ? tr("%1 Hz").arg(QString::number(1.0 / capture.samplePeriod, 'g', 6))
-                                     : tr("not known")},
-             {tr("Velbrin version"), capture.program}};
+    rows += {{Text::tr("Trigger"), Text::tr(triggers[isKnown ? capture.trigger : 0])},
+             {Text::tr("Motion"), motionText(capture.motion)},
+             {Text::tr("Signals"), signalNames.join(QLatin1String(", "))},
+             {Text::tr("Sample rate"), capture.samplePeriod > 0.0
+                                           ? Text::tr("%1 Hz").arg(QString::number(1.0 / capture.samplePeriod, 'g', 6))
+                                           : Text::tr("not known")},
+             {Text::tr("Velbrin version"), capture.program}};
     QString note;
     if (!capture.note.isEmpty())
         note = QLatin1String("<p class=\"note\">") + capture.note.toHtmlEscaped() + QLatin1String("</p>\n");
-    return html::section(tr("Capture"), note + html::table(rows));
+    return html::section(Text::tr("Capture"), note + html::table(rows));
 }
 
 QString figuresSection(const CaptureFigures &figures)
@@ -75,7 +75,7 @@ QString figuresSection(const CaptureFigures &figures)
     html::Facts rows;
     for (const FigureLine &line : figureLines(figures))
         rows.append({line.caption, line.value});
-    return html::section(tr("Figures"), html::table(rows));
+    return html::section(Text::tr("Figures"), html::table(rows));
 }
 
 QString settingsSection(const CaptureRecord &capture)
@@ -86,13 +86,13 @@ QString settingsSection(const CaptureRecord &capture)
     for (const ChangedSetting &changed : changedSettings(capture.settings, capture.drive.type)) {
         const QString value = html::number(changed.setting.value), standard = html::number(changed.facts.standard);
         rows += QLatin1String("<tr>");
-        for (const QString &cell : {changed.setting.name, value, changed.facts.unit, tr("new drive: %1").arg(standard),
-                                    changed.facts.caption})
+        for (const QString &cell : {changed.setting.name, value, changed.facts.unit,
+                                    Text::tr("new drive: %1").arg(standard), changed.facts.caption})
             rows += QLatin1String("<td>") + cell.toHtmlEscaped() + QLatin1String("</td>");
         rows += QLatin1String("</tr>\n");
     }
-    return html::section(tr("Settings that are not a new drive's"),
-                         rows.isEmpty() ? html::paragraph(tr("None."))
+    return html::section(Text::tr("Settings that are not a new drive's"),
+                         rows.isEmpty() ? html::paragraph(Text::tr("None."))
                                         : QLatin1String("<table>\n") + rows + QLatin1String("</table>\n"));
 }
 

@@ -17,6 +17,15 @@ struct Row
     double torvaStandard; // Torva drives for a smaller current and a higher voltage
 };
 
+// Units that are words; the others are the same everywhere.
+constexpr const char *wordUnits[] = {
+    QT_TRANSLATE_NOOP("SettingFacts", "counts"),         QT_TRANSLATE_NOOP("SettingFacts", "cnt/cycle"),
+    QT_TRANSLATE_NOOP("SettingFacts", "cnt/cycle/DIV"),  QT_TRANSLATE_NOOP("SettingFacts", "cnt/cycle²/DIV"),
+    QT_TRANSLATE_NOOP("SettingFacts", "setpoint units"), QT_TRANSLATE_NOOP("SettingFacts", "lines/rev"),
+    QT_TRANSLATE_NOOP("SettingFacts", "poles"),          QT_TRANSLATE_NOOP("SettingFacts", "rpm"),
+    QT_TRANSLATE_NOOP("SettingFacts", "bits"),           QT_TRANSLATE_NOOP("SettingFacts", "raw"),
+};
+
 // clang-format off: one setting a line
 constexpr Row rows[] = {
     {"CEI", QT_TRANSLATE_NOOP("SettingFacts", "Enable and limit input logic"), "", 0, 0},
@@ -85,6 +94,13 @@ constexpr Row rows[] = {
 };
 // clang-format on
 
+QString unitText(const char *unit)
+{
+    const bool isWord = std::any_of(std::begin(wordUnits), std::end(wordUnits),
+                                    [unit](const char *word) { return qstrcmp(word, unit) == 0; });
+    return isWord ? QCoreApplication::translate("SettingFacts", unit) : QString::fromUtf8(unit);
+}
+
 } // namespace
 
 std::optional<SettingFacts> settingFacts(const QString &name, bool isTorva)
@@ -93,7 +109,7 @@ std::optional<SettingFacts> settingFacts(const QString &name, bool isTorva)
                                   [&name](const Row &each) { return name == QLatin1String(each.name); });
     if (row == std::end(rows))
         return std::nullopt;
-    return SettingFacts{QCoreApplication::translate("SettingFacts", row->caption), QString::fromUtf8(row->unit),
+    return SettingFacts{QCoreApplication::translate("SettingFacts", row->caption), unitText(row->unit),
                         isTorva ? row->torvaStandard : row->standard};
 }
 

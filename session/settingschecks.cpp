@@ -9,10 +9,10 @@
 
 namespace {
 
-QString tr(const char *text)
+struct Text
 {
-    return QCoreApplication::translate("SettingsChecks", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(SettingsChecks)
+};
 
 } // namespace
 
@@ -30,17 +30,17 @@ QString refusal(const Parameters &drive, const Assignment &assignment, const QSt
 {
     const SingleParam param = drive.getParam(assignment.name);
     if (!param.supportedInDevice(modelName))
-        return tr("%1 is not on this model (%2).").arg(param.name, modelName);
+        return Text::tr("%1 is not on this model (%2).").arg(param.name, modelName);
     if (param.readonly)
-        return tr("%1 is read-only.").arg(param.name);
+        return Text::tr("%1 is read-only.").arg(param.name);
     // Compared as it goes over the bus: the limits as printed may be rounded.
     const double value = param.convertToDeviceScale(assignment.value);
     if (value < param.convertToDeviceScale(param.min) || value > param.convertToDeviceScale(param.max)) {
-        return tr("%1=%2 is outside the drive's limits, %3 to %4.")
+        return Text::tr("%1=%2 is outside the drive's limits, %3 to %4.")
             .arg(param.name, shortNumber(assignment.value), shortNumber(param.min), shortNumber(param.max));
     }
     if (assignment.name.startsWith(QLatin1String("overrideAddr")) && isCommandToDrive(truncateToInt32(value)))
-        return tr("%1=%2 is refused: that register is a command to the drive and not a setting.")
+        return Text::tr("%1=%2 is refused: that register is a command to the drive and not a setting.")
             .arg(param.name, shortNumber(assignment.value));
     return QString();
 }
@@ -65,13 +65,13 @@ ApplyResult applyResult(const Parameters &before, const Parameters &wanted, cons
 QString applyLine(const ApplyResult &result)
 {
     if (result.notTaken.isEmpty())
-        return result.applied.isEmpty() ? tr("Applied: the drive had these values already")
-                                        : tr("%1 applied").arg(result.applied.size());
+        return result.applied.isEmpty() ? Text::tr("Applied: the drive had these values already")
+                                        : Text::tr("%1 applied").arg(result.applied.size());
     QStringList names;
     for (const Difference &difference : result.notTaken)
-        names.append(
-            tr("%1 %2 -> %3").arg(difference.name, shortNumber(difference.wanted), shortNumber(difference.drive)));
-    return tr("%1 applied, %2 not taken: %3")
+        names.append(Text::tr("%1 %2 -> %3")
+                         .arg(difference.name, shortNumber(difference.wanted), shortNumber(difference.drive)));
+    return Text::tr("%1 applied, %2 not taken: %3")
         .arg(QString::number(result.applied.size()), QString::number(result.notTaken.size()),
              names.join(QLatin1String(", ")));
 }

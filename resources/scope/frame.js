@@ -22,6 +22,15 @@
         scope.charts.forEach(function (chart) { chart.element.style.height = height + "px"; });
     }
 
+    // The page's own words, which stay English in files.
+    scope.afterAttach.push(function () {
+        jQuery("body > p, body > p > a").contents().filter(function () { return this.nodeType === 3; }).each(function () {
+            var own = this.nodeValue.replace(/^[\s|]+|[\s|]+$/g, "");
+            if (own)
+                this.nodeValue = this.nodeValue.replace(own, function () { return scope.text(own); });
+        });
+    });
+
     scope.afterChange.push(function () {
         var is = Boolean(scope.context.isOpenedOut), root = document.documentElement.classList;
         if (is === root.contains("scope-open"))

@@ -1,8 +1,8 @@
 #include "scopechannels.h"
 
 #include "sessionregisters.h"
-#include "sessiontext.h"
 
+#include <QCoreApplication>
 #include <algorithm>
 #include <cmath>
 
@@ -63,7 +63,7 @@ QList<CaptureData> scopeChannels()
     QList<CaptureData> channels;
     for (const ChannelRow &row : channelRows) {
         CaptureData channel;
-        channel.name = SessionText::tr(row.name);
+        channel.name = QString::fromUtf8(row.name); // in every language: files are read back by it
         channel.key = QString::fromLatin1(row.key);
         channel.unit = QString::fromLatin1(row.unit);
         channel.scale = row.scale;

@@ -1,5 +1,6 @@
 /// \file
-/// A home folder of their own for tests, so that they neither read nor change the user's settings.
+/// A home folder of their own for tests, so that they neither read nor change the user's settings. And English, whatever
+/// the machine's language and regional formats.
 #ifndef TESTHOME_H
 #define TESTHOME_H
 
@@ -12,6 +13,8 @@ class TestHome
 public:
     TestHome()
     {
+        setenv("LC_ALL", "C.UTF-8", 1);
+        unsetenv("LANGUAGE");
         char name[] = "/tmp/velbrin-test-XXXXXX";
         if (const char *made = mkdtemp(name))
             m_folder = made;

@@ -153,7 +153,7 @@ protected:
     /// Opens the window as a technician would, accepting the disclaimer.
     void openWindow(const QString &settingsFile = QString())
     {
-        m_answers.press("I Agree");
+        m_answers.press(QCoreApplication::translate("Disclaimer", "I Agree"));
         MW::Options options;
         options.file = settingsFile;
         options.virtualPort = port();
@@ -185,7 +185,8 @@ protected:
     void connectToDrive(int address = DriveAddress, int deviceType = 11000)
     {
         startConnecting(address, deviceType);
-        ASSERT_TRUE(waitFor([this] { return connectionText() == "Connected"; }));
+        ASSERT_TRUE(waitFor([this] { return connectionText() == Connection::tr("Connected"); }))
+            << qPrintable(connectionText());
         ASSERT_TRUE(waitFor([this] { return label("HWMODEL")->text().startsWith("Tarnwell"); }));
     }
     void openConnectedWindow()

@@ -73,7 +73,7 @@ public:
     void orderTravelLimits(Typed typed); ///< HLL and HHL
     void setpointInputChosen(int index);
     void axisTypeChosen(int index);
-    void feedbackDeviceChosen(const QString &name);
+    void feedbackDeviceChosen();
     void underVoltageTyped(double volts);
     void toggleAdvanced();
     bool showsAdvanced() const { return m_showAdvanced; }

@@ -12,6 +12,8 @@
 
 namespace {
 
+constexpr int firstSinCos = 2, lastSinCos = 4, resolver = 5; // choices of FBD
+
 /// Whether something had to be changed.
 template <typename Box> bool orderPair(Box *low, Box *high, ParameterPages::Typed typed)
 {
@@ -71,7 +73,7 @@ void ParameterPages::updateVisibility()
 void ParameterPages::updateAllRules()
 {
     updateVisibility();
-    feedbackDeviceChosen(m_forms.machine.FBD->currentText());
+    feedbackDeviceChosen();
     underVoltageTyped(m_forms.faultLimits.FUV->value());
 }
 
@@ -92,15 +94,16 @@ void ParameterPages::axisTypeChosen(int index)
     emit unitsChanged();
 }
 
-void ParameterPages::feedbackDeviceChosen(const QString &name)
+void ParameterPages::feedbackDeviceChosen()
 {
+    const int device = m_forms.machine.FBD->currentIndex();
     const auto guide = [](const char *path, const QString &text) {
         return tr("See guide <a href=\"%1\">%2</a>").arg(makerWikiPage(QLatin1String(path)), text);
     };
     QString help;
-    if (name.contains(QLatin1String("SinCos")))
+    if (device >= firstSinCos && device <= lastSinCos)
         help = guide("/wiki/Using_SinCos_encoder", tr("Using SinCos encoder"));
-    else if (name.contains(QLatin1String("Resolver")))
+    else if (device == resolver)
         help = guide("/wiki/Using_resolver_feedback_device", tr("Using resolver"));
     m_forms.machine.FBDhelp->setText(help);
 }

@@ -100,7 +100,7 @@ void TestingPage::showMaximumSampleRate()
     const double rate = m_session.maxScopeSampleRate();
     qDebug() << "max rate" << rate;
     // The first item stands for "as fast as the drive can".
-    m_form.ScopeSampleRate->setItemText(0, tr("%1 Hz").arg(QString::number(rate)));
+    m_form.ScopeSampleRate->setItemText(0, QString::number(rate) + QStringLiteral(" Hz"));
 }
 
 // --- Stimulus and setpoints ---------------------------------------------------------------------------------------

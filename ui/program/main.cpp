@@ -2,6 +2,7 @@
 #include "datafolder.h"
 #include "disabledink.h"
 #include "enginestart.h"
+#include "language.h"
 #include "mw.h"
 #include "programoptions.h"
 #include "quitsignals.h"
@@ -11,6 +12,7 @@
 
 #include <QApplication>
 #include <QDebug>
+#include <QLocale>
 #include <QStyleFactory>
 #include <cstdio>
 #include <cstring>
@@ -59,6 +61,7 @@ int main(int argc, char **argv)
         std::fputs(qPrintable(options.text), stdout);
         return 0;
     }
+    speak(options.language.isEmpty() ? languageFor(QLocale::system().uiLanguages()) : options.language);
     QuitSignals quitSignals;
 
     MW::Options window;

@@ -1,6 +1,7 @@
 #include "programoptions.h"
 
 #include "driveprofile.h"
+#include "language.h"
 #include "version.h"
 #include "virtualport.h"
 
@@ -46,6 +47,11 @@ ProgramOptions parseProgramOptions(QStringList arguments)
         QStringLiteral("models"));
     const QCommandLineOption port(QStringLiteral("port"), tr("Chooses this serial port at first."),
                                   QStringLiteral("name"));
+    const QString languages = spokenLanguages().join(QLatin1String(", "));
+    const QCommandLineOption language(
+        QStringLiteral("language"),
+        tr("Language of the window: %1. Without it that of the desktop, if it is one of them.").arg(languages),
+        QStringLiteral("name"));
     const QCommandLineOption debugValues(QStringLiteral("debug-values"),
                                          tr("Shows the drive's debug values under the fault register."));
     const QCommandLineOption tour(
@@ -57,7 +63,7 @@ ProgramOptions parseProgramOptions(QStringList arguments)
     const QCommandLineOption version({QStringLiteral("v"), QStringLiteral("version")}, tr("Shows the version."));
     QCommandLineParser parser;
     parser.setApplicationDescription(tr("Configures, tunes and starts up Tarnwell servo drives."));
-    parser.addOptions({virtualDrive, port, debugValues, tour, help, version});
+    parser.addOptions({virtualDrive, port, language, debugValues, tour, help, version});
     parser.addPositionalArgument(QStringLiteral("file"), tr("Settings file to load at first; needs no drive."),
                                  QStringLiteral("[FILE.drc]"));
 
@@ -76,6 +82,9 @@ ProgramOptions parseProgramOptions(QStringList arguments)
     else if (!files.isEmpty()) // the program works in a folder of its own
         options.file = QDir::current().absoluteFilePath(files.first());
     options.port = parser.value(port);
+    options.language = parser.value(language);
+    if (parser.isSet(language) && !spokenLanguages().contains(options.language))
+        options.error = tr("--language: \"%1\" is not known. Languages: %2.").arg(options.language, languages);
     options.debugValues = parser.isSet(debugValues);
     if (parser.isSet(tour))
         options.tourFolder = QDir::current().absoluteFilePath(parser.value(tour));

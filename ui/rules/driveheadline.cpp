@@ -7,19 +7,19 @@
 
 namespace {
 
-QString tr(const char *text)
+struct Text
 {
-    return QCoreApplication::translate("DriveHeadline", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(DriveHeadline)
+};
 
 QString agoText(double seconds)
 {
     const int whole = int(seconds);
     if (whole < 60)
-        return tr("%1 s ago").arg(whole);
+        return Text::tr("%1 s ago").arg(whole);
     if (whole < 3600)
-        return tr("%1 min ago").arg(whole / 60);
-    return tr("%1 h ago").arg(whole / 3600);
+        return Text::tr("%1 min ago").arg(whole / 60);
+    return Text::tr("%1 h ago").arg(whole / 3600);
 }
 
 /// The first fault in the panel's order.
@@ -46,40 +46,41 @@ FirstFault firstFault(const DriveState &state)
 
 QString motionText(const DriveState &state)
 {
-    return state.rawVelocity == 0 ? tr("standing") : tr("moving");
+    return state.rawVelocity == 0 ? Text::tr("standing") : Text::tr("moving");
 }
 
 void describeFault(const DriveState &state, DriveHeadline &line)
 {
     const FirstFault fault = firstFault(state);
     line.look = DriveLook::Fault;
-    line.word = tr("FAULT");
-    line.detail = fault.count > 1 ? tr("%1 and %2 more").arg(fault.name, QString::number(fault.count - 1)) : fault.name;
+    line.word = Text::tr("FAULT");
+    line.detail =
+        fault.count > 1 ? Text::tr("%1 and %2 more").arg(fault.name, QString::number(fault.count - 1)) : fault.name;
     if (fault.count == 0) // a bit that has no name
-        line.detail = tr("fault register %1").arg(state.faultRegister);
+        line.detail = Text::tr("fault register %1").arg(state.faultRegister);
     line.faultBit = fault.bit;
     if (state.isRunning())
-        line.detail = tr("%1, motor powered").arg(line.detail);
+        line.detail = Text::tr("%1, motor powered").arg(line.detail);
 }
 
 void describeEnabled(const DriveState &state, DriveHeadline &line)
 {
     line.look = state.isHoming() ? DriveLook::Homing : DriveLook::Enabled;
-    line.word = tr("ENABLED");
+    line.word = Text::tr("ENABLED");
     if (state.isHoming())
-        line.detail = tr("homing, %1").arg(motionText(state));
+        line.detail = Text::tr("homing, %1").arg(motionText(state));
     else
-        line.detail = state.isRunning() ? motionText(state) : tr("motor not powered yet");
+        line.detail = state.isRunning() ? motionText(state) : Text::tr("motor not powered yet");
 }
 
 void describeDisabled(const DriveState &state, DriveHeadline &line)
 {
     line.look = DriveLook::Disabled;
-    line.word = tr("disabled");
+    line.word = Text::tr("disabled");
     if (state.isPermanentStop())
-        line.detail = tr("permanent stop until a restart");
+        line.detail = Text::tr("permanent stop until a restart");
     else if (state.isTorqueOff())
-        line.detail = tr("safe torque off is active");
+        line.detail = Text::tr("safe torque off is active");
     else
         line.detail = motionText(state);
 }
@@ -88,7 +89,7 @@ void describeState(const DriveState &state, DriveHeadline &line)
 {
     if (state.firmwareUpgradeMode) {
         line.look = DriveLook::Upgrade;
-        line.word = tr("Firmware upgrade mode");
+        line.word = Text::tr("Firmware upgrade mode");
     } else if (state.faultRegister != 0 || state.isFaultStopped()) {
         describeFault(state, line);
     } else if (state.isEnabled() || state.isRunning()) {
@@ -102,10 +103,10 @@ QString identityText(const DriveNews &news)
 {
     const QString model = deviceModelName(news.state.deviceType, false);
     if (news.state.deviceType <= 0)
-        return news.busAddress > 0 ? tr("address %1").arg(news.busAddress) : QString();
+        return news.busAddress > 0 ? Text::tr("address %1").arg(news.busAddress) : QString();
     if (news.serialNumber <= 0)
-        return tr("%1 at address %2").arg(model, QString::number(news.busAddress));
-    return tr("%1 at address %2, serial number %3")
+        return Text::tr("%1 at address %2").arg(model, QString::number(news.busAddress));
+    return Text::tr("%1 at address %2, serial number %3")
         .arg(model, QString::number(news.busAddress), QString::number(news.serialNumber));
 }
 
@@ -113,29 +114,31 @@ QString figuresText(const DriveState &state)
 {
     if (state.firmwareUpgradeMode)
         return QString();
-    return tr("%1 V, position %2").arg(QString::number(state.busVoltage, 'f', 1), QString::number(state.position));
+    return Text::tr("%1 V, position %2")
+        .arg(QString::number(state.busVoltage, 'f', 1), QString::number(state.position));
 }
 
 /// The words about a poll, turned into words about the past.
 void makeLastKnown(const DriveNews &news, DriveHeadline &line)
 {
     line.look = DriveLook::LastKnown;
-    line.word = tr("Last known: %1").arg(line.word);
-    const QString age = news.connected ? agoText(news.secondsOld) : tr("%1, not connected").arg(agoText(news.secondsOld));
-    line.detail = line.detail.isEmpty() ? age : tr("%1, %2").arg(line.detail, age);
+    line.word = Text::tr("Last known: %1").arg(line.word);
+    const QString age =
+        news.connected ? agoText(news.secondsOld) : Text::tr("%1, not connected").arg(agoText(news.secondsOld));
+    line.detail = line.detail.isEmpty() ? age : Text::tr("%1, %2").arg(line.detail, age);
 }
 
 void makeUnheard(DriveHeadline &line)
 {
     line.look = DriveLook::LastKnown;
-    line.word = tr("Connected");
-    line.detail = tr("nothing heard yet");
+    line.word = Text::tr("Connected");
+    line.detail = Text::tr("nothing heard yet");
 }
 
 void makeNotConnected(DriveHeadline &line)
 {
     line = DriveHeadline();
-    line.word = tr("Not connected");
+    line.word = Text::tr("Not connected");
 }
 
 } // namespace

@@ -9,10 +9,10 @@ namespace {
 constexpr int adapterVendor = 0x0403;
 constexpr int adapterProduct = 0x6001;
 
-QString tr(const char *text)
+struct Text
 {
-    return QCoreApplication::translate("MW", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(MW)
+};
 
 bool isAdapter(const SerialPort &port)
 {
@@ -21,13 +21,20 @@ bool isAdapter(const SerialPort &port)
     return port.portName.contains(QLatin1String("ttyUSB"));
 }
 
+/// The port's name is the first word in every language: what is chosen is read from the item.
+QString withRemark(const QString &portName, const QString &remark)
+{
+    return portName + QLatin1Char(' ') + remark;
+}
+
 /// Empty for a port that is not listed.
 QString itemText(const SerialPort &port)
 {
     if (port.portName.contains(QLatin1String("COM")))
-        return isAdapter(port) ? tr("%1 Zetabus V2 adapter").arg(port.portName) : port.portName;
+        return isAdapter(port) ? withRemark(port.portName, Text::tr("Zetabus V2 adapter")) : port.portName;
     if (port.portName.contains(QLatin1String("tty")))
-        return isAdapter(port) ? tr("%1 Possibly Zetabus V2 adapter").arg(port.systemLocation) : port.systemLocation;
+        return isAdapter(port) ? withRemark(port.systemLocation, Text::tr("Possibly Zetabus V2 adapter"))
+                               : port.systemLocation;
     return QString();
 }
 
@@ -49,7 +56,7 @@ PortList portListOf(const QList<SerialPort> &ports)
 
 void addVirtualDrive(PortList &list, const QString &portName)
 {
-    list.items.prepend(tr("%1 Virtual drive").arg(portName));
+    list.items.prepend(withRemark(portName, Text::tr("Virtual drive")));
     list.current = 0;
 }
 

@@ -7,21 +7,21 @@
 
 namespace {
 
-QString tr(const char *text)
+struct Text
 {
-    return QCoreApplication::translate("RecordLength", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(RecordLength)
+};
 
 QString timeText(double seconds)
 {
     if (seconds < 1.0)
-        return tr("%1 ms").arg(std::floor(seconds * 1000.0));
-    return tr("%1 s").arg(QString::number(seconds, 'g', 3));
+        return Text::tr("%1 ms").arg(std::floor(seconds * 1000.0));
+    return Text::tr("%1 s").arg(QString::number(seconds, 'g', 3));
 }
 
 QString rateText(double hertz)
 {
-    return hertz < 1000.0 ? tr("%1 Hz").arg(hertz) : tr("%1 kHz").arg(hertz / 1000.0);
+    return hertz < 1000.0 ? Text::tr("%1 Hz").arg(hertz) : Text::tr("%1 kHz").arg(hertz / 1000.0);
 }
 
 } // namespace
@@ -46,13 +46,13 @@ double moveSeconds(double setpointUnits, const MoveLimits &limits)
 QString recordText(double rateHz, int channels, double moveSeconds)
 {
     if (channels < 1)
-        return tr("No channel is chosen: there is nothing to record");
+        return Text::tr("No channel is chosen: there is nothing to record");
     const double length = recordSeconds(rateHz, channels);
-    const QString record = channels == 1
-                               ? tr("%1 at %2 with 1 channel").arg(timeText(length), rateText(rateHz))
-                               : tr("%1 at %2 with %3 channels")
-                                     .arg(timeText(length), rateText(rateHz), QString::number(channels));
+    const QString record =
+        channels == 1
+            ? Text::tr("%1 at %2 with 1 channel").arg(timeText(length), rateText(rateHz))
+            : Text::tr("%1 at %2 with %3 channels").arg(timeText(length), rateText(rateHz), QString::number(channels));
     if (moveSeconds <= length)
         return record;
-    return tr("%1: a move of %2 will be cut off").arg(record, timeText(moveSeconds));
+    return Text::tr("%1: a move of %2 will be cut off").arg(record, timeText(moveSeconds));
 }

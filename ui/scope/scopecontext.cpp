@@ -4,17 +4,13 @@
 #include "scopetexts.h"
 #include "unitconversion.h"
 
+#include <QCoreApplication>
 #include <cmath>
 
 namespace {
 
 constexpr double cyclesPerSecond = 2500.0; // where a file does not tell (PIF)
 constexpr int longestShownNote = 2000;     // characters, in the plot view
-
-QString tr(const char *text)
-{
-    return ScopeText::tr(text);
-}
 
 QJsonObject unitSystem(const QString &name, double velocity, const QString &velocityUnit, double position,
                        const QString &positionUnit)
@@ -33,13 +29,19 @@ double countsPerRevolution(const CaptureRecord &capture)
     return lines >= 1.0 ? 4.0 * lines : 0.0; // less than one is no encoder
 }
 
+/// In the window's language, while files keep the recorder's own names.
+QString shownName(const CaptureData &channel)
+{
+    return QCoreApplication::translate("Connection", channel.name.toUtf8().constData());
+}
+
 QJsonArray channels(const CaptureRecord &capture)
 {
     QJsonArray list;
     for (const CaptureData &channel : capture.channels) {
         if (channel.enabled)
             list.append(QJsonObject{{QStringLiteral("key"), channel.key},
-                                    {QStringLiteral("name"), channel.name},
+                                    {QStringLiteral("name"), shownName(channel)},
                                     {QStringLiteral("unit"), channel.unit},
                                     {QStringLiteral("group"), channel.group},
                                     {QStringLiteral("scale"), channel.scale}});
@@ -49,7 +51,8 @@ QJsonArray channels(const CaptureRecord &capture)
 
 QJsonArray captureList(const CaptureHistory &history)
 {
-    const QList<KeptCapture> last = history.all().mid(qMax<qsizetype>(0, history.all().size() - CaptureHistory::listed));
+    const QList<KeptCapture> last =
+        history.all().mid(qMax<qsizetype>(0, history.all().size() - CaptureHistory::listed));
     const QStringList varying = settingsThatVary(last);
     QJsonArray list;
     for (auto capture = last.crbegin(); capture != last.crend(); ++capture) {
@@ -110,27 +113,28 @@ QJsonArray unitSystems(const CaptureRecord &capture)
     const int axis = truncateToInt32(capture.setting(QStringLiteral("AXT"), -1.0));
     QJsonArray systems;
     if (counts > 0.0 && rate > 0.0)
-        systems.append(unitSystem(tr("rev/s, degrees"), rate / counts, tr("rev/s"), 360.0 / counts, tr("degrees")));
+        systems.append(unitSystem(ScopeText::tr("rev/s, degrees"), rate / counts, ScopeText::tr("rev/s"),
+                                  360.0 / counts, ScopeText::tr("degrees")));
     constexpr int lengths = 3; // mm, µm, inch; the others are rotations, of the axis
     if (counts > 0.0 && rate > 0.0 && scale > 0.0 && axis >= 0 && axis < lengths) {
         const QString unit = axisUnits(axis).plural;
-        systems.append(unitSystem(unit, scale * rate / counts, tr("%1/s").arg(unit), scale / counts, unit));
+        systems.append(unitSystem(unit, scale * rate / counts, ScopeText::tr("%1/s").arg(unit), scale / counts, unit));
     }
     if (systems.isEmpty())
-        systems.append(QJsonObject{{QStringLiteral("name"), tr("As recorded")}});
+        systems.append(QJsonObject{{QStringLiteral("name"), ScopeText::tr("As recorded")}});
     return systems;
 }
 
 QString captureTitle(const KeptCapture &capture)
 {
-    const QString time = capture.record.time.isValid()
-                             ? capture.record.time.toLocalTime().toString(capture.file.isEmpty()
-                                                                              ? QStringLiteral("hh:mm:ss")
-                                                                              : QStringLiteral("yyyy-MM-dd hh:mm:ss"))
-                             : QString();
+    const QString time =
+        capture.record.time.isValid()
+            ? capture.record.time.toLocalTime().toString(capture.file.isEmpty() ? QStringLiteral("hh:mm:ss")
+                                                                                : QStringLiteral("yyyy-MM-dd hh:mm:ss"))
+            : QString();
     if (capture.file.isEmpty())
         return time;
-    return time.isEmpty() ? capture.file : tr("%1 (%2)").arg(capture.file, time);
+    return time.isEmpty() ? capture.file : ScopeText::tr("%1 (%2)").arg(capture.file, time);
 }
 
 QJsonObject figuresContext(const KeptCapture &capture)
@@ -139,7 +143,8 @@ QJsonObject figuresContext(const KeptCapture &capture)
         return {{QStringLiteral("figures"), QJsonValue()}, {QStringLiteral("axisSheet"), QJsonValue()}};
     const std::optional<AxisSheet> &sheet = capture.figures->axis;
     return {{QStringLiteral("figures"), lines(figureLines(capture.figures->step))},
-            {QStringLiteral("axisSheet"), sheet ? lines(axisLines(*sheet, countsPerRevolution(capture.record))) : QJsonArray()},
+            {QStringLiteral("axisSheet"),
+             sheet ? lines(axisLines(*sheet, countsPerRevolution(capture.record))) : QJsonArray()},
             {QStringLiteral("canTakeFeedForward"), sheet && sheet->isUsable()}};
 }
 

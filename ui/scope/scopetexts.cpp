@@ -37,6 +37,13 @@ constexpr const char *texts[] = {
     QT_TRANSLATE_NOOP("Scope", "lay under"),
     QT_TRANSLATE_NOOP("Scope", "In grey under the present capture"),
     QT_TRANSLATE_NOOP("Scope", "Show this capture"),
+    // The plot page's own.
+    QT_TRANSLATE_NOOP("Scope", "Save as file"),
+    QT_TRANSLATE_NOOP("Scope", "Restore zoom"),
+    QT_TRANSLATE_NOOP("Scope", "Switch to help browser"),
+    QT_TRANSLATE_NOOP("Scope", "Click and drag on graph to zoom"),
+    QT_TRANSLATE_NOOP("Scope", "vel = counts per control cycle of 0.4 ms. Revolutions per second = vel × 2500 / (4 × "
+                               "FBR)."),
 };
 
 struct Brief

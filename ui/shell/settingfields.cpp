@@ -18,10 +18,10 @@
 
 namespace {
 
-QString tr(const char *text)
+struct Text
 {
-    return QCoreApplication::translate("SettingFields", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(SettingFields)
+};
 
 QString plain(const QString &html)
 {
@@ -134,11 +134,11 @@ QString SettingField::text(double value) const
 QString SettingField::bareText(double value) const
 {
     if (qobject_cast<const QCheckBox *>(control))
-        return value != 0.0 ? tr("on") : tr("off");
+        return value != 0.0 ? Text::tr("on") : Text::tr("off");
     if (const auto *combo = qobject_cast<const QComboBox *>(control)) {
         const int index = int(value);
         const bool isItem = index >= 0 && index < combo->count() && !combo->itemData(index).isValid();
-        return isItem ? combo->itemText(index) : tr("Value %1").arg(index);
+        return isItem ? combo->itemText(index) : Text::tr("Value %1").arg(index);
     }
     return shortNumber(valueOf(value));
 }

@@ -68,9 +68,9 @@ void MW::on_AXT_currentIndexChanged(int index)
     m_parameters->axisTypeChosen(index);
 }
 
-void MW::on_FBD_currentIndexChanged(const QString &arg1)
+void MW::on_FBD_currentIndexChanged(const QString &)
 {
-    m_parameters->feedbackDeviceChosen(arg1);
+    m_parameters->feedbackDeviceChosen();
 }
 
 void MW::on_FUV_valueChanged(double arg1)

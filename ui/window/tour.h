@@ -54,7 +54,7 @@ private:
     void step();
     void fail(const QString &reason);
     void endFailed();
-    bool dismissMessages();
+    bool findsNoMessage();
 
     QString m_folder;
     std::vector<Stop> m_stops;
