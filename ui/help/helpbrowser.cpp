@@ -1,6 +1,7 @@
 #include "helpbrowser.h"
 
 #include "makerlinks.h"
+#include "offlinehelp.h"
 #include "pagetable.h"
 
 #include <QDebug>
@@ -53,7 +54,7 @@ void HelpBrowser::load()
     m_shows = m_help;
     m_offlineNotice->setVisible(m_help == Shows::Offline);
     if (m_help == Shows::Offline) {
-        m_view->loadPage(QUrl(QLatin1String("file:///") + QDir::currentPath() + QLatin1String(m_page->helpFile)));
+        m_view->loadPage(offlineHelpPage(QFileInfo(QLatin1String(m_page->helpFile)).fileName()));
         return;
     }
     qDebug() << "   try online";
@@ -121,8 +122,8 @@ QUrl HelpBrowser::offlineCopyOf(const QUrl &url) const
 {
     if (m_help != Shows::Offline || !url.toString().startsWith(makerWikiBase()))
         return url;
-    const QString copy = QDir::currentPath() + QLatin1String("/help/") + url.fileName() + QLatin1String(".htm");
-    return QFileInfo::exists(copy) ? QUrl::fromLocalFile(copy) : url;
+    const QUrl copy = offlineHelpPage(url.fileName() + QLatin1String(".htm"));
+    return QFileInfo::exists(copy.toLocalFile()) ? copy : url;
 }
 
 void HelpBrowser::savePng(const QString &file, int width)

@@ -1,5 +1,6 @@
 #include "helppage.h"
 
+#include "offlinehelp.h"
 #include "plotscheme.h"
 
 #include <QWebEngineNewWindowRequest>
@@ -23,10 +24,12 @@ HelpPage::HelpPage(QWebEngineProfile *profile, QObject *owner) : QWebEnginePage(
 bool HelpPage::acceptNavigationRequest(const QUrl &url, NavigationType type, bool isMainFrame)
 {
     const bool fromNetwork = this->url().scheme().startsWith(QLatin1String("http"));
-    if (isOwnPage(url) && !(fromNetwork && type == NavigationTypeLinkClicked))
+    const bool isLink = type == NavigationTypeLinkClicked;
+    const QUrl page = inShownLanguage(url);
+    if (isOwnPage(url) && !(fromNetwork && isLink) && !(isLink && page != url))
         return true;
-    if (type == NavigationTypeLinkClicked) {
-        emit linkHandedOut(url);
+    if (isLink) {
+        emit linkHandedOut(page);
         return false;
     }
     return isMainFrame && url.scheme().startsWith(QLatin1String("http"));

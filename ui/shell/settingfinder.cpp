@@ -1,6 +1,7 @@
 #include "settingfinder.h"
 
 #include "catalogue.h"
+#include "offlinehelp.h"
 #include "pagetable.h"
 
 #include <QCoreApplication>
@@ -12,6 +13,9 @@
 #include <algorithm>
 
 namespace {
+
+// More than any sum of the others: what has a word in its help page only comes last.
+constexpr int fitOfHelpPage = 100;
 
 /// Settings of which no form has a caption.
 struct NamedSetting
@@ -41,7 +45,7 @@ const NamedSetting *withoutCaptionOf(const QString &name)
 
 FindableSetting findable(const SettingField &field)
 {
-    FindableSetting found{field.name, field.caption, field.unit, field.help, QString(), field.parameter};
+    FindableSetting found{field.name, field.caption, field.unit, field.help, QString(), field.parameter, QString()};
     if (const NamedSetting *named = withoutCaptionOf(field.name))
         found.caption = SettingFinder::tr(named->caption);
     if (field.page >= 0)
@@ -67,7 +71,9 @@ int fit(const FindableSetting &setting, const QString &word)
         return 4;
     if (has(setting.unit))
         return 5;
-    return has(setting.help) ? 6 : -1;
+    if (has(setting.help))
+        return 6;
+    return has(setting.helpPage) ? fitOfHelpPage : -1;
 }
 
 } // namespace
@@ -79,7 +85,7 @@ QList<FindableSetting> findableSettings(const SettingFields &fields)
         if (field.bits && (all.isEmpty() || all.last().parameter != field.parameter)) {
             const NamedSetting *whole = withoutCaptionOf(field.parameter);
             all.append({field.parameter, whole ? SettingFinder::tr(whole->caption) : field.parameter, QString(),
-                        QString(), SettingFinder::tr("help only"), field.parameter});
+                        QString(), SettingFinder::tr("help only"), field.parameter, QString()});
         }
         all.append(findable(field));
     }
@@ -145,12 +151,23 @@ SettingFinder::SettingFinder(const SettingFields &fields, QWidget *parent)
 void SettingFinder::open(const std::function<bool(const QString &)> &lacks)
 {
     m_lacks = lacks;
+    readHelpPages();
     m_text->selectAll();
     look();
     show();
     raise();
     activateWindow();
     m_text->setFocus();
+}
+
+void SettingFinder::readHelpPages()
+{
+    if (m_hasHelpPages)
+        return;
+    m_hasHelpPages = true;
+    const QHash<QString, QString> texts = offlineHelpTexts();
+    for (FindableSetting &setting : m_settings)
+        setting.helpPage = texts.value(setting.name);
 }
 
 void SettingFinder::look()

@@ -20,11 +20,12 @@ struct FindableSetting
     QString help;
     QString place;     ///< "Tuning"; says where Enter leads
     QString parameter; ///< catalogue name
+    QString helpPage;  ///< what its help page says in the window's language
 };
 
 /// All settings of the catalogue, one a control.
 QList<FindableSetting> findableSettings(const SettingFields &fields);
-/// Those that every word of the text occurs in, best first: mnemonic, then name, unit, help.
+/// Those that every word of the text occurs in, best first: mnemonic, then name, unit, help, help page.
 QList<FindableSetting> findSettings(const QList<FindableSetting> &settings, const QString &text);
 
 /// A field and the list under it, which follows every key. Enter, or a double click, chooses.
@@ -45,10 +46,12 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    void readHelpPages();
     void look();
     void choose();
 
     QList<FindableSetting> m_settings;
+    bool m_hasHelpPages = false; ///< they are read at the first search, not at the start
     std::function<bool(const QString &)> m_lacks;
     QLineEdit *m_text;
     QListWidget *m_list;

@@ -7,6 +7,7 @@
 #include "formpage.h"
 #include "helpbrowser.h"
 #include "mw.h"
+#include "offlinehelp.h"
 #include "panekeys.h"
 #include "parameterpages.h"
 #include "settingguide.h"
@@ -16,7 +17,6 @@
 #include "ui_mw.h"
 #include "ui_testingpage.h"
 
-#include <QDir>
 #include <QLabel>
 #include <QLineEdit>
 #include <QShortcut>
@@ -117,10 +117,8 @@ void MW::connectBoard()
 
 void MW::showHelpFile(const QString &file, const QString &anchor)
 {
-    QUrl url = QUrl::fromLocalFile(QDir::currentPath() + QLatin1String("/help/") + file);
-    url.setFragment(anchor);
     m_paneKeys->showHelp(true);
-    browserLinkClicked(url);
+    browserLinkClicked(offlineHelpPage(file, anchor));
 }
 
 void MW::showFaultHelp(int faultBit)
