@@ -2,6 +2,7 @@
 #include "windowfixture.h"
 
 #include "errorwindow.h"
+#include "language.h"
 #include "pagescript.h"
 
 #include <QDir>
@@ -12,16 +13,24 @@ class Help : public WindowFixture
 {
 protected:
     Help() { m_webEngine = HelpView::Engine::Allowed; }
+    void TearDown() override
+    {
+        WindowFixture::TearDown();
+        speak("en");
+    }
     HelpView *view() const { return control<HelpView>("helpView"); }
     QString shownText() const { return pageText(view()); }
     void writeOfflinePages()
     {
         QDir().mkpath("help");
-        for (const char *name : {"Velbrin", "Connect tab", "Goals tab", "Fault_location"}) {
-            QFile page(QString("help/%1.htm").arg(name));
-            page.open(QIODevice::WriteOnly);
-            page.write(QByteArray("<html><body>offline ") + name + "</body></html>");
-        }
+        for (const char *name : {"Velbrin", "Connect tab", "Goals tab", "Fault_location"})
+            writePage(QString("help/%1.htm").arg(name), QByteArray("offline ") + name);
+    }
+    void writePage(const QString &file, const QByteArray &text)
+    {
+        QFile page(file);
+        page.open(QIODevice::WriteOnly);
+        page.write("<html><body>" + text + "</body></html>");
     }
     void plot() { QMetaObject::invokeMethod(m_window.get(), "plotCapture", Q_ARG(QList<CaptureData>, {})); }
     void clickLink(const char *url)
@@ -111,4 +120,38 @@ TEST_F(Help, PendingLoadThatTakesTooLongEndsOffline)
     QMetaObject::invokeMethod(m_window.get(), "helpLoadingTimeouted");
     EXPECT_TRUE(waitFor([this] { return shownText() == "offline Velbrin"; }));
     EXPECT_FALSE(timeOut->isActive());
+}
+
+TEST_F(Help, IsInTheWindowsLanguagePageByPageAndSoIsWhatIsFound)
+{
+    writeOfflinePages();
+    QDir().mkpath("help/de");
+    const QByteArray links = "<a href='Goals%20tab.htm#CM'>z</a> <a href='../Connect%20tab.htm'>v</a>";
+    writePage("help/de/Velbrin.htm", "deutsch " + links);
+    writePage("help/de/Connect tab.htm", "<dl><dt id=\"AXI\">x</dt><dd>ganz <b>verkehrt</b>herum</dd></dl>");
+    qputenv("VELBRIN_WIKI", "http://wiki.tarnwell.example");
+    openWindow();
+    ASSERT_TRUE(waitFor([this] { return shownText() == "offline Velbrin"; }));
+    speak("de");
+    goTo(1);
+    goTo(0);
+    ASSERT_TRUE(waitFor([this] { return shownText() == "deutsch z v"; }));
+    const auto follow = [this](int link) {
+        runScript(view(), QString("document.links[%1].click()").arg(link));
+    };
+    follow(0); // German pages lack it
+    EXPECT_TRUE(waitFor([this] { return shownText() == "offline Goals tab"; }));
+    EXPECT_EQ(runScript(view(), "location.hash").toString(), "#CM");
+    goTo(1);
+    goTo(0);
+    ASSERT_TRUE(waitFor([this] { return shownText() == "deutsch z v"; }));
+    follow(1); // to the English page, of which there is a German one
+    EXPECT_TRUE(waitFor([this] { return shownText().startsWith("x"); }));
+    emit label("faultRegister")->linkActivated("http://wiki.tarnwell.example/wiki/Fault_location");
+    EXPECT_TRUE(waitFor([this] { return shownText() == "offline Fault_location"; }));
+
+    press(Qt::Key_F, Qt::ControlModifier);
+    control<QLineEdit>("findText")->setText("verkehrtherum");
+    EXPECT_EQ(control<QListWidget>("findList")->item(0)->text(), "[AXI] Invert direction: Goals");
+    control<QDialog>("settingFinder")->close();
 }

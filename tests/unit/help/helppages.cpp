@@ -4,12 +4,15 @@
 
 #include <QDir>
 #include <QFile>
+#include <QHash>
 #include <QRegularExpression>
 #include <QUrl>
 #include <QXmlStreamReader>
 #include <gtest/gtest.h>
 
 namespace {
+
+QString language = QStringLiteral("en");
 
 QRegularExpression pattern(const char *text)
 {
@@ -56,12 +59,41 @@ HelpPage readPage(const QString &name)
     return page;
 }
 
+/// Translations by context and text; a text that is used in one context for two things has one.
+QHash<QString, QString> readTranslations()
+{
+    QHash<QString, QString> texts;
+    QFile file(QStringLiteral(VELBRIN_SOURCE_DIR "/translations/velbrin_%1.ts").arg(language));
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << qPrintable(file.fileName());
+    QXmlStreamReader xml(&file);
+    QString context, source;
+    while (!xml.atEnd()) {
+        xml.readNext();
+        if (!xml.isStartElement())
+            continue;
+        if (xml.name() == QLatin1String("name"))
+            context = xml.readElementText();
+        else if (xml.name() == QLatin1String("source"))
+            source = xml.readElementText(QXmlStreamReader::IncludeChildElements);
+        else if (xml.name() == QLatin1String("translation"))
+            texts.insert(context + '\n' + source, xml.readElementText(QXmlStreamReader::IncludeChildElements));
+    }
+    return texts;
+}
+
+/// The text of a property, inside its <string>, with the spaces that a suffix begins with.
+QString stringOf(QXmlStreamReader &xml)
+{
+    return xml.readNextStartElement() ? xml.readElementText(QXmlStreamReader::IncludeChildElements) : QString();
+}
+
 /// Puts the controls of one form into the map: labels carry the mnemonic, controls are named by it.
 void readForm(const QString &path, QMap<QString, FormControl> &controls)
 {
     QFile file(path);
     ASSERT_TRUE(file.open(QIODevice::ReadOnly)) << qPrintable(path);
     QXmlStreamReader xml(&file);
+    QString form;
     QStringList names;
     QStringList kinds;
     bool inItem = false;
@@ -75,6 +107,8 @@ void readForm(const QString &path, QMap<QString, FormControl> &controls)
         }
         if (!xml.isStartElement())
             continue;
+        if (xml.name() == QLatin1String("class"))
+            form = xml.readElementText();
         if (isWidget) {
             names.append(xml.attributes().value("name").toString());
             kinds.append(xml.attributes().value("class").toString());
@@ -87,7 +121,7 @@ void readForm(const QString &path, QMap<QString, FormControl> &controls)
         const QString property = xml.attributes().value("name").toString();
         if (property != QLatin1String("text") && property != QLatin1String("suffix"))
             continue;
-        const QString text = xml.readElementText(QXmlStreamReader::IncludeChildElements).trimmed();
+        const QString text = inLanguage(form, stringOf(xml)).trimmed();
         if (property == QLatin1String("suffix"))
             controls[names.last()].unit = text;
         else if (inItem && kinds.last() == QLatin1String("QComboBox"))
@@ -100,21 +134,36 @@ void readForm(const QString &path, QMap<QString, FormControl> &controls)
 
 } // namespace
 
+void readIn(const QString &wanted)
+{
+    language = wanted;
+}
+
+QString inLanguage(const QString &context, const QString &text)
+{
+    static QHash<QString, QHash<QString, QString>> all;
+    if (language == QLatin1String("en"))
+        return text;
+    if (!all.contains(language))
+        all.insert(language, readTranslations());
+    return all[language].value(context + '\n' + text, text);
+}
+
 QString helpFolder()
 {
-    return QStringLiteral(VELBRIN_SOURCE_DIR "/help/");
+    const QString folder = QStringLiteral(VELBRIN_SOURCE_DIR "/help/");
+    return language == QLatin1String("en") ? folder : folder + language + '/';
 }
 
 const QMap<QString, HelpPage> &helpPages()
 {
-    static const QMap<QString, HelpPage> pages = [] {
-        QMap<QString, HelpPage> all;
+    static QMap<QString, QMap<QString, HelpPage>> pages;
+    if (!pages.contains(language)) {
         const QStringList files = QDir(helpFolder()).entryList({"*.htm"});
         for (const QString &file : files)
-            all.insert(file, readPage(file));
-        return all;
-    }();
-    return pages;
+            pages[language].insert(file, readPage(file));
+    }
+    return pages[language];
 }
 
 Definition definitionOf(const QString &anchor)
@@ -130,15 +179,15 @@ Definition definitionOf(const QString &anchor)
 
 const QMap<QString, FormControl> &formControls()
 {
-    static const QMap<QString, FormControl> controls = [] {
-        QMap<QString, FormControl> all;
+    static QMap<QString, QMap<QString, FormControl>> controls;
+    if (!controls.contains(language)) {
+        QMap<QString, FormControl> &all = controls[language];
         const QDir folder(QStringLiteral(VELBRIN_SOURCE_DIR "/ui/forms"));
         const QStringList files = folder.entryList({"*page.ui"});
         for (const QString &file : files)
             readForm(folder.filePath(file), all);
         for (auto control = all.begin(); control != all.end();)
             control = control->label.isEmpty() ? all.erase(control) : std::next(control);
-        return all;
-    }();
-    return controls;
+    }
+    return controls[language];
 }

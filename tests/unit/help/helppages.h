@@ -1,5 +1,5 @@
 /// \file
-/// The help pages and the forms, taken apart for the tests.
+/// The help pages and the forms, taken apart for the tests: in one language at a time.
 #ifndef TESTS_HELPPAGES_H
 #define TESTS_HELPPAGES_H
 
@@ -25,6 +25,11 @@ struct HelpPage
     QList<Definition> definitions;
     QMap<QString, Definition> byAnchor;
 };
+
+/// Which pages, and whose names of controls, everything below is about: "en" or "de".
+void readIn(const QString &language);
+/// A text of the program in that language, as its translation has it; an English one comes back as it is.
+QString inLanguage(const QString &context, const QString &text);
 
 /// Folder of the pages, with a slash at the end.
 QString helpFolder();

@@ -1,4 +1,5 @@
-// The help pages against what they explain: links, the catalogue, the window's controls, the drive's limits and panels.
+// The help pages of every language against what they explain: links, the catalogue, the window's controls, the drive's
+// limits and panels.
 
 #include "catalogue.h"
 #include "driveprofile.h"
@@ -17,12 +18,42 @@ constexpr int shortestExplanation = 40; // characters
 const char *const bitFieldNames[] = {"CEN", "CED", "FBI", "AXI", "CEP", "CIS",
                                      "FBH", "BAP", "HME", "HMS", "HMI", "HFO"};
 
+/// What the lines in small print are made of.
+struct Words
+{
+    const char *language, *to, *initial, *initialChoice, *bitValue;
+    char point;
+} const languages[] = {{"en", " to ", "default ", "Default: ", " bit value ", '.'},
+                       {"de", " bis ", "Vorgabe ", "Vorgabe: ", " Bitwert ", ','}};
+const Words *words = languages;
+
+/// Once a language.
+class HelpPages : public testing::TestWithParam<Words>
+{
+protected:
+    HelpPages()
+    {
+        words = &GetParam();
+        readIn(words->language);
+    }
+};
+
+void PrintTo(const Words &printed, std::ostream *out)
+{
+    *out << printed.language;
+}
+
+std::string languageName(const testing::TestParamInfo<Words> &info)
+{
+    return info.param.language;
+}
+
 /// A value as people write it: no exponent, no zeros at the end.
 QString plain(double value)
 {
     QString text = QString::number(value, 'f', 5);
     text.remove(QRegularExpression(QStringLiteral("\\.?0+$")));
-    return text == QLatin1String("-0") ? QStringLiteral("0") : text;
+    return text == QLatin1String("-0") ? QStringLiteral("0") : text.replace('.', words->point);
 }
 
 struct Limits
@@ -37,8 +68,9 @@ Limits limitsOf(const SingleParam &p, const char *profile, const QString &unit)
     for (const sim::RegisterInfo &info : sim::registersOf(*sim::findProfile(profile))) {
         if (info.address == p.addr)
             return {true,
-                    plain(p.convertToGUIScale(info.minimum)) + " to " + plain(p.convertToGUIScale(info.maximum)) + unit,
-                    "default " + plain(p.convertToGUIScale(info.initial)) + unit};
+                    plain(p.convertToGUIScale(info.minimum)) + words->to + plain(p.convertToGUIScale(info.maximum)) +
+                        unit,
+                    words->initial + plain(p.convertToGUIScale(info.initial)) + unit};
     }
     return {};
 }
@@ -66,7 +98,8 @@ QStringList labelsOf(const QString &panel, bool isSet)
     const QStringList lines = panel.split(QStringLiteral("<br>"));
     for (QString line : lines) {
         if (line.startsWith(circle))
-            labels << line.mid(circle.size()).remove("&nbsp;").remove(QRegularExpression("<.*")).trimmed();
+            labels << inLanguage("Connection",
+                                 line.mid(circle.size()).remove("&nbsp;").remove(QRegularExpression("<.*")).trimmed());
     }
     return labels;
 }
@@ -91,7 +124,7 @@ int expectFlagsExplained(Panel panel, qint32 DriveState::*reg, const QString &pr
             continue;
         ++flags;
         const Definition definition = definitionOf(prefix + QString::number(bit));
-        EXPECT_EQ(definition.term, set.first() + " bit value " + QString::number(bit));
+        EXPECT_EQ(definition.term, set.first() + words->bitValue + QString::number(bit));
         EXPECT_GE(definition.text.size(), shortestExplanation) << qPrintable(definition.term);
     }
     return flags;
@@ -99,7 +132,26 @@ int expectFlagsExplained(Panel panel, qint32 DriveState::*reg, const QString &pr
 
 } // namespace
 
-TEST(HelpPages, EveryLinkPictureAndAnchorExists)
+INSTANTIATE_TEST_SUITE_P(In, HelpPages, testing::ValuesIn(languages), languageName);
+
+TEST(HelpTranslations, HaveThePagesAnchorsLinksAndPicturesOfTheEnglish)
+{
+    readIn("de");
+    const auto pages = helpPages();
+    readIn("en");
+    EXPECT_EQ(pages.keys(), helpPages().keys());
+    for (auto page = pages.begin(); page != pages.end(); ++page) {
+        const HelpPage english = helpPages().value(page.key());
+        EXPECT_EQ(page->anchors, english.anchors) << qPrintable(page.key());
+        QStringList links = page->references, englishLinks = english.references;
+        links.replaceInStrings(QRegularExpression("^\\.\\./"), QString()); // pictures and style are shared
+        links.sort(); // the order of words in a sentence is another
+        englishLinks.sort();
+        EXPECT_EQ(links, englishLinks) << qPrintable(page.key());
+    }
+}
+
+TEST_P(HelpPages, EveryLinkPictureAndAnchorExists)
 {
     int followed = 0;
     for (auto page = helpPages().begin(); page != helpPages().end(); ++page) {
@@ -122,7 +174,7 @@ TEST(HelpPages, EveryLinkPictureAndAnchorExists)
     EXPECT_GT(followed, 300);
 }
 
-TEST(HelpPages, AllAreReachedFromTheFirstAndLeadBackToIt)
+TEST_P(HelpPages, AllAreReachedFromTheFirstAndLeadBackToIt)
 {
     const QString start = QStringLiteral("Velbrin.htm");
     QStringList reached{start};
@@ -139,14 +191,14 @@ TEST(HelpPages, AllAreReachedFromTheFirstAndLeadBackToIt)
     }
 }
 
-TEST(HelpPages, TheMakersWikiPagesHaveACopy)
+TEST_P(HelpPages, TheMakersWikiPagesHaveACopy)
 {
     for (const char *wikiPage : {"Using_SinCos_encoder", "Using_resolver_feedback_device", "Fault_location",
                                  "Device_connection_troubleshooting", "Firmware"})
         EXPECT_TRUE(helpPages().contains(QString(wikiPage) + ".htm")) << wikiPage;
 }
 
-TEST(HelpPages, EverySettingIsExplainedOnce)
+TEST_P(HelpPages, EverySettingIsExplainedOnce)
 {
     QStringList names;
     for (const char *name : bitFieldNames)
@@ -160,7 +212,7 @@ TEST(HelpPages, EverySettingIsExplainedOnce)
     }
 }
 
-TEST(HelpPages, ControlsAreNamedAsInTheWindowWithAllTheirChoices)
+TEST_P(HelpPages, ControlsAreNamedAsInTheWindowWithAllTheirChoices)
 {
     ASSERT_GT(formControls().size(), 60);
     for (auto control = formControls().begin(); control != formControls().end(); ++control) {
@@ -171,7 +223,7 @@ TEST(HelpPages, ControlsAreNamedAsInTheWindowWithAllTheirChoices)
     }
 }
 
-TEST(HelpPages, RangesAndDefaultsAreThoseOfTheDrive)
+TEST_P(HelpPages, RangesAndDefaultsAreThoseOfTheDrive)
 {
     int compared = 0;
     const Parameters catalogue = driveParameterCatalogue();
@@ -183,7 +235,7 @@ TEST(HelpPages, RangesAndDefaultsAreThoseOfTheDrive)
             for (const sim::RegisterInfo &info : sim::registersOf(*sim::findProfile("keta-pro"))) {
                 if (info.address == p.addr) {
                     const int index = static_cast<int>(p.convertToGUIScale(info.initial));
-                    EXPECT_TRUE(range.endsWith("Default: " + control.choices.value(index) + '.'))
+                    EXPECT_TRUE(range.endsWith(words->initialChoice + control.choices.value(index) + '.'))
                         << qPrintable(p.name + ": " + range);
                 }
             }
@@ -196,13 +248,13 @@ TEST(HelpPages, RangesAndDefaultsAreThoseOfTheDrive)
     EXPECT_GT(compared, 35);
 }
 
-TEST(HelpPages, EveryFaultAndStatusBitIsExplained)
+TEST_P(HelpPages, EveryFaultAndStatusBitIsExplained)
 {
     EXPECT_EQ(expectFlagsExplained(getFaultRegString, &DriveState::faultRegister, "fault-"), 15);
     EXPECT_EQ(expectFlagsExplained(getStatusRegString, &DriveState::statusRegister, "status-"), 13);
 }
 
-TEST(HelpPages, EveryInputLineIsExplained)
+TEST_P(HelpPages, EveryInputLineIsExplained)
 {
     QStringList terms;
     for (const Definition &definition : helpPages().value("Testing tab.htm").definitions)
