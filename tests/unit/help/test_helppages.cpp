@@ -22,9 +22,8 @@ const char *const bitFieldNames[] = {"CEN", "CED", "FBI", "AXI", "CEP", "CIS",
 struct Words
 {
     const char *language, *to, *initial, *initialChoice, *bitValue;
-    char point;
-} const languages[] = {{"en", " to ", "default ", "Default: ", " bit value ", '.'},
-                       {"de", " bis ", "Vorgabe ", "Vorgabe: ", " Bitwert ", ','}};
+} const languages[] = {{"en", " to ", "default ", "Default: ", " bit value "},
+                       {"de", " bis ", "Vorgabe ", "Vorgabe: ", " Bitwert "}};
 const Words *words = languages;
 
 /// Once a language.
@@ -53,7 +52,7 @@ QString plain(double value)
 {
     QString text = QString::number(value, 'f', 5);
     text.remove(QRegularExpression(QStringLiteral("\\.?0+$")));
-    return text == QLatin1String("-0") ? QStringLiteral("0") : text.replace('.', words->point);
+    return text == QLatin1String("-0") ? QStringLiteral("0") : text;
 }
 
 struct Limits
