@@ -136,9 +136,7 @@ TEST_F(Help, IsInTheWindowsLanguagePageByPageAndSoIsWhatIsFound)
     goTo(1);
     goTo(0);
     ASSERT_TRUE(waitFor([this] { return shownText() == "deutsch z v"; }));
-    const auto follow = [this](int link) {
-        runScript(view(), QString("document.links[%1].click()").arg(link));
-    };
+    const auto follow = [this](int link) { runScript(view(), QString("document.links[%1].click()").arg(link)); };
     follow(0); // German pages lack it
     EXPECT_TRUE(waitFor([this] { return shownText() == "offline Goals tab"; }));
     EXPECT_EQ(runScript(view(), "location.hash").toString(), "#CM");

@@ -51,7 +51,8 @@ FindableSetting findable(const SettingField &field)
     if (field.page >= 0)
         found.place = QCoreApplication::translate("MW", pageTable()[std::size_t(field.page)].text);
     else
-        found.place = field.isEditable ? SettingFinder::tr("Parameter overrides, Ctrl+P") : SettingFinder::tr("help only");
+        found.place =
+            field.isEditable ? SettingFinder::tr("Parameter overrides, Ctrl+P") : SettingFinder::tr("help only");
     return found;
 }
 
