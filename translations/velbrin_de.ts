@@ -43,6 +43,10 @@
         <source>The capture has failed: the drive&apos;s record could not be read</source>
         <translation>Die Aufzeichnung ist misslungen: Der Speicher des Antriebs konnte nicht gelesen werden</translation>
     </message>
+    <message>
+        <source>The drive has stopped by itself: %1</source>
+        <translation>Der Antrieb hat von selbst angehalten: %1</translation>
+    </message>
 </context>
 <context>
     <name>Analysis</name>
@@ -3463,6 +3467,93 @@
         <source>none: capture on fault, press the machine&apos;s stop, and choose the capture here</source>
         <translation>keiner: bei Störung aufzeichnen, den Halt der Maschine drücken und die Aufzeichnung hier wählen</translation>
     </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>SavedPage</name>
+    <message>
+        <source>not known</source>
+        <translation>nicht bekannt</translation>
+    </message>
+    <message>
+        <source>setpoint change in positive direction</source>
+        <translation>Sollwertänderung in positiver Richtung</translation>
+    </message>
+    <message>
+        <source>setpoint change</source>
+        <translation>Sollwertänderung</translation>
+    </message>
+    <message>
+        <source>fault</source>
+        <translation>Störung</translation>
+    </message>
+    <message>
+        <source>none, at once</source>
+        <translation>keiner, sofort</translation>
+    </message>
+    <message>
+        <source>setpoint from %1 to %2</source>
+        <translation>Sollwert von %1 auf %2</translation>
+    </message>
+    <message>
+        <source>to and fro: setpoint %1 for %2 s, %3 for %4 s</source>
+        <translation>hin und her: Sollwert %1 für %2 s, %3 für %4 s</translation>
+    </message>
+    <message>
+        <source>none that is known</source>
+        <translation>keine bekannte</translation>
+    </message>
+    <message>
+        <source>Recorded</source>
+        <translation>Aufgezeichnet</translation>
+    </message>
+    <message>
+        <source>Trigger</source>
+        <translation>Trigger</translation>
+    </message>
+    <message>
+        <source>Motion</source>
+        <translation>Bewegung</translation>
+    </message>
+    <message>
+        <source>Signals</source>
+        <translation>Signale</translation>
+    </message>
+    <message>
+        <source>Sample rate</source>
+        <translation>Abtastrate</translation>
+    </message>
+    <message>
+        <source>%1 Hz</source>
+        <translation>%1 Hz</translation>
+    </message>
+    <message>
+        <source>Velbrin version</source>
+        <translation>Velbrin-Version</translation>
+    </message>
+    <message>
+        <source>Capture</source>
+        <translation>Aufzeichnung</translation>
+    </message>
+    <message>
+        <source>Figures</source>
+        <translation>Kennwerte</translation>
+    </message>
+    <message>
+        <source>new drive: %1</source>
+        <translation>neuer Antrieb: %1</translation>
+    </message>
+    <message>
+        <source>Settings that are not a new drive&apos;s</source>
+        <translation>Einstellungen, die von einem neuen Antrieb abweichen</translation>
+    </message>
+    <message>
+        <source>None.</source>
+        <translation>Keine.</translation>
+    </message>
 </context>
 <context>
     <name>Scope</name>
@@ -4472,6 +4563,10 @@
         <source>Settings put into the pages: %1. The drive gets them with Apply</source>
         <translation>In die Seiten übernommene Einstellungen: %1. Der Antrieb erhält sie mit „Anwenden“</translation>
     </message>
+    <message>
+        <source>Writing report...</source>
+        <translation>Bericht wird geschrieben...</translation>
+    </message>
 </context>
 <context>
     <name>TriesPanel</name>
@@ -4490,10 +4585,6 @@
     <message>
         <source>Tries</source>
         <translation>Versuche</translation>
-    </message>
-    <message>
-        <source>&lt;p&gt;Every capture of this session, the newest on top, with the settings in which they differ. A click shows it.&lt;/p&gt;</source>
-        <translation>&lt;p&gt;Jede Aufzeichnung dieser Sitzung, die neueste oben, mit den Einstellungen, in denen sie sich unterscheiden. Ein Klick zeigt sie.&lt;/p&gt;</translation>
     </message>
     <message>
         <source>Take these settings</source>
@@ -4538,6 +4629,18 @@
     <message>
         <source>none</source>
         <translation>keine</translation>
+    </message>
+    <message>
+        <source>&lt;p&gt;Every capture of this session, the newest on top, with the settings in which they differ. A click shows it; a double click on its note, or F2, changes the note.&lt;/p&gt;</source>
+        <translation>&lt;p&gt;Jede Aufzeichnung dieser Sitzung, die neueste oben, mit den Einstellungen, in denen sie sich unterscheiden. Ein Klick zeigt sie; ein Doppelklick auf ihre Notiz oder F2 ändert die Notiz.&lt;/p&gt;</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>Notiz</translation>
+    </message>
+    <message>
+        <source>&lt;p&gt;Your own words on this try: double-click, or F2. They go into a saved page and into the report.&lt;/p&gt;</source>
+        <translation>&lt;p&gt;Ihre eigenen Worte zu diesem Versuch: Doppelklick oder F2. Sie kommen in eine gespeicherte Seite und in den Bericht.&lt;/p&gt;</translation>
     </message>
 </context>
 <context>

@@ -86,6 +86,7 @@ void TriesPanel::connectNotes()
         Qt::QueuedConnection);
     // The table's own F2 knows only the field that was clicked.
     auto *edit = new QShortcut(QKeySequence(Qt::Key_F2), m_table, nullptr, nullptr, Qt::WidgetShortcut);
+    edit->setAutoRepeat(false);
     connect(edit, &QShortcut::activated, this, [this] {
         if (chosen() != 0)
             m_table->editItem(m_table->item(m_table->selectedItems().first()->row(), m_table->columnCount() - 1));
