@@ -136,22 +136,6 @@ TEST_F(Capture, RepeatsUntilUntickedAndSurvivesEsc)
     EXPECT_EQ(timesArmed(), last);
 }
 
-TEST_F(Capture, PressedTwiceArmsAnewAndPlotsOnce)
-{
-    tick({"ScopePosMeas"});
-    choose(Change, "20000 Hz");
-    arm();
-    click("ScopeCaptureNow");
-    ASSERT_TRUE(waitFor([this] { return timesArmed() == 2; }));
-    enableDrive();
-    stepTo(100);
-    waitForPlot();
-    const auto received = bus().received().size();
-    ASSERT_TRUE(waitFor([&] { return bus().received().size() > received + 3; }));
-    EXPECT_EQ(captureText(), "Start capture");
-    EXPECT_EQ(timesWritten(5012, 0), 2);
-}
-
 TEST_F(Capture, EndsWithTheConnection)
 {
     tick({"ScopePosMeas"});
@@ -171,53 +155,6 @@ TEST_F(Capture, EndsWithTheConnection)
     EXPECT_TRUE(waitFor([this] { return captureText() == "Start capture"; }));
     EXPECT_EQ(run("$('canvas.flot-base').length").toInt(), 0) << "no plot of what was not read";
     EXPECT_FALSE(button("ScopeCaptureNow")->isEnabled());
-}
-
-TEST_F(Capture, EscDuringTheDownloadDisablesAndThePlotIsStillRight)
-{
-    tick({"ScopePosMeas"});
-    choose(Change, "2500 Hz");
-    enableDrive();
-    arm();
-    bus().setTurnAround(std::chrono::milliseconds(10));
-    stepTo(1000);
-    ASSERT_TRUE(waitFor([this] { return captureText() == "Downloading.."; }, 20000));
-    bus().clearReceived();
-    press(Qt::Key_Escape);
-    waitForPlot();
-    const sim::ReceivedRequests requests = receivedAt(DriveAddress);
-    EXPECT_EQ(timesWritten(SOFT_ENABLE, 0), 1);
-    EXPECT_EQ(bus().read(DriveAddress, SOFT_ENABLE), 0);
-    const auto items = [](const sim::ReceivedRequest &request) { return sim::decodeItems(request.packet.payload); };
-    const auto isDisable = [&](const sim::ReceivedRequest &request) {
-        const auto list = items(request);
-        return list.size() == 2 && list[0].selectsAddress && list[0].value == SOFT_ENABLE && list[1].value == 0;
-    };
-    const auto disable = std::find_if(requests.begin(), requests.end(), isDisable);
-    ASSERT_NE(disable, requests.end());
-    EXPECT_GT(std::count_if(disable, requests.end(), [&](const auto &r) { return items(r).size() == 40; }), 0)
-        << "the download went on after it";
-
-    const QVector<QPointF> position = samples("Position", 0);
-    ASSERT_EQ(position.size(), 2000);
-    EXPECT_LT(responseOf(position, 1000).riseMs, 40);
-    for (int i = 0; i < position.size(); ++i) {
-        int recorded = 0;
-        bus().withDrive(DriveAddress, [&](sim::VirtualDrive &drive) {
-            drive.recorder().setReadAddress(i);
-            recorded = drive.recorder().word();
-        });
-        ASSERT_EQ(position[i].y(), recorded) << i;
-    }
-}
-
-TEST_F(Capture, WithoutChannelsSaysSoAndNothingIsArmed)
-{
-    tick({});
-    click("ScopeCaptureNow");
-    ASSERT_TRUE(waitFor([this] { return shownMessage(m_window.get()).startsWith("No scope channels selected."); }));
-    EXPECT_EQ(captureText(), "Start capture");
-    EXPECT_EQ(timesArmed(), 0);
 }
 
 TEST_F(Capture, TellsBeforehandHowMuchItHoldsAndCanBeCalledOff)

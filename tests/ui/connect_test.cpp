@@ -16,12 +16,7 @@ class Connecting : public WindowFixture
 
 class TwoFamilies : public WindowFixture
 {
-    sim::BusOptions busOptions() const override
-    {
-        sim::BusOptions options;
-        options.drives = {{"keta", 5}, {"torva", 7}};
-        return options;
-    }
+    sim::BusOptions busOptions() const override { return {{{"keta", 5}, {"torva", 7}}}; }
 };
 
 } // namespace
@@ -87,9 +82,7 @@ TEST_F(Connecting, CancellingTheNodeListLeavesEverythingAsItWas)
         dialog->findChild<QDialogButtonBox *>("buttonBox")->button(QDialogButtonBox::Cancel)->click();
         return true;
     });
-    NodeType node;
-    node.address = DriveAddress;
-    node.deviceType = 11000;
+    const NodeType node{DriveAddress, false, 11000, false};
     button("connect_button")->setText("Searching devices...");
     QMetaObject::invokeMethod(m_window.get(), "availableBusNodesListReceived", Q_ARG(QList<NodeType>, {node}));
     EXPECT_EQ(button("connect_button")->text(), "Connect to drive");
@@ -262,10 +255,7 @@ TEST_F(Connecting, RestartingDisconnectsAndComesBackToTheSameDrive)
 TEST_F(Connecting, ANewerListTakesTheOlderOnesPlace)
 {
     openWindow();
-    NodeType older, newer;
-    older.address = 3;
-    newer.address = DriveAddress;
-    newer.deviceType = older.deviceType = 11000;
+    const NodeType older{3, false, 11000, false}, newer{DriveAddress, false, 11000, false};
     m_answers.expect([&](QWidget *) { // while the older one is open
         return QMetaObject::invokeMethod(m_window.get(), "availableBusNodesListReceived", Qt::QueuedConnection,
                                          Q_ARG(QList<NodeType>, {newer}));

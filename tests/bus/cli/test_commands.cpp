@@ -18,12 +18,7 @@ class Cli : public VirtualBusFixture
 
 class CliTwoDrives : public VirtualBusFixture
 {
-    sim::BusOptions busOptions() const override
-    {
-        sim::BusOptions options;
-        options.drives = {{"keta", 3, false}, {"torva", 7, false}};
-        return options;
-    }
+    sim::BusOptions busOptions() const override { return {{{"keta", 3, false}, {"torva", 7, false}}}; }
 };
 
 } // namespace

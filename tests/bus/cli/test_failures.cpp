@@ -15,12 +15,7 @@ class CliFailure : public VirtualBusFixture
 
 class CliUpgradeMode : public VirtualBusFixture
 {
-    sim::BusOptions busOptions() const override
-    {
-        sim::BusOptions options;
-        options.drives = {{"keta", DriveAddress, true}};
-        return options;
-    }
+    sim::BusOptions busOptions() const override { return {{{"keta", DriveAddress, true}}}; }
 };
 
 std::string terminalOutput(sim::PseudoTerminal &terminal)
@@ -56,9 +51,7 @@ TEST_F(CliFailure, PortThatIsNotThereEndsWithOneReason)
 
 TEST_F(CliFailure, SilentDriveIsRefusedInPlainWords)
 {
-    sim::LineFault deaf;
-    deaf.kind = sim::LineFault::Deaf;
-    bus().setFault(deaf);
+    bus().setFault({sim::LineFault::Deaf});
     Ran ran = onDrive({"read"});
     EXPECT_EQ(ran.status, 1);
     EXPECT_EQ(ran.out, "");

@@ -169,9 +169,7 @@ TEST_F(CliFirmware, RestartThatCannotBeOrIsNotSeenIsNoSuccess)
     QProcess process;
     start(process, drive);
     ASSERT_TRUE(waitForPayload(bus(), "822a00000002"));
-    sim::LineFault deaf;
-    deaf.kind = sim::LineFault::Deaf;
-    bus().setFault(deaf);
+    bus().setFault({sim::LineFault::Deaf});
     ran = finish(process);
     EXPECT_EQ(ran.status, 1);
     EXPECT_EQ(ran.out, "");

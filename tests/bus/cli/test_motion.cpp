@@ -47,12 +47,7 @@ protected:
 
 class CliMotionUpgradeMode : public VirtualBusFixture
 {
-    sim::BusOptions busOptions() const override
-    {
-        sim::BusOptions options;
-        options.drives = {{"keta", DriveAddress, true}};
-        return options;
-    }
+    sim::BusOptions busOptions() const override { return {{{"keta", DriveAddress, true}}}; }
 };
 
 } // namespace

@@ -207,9 +207,7 @@ protected:
     }
     void setFault(sim::LineFault::Kind kind)
     {
-        sim::LineFault fault;
-        fault.kind = kind;
-        bus().setFault(fault);
+        bus().setFault({kind});
     }
     /// How often a payload has arrived.
     int received(const std::string &payload)

@@ -49,10 +49,8 @@ const Fault::Kind kinds[] = {Fault::Drop,    Fault::Flip, Fault::Cut,   Fault::L
 
 std::string nameOf(const testing::TestParamInfo<std::tuple<Moment, Fault::Kind>> &info)
 {
-    static const std::map<Fault::Kind, const char *> names = {
-        {Fault::Drop, "Drop"}, {Fault::Flip, "Flip"},       {Fault::Cut, "Cut"},     {Fault::Late, "Late"},
-        {Fault::Deaf, "Deaf"}, {Fault::Missing, "Missing"}, {Fault::Noise, "Noise"}, {Fault::Unplugged, "Unplugged"}};
-    return std::string(std::get<0>(info.param).name) + names.at(std::get<1>(info.param));
+    const auto [moment, kind] = info.param;
+    return moment.name + std::string(1, char(std::toupper(Fault::name(kind)[0]))) + Fault::name(kind).substr(1);
 }
 
 class BadLine : public SessionFixture, public testing::WithParamInterface<std::tuple<Moment, Fault::Kind>>
@@ -86,11 +84,7 @@ TEST_P(BadLine, EndsInOneMessageAndTheNextConnectionWorks)
     log().statuses.clear();
     session().setReplyTimeout(1000);
 
-    Fault fault;
-    fault.kind = kind;
-    fault.at = kind == Fault::Late ? 350 : 4;
-    fault.skip = moment.repliesThatPass;
-    bus().setFault(fault);
+    bus().setFault({kind, kind == Fault::Late ? 350 : 4, moment.repliesThatPass});
     QElapsedTimer timer;
     timer.start();
     moment.begin(session());
@@ -125,10 +119,7 @@ TEST_P(BadConnect, AReplyDamagedAtAnyByteIsAFailedConnectAndTheNextOneWorks)
     constexpr int replyBytes = 21; // of the first read: id, size, address, four values of 4 bytes, checksum
     session().setReplyTimeout(100);
     for (int at = 0; at < replyBytes; ++at) {
-        Fault fault;
-        fault.kind = GetParam();
-        fault.at = at;
-        bus().setFault(fault);
+        bus().setFault({GetParam(), at});
         log().errors.clear();
         log().statuses.clear();
         EXPECT_FALSE(connectTo()) << at;
@@ -149,9 +140,7 @@ INSTANTIATE_TEST_SUITE_P(Any, BadConnect, testing::Values(Fault::Cut, Fault::Fli
 
 TEST_F(SessionFixture, ABabblingLineEndsAScanWithinSeconds)
 {
-    Fault noise;
-    noise.kind = Fault::Noise;
-    bus().setFault(noise);
+    bus().setFault({Fault::Noise});
     session().getListOfBusNodes(port());
     ASSERT_TRUE(waitUntil([this] { return !log().errors.isEmpty(); }));
     EXPECT_THAT(log().errors.first().toStdString(), HasSubstr("The bus is never quiet"));

@@ -56,32 +56,17 @@ protected:
 
 class TwoDrives : public Connecting
 {
-    sim::BusOptions busOptions() const override
-    {
-        sim::BusOptions options;
-        options.drives = {{"keta", 3}, {"torva", 7}};
-        return options;
-    }
+    sim::BusOptions busOptions() const override { return {{{"keta", 3}, {"torva", 7}}}; }
 };
 
 class InUpgradeMode : public Connecting
 {
-    sim::BusOptions busOptions() const override
-    {
-        sim::BusOptions options;
-        options.drives = {{"keta", 5, true}};
-        return options;
-    }
+    sim::BusOptions busOptions() const override { return {{{"keta", 5, true}}}; }
 };
 
 class OtherDrive : public Connecting, public testing::WithParamInterface<const char *>
 {
-    sim::BusOptions busOptions() const override
-    {
-        sim::BusOptions options;
-        options.drives = {{GetParam(), 5}};
-        return options;
-    }
+    sim::BusOptions busOptions() const override { return {{{GetParam(), 5}}}; }
 };
 
 } // namespace

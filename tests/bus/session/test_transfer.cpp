@@ -66,12 +66,7 @@ protected:
 
 class TorvaTransfer : public Transfer
 {
-    sim::BusOptions busOptions() const override
-    {
-        sim::BusOptions options;
-        options.drives = {{"torva", 5}};
-        return options;
-    }
+    sim::BusOptions busOptions() const override { return {{{"torva", 5}}}; }
 };
 
 std::string fourHexDigits(int value)

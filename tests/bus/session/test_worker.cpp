@@ -84,9 +84,7 @@ TEST_F(Worker, SettersAndCommandsReturnAtOnceWhileTheDriveAnswersNothing)
 {
     session().setReplyTimeout(400);
     ASSERT_TRUE(connectTo());
-    sim::LineFault deaf;
-    deaf.kind = sim::LineFault::Deaf;
-    bus().setFault(deaf);
+    bus().setFault({sim::LineFault::Deaf});
     bus().clearReceived();
     session().getParams();
     ASSERT_TRUE(waitForRequests(1)); // the worker now waits for a reply
@@ -221,12 +219,7 @@ TEST_F(Worker, ALateReplyToSomethingElseDoesNotAcknowledgeADisable)
     session().setReplyTimeout(200);
     ASSERT_TRUE(connectTo());
     ASSERT_TRUE(waitUntilIdle());
-    sim::LineFault late, deaf;
-    late.kind = sim::LineFault::Late;
-    late.at = 350;
-    late.count = 1;
-    deaf.kind = sim::LineFault::Deaf;
-    bus().setFaults({late, deaf});
+    bus().setFaults({{sim::LineFault::Late, 350, 0, 1}, {sim::LineFault::Deaf}});
     bus().clearReceived();
     ASSERT_TRUE(waitForRequests(1)); // a poll
     disable();
@@ -247,11 +240,9 @@ TEST_F(Worker, ADisableIsServedInsideAPause)
 
 TEST_F(Worker, ARestartingDriveIsToldToDisableUntilItHearsIt)
 {
-    startBus([] {
-        sim::BusOptions options;
-        options.restartTime = std::chrono::milliseconds(400);
-        return options;
-    }());
+    sim::BusOptions slowly;
+    slowly.restartTime = std::chrono::milliseconds(400);
+    startBus(slowly);
     session().setReplyTimeout(100);
     ASSERT_TRUE(connectTo());
     session().setPauseScale(0.4); // 1.4 s
@@ -309,11 +300,8 @@ TEST_P(EndingATask, ComesBeforeTheThreadWouldBeTerminated)
         bus().clearFaults();
         ASSERT_TRUE(connectTo());
         session().setPauseScale(1);
-        if (!answers) {
-            sim::LineFault deaf;
-            deaf.kind = sim::LineFault::Deaf;
-            bus().setFault(deaf);
-        }
+        if (!answers)
+            setFault(sim::LineFault::Deaf);
         bus().clearReceived();
         GetParam().begin(session());
         ASSERT_TRUE(waitForRequests(1));

@@ -41,14 +41,6 @@ TEST_F(Line, OffersItsPortAsLink)
     EXPECT_EQ(std::filesystem::read_symlink(port()).string(), bus().portName());
 }
 
-TEST_F(Line, AnswersAReadByteForByte)
-{
-    TestLine line(port());
-    EXPECT_EQ(line.exchange(ReadType, TypeReply.size()), TypeReply);
-    ASSERT_TRUE(waitForRequests(1));
-    EXPECT_EQ(bus().received()[0].bytes, ReadType);
-}
-
 TEST_F(Line, OtherAddressesAndBadChecksumsAreHeardButNotAnswered)
 {
     TestLine line(port());
@@ -204,17 +196,6 @@ TEST_F(Line, TimeFollowsTheWallClockOnAnIdleBus)
     EXPECT_TRUE(bus().waitForRegister(5, 956, 1000));
 }
 
-TEST_F(Line, RestartIsSilentForAWhile)
-{
-    TestLine line(port());
-    const Bytes restart{0x24, 0x06, 0x05, 0x82, 0x2A, 0x00, 0x00, 0x00, 0x02, 0xF8, 0x0E}; // 554 := 2
-    EXPECT_EQ(line.exchange(restart, 13).size(), 13u) << "answered first";
-    Bytes reply;
-    while (reply.empty())
-        reply = line.exchange(ReadType, FirstReply.size(), 50ms);
-    EXPECT_EQ(reply, FirstReply);
-}
-
 namespace {
 
 class TwoDrives : public VirtualBusFixture
@@ -283,26 +264,4 @@ TEST(VirtualBus, TakesALeftOverLinkButNeverThatOfARunningBus)
     std::filesystem::create_symlink("/dev/pts/987654", "COM1");
     second.stop();
     EXPECT_TRUE(std::filesystem::is_symlink("COM1"));
-}
-
-TEST(VirtualBus, StopsAndStartsAgain)
-{
-    sim::VirtualBus bus;
-    for (int i = 0; i < 3; ++i) {
-        ASSERT_EQ(bus.start(), "");
-        EXPECT_TRUE(TestLine(bus.portName().c_str()).isOpen());
-        bus.stop();
-    }
-}
-
-TEST_F(Line, KeepsFlashInItsStateFile)
-{
-    sim::BusOptions options;
-    options.stateFile = "drives.state";
-    startBus(options);
-    bus().set(5, 202, 404);
-    TestLine(port()).exchange({0x24, 0x06, 0x05, 0x82, 0x2A, 0x00, 0x00, 0x00, 0x01, 0xB8, 0x0F}, 13); // 554 := 1
-    EXPECT_EQ(bus().stateError(), "");
-    startBus(options);
-    EXPECT_EQ(bus().read(5, 202), 404);
 }

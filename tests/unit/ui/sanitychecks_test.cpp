@@ -5,65 +5,49 @@
 #include <gtest/gtest.h>
 
 using testing::HasSubstr;
-using testing::Not;
 
 namespace {
 
-SanityInputs quietSettings()
+/// Homing on, hard stop threshold, tracking threshold, velocity limit, over-speed threshold, control mode.
+SanityInputs settings(int homing, double homingThreshold, double limitVelocity, int controlMode = 0)
 {
     SanityInputs in;
-    in.homing = 1;
-    in.homingThreshold = 1000;
+    in.homing = homing;
+    in.homingThreshold = homingThreshold;
     in.trackingThreshold = 2000;
-    in.limitVelocity = 50;
+    in.limitVelocity = limitVelocity;
     in.faultVelocity = 60;
+    in.controlMode = controlMode;
     return in;
-}
-
-std::string warnings(const SanityInputs &in)
-{
-    return sanityWarnings(in).toStdString();
 }
 
 } // namespace
 
-TEST(SanityChecks, SettingsThatGoTogetherSayNothing)
+TEST(SanityChecks, ThresholdsTooNearToAnotherWarn)
 {
-    EXPECT_EQ(warnings(quietSettings()), "");
-}
-
-TEST(SanityChecks, HardStopThresholdNearTheTrackingThresholdWarnsWhileHomingIsOn)
-{
-    SanityInputs in = quietSettings();
-    in.homingThreshold = 1501; // times 4 / 3, cut to an integer: 2001
-    EXPECT_THAT(warnings(in), HasSubstr("Parameter sanity check warnings:<ul><li>Homing hard stop threshold [HMH]"));
-    EXPECT_THAT(warnings(in), Not(HasSubstr("[CVL]")));
-    in.homingThreshold = 1500; // exactly 2000
-    EXPECT_EQ(warnings(in), "");
-    in.homingThreshold = 1000000000; // would overflow 32 bits
-    EXPECT_THAT(warnings(in), HasSubstr("[HMH]"));
-    in.homing = 0;
-    EXPECT_EQ(warnings(in), "");
-}
-
-TEST(SanityChecks, OverSpeedThresholdNearTheVelocityLimitWarnsUnlessTorqueIsControlled)
-{
-    SanityInputs in = quietSettings();
-    in.limitVelocity = 54.1;
-    EXPECT_THAT(warnings(in), HasSubstr("Over speed fault threshold [FEV]"));
-    EXPECT_THAT(warnings(in), Not(HasSubstr("[HMH]")));
-    in.controlMode = 1;
-    EXPECT_THAT(warnings(in), HasSubstr("</li></ul>"));
-    in.controlMode = 2;
-    EXPECT_EQ(warnings(in), "");
-}
-
-TEST(SanityChecks, BothWarningsStandInOneList)
-{
-    SanityInputs in = quietSettings();
-    in.homingThreshold = 5000;
-    in.limitVelocity = 100;
-    EXPECT_THAT(warnings(in), HasSubstr("increase FPT.</li><li>Over speed"));
+    const struct
+    {
+        SanityInputs in;
+        bool hardStop, overSpeed;
+    } rows[] = {
+        {settings(1, 1000, 50), false, false},
+        {settings(1, 1501, 50), true, false}, // times 4 / 3, cut to an integer: 2001
+        {settings(1, 1500, 50), false, false},
+        {settings(1, 1000000000, 50), true, false}, // would overflow 32 bits
+        {settings(0, 1000000000, 50), false, false},
+        {settings(1, 1000, 54.1), false, true},
+        {settings(1, 1000, 54.1, 1), false, true},
+        {settings(1, 1000, 54.1, 2), false, false}, // torque is controlled
+        {settings(1, 5000, 100), true, true},
+    };
+    for (const auto &row : rows) {
+        const QString text = sanityWarnings(row.in);
+        EXPECT_EQ(text.contains("Homing hard stop threshold [HMH]"), row.hardStop) << &row - rows;
+        EXPECT_EQ(text.contains("Over speed fault threshold [FEV]"), row.overSpeed) << &row - rows;
+        EXPECT_EQ(text.isEmpty(), !row.hardStop && !row.overSpeed) << &row - rows;
+        EXPECT_TRUE(text.isEmpty() || (text.startsWith("Parameter sanity check warnings:<ul><li>") &&
+                                       text.contains("</li></ul>")));
+    }
 }
 
 TEST(PairRules, PolesComeInPairs)
@@ -82,21 +66,25 @@ TEST(PairRules, TheOtherOfThePairFollowsTheOneThatWasEdited)
     EXPECT_EQ(orderedAfterHigh(-3, 4), std::make_pair(-3, 4));
 }
 
-TEST(UnderVoltageWarning, EachFamilyHasItsOwnLimit)
+TEST(UnderVoltageWarning, EachFamilyHasItsOwnLimitAndOtherModelsNone)
 {
-    EXPECT_TRUE(underVoltageWarning(QStringLiteral("Tarnwell Devices Torva 4000"), 69.99).visible);
-    EXPECT_FALSE(underVoltageWarning(QStringLiteral("Tarnwell Devices TORVA"), 70).visible);
-    EXPECT_TRUE(underVoltageWarning(QStringLiteral("keta pro"), 19.99).visible);
-    EXPECT_FALSE(underVoltageWarning(QStringLiteral("KETA"), 20).visible);
-    EXPECT_THAT(underVoltageWarning(QStringLiteral("Torva"), 60).text.toStdString(),
-                HasSubstr("operating Torva under 70 VDC"));
-    EXPECT_THAT(underVoltageWarning(QStringLiteral("Keta"), 60).text.toStdString(),
-                HasSubstr("operating Keta under 20 VDC"));
-}
-
-TEST(UnderVoltageWarning, OtherModelsHaveNone)
-{
-    const SupplyWarning warning = underVoltageWarning(QStringLiteral("N/A"), 1);
-    EXPECT_FALSE(warning.visible);
-    EXPECT_TRUE(warning.text.isEmpty());
+    const struct
+    {
+        const char *model;
+        double volts;
+        bool visible;
+        const char *text;
+    } rows[] = {
+        {"Tarnwell Devices Torva 4000", 69.99, true, "operating Torva under 70 VDC"},
+        {"Tarnwell Devices TORVA", 70, false, ""},
+        {"keta pro", 19.99, true, "operating Keta under 20 VDC"},
+        {"KETA", 20, false, ""},
+        {"N/A", 1, false, ""},
+    };
+    for (const auto &row : rows) {
+        const SupplyWarning warning = underVoltageWarning(row.model, row.volts);
+        EXPECT_EQ(warning.visible, row.visible) << row.model;
+        EXPECT_THAT(warning.text.toStdString(), HasSubstr(row.text)) << row.model;
+    }
+    EXPECT_TRUE(underVoltageWarning("N/A", 1).text.isEmpty());
 }

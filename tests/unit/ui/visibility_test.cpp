@@ -25,58 +25,45 @@ bool shown(const VisibilityInputs &in, const QStringList &objects)
 
 } // namespace
 
-TEST(Visibility, PolesAndHallSensorsOnlyForMotorsWithMagnetPoles)
+TEST(Visibility, EverySwitchShowsWhatHasAMeaningThen)
 {
-    VisibilityInputs in;
-    for (const auto &[type, expected] : std::initializer_list<std::pair<int, bool>>{
-             {-1, false}, {0, false}, {1, false}, {2, true}, {3, true}, {4, false}}) {
-        in.motorType = type;
-        EXPECT_EQ(shown(in, {"MPC", "MPCl", "MPCu", "FBH", "FBHl"}), expected) << type;
-        EXPECT_EQ(shown(in, {"MTC", "MTCl", "MTCu"}), type != 4) << type;
-        EXPECT_EQ(shown(in, {"MThelp"}), type == 4) << type;
+    using In = VisibilityInputs;
+    const struct
+    {
+        const char *rule;
+        std::function<void(In &, int)> set;
+        std::vector<int> values, shownFor;
+        QStringList objects;
+    } rows[] = {
+        {"magnet poles", [](In &in, int type) { in.motorType = type; }, {-1, 0, 1, 2, 3, 4}, {2, 3},
+         {"MPC", "MPCl", "MPCu", "FBH", "FBHl"}},
+        {"thermal model", [](In &in, int type) { in.motorType = type; }, {-1, 0, 1, 2, 3, 4}, {-1, 0, 1, 2, 3},
+         {"MTC", "MTCl", "MTCu"}},
+        {"no motor type", [](In &in, int type) { in.motorType = type; }, {-1, 0, 1, 2, 3, 4}, {4}, {"MThelp"}},
+        {"motion", [](In &in, int mode) { in.controlMode = mode; }, {0, 1, 2}, {0, 1},
+         {"motionDynamicsGroup", "velgains", "FVT", "FVTl", "FVThvel"}},
+        {"position", [](In &in, int mode) { in.controlMode = mode; }, {0, 1, 2}, {0},
+         {"homingGroup", "errorrec_posonly", "posgains", "FPT", "FPTl", "FPThpos"}},
+        {"homing", [](In &in, int homing) { in.homing = homing; }, {0, 1, 2}, {1, 2}, {"homingSettingsGroup"}},
+        {"second feedback", [](In &in, int device) { in.velocityFeedback = device; }, {0, 1}, {1},
+         {"FB2I", "FB2Il", "FB2R", "FB2Rl", "FB2Ru"}},
+        {"setpoint offset", [](In &in, int input) { in.setpointInput = input; }, {-1, 0, 1, 2, 3, 4, 5}, {3, 4},
+         {"absInSettingGroup"}},
+        {"advanced", [](In &in, int both) { in.showAdvanced = both & 1; in.isKetaPro = both & 2; }, {0, 1, 2, 3}, {1, 3},
+         {"VFF", "VFFlabel", "AFF", "AFFlabel", "advancedSettingsNotice"}},
+        {"cogging", [](In &in, int both) { in.showAdvanced = both & 1; in.isKetaPro = both & 2; }, {0, 1, 2, 3}, {3},
+         {"torqueCompensationGroup"}},
+    };
+    for (const auto &row : rows) {
+        for (const int value : row.values) {
+            In in;
+            row.set(in, value);
+            const bool expected = std::count(row.shownFor.begin(), row.shownFor.end(), value) > 0;
+            EXPECT_EQ(shown(in, row.objects), expected) << row.rule << ' ' << value;
+        }
     }
-}
-
-TEST(Visibility, ControlModeHidesWhatHasNoMeaningInIt)
-{
-    VisibilityInputs in;
-    for (int mode : {0, 1, 2}) {
-        in.controlMode = mode;
-        EXPECT_EQ(shown(in, {"motionDynamicsGroup", "velgains", "FVT", "FVTl", "FVThvel"}), mode != 2) << mode;
-        EXPECT_EQ(shown(in, {"homingGroup", "errorrec_posonly", "posgains", "FPT", "FPTl", "FPThpos"}), mode == 0)
-            << mode;
-    }
-}
-
-TEST(Visibility, DependentSettingsFollowTheirSwitch)
-{
-    VisibilityInputs in;
-    EXPECT_FALSE(shown(in, {"homingSettingsGroup"}));
-    EXPECT_FALSE(shown(in, {"FB2I", "FB2Il", "FB2R", "FB2Rl", "FB2Ru"}));
-    in.homing = 2;
-    in.velocityFeedback = 1;
-    EXPECT_TRUE(shown(in, {"homingSettingsGroup"}));
-    EXPECT_TRUE(shown(in, {"FB2I", "FB2Il", "FB2R", "FB2Rl", "FB2Ru"}));
-    for (int input : {-1, 0, 1, 2, 3, 4, 5}) {
-        in.setpointInput = input;
-        EXPECT_EQ(shown(in, {"absInSettingGroup"}), input == 3 || input == 4) << input;
+    for (int input : {-1, 0, 1, 2, 3, 4, 5})
         EXPECT_EQ(hasSetpointOffset(input), input == 3 || input == 4) << input;
-    }
-}
-
-TEST(Visibility, TorqueCompensationNeedsAdvancedSettingsAndAPro)
-{
-    const QStringList feedForward{"VFF", "VFFlabel", "AFF", "AFFlabel", "advancedSettingsNotice"};
-    VisibilityInputs in;
-    in.isKetaPro = true;
-    EXPECT_FALSE(shown(in, feedForward));
-    EXPECT_FALSE(shown(in, {"torqueCompensationGroup"}));
-    in.showAdvanced = true;
-    EXPECT_TRUE(shown(in, feedForward));
-    EXPECT_TRUE(shown(in, {"torqueCompensationGroup"}));
-    in.isKetaPro = false;
-    EXPECT_TRUE(shown(in, feedForward));
-    EXPECT_FALSE(shown(in, {"torqueCompensationGroup"}));
 }
 
 TEST(Visibility, AppliesToTheObjectsThatAreThere)
