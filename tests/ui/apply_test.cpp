@@ -267,19 +267,6 @@ TEST_F(Apply, ClosingAsksFirstForEditsThenForTheDrivesMemory)
     EXPECT_EQ(m_answers.texts.filter("since last Save to drive").size(), 3);
 }
 
-TEST_F(Apply, EnteringTheTestingPageOffersToApplyOnceAndCannotBeAborted)
-{
-    openConnectedWindow();
-    kvp()->setValue(410);
-    m_answers.press("No");
-    goTo(6);
-    EXPECT_TRUE(m_answers.isDone());
-    goTo(4);
-    m_answers.press("Yes");
-    goTo(6);
-    EXPECT_TRUE(driveHas(KVP, 410));
-}
-
 TEST_F(Apply, HomingIsNotStartedWhenItsQuestionIsAborted)
 {
     openConnectedWindow();

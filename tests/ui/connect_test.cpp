@@ -221,37 +221,6 @@ TEST_F(Connecting, ValueWithoutAnItemIsShownAndWrittenBackAsItIs)
     EXPECT_EQ(bus().read(DriveAddress, FEEDBACK_DEVICE), 9);
 }
 
-TEST_F(Connecting, AsksForNewsOnceADriveWasReadAndObeysTheServer)
-{
-    openWindow();
-    QTest::qWait(50);
-    EXPECT_TRUE(m_updates.requests.isEmpty()); // nothing is known of any drive yet
-    connectToDrive();
-    ASSERT_TRUE(waitFor([this] { return m_updates.requests.size() == 1; }));
-    EXPECT_TRUE(m_updates.requests.first().startsWith("GET /velbrinmessage.php?vv=1.9.0&did=11000&snr=240117&"));
-    QTest::qWait(50);
-    EXPECT_EQ(shownMessage(m_window.get()), QString()); // an empty notice is not worth a box
-    click("disconnect_button");
-    ASSERT_TRUE(waitFor([this] { return connectionText() == "Disconnected"; }));
-
-    m_updates.answer("VELBRINREPLY<b>Update</b> requiredMUSTDISCONNECT");
-    connectToDrive();
-    ASSERT_TRUE(waitFor([this] { return connectionText() == "Disconnected"; }));
-    EXPECT_EQ(shownMessage(m_window.get()), "Update required");
-}
-
-TEST_F(Connecting, RestartingDisconnectsAndComesBackToTheSameDrive)
-{
-    openWindow();
-    connectToDrive();
-    bus().clearReceived();
-    click("restartDrive"); // comes back to the same drive without asking
-    EXPECT_EQ(connectionText(), "Restarting device");
-    EXPECT_FALSE(button("apply_button")->isEnabled());
-    EXPECT_EQ(button("connect_button")->text(), "Searching devices...");
-    EXPECT_TRUE(waitFor([this] { return connectionText() == "Connected"; }));
-}
-
 TEST_F(Connecting, ANewerListTakesTheOlderOnesPlace)
 {
     openWindow();

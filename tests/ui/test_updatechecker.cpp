@@ -186,21 +186,6 @@ TEST_F(UpdateCheck, MegabyteIsTakenAndAnEndlessBodyIsNot)
     EXPECT_EQ(notices.size(), 1);
 }
 
-TEST_F(UpdateCheck, TwoQuestionsInARowHaveAnAnswerEach)
-{
-    int asked = 0;
-    server.handler = [&asked](QTcpSocket *socket) {
-        const QByteArray number = QByteArray::number(++asked);
-        socket->write("HTTP/1.1 200 OK\r\nContent-Length: 13\r\nConnection: close\r\n\r\nVELBRINREPLY" + number);
-        socket->disconnectFromHost();
-    };
-    ask();
-    askAndWait();
-    ASSERT_EQ(notices.size(), 2);
-    EXPECT_EQ(notice(0), "1");
-    EXPECT_EQ(notice(1), "2");
-}
-
 TEST_F(UpdateCheck, MayBeDestroyedAtAnyMoment)
 {
     ask();

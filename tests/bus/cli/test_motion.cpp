@@ -45,11 +45,6 @@ protected:
     std::vector<std::string> sent() { return payloads(bus().received()); }
 };
 
-class CliMotionUpgradeMode : public VirtualBusFixture
-{
-    sim::BusOptions busOptions() const override { return {{{"keta", DriveAddress, true}}}; }
-};
-
 } // namespace
 
 TEST_F(CliMotion, EnablePowersTheMotorAndLeavesItSo)
@@ -244,15 +239,4 @@ TEST_F(CliMotion, HomingThatIsSwitchedOffIsSaidSo)
     const Ran ran = onDrive({"home"});
     EXPECT_EQ(ran.status, 1);
     EXPECT_THAT(ran.err.toStdString(), HasSubstr("The drive did not start homing."));
-}
-
-TEST_F(CliMotionUpgradeMode, NothingMovesInFirmwareUpgradeMode)
-{
-    for (const QStringList &command : {QStringList{"enable"}, QStringList{"disable"}, QStringList{"home"},
-                                       QStringList{"clear-faults"}, QStringList{"setpoint", "1"}}) {
-        const Ran ran = run(QStringList{"--port", port(), "--node", "255"} + command);
-        EXPECT_EQ(ran.status, 1);
-        EXPECT_THAT(ran.err.toStdString(), HasSubstr("firmware-upgrade mode and cannot move"))
-            << command[0].toStdString();
-    }
 }

@@ -65,10 +65,6 @@ protected:
     }
 };
 
-class BadConnect : public SessionFixture, public testing::WithParamInterface<Fault::Kind>
-{
-};
-
 } // namespace
 
 TEST_P(BadLine, EndsInOneMessageAndTheNextConnectionWorks)
@@ -113,30 +109,6 @@ INSTANTIATE_TEST_SUITE_P(Testing, BadLine,
                                           testing::Values(Fault::Drop, Fault::Flip, Fault::Late, Fault::Missing,
                                                           Fault::Unplugged)),
                          nameOf);
-
-TEST_P(BadConnect, AReplyDamagedAtAnyByteIsAFailedConnectAndTheNextOneWorks)
-{
-    constexpr int replyBytes = 21; // of the first read: id, size, address, four values of 4 bytes, checksum
-    session().setReplyTimeout(100);
-    for (int at = 0; at < replyBytes; ++at) {
-        bus().setFault({GetParam(), at});
-        log().errors.clear();
-        log().statuses.clear();
-        EXPECT_FALSE(connectTo()) << at;
-        ASSERT_TRUE(waitUntil([this] { return !log().errors.isEmpty(); }));
-        EXPECT_THAT(log().errors, SizeIs(1)) << at;
-        EXPECT_THAT(log().errors.first().toStdString(), HasSubstr("Communication error flags:"));
-        ASSERT_THAT(log().statuses, SizeIs(1)) << at;
-        EXPECT_EQ(log().statuses.first().text, "Connect failed");
-    }
-    bus().clearFaults();
-    session().setReplyTimeout(1000);
-    EXPECT_TRUE(connectTo());
-    EXPECT_TRUE(readAll());
-}
-
-INSTANTIATE_TEST_SUITE_P(Any, BadConnect, testing::Values(Fault::Cut, Fault::Flip),
-                         [](const auto &info) { return info.param == Fault::Cut ? "CutShort" : "Flipped"; });
 
 TEST_F(SessionFixture, ABabblingLineEndsAScanWithinSeconds)
 {

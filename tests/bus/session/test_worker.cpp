@@ -180,16 +180,6 @@ TEST_F(Worker, ADisableIsSentUntilItIsAcknowledgedAtMostThreeTimes)
     }
 }
 
-TEST_F(Worker, AnEnableThatIsLostIsNotRepeated)
-{
-    session().setReplyTimeout(200);
-    ASSERT_TRUE(connectTo());
-    setFault(sim::LineFault::Deaf);
-    enable();
-    ASSERT_TRUE(waitForDisconnect());
-    EXPECT_EQ(received(enableWrite), 1);
-}
-
 TEST_F(Worker, ADisableIsSentAlsoWhereTheLineCountsAsDead)
 {
     session().setReplyTimeout(500);
@@ -275,22 +265,6 @@ TEST_F(Worker, PollsAnIdleDriveAndSaysWhatHasChanged)
     ASSERT_TRUE(waitUntil([&] { return log().faultPanels.last().contains(QString::fromStdString(watched)); }));
     bus().set(5, 553, 32768);
     ASSERT_TRUE(waitUntil([this] { return log().restartSuggestions == 2; }));
-}
-
-TEST_F(Worker, OnePollIsOneExchange)
-{
-    ASSERT_TRUE(connectTo());
-    ASSERT_TRUE(waitUntilIdle());
-    bus().clearReceived();
-    session().setDebugValuesShown(true);
-    session().setWatchedParameter(202);
-    session().command(Connection::TaskUpdateStatus);
-    ASSERT_TRUE(waitForRequests(1));
-    const sim::Bytes payload = bus().received().front().packet.payload;
-    EXPECT_EQ(payload.size(), 88u) << "27 registers and the three items in front: a full reply";
-    EXPECT_EQ(hex(payload).substr(0, 14), wire("800a 400000 8009"));
-    EXPECT_TRUE(waitUntil([this] { return !log().faultPanels.isEmpty(); }));
-    EXPECT_TRUE(log().errors.isEmpty());
 }
 
 TEST_P(EndingATask, ComesBeforeTheThreadWouldBeTerminated)

@@ -1,12 +1,12 @@
 #include "helppages.h"
 
+#include "formreader.h"
 #include "printqt.h"
 
 #include <QDir>
 #include <QFile>
 #include <QRegularExpression>
 #include <QUrl>
-#include <QXmlStreamReader>
 #include <gtest/gtest.h>
 
 namespace {
@@ -56,48 +56,6 @@ HelpPage readPage(const QString &name)
     return page;
 }
 
-/// Puts the controls of one form into the map: labels carry the mnemonic, controls are named by it.
-void readForm(const QString &path, QMap<QString, FormControl> &controls)
-{
-    QFile file(path);
-    ASSERT_TRUE(file.open(QIODevice::ReadOnly)) << qPrintable(path);
-    QXmlStreamReader xml(&file);
-    QStringList names;
-    QStringList kinds;
-    bool inItem = false;
-    const QRegularExpression mnemonic(QStringLiteral("^\\[([A-Z0-9]+)\\] "));
-    while (!xml.atEnd()) {
-        xml.readNext();
-        const bool isWidget = xml.name() == QLatin1String("widget");
-        if (xml.isEndElement() && isWidget) {
-            names.removeLast();
-            kinds.removeLast();
-        }
-        if (!xml.isStartElement())
-            continue;
-        if (isWidget) {
-            names.append(xml.attributes().value("name").toString());
-            kinds.append(xml.attributes().value("class").toString());
-            controls[names.last()].kind = kinds.last();
-        }
-        inItem = xml.name() == QLatin1String("item") ||
-                 (inItem && (xml.name() == QLatin1String("property") || xml.name() == QLatin1String("string")));
-        if (xml.name() != QLatin1String("property") || names.isEmpty())
-            continue;
-        const QString property = xml.attributes().value("name").toString();
-        if (property != QLatin1String("text") && property != QLatin1String("suffix"))
-            continue;
-        const QString text = xml.readElementText(QXmlStreamReader::IncludeChildElements).trimmed();
-        if (property == QLatin1String("suffix"))
-            controls[names.last()].unit = text;
-        else if (inItem && kinds.last() == QLatin1String("QComboBox"))
-            controls[names.last()].choices.append(text);
-        else if (mnemonic.match(text).hasMatch())
-            controls[mnemonic.match(text).captured(1)].label = QString(text).replace("&&", "&");
-    }
-    EXPECT_FALSE(xml.hasError()) << qPrintable(path);
-}
-
 } // namespace
 
 QString helpFolder()
@@ -131,13 +89,18 @@ Definition definitionOf(const QString &anchor)
 const QMap<QString, FormControl> &formControls()
 {
     static const QMap<QString, FormControl> controls = [] {
+        const QRegularExpression mnemonic(QStringLiteral("^\\[([A-Z0-9]+)\\] "));
         QMap<QString, FormControl> all;
-        const QDir folder(QStringLiteral(VELBRIN_SOURCE_DIR "/ui/forms"));
-        const QStringList files = folder.entryList({"*page.ui"});
-        for (const QString &file : files)
-            readForm(folder.filePath(file), all);
-        for (auto control = all.begin(); control != all.end();)
-            control = control->label.isEmpty() ? all.erase(control) : std::next(control);
+        for (const QString &file : formsFolder().entryList({"*page.ui"})) {
+            const Form form = readForm(file);
+            for (const Widget &caption : form.widgets) { // labels carry the mnemonic, controls are named by it
+                const QString text = caption.properties.value("text"), name = mnemonic.match(text).captured(1);
+                const Widget control = form.widgets.value(name);
+                if (!name.isEmpty())
+                    all[name] = {QString(text).replace("&&", "&"), control.kind,
+                                 control.properties.value("suffix").trimmed(), control.choices};
+            }
+        }
         return all;
     }();
     return controls;

@@ -4,6 +4,7 @@
 #include "capturepage.h"
 #include "captureplotter.h"
 #include "capturetext.h"
+#include "testfiles.h"
 
 #include <gtest/gtest.h>
 
@@ -71,11 +72,9 @@ QByteArray blockOf(const CaptureRecord &c)
 QString read(const QByteArray &bytes, CaptureRecord *into)
 {
     QTemporaryDir folder;
-    QFile file(folder.filePath(QStringLiteral("a capture")));
-    EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(bytes);
-    file.close();
-    return readCaptureFile(file.fileName(), capture().channels, into);
+    const QString file = folder.filePath("a capture");
+    put(file, bytes);
+    return readCaptureFile(file, capture().channels, into);
 }
 
 /// The block with one member changed.
@@ -238,9 +237,7 @@ TEST(Capture, TextFilesAreReadByTheirCaptions)
     QTemporaryDir folder;
     const QString csv = folder.filePath(QStringLiteral("c.csv"));
     ASSERT_TRUE(CapturePlotter().saveCaptureDataCSV(original.channels, csv));
-    QFile file(csv);
-    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-    const QByteArray semicolons = file.readAll();
+    const QByteArray semicolons = contents(csv);
     for (const QByteArray &bytes : {comma, semicolons, QByteArray(semicolons).replace("\n", "\r\n")}) {
         CaptureRecord copy;
         ASSERT_EQ(read(bytes, &copy), QString());
