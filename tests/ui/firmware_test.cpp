@@ -135,19 +135,6 @@ TEST_F(FirmwareDialogTest, FirstMessageOpensItAndTheLogGrows)
     EXPECT_EQ(log(), "");
 }
 
-TEST_F(FirmwareDialogTest, WithoutADriveTheUpgradeEndsInOneMessage)
-{
-    message("go");
-    startUpgradeWithNonsense();
-    EXPECT_FALSE(button("close")->isEnabled());
-    EXPECT_FALSE(button("openFile")->isEnabled());
-    ASSERT_TRUE(waitFor([this] { return button("close")->isEnabled(); }));
-    EXPECT_EQ(log().count("Error: "), 1);
-    EXPECT_FALSE(button("openFile")->isEnabled());
-    click("close");
-    EXPECT_FALSE(dialog()->isVisible());
-}
-
 TEST_F(FirmwareDialogTest, InstallFirmwareLeadsAKetaToItsNewFirmwareAndBack)
 {
     connectToDrive();
@@ -220,6 +207,7 @@ TEST_F(KetaInUpgradeMode, IsGreetedByTheDialogAndLeftWithIt)
     EXPECT_EQ(connectionText(), "Connected");
 
     startUpgradeWithNonsense();
+    EXPECT_FALSE(button("close")->isEnabled() || button("openFile")->isEnabled());
     ASSERT_TRUE(waitFor([this] { return button("close")->isEnabled(); }));
     EXPECT_FALSE(button("openFile")->isEnabled());
     EXPECT_TRUE(log().endsWith("Error: Unknown file type"));

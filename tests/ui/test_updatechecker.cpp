@@ -125,23 +125,6 @@ TEST_F(UpdateCheck, RedirectIsNotFollowed)
     EXPECT_EQ(notices.size(), 0);
 }
 
-TEST_F(UpdateCheck, SlowAnswerIsTakenWhileTheProgramGoesOn)
-{
-    server.handler = [](QTcpSocket *socket) {
-        socket->write("HTTP/1.1 200 OK\r\nContent-Length: 16\r\n\r\nVELBRINREPLY");
-        QTimer::singleShot(400, socket, [socket] { socket->write("late"); });
-    };
-    ask();
-    EXPECT_EQ(server.requests.size(), 0) << "asking returns before anything has happened";
-    int turns = 0;
-    QTimer other;
-    QObject::connect(&other, &QTimer::timeout, [&turns] { ++turns; });
-    other.start(5);
-    ASSERT_TRUE(QTest::qWaitFor([this] { return notices.size() == 1; }));
-    EXPECT_EQ(notice(), "late");
-    EXPECT_GT(turns, 10);
-}
-
 TEST_F(UpdateCheck, SilentOrTricklingServerIsGivenUp)
 {
     QTimer trickle;

@@ -74,14 +74,9 @@ TEST_F(CliCapture, RecordsAStepThatItMakesAndLeavesTheDriveDisabled)
     EXPECT_TRUE(ran.lines()[1].startsWith("posmeas\tcnts\t1000\t0\t0\t")) << ran.lines()[1].toStdString();
     const QByteArray csv = contents("step.csv");
     EXPECT_EQ(csv.split('\n').first(), "Time;Position setpoint;Position achieved");
-    const std::vector<double> time = column(csv, 0), wanted = column(csv, 1), achieved = column(csv, 2);
-    ASSERT_EQ(time.size(), 1000u);
-    EXPECT_DOUBLE_EQ(time.back(), 0.0999);
-    const auto after = [&time](const std::vector<double> &values, double level) {
-        return time[std::find_if(values.begin(), values.end(), [=](double v) { return v >= level; }) - values.begin()];
-    };
-    EXPECT_NEAR(after(achieved, 900) - after(wanted, 1000), 0.032, 0.005) << "the time that the motor's defaults take";
-    EXPECT_NEAR(achieved.back(), 1000, 10);
+    ASSERT_EQ(column(csv, 0).size(), 1000u);
+    EXPECT_DOUBLE_EQ(column(csv, 0).back(), 0.0999);
+    EXPECT_NEAR(column(csv, 2).back(), 1000, 10);
     EXPECT_THAT(sent(), Contains(EnablePayload));
     EXPECT_TRUE(isOff());
 }

@@ -3,7 +3,6 @@
 
 using testing::Contains;
 using testing::HasSubstr;
-using testing::Not;
 
 namespace {
 
@@ -124,28 +123,6 @@ TEST_P(DuringATask, ADisableIsTheNextThingOnTheLine)
     EXPECT_TRUE(log().errors.isEmpty());
 }
 INSTANTIATE_TEST_SUITE_P(Any, DuringATask, testing::ValuesIn(longTasks), nameOf);
-
-TEST_F(Worker, ADisableOvertakesWhatWaitsAndDropsWhatWouldMove)
-{
-    ASSERT_TRUE(connectTo());
-    bus().setTurnAround(std::chrono::milliseconds(5));
-    bus().clearReceived();
-    session().getParams(); // busy with this while the rest is queued
-    ASSERT_TRUE(waitForRequests(1));
-    session().setTargetSetpoint(1000);
-    session().command(Connection::TaskSetAbsoluteSetpoint);
-    session().command(Connection::TaskStartHoming);
-    session().setDriveEnableStatus(true);
-    session().command(Connection::TaskApplyEnableState);
-    session().command(Connection::TaskSaveToFlash);
-    disable();
-    ASSERT_TRUE(waitUntilIdle());
-    const std::vector<std::string> sent = allPayloads();
-    EXPECT_THAT(sent, Contains(disableWrite));
-    EXPECT_THAT(sent, Contains(wire("822a 00000001"))) << "saving moves nothing";
-    for (const std::string &moving : {enableWrite, wire("8227 000003e8"), wire("9d6c 00000001")})
-        EXPECT_THAT(sent, Not(Contains(moving)));
-}
 
 TEST_F(Worker, ADisableIsSentUntilItIsAcknowledgedAtMostThreeTimes)
 {
