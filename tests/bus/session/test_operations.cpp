@@ -37,6 +37,12 @@ protected:
             return hex(request.packet.payload).rfind(payloadStart, 0) == 0;
         }));
     }
+    void askToDisable()
+    {
+        QueuedTask disable;
+        disable.task = SessionTasks::TaskApplyEnableState;
+        queue.push(disable);
+    }
     void setFault(Fault fault) { bus().setFault(fault); }
 
     SessionData data;
@@ -67,11 +73,11 @@ TEST_F(Operations, NothingIsForcedBehindAnEnableThatFailedOrPastADisable)
          },
          0},
         {refused, [this] { bus().withDrive(5, [](sim::VirtualDrive &drive) { drive.refuseWrites(2533, 1); }); }, 0},
-        {"disable waits",
+        {"disable waits", [this] { askToDisable(); }, 0},
+        {"disable served while its answer is asked for again",
          [this] {
-             QueuedTask disable;
-             disable.task = SessionTasks::TaskApplyEnableState;
-             queue.push(disable);
+             askToDisable();
+             setFault({Fault::Missing, 0, 1, 1});
          },
          0},
     };
