@@ -271,8 +271,7 @@ TEST_F(Apply, ClosingAsksFirstForEditsThenForTheDrivesMemory)
 
     // Discarding leaves the memory unsaved, so the next close asks again.
     m_answers.press("Discard changes");
-    click("disconnect_button");
-    ASSERT_TRUE(waitFor([this] { return connectionText() == "Disconnected"; }));
+    disconnectFromDrive();
     connectToDrive();
     m_answers.press("Save to drive now");
     EXPECT_TRUE(m_window->close());

@@ -72,8 +72,7 @@ TEST_F(Capture, EndsWithTheConnection)
     tick({"ScopePosMeas"});
     choose(Change, "20000 Hz");
     arm();
-    click("disconnect_button");
-    ASSERT_TRUE(waitFor([this] { return connectionText() == "Disconnected"; }));
+    disconnectFromDrive();
     EXPECT_TRUE(waitFor([this] { return captureText() == "Start capture"; }));
 
     connectToDrive();

@@ -26,15 +26,7 @@ TEST_F(TwoFamilies, SearchListsBothDrivesAndOpensTheChosenOne)
     openWindow();
     goTo(1);
     QStringList rows;
-    m_answers.expect([&rows](QWidget *dialog) {
-        EXPECT_EQ(dialog->windowTitle(), "Connect device");
-        auto *nodes = dialog->findChild<QListWidget *>("nodeList");
-        for (int i = 0; i < nodes->count(); ++i)
-            rows << nodes->item(i)->text();
-        nodes->setCurrentRow(1);
-        dialog->findChild<QDialogButtonBox *>("buttonBox")->button(QDialogButtonBox::Open)->click();
-        return true;
-    });
+    m_answers.chooseNode(1, &rows);
     press(Qt::Key_O, Qt::AltModifier);
     EXPECT_EQ(button("connect_button")->text(), "Searching devices...");
     ASSERT_TRUE(waitFor([this] { return connectionText() == "Connected"; }));
@@ -124,13 +116,11 @@ TEST_F(TwoFamilies, NoRowOfTheNodeListIsChosenButASingleOrTheLastDrives)
     });
     QMetaObject::invokeMethod(m_window.get(), "availableBusNodesListReceived", Q_ARG(QList<NodeType>, both));
     ASSERT_TRUE(waitFor([this] { return label("HWMODEL")->text() == "Tarnwell Devices TORVA"; }));
-    click("disconnect_button");
-    ASSERT_TRUE(waitFor([this] { return connectionText() == "Disconnected"; }));
+    disconnectFromDrive();
     for (const QList<NodeType> &nodes : {QList<NodeType>{keta, torva, damaged}, QList<NodeType>{torva}}) {
         pressReturn(nodes, true);
         ASSERT_TRUE(waitFor([this] { return label("HWMODEL")->text() == "Tarnwell Devices TORVA"; }));
-        click("disconnect_button");
-        ASSERT_TRUE(waitFor([this] { return connectionText() == "Disconnected"; }));
+        disconnectFromDrive();
     }
 }
 
@@ -194,8 +184,7 @@ TEST_F(TwoFamilies, ModelDecidesWhatIsShownAndWhatCanBeEdited)
     EXPECT_TRUE(waitForPending(true));
 
     m_answers.press("Continue without applying");
-    click("disconnect_button");
-    ASSERT_TRUE(waitFor([this] { return connectionText() == "Disconnected"; }));
+    disconnectFromDrive();
     EXPECT_TRUE(label("FUVwarning")->isHidden());
     connectToDrive();
     EXPECT_TRUE(control<QSpinBox>("ZBO")->isEnabled());

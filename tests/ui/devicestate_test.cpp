@@ -77,8 +77,7 @@ TEST_F(DeviceState, IsLastKnownAfterADisconnectAndLiveWithTheNextConnection)
     EXPECT_EQ(label("setpointNow")->text(), "Setpoint now: 42");
     EXPECT_FALSE(copied().contains("last known"));
 
-    click("disconnect_button");
-    ASSERT_TRUE(waitFor([this] { return connectionText() == "Disconnected"; }));
+    disconnectFromDrive();
     EXPECT_EQ(label("statusRegisterl")->text(), "Status (last known)");
     EXPECT_EQ(label("faultRegisterl")->text(), "Fault register (last known)");
     EXPECT_EQ(label("physInputStatusl")->text(), "Physical inputs (last known)");

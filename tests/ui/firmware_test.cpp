@@ -63,20 +63,6 @@ protected:
         ASSERT_EQ(sim::writeFile("some.tdf", {'n', 'o'}), "");
         startUpgrade("some.tdf");
     }
-    /// The next node dialog is read, and its first drive chosen.
-    void chooseFirstNode(QStringList &texts)
-    {
-        m_answers.expect([&texts](QWidget *dialog) {
-            auto *nodes = dialog->findChild<QListWidget *>("nodeList");
-            for (int row = 0; nodes && row < nodes->count(); ++row)
-                texts << nodes->item(row)->text();
-            if (texts.isEmpty())
-                return false;
-            nodes->setCurrentRow(0);
-            dialog->findChild<QDialogButtonBox *>("buttonBox")->button(QDialogButtonBox::Open)->click();
-            return true;
-        });
-    }
     bool waitForGreeting()
     {
         return waitFor([this] { return dialog()->isVisible(); }, SearchLimitMs);
@@ -146,7 +132,7 @@ TEST_F(FirmwareDialogTest, InstallFirmwareLeadsAKetaToItsNewFirmwareAndBack)
 
     QStringList found;
     m_answers.press("Continue without applying");
-    chooseFirstNode(found);
+    m_answers.chooseNode(0, &found);
     click("restartToDFUMode");
     EXPECT_EQ(connectionText(), "Restarting device");
     ASSERT_TRUE(waitForGreeting());
@@ -158,7 +144,7 @@ TEST_F(FirmwareDialogTest, InstallFirmwareLeadsAKetaToItsNewFirmwareAndBack)
     startUpgrade("keta.tdf");
     ASSERT_TRUE(waitForSuccess());
     found.clear();
-    chooseFirstNode(found);
+    m_answers.chooseNode(0, &found);
     click("close"); // does not take the search back
     ASSERT_TRUE(waitForConnection("Connected"));
     EXPECT_EQ(found, QStringList{"Tarnwell Devices KETA at bus address 16"});
@@ -189,7 +175,7 @@ TEST_F(TorvaInUpgradeMode, IsUpgradedAndFoundAgainWhileTheLogIsRead)
     ASSERT_TRUE(waitFor([this] { return button("connect_button")->text() == "Connect to drive"; }, SearchLimitMs));
     EXPECT_TRUE(dialog()->isVisible());
     QStringList found;
-    chooseFirstNode(found);
+    m_answers.chooseNode(0, &found);
     click("close");
     ASSERT_TRUE(waitForConnection("Connected"));
     EXPECT_EQ(found, QStringList{"Tarnwell Devices TORVA at bus address 16"});

@@ -33,8 +33,7 @@ TEST_F(News, AreAskedForOnceADriveWasReadAndNotBecauseAFileWasLoaded)
     click("load_settings_from_file");
     ASSERT_TRUE(waitFor([this] { return control<QSpinBox>("KVP")->value() == 432; }));
     m_answers.press("Continue without applying");
-    click("disconnect_button");
-    ASSERT_TRUE(waitFor([this] { return connectionText() == "Disconnected"; }));
+    disconnectFromDrive();
     connectToDrive();
     ASSERT_TRUE(waitFor([this] { return m_updates.requests.size() == 2; }));
     for (const QByteArray &request : m_updates.requests)

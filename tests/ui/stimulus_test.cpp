@@ -56,8 +56,7 @@ TEST_F(Stimulus, ADisconnectStopsItForGood)
 {
     start();
     ASSERT_TRUE(waitFor([this] { return isStreaming(); }));
-    click("disconnect_button");
-    ASSERT_TRUE(waitFor([this] { return connectionText() == "Disconnected"; }));
+    disconnectFromDrive();
     EXPECT_GE(timesWritten(SYSTEM_COMMAND, STOP_STREAM), 1);
     EXPECT_FALSE(box()->isChecked());
     bus().clearReceived();
@@ -91,8 +90,7 @@ TEST_F(Stimulus, ClosingTheWindowStopsIt)
 
 TEST_F(Stimulus, ATickDoesNotSurviveTheConnectButton)
 {
-    click("disconnect_button");
-    ASSERT_TRUE(waitFor([this] { return connectionText() == "Disconnected"; }));
+    disconnectFromDrive();
     box()->setChecked(true);
     bus().unplug(); // the search ends at once
     click("connect_button");

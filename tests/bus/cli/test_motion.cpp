@@ -210,6 +210,11 @@ TEST_F(CliMotion, HomingRunsToItsEnd)
     EXPECT_THAT(ran.out.toStdString(), StartsWith("running\t0\t"));
     EXPECT_THAT(sent(), Contains("9d6c00000001"));
     EXPECT_THAT(sent(), Not(Contains("9d6c00000000")));
+
+    bus().set(DriveAddress, HomingSettings, 0);
+    ran = onDrive({"home"});
+    EXPECT_EQ(ran.status, 1);
+    EXPECT_THAT(ran.err.toStdString(), HasSubstr("The drive did not start homing."));
 }
 
 TEST_F(CliMotion, HomingThatTakesTooLongOrIsInterruptedIsAborted)
@@ -231,12 +236,4 @@ TEST_F(CliMotion, HomingThatTakesTooLongOrIsInterruptedIsAborted)
     EXPECT_EQ(finish(process).status, 1);
     EXPECT_THAT(sent(), Contains("9d6c00000000"));
     EXPECT_EQ(bus().read(DriveAddress, Status) & Homing, 0);
-}
-
-TEST_F(CliMotion, HomingThatIsSwitchedOffIsSaidSo)
-{
-    enableByHand();
-    const Ran ran = onDrive({"home"});
-    EXPECT_EQ(ran.status, 1);
-    EXPECT_THAT(ran.err.toStdString(), HasSubstr("The drive did not start homing."));
 }
