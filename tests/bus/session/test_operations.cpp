@@ -191,26 +191,6 @@ TEST_F(Operations, WithTheLatchSetEveryTaskEndsWithAQuestionForErrors)
     EXPECT_TRUE(queue.isEmpty()) << "a refusal is an answer: the connection goes on";
 }
 
-TEST_F(Operations, AStreamIsSetUpOnceInAConnection)
-{
-    data.stimulus.set(100, 1, 0, 1, true);
-    EXPECT_EQ(stream.state(), Stream::Fresh);
-    stream.streamStimulus();
-    EXPECT_EQ(stream.state(), Stream::Running);
-    EXPECT_TRUE(stream.stop());
-    EXPECT_EQ(stream.state(), Stream::Stopped);
-    bus().clearReceived();
-    data.stimulus.set(100, 1, 0, 1, true);
-    stream.streamStimulus();
-    EXPECT_EQ(received("800a400000800940"), 1) << "asked for room, and told no period";
-    setFault({Fault::Deaf});
-    EXPECT_FALSE(stream.stop());
-    EXPECT_EQ(stream.state(), Stream::Running) << "as far as anybody knows";
-    stream.reset();
-    EXPECT_EQ(stream.state(), Stream::Fresh);
-    EXPECT_FALSE(data.stimulusIsActive());
-}
-
 TEST_F(Operations, AFullReadOnADamagedLineSucceeds)
 {
     // One reply in a hundred damaged, in thirty reads: each of the about two thousand replies has its chance.

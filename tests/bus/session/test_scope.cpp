@@ -144,15 +144,6 @@ TEST_F(Scope, ADownloadIsNotBelievedWhenThePollBehindItFails)
     EXPECT_EQ(log().captures.last(), CaptureState::Idle);
 }
 
-TEST_F(Scope, ArmingCopiesTheSelection)
-{
-    arm(20000, captureAtOnce, selection({busVoltage}));
-    session().setupCapture(100, captureOnFault, selection({}));
-    ASSERT_TRUE(waitForPlot());
-    EXPECT_THAT(log().plots.last()[busVoltage].samples, SizeIs(2000));
-    EXPECT_EQ(log().plots.last()[busVoltage].samples[1].first, 1 / 20000.0);
-}
-
 TEST_F(Scope, WithoutAChannelNothingIsSent)
 {
     arm(20000, captureAtOnce, selection({}));

@@ -12,7 +12,6 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QLocale>
-#include <QRegularExpression>
 #include <QTemporaryDir>
 
 #include <functional>
@@ -122,18 +121,6 @@ TEST(Capture, ComesBackFromItsBlockAndItsPageToTheLastBit)
     const QByteArray block = captureBlockOf(page);
     EXPECT_FALSE(block.isEmpty() || block.contains('<') || block.contains('>') || block.contains('&'));
     EXPECT_TRUE(page.trimmed().endsWith("</html>"));
-
-    // What the plotter writes for a plain capture is unchanged but for the block.
-    CaptureRecord plain = original;
-    plain.drive.model = QStringLiteral("Torva");
-    const QString bare =
-        CapturePlotter().generatePlotPage(plain.channels, plain.settings.getParamsHTMLList(), plain.drive.model);
-    const QString whole = capturePage(plain);
-    const QString element = whole.mid(whole.indexOf("<script type=\"application/json\""));
-    EXPECT_EQ(QString(whole)
-                  .remove(element.left(element.indexOf("</script>\n") + 10))
-                  .remove(QRegularExpression("[0-9.]+ [0-9:]+<")),
-              QString(bare).remove(QRegularExpression("[0-9.]+ [0-9:]+<")));
 }
 
 TEST(Capture, NamesOfAForeignFileAreNoScriptInThePage)
