@@ -336,6 +336,14 @@ TEST_F(Transfer, ValuesAreCompleteOnceEverythingWasReadInThisConnection)
     ASSERT_TRUE(waitForDisconnect());
     EXPECT_EQ(log().read.size(), before) << "a part hands no values to anyone";
     EXPECT_FALSE(session().valuesAreComplete());
+
+    // The end of the next connection is told, too.
+    bus().clearFaults();
+    bus().setTurnAround(std::chrono::milliseconds(0));
+    ASSERT_TRUE(connectTo());
+    bus().unplug();
+    ASSERT_TRUE(waitForDisconnect());
+    EXPECT_TRUE(waitUntil([this] { return log().errors.size() == 2; }));
 }
 
 TEST_F(Transfer, CommandsAreTheWritesTheyStandFor)
