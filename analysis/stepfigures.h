@@ -29,36 +29,10 @@
 #ifndef STEPFIGURES_H
 #define STEPFIGURES_H
 
-#include "capture.h"
+#include "figure.h"
+#include "steprecord.h"
 
 #include <QJsonObject>
-
-#include <optional>
-#include <vector>
-
-/// A number, or why there is none.
-struct Figure
-{
-    std::optional<double> value;
-    QString reason; ///< one sentence to show; empty beside a number
-};
-
-/// What the figures are made of. `setpoint` and `measured` are equally long.
-struct StepRecord
-{
-    double period = 0.0; ///< s
-    std::vector<double> setpoint;
-    std::vector<double> measured;
-    std::vector<double> torqueSetpoint; ///< A; empty when it was not recorded
-    std::optional<double> currentLimit; ///< A, MMC; nothing when it is not known
-    /// Setpoint before the first sample, where it is known: a recorder that a change starts may have missed the sample
-    /// before it.
-    std::optional<double> before;
-    double resolution = 1.0;                ///< smallest difference between two measured values
-    double currentResolution = 1.0 / 560.0; ///< A
-    QString unit;                           ///< of setpoint and measured, e.g. "cnts"
-    QString channel;                        ///< key of the measured channel, e.g. "posmeas"
-};
 
 struct StepFigures
 {
@@ -70,11 +44,6 @@ struct StepFigures
 
 /// Any record, also an empty one: then no figure has a number. Plain computing, some milliseconds, any thread.
 StepFigures stepFigures(const StepRecord &record);
-
-/// The setpoint and the measured channel that belong together: position, velocity or torque, the one first that the
-/// control mode (CM) names, and one whose setpoint changes before one whose does not. The tracking error stands in for
-/// a position that was not recorded. The current limit is MMC of the settings.
-StepRecord stepRecordOf(const CaptureRecord &capture);
 
 inline StepFigures stepFigures(const CaptureRecord &capture)
 {

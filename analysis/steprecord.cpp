@@ -1,5 +1,5 @@
 // Which channels of a capture a step is measured on.
-#include "stepfigures.h"
+#include "steprecord.h"
 
 #include "traces.h"
 

@@ -46,7 +46,7 @@ CaptureRecord record()
         channel.enabled = true;
         capture.channels.append(channel);
     }
-    for (int word = 0; word < sim::Recorder::Words; ++word) {
+    for (int word = 0; word < sim::Recorder::words; ++word) {
         drive.write(sim::reg::RecorderAddress, word);
         CaptureData &channel = capture.channels[word % channelCount];
         channel.samples.append(

@@ -1,6 +1,7 @@
 // What the window costs at its start, beside a bare window with an empty view of the same web engine: time to the first
 // paint and to the first page, and memory of all processes then. Both are started in turn by this program, so that the
 // machine is the same; read the ratios, not the figures.
+#include "enginestart.h"
 #include "helpview.h"
 #include "mw.h"
 
@@ -160,7 +161,7 @@ int main(int argc, char **argv)
     const qint64 start = argc > 2 ? QByteArray(argv[2]).toLongLong() : now();
     qputenv("QT_LOGGING_RULES", "*.debug=false;js.info=false");
     if (mode == QLatin1String("window"))
-        HelpView::prepareEngine();
+        prepareEngine();
     else if (geteuid() == 0)
         qputenv("QTWEBENGINE_CHROMIUM_FLAGS", "--no-sandbox");
     if (!mode.isEmpty()) {

@@ -12,7 +12,6 @@ constexpr std::uint8_t serialPortType = 1;
 constexpr int dropLimit = 64 * 1024;
 
 BusDevice devices[maxBusDevices];
-bool initialised = false;
 
 BusDevice *openDevice(int handle)
 {
@@ -43,13 +42,10 @@ void zbBDinit()
         device.open = 0;
         clearBuffers(device);
     }
-    initialised = true;
 }
 
 int zbBDOpen(const char *name)
 {
-    if (!initialised)
-        zbBDinit();
     int handle = 0;
     while (handle < maxBusDevices && devices[handle].open)
         ++handle;

@@ -25,7 +25,7 @@ struct BusDevice
     std::int32_t receiveNext = 0;  ///< the next of them to hand out
 };
 
-/// Clears type, open flag and buffers of every record. The first zbBDOpen does this by itself.
+/// Clears type, open flag and buffers of every record; so they are at the start, too.
 void zbBDinit();
 
 /// Opens the lowest free device on a serial port at 460800 baud; the name must begin with "COM" or "/dev/tty". Returns

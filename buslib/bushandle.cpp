@@ -1,6 +1,6 @@
-#include "bushandle.h"
-
+// The API of a bus: opening and closing it, its time-out, its cumulative status.
 #include "busdevice.h"
+#include "busrecord.h"
 #include "debug.h"
 #include "serialport.h"
 
@@ -11,53 +11,12 @@ namespace {
 
 constexpr int libraryVersion = 0x20001;
 
-BusState buses[ZB_MAX_BUSES];
-bool initialised = false;
-
 } // namespace
-
-void resetReceiveSide(BusState &bus)
-{
-    bus.previousReceiveState = ReceiveCommandId;
-    bus.receiveState = ReceiveCommandId;
-    bus.expectedPayloadSize = payloadSizeUnknown;
-    bus.payloadIndex = 0;
-    bus.receivedCommandId = 0;
-    bus.receivedAddress = noAddress;
-    bus.runningChecksum = 0;
-    bus.receivedChecksum = noChecksum;
-    bus.queueOverflow = 0;
-    bus.queueWriteLength = 0;
-    bus.returnReadIndex = 0;
-}
-
-BusState *busRecord(ZbHandle handle)
-{
-    return handle >= 0 && handle < ZB_MAX_BUSES ? &buses[handle] : nullptr;
-}
-
-BusState *openBus(ZbHandle handle)
-{
-    BusState *bus = busRecord(handle);
-    return bus && bus->open ? bus : nullptr;
-}
-
-void zbBusesInit()
-{
-    for (BusState &bus : buses) {
-        bus.open = 0;
-        bus.packetComplete = 0;
-        resetReceiveSide(bus);
-    }
-    initialised = true;
-}
 
 ZbHandle zbOpenBus(const char *name)
 {
-    if (!initialised)
-        zbBusesInit();
     ZbHandle handle = 0;
-    while (handle < ZB_MAX_BUSES && buses[handle].open)
+    while (handle < ZB_MAX_BUSES && busRecord(handle)->open)
         ++handle;
     if (handle == ZB_MAX_BUSES) {
         errno = EMFILE;
@@ -66,7 +25,7 @@ ZbHandle zbOpenBus(const char *name)
     const int device = zbBDOpen(name);
     if (device == -1)
         return -1;
-    BusState &bus = buses[handle];
+    BusState &bus = *busRecord(handle);
     bus.deviceHandle = static_cast<std::int8_t>(device);
     std::strncpy(bus.name, name, sizeof bus.name - 1);
     bus.name[sizeof bus.name - 1] = '\0';
@@ -95,7 +54,7 @@ ZbStatus zbSetTimeout(std::uint16_t milliseconds)
 {
     if (milliseconds > ZB_MAX_TIMEOUT_MS)
         return ZB_ERR_PARAMETER;
-    readTimeoutMs = milliseconds;
+    setReadTimeout(milliseconds);
     return ZB_OK;
 }
 

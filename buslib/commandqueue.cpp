@@ -1,4 +1,4 @@
-#include "bushandle.h"
+#include "busrecord.h"
 #include "debug.h"
 #include "packet.h"
 

@@ -1,6 +1,6 @@
 #include "debug.h"
 
-#include "bushandle.h"
+#include "busrecord.h"
 
 #include <cstdarg>
 

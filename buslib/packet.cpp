@@ -1,7 +1,7 @@
 #include "packet.h"
 
 #include "busdevice.h"
-#include "bushandle.h"
+#include "busrecord.h"
 #include "checksum.h"
 #include "debug.h"
 #include "serialport.h"
@@ -202,7 +202,7 @@ ZbStatus zbReceiveReturnPacket(ZbHandle handle)
         return ZB_ERR_NODEVICE;
     zbDebug(handle, 3, "  Reading reply packet\n");
     bus->bytesHeard = 0;
-    const auto limit = std::chrono::steady_clock::now() + std::chrono::milliseconds(readTimeoutMs) + longestReply;
+    const auto limit = std::chrono::steady_clock::now() + std::chrono::milliseconds(readTimeout()) + longestReply;
     do {
         std::uint8_t byte = 0;
         if (!zbBDRead(bus->deviceHandle, &byte)) {

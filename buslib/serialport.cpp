@@ -13,9 +13,9 @@
 #include <termios.h>
 #include <unistd.h>
 
-std::uint16_t readTimeoutMs = 500;
-
 namespace {
+
+std::uint16_t readTimeoutMs = 500;
 
 struct BaudRate
 {
@@ -109,6 +109,16 @@ bool waitForRoom(int port, std::chrono::steady_clock::time_point deadline)
 }
 
 } // namespace
+
+void setReadTimeout(std::uint16_t milliseconds)
+{
+    readTimeoutMs = milliseconds;
+}
+
+std::uint16_t readTimeout()
+{
+    return readTimeoutMs;
+}
 
 int OpenComport(const char *path, int baudrate)
 {

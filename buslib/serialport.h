@@ -9,9 +9,10 @@
 
 #include <cstdint>
 
-/// Read time-out of ports opened from now on, in ms; a port takes it as whole tenths of a second, rounded down (below
-/// 100 a read never waits). Set through zbSetTimeout, 0-5000.
-extern std::uint16_t readTimeoutMs;
+/// Read time-out of ports opened from now on, in ms (500 at first); a port takes it as whole tenths of a second, rounded
+/// down (below 100 a read never waits). Set through zbSetTimeout, 0-5000.
+void setReadTimeout(std::uint16_t milliseconds);
+std::uint16_t readTimeout();
 
 /// How long a write may wait for room in the port's output buffer, in ms. A packet of 125 bytes takes 2.7 ms on the
 /// line, so this only ever passes on a port that no longer sends.

@@ -1,8 +1,9 @@
 // velbrin-cli: the drive session without a window, for scripts and for benches with many machines.
-#include "commandline.h"
+#include "commandparser.h"
 #include "commands.h"
 #include "driveclient.h"
 #include "interruption.h"
+#include "utf8locale.h"
 #include "virtualport.h"
 
 #include <QCoreApplication>
@@ -35,6 +36,7 @@ Outcome runCommand(const CommandLine &line, Interruption &interruption)
 
 int main(int argc, char **argv)
 {
+    useUtf8();
     QCoreApplication app(argc, argv);
     // The session's log is for those who ask for it, with QT_LOGGING_RULES="*.debug=true".
     QLoggingCategory::setFilterRules(QStringLiteral("*.debug=false"));

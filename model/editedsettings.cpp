@@ -20,6 +20,13 @@ void EditedSettings::edit(int index, double control)
     m_edited.replaceParam(p, index);
 }
 
+void EditedSettings::edit(const QString &name, double value)
+{
+    SingleParam p = m_edited.getParam(name);
+    p.value = value;
+    m_edited.replaceParam(p);
+}
+
 void EditedSettings::settle()
 {
     m_settled.clear();
@@ -52,16 +59,22 @@ bool EditedSettings::isPending() const
     return false;
 }
 
-QList<EditedSettings::Difference> EditedSettings::differences() const
+QList<Difference> EditedSettings::differences(const QString &modelName) const
+{
+    return m_driveWasRead ? ::differences(m_drive, m_edited, m_catalogue, modelName) : QList<Difference>();
+}
+
+QList<Difference> differences(const Parameters &drive, const Parameters &wanted, const Parameters &catalogue,
+                              const QString &modelName)
 {
     QList<Difference> found;
-    for (int i = 0; m_driveWasRead && i < m_edited.getParamCount(); ++i) {
-        const SingleParam wanted = m_edited.getParam(i);
-        const SingleParam held = m_drive.getParam(wanted.name);
-        if (wanted.readonly || held.name != wanted.name)
+    for (int i = 0; i < wanted.getParamCount(); ++i) {
+        const SingleParam edited = wanted.getParam(i);
+        const SingleParam held = drive.getParam(edited.name);
+        if (catalogue.getParam(edited.name).readonly || held.name != edited.name || !held.supportedInDevice(modelName))
             continue;
-        if (held.convertToDeviceScale(wanted.value) != held.convertToDeviceScale(held.value))
-            found.append({wanted.name, held.value, wanted.value});
+        if (held.convertToDeviceScale(held.value) != edited.convertToDeviceScale(edited.value))
+            found.append({edited.name, held.value, edited.value});
     }
     return found;
 }

@@ -15,6 +15,20 @@ struct ShownValue
     double exact;   ///< what that stands for until the control is edited
 };
 
+/// A setting that the drive would hold otherwise, in display units.
+struct Difference
+{
+    QString name;
+    double drive = 0.0;
+    double wanted = 0.0;
+};
+
+/// The writable settings of the model named `modelName` whose wanted value is another one on the drive's own scale, so
+/// that what only rounding makes is none; in the order of `wanted`. What is writable `catalogue` says, the program's
+/// own list: a list that came from a file may claim anything.
+QList<Difference> differences(const Parameters &drive, const Parameters &wanted, const Parameters &catalogue,
+                              const QString &modelName);
+
 /// One list of records, in catalogue order, and three questions about it: where it came from, whether it holds edits
 /// that the drive has not been given, and whether the drive has stored what it was given. Plain values without a
 /// control; one thread at a time.
@@ -32,13 +46,9 @@ public:
         PartOfDrive, ///< a read that failed half way, or a bootloader, which tells its identity only
         Drive,
     };
-    /// One setting whose edited value the drive has not got. Display scale, without a unit.
-    struct Difference
-    {
-        QString name;
-        double drive;
-        double edited;
-    };
+
+    /// `catalogue`: the program's own list, which says what can be written.
+    explicit EditedSettings(const Parameters &catalogue) : m_catalogue(catalogue) {}
 
     // --- What comes in ----------------------------------------------------------------------------------------
 
@@ -53,6 +63,8 @@ public:
     void showAs(const QString &name, const ShownValue &shown) { m_shown.insert(name, shown); }
     /// The control of the record at `index` holds this now.
     void edit(int index, double control);
+    /// The value of the first record with this name is wanted to be this.
+    void edit(const QString &name, double value);
 
     /// The controls agree with the drive as they stand; or the user lets a difference be.
     void settle();
@@ -75,11 +87,12 @@ public:
     bool isPending() const;
     /// Whether the drive's flash holds what was last applied.
     bool isSaved() const { return m_saved; }
-    /// Settings that the drive would hold otherwise after an Apply, in catalogue order: those whose edited value is
-    /// another one on the drive's own scale. Empty until the drive was read.
-    QList<Difference> differences() const;
+    /// What an Apply would change in a drive of this model; after a read, what it has not taken. Empty until the drive
+    /// was read.
+    QList<Difference> differences(const QString &modelName) const;
 
 private:
+    Parameters m_catalogue;
     Source m_source = Source::BareCatalogue;
     Parameters m_edited;
     Parameters m_drive;

@@ -57,8 +57,7 @@ SingleParam Parameters::getParam(int index) const
 bool Parameters::replaceParam(const SingleParam &p, int index)
 {
     SingleParam &stored = m_list[index];
-    // Not "!=" alone by chance: a NaN on either side counts as a change, too.
-    const bool changed = !(stored.value == p.value);
+    const bool changed = stored.value != p.value; // a NaN equals nothing: on either side it counts as a change
     stored = p;
     return changed;
 }

@@ -36,8 +36,7 @@ void SessionWorker::connectDrive(const ConnectRequest &request)
         disconnectDrive();
     qCDebug(sessionLog) << "connecting" << request.portName;
     resetDriveState();
-    if (!m_stops.hasTarget()) // a drive that cannot be identified can be told to stop all the same
-        m_stops.setTarget(request.portName, request.nodeAddress);
+    m_stops.suggestTarget(request.portName, request.nodeAddress);
     if (!openLine(request.portName, m_data.replyTimeoutMs))
         return;
     qCDebug(sessionLog) << "connected" << m_context.line.handle();

@@ -28,12 +28,13 @@ class Connection : public QThread, public SessionTasks
     Q_OBJECT
 
 public:
+    /// For deviceHasCapability(); which family has what stands with DeviceCapability.
     enum Capability {
-        CapRestartToDFU = 0,
-        CapMeasureRL = 1,
-        CapResetToFactory = 2,
-        CapControlModeChange = 3,
-        CapIOSideFirmware = 4,
+        CapRestartToDFU = int(DeviceCapability::RestartToDFU),
+        CapMeasureRL = int(DeviceCapability::MeasureRL),
+        CapResetToFactory = int(DeviceCapability::ResetToFactory),
+        CapControlModeChange = int(DeviceCapability::ControlModeChange),
+        CapIOSideFirmware = int(DeviceCapability::IOSideFirmware),
     };
 
     /// Builds the parameter catalogue and starts the worker thread.

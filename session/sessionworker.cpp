@@ -60,7 +60,7 @@ const SessionWorker::TaskRule *SessionWorker::ruleOf(int task)
         {T::TaskClearFaults, on<&W::m_commands, &C::clearFaults>, true, true},
         {T::TaskApplyEnableState, on<&W::m_commands, &C::applyEnableState>, true, false},
         {T::TaskStimulus, on<&W::m_stream, &StimulusStream::streamStimulus>, true, false},
-        {13, on<&W::doNothing>, false, true},
+        {13, on<&W::doNothing>, false, true}, // a code that was never given a name
         {T::TaskSaveToFlash, on<&W::m_commands, &C::saveToFlash>, true, false},
         {T::TaskStartHoming, on<&W::m_commands, &C::startHoming>, true, false},
         {T::TaskAbortHoming, on<&W::m_commands, &C::abortHoming>, true, false},

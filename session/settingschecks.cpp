@@ -45,32 +45,17 @@ QString refusal(const Parameters &drive, const Assignment &assignment, const QSt
     return QString();
 }
 
-QList<Difference> differences(const Parameters &first, const Parameters &second, const QString &modelName)
-{
-    QList<Difference> found;
-    const Parameters catalogue = driveParameterCatalogue();
-    for (int i = 0; i < first.getParamCount(); ++i) {
-        const SingleParam a = first.getParam(i);
-        const SingleParam b = second.getParam(a.name);
-        // The program's own list says what can be written, not the file.
-        if (catalogue.getParam(a.name).readonly || !b.supportedInDevice(modelName))
-            continue;
-        if (a.convertToDeviceScale(a.value) != b.convertToDeviceScale(b.value))
-            found.append({a.name, a.value, b.value});
-    }
-    return found;
-}
-
 ApplyResult applyResult(const Parameters &before, const Parameters &wanted, const Parameters &held,
                         const QString &modelName)
 {
+    const Parameters catalogue = driveParameterCatalogue();
     ApplyResult result;
-    result.notTaken = differences(wanted, held, modelName);
+    result.notTaken = differences(held, wanted, catalogue, modelName);
     const auto refused = [&result](const QString &name) {
         return std::any_of(result.notTaken.cbegin(), result.notTaken.cend(),
                            [&name](const Difference &difference) { return difference.name == name; });
     };
-    for (const Difference &difference : differences(wanted, before, modelName)) {
+    for (const Difference &difference : differences(before, wanted, catalogue, modelName)) {
         if (!refused(difference.name))
             result.applied.append(difference);
     }
@@ -84,8 +69,8 @@ QString applyLine(const ApplyResult &result)
                                         : tr("%1 applied").arg(result.applied.size());
     QStringList names;
     for (const Difference &difference : result.notTaken)
-        names.append(tr("%1 %2 -> %3")
-                         .arg(difference.name, shortNumber(difference.first), shortNumber(difference.second)));
+        names.append(
+            tr("%1 %2 -> %3").arg(difference.name, shortNumber(difference.wanted), shortNumber(difference.drive)));
     return tr("%1 applied, %2 not taken: %3")
         .arg(QString::number(result.applied.size()), QString::number(result.notTaken.size()),
              names.join(QLatin1String(", ")));

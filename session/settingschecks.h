@@ -1,9 +1,9 @@
 /// \file
-/// What may be written to a drive and what differs: plain functions over parameter lists.
+/// What may be written to a drive, and what became of a write: plain functions over parameter lists.
 #ifndef SETTINGSCHECKS_H
 #define SETTINGSCHECKS_H
 
-#include "parameters.h"
+#include "editedsettings.h"
 
 #include <QStringList>
 #include <optional>
@@ -22,24 +22,12 @@ std::optional<Assignment> parseAssignment(const QString &text);
 /// value is outside the limits that the drive gave. Empty when it may be written.
 QString refusal(const Parameters &drive, const Assignment &assignment, const QString &modelName);
 
-/// A setting that stands differently in two lists, in display units.
-struct Difference
-{
-    QString name;
-    double first = 0.0;
-    double second = 0.0;
-};
-
-/// The writable settings of the model that differ once they are converted to what goes over the bus: a difference that
-/// rounding makes is none.
-QList<Difference> differences(const Parameters &first, const Parameters &second, const QString &modelName);
-
-/// What became of a write: the settings that were wanted otherwise than the drive had them, told apart by what it holds
-/// behind it. `first` is what was wanted; `second` what the drive had, or, where it did not take it, what it has.
+/// What became of a write: the settings that were wanted otherwise than the drive had them `before`, told apart by what
+/// it holds behind it.
 struct ApplyResult
 {
-    QList<Difference> applied;
-    QList<Difference> notTaken;
+    QList<Difference> applied;  ///< with what the drive had
+    QList<Difference> notTaken; ///< with what it has instead
 };
 ApplyResult applyResult(const Parameters &before, const Parameters &wanted, const Parameters &held,
                         const QString &modelName);

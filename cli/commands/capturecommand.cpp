@@ -1,5 +1,5 @@
 // Recording what the drive does, and letting it do something while it is recorded.
-#include "commands.h"
+#include "commandgroups.h"
 
 #include "capturefiles.h"
 #include "captureorder.h"

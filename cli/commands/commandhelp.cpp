@@ -1,5 +1,7 @@
 #include "commandhelp.h"
 
+#include "commands.h"
+
 #include <QCoreApplication>
 
 namespace {

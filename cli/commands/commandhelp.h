@@ -3,7 +3,7 @@
 #ifndef COMMANDHELP_H
 #define COMMANDHELP_H
 
-#include "commands.h"
+#include "command.h"
 
 #include <QString>
 

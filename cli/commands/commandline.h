@@ -26,9 +26,4 @@ struct CommandLine
     QString answer;  ///< text of --help or --version: print it and do nothing else
 };
 
-/// `arguments` begins with the program's name, as QCoreApplication::arguments() does. The common options may stand
-/// before and after the command, its own behind it, with "=" or a space before their value; a word that begins like a
-/// negative number is no option.
-CommandLine parseCommandLine(const QStringList &arguments);
-
 #endif

@@ -1,5 +1,5 @@
 // Restarting a drive, replacing its firmware, and looking into firmware files.
-#include "commands.h"
+#include "commandgroups.h"
 
 #include "commandline.h"
 #include "driveclient.h"
@@ -64,18 +64,10 @@ bool connectToUpgrade(DriveClient &client, const CommandLine &line, QStringList 
     return client.liveState().has_value();
 }
 
-Outcome flash(DriveClient &client, const CommandLine &line)
+/// Until the drive has its firmware, or somebody has insisted on breaking it off.
+void upgrade(DriveClient &client, const QString &fileName, bool resetsSettings, UpgradeLog &log)
 {
-    QStringList messages;
-    if (!connectToUpgrade(client, line, messages))
-        return failed(messages);
-    const bool resetsSettings = line.has("reset-to-factory");
-    if (resetsSettings && !client.session().deviceHasCapability(Connection::CapResetToFactory))
-        return failed({tr("A %1 cannot reset its settings in an upgrade.").arg(modelName(client))});
-
     const QString upgrading = tr("Upgrading");
-    UpgradeLog log;
-    log.printsLines = !line.json;
     client.received().upgradeMessage = [&](const QString &html, bool done, bool failed) {
         log.take(client, html, done, failed);
     };
@@ -88,7 +80,7 @@ Outcome flash(DriveClient &client, const CommandLine &line)
         tr("An upgrade is running. Breaking it off leaves the drive without a firmware until the next "
            "upgrade. Ask once more to break it off."));
     client.beCareful();
-    client.session().setFirmwareFileName(line.arguments.first(), resetsSettings);
+    client.session().setFirmwareFileName(fileName, resetsSettings);
     client.session().command(Connection::TaskFlashFirmware);
     client.waitFor(
         upgrading, [&log] { return log.isDone; }, upgradeLimitMs);
@@ -96,7 +88,20 @@ Outcome flash(DriveClient &client, const CommandLine &line)
         client.close(); // ends the upload; what it still has to say belongs to the log
     client.received().upgradeMessage = nullptr;
     client.received().uploadProgress = nullptr;
+}
 
+Outcome flash(DriveClient &client, const CommandLine &line)
+{
+    QStringList messages;
+    if (!connectToUpgrade(client, line, messages))
+        return failed(messages);
+    const bool resetsSettings = line.has("reset-to-factory");
+    if (resetsSettings && !client.session().deviceHasCapability(Connection::CapResetToFactory))
+        return failed({tr("A %1 cannot reset its settings in an upgrade.").arg(modelName(client))});
+
+    UpgradeLog log;
+    log.printsLines = !line.json;
+    upgrade(client, line.arguments.first(), resetsSettings, log);
     Outcome outcome;
     outcome.status = log.isDone && !log.hasFailed ? ExitDone : ExitFailed;
     if (log.hasFailed)

@@ -1,5 +1,5 @@
 // Commands that let a drive move, and those that stop it.
-#include "commands.h"
+#include "commandgroups.h"
 
 #include "commandline.h"
 #include "driveclient.h"
@@ -60,17 +60,47 @@ Outcome enable(DriveClient &client, const CommandLine &line)
     return outcome;
 }
 
+/// Where no drive is named, none may be left running: neither for want of the option nor because another one answered.
+/// The second search finds the drive whose reply to the first was lost.
+Outcome disableAll(DriveClient &client)
+{
+    Table table{{"address", "model", "state"}, {}};
+    QList<int> addresses;
+    bool areDisabled = true;
+    for (int search = 0; search < 2; ++search) {
+        const auto nodes = client.scan();
+        areDisabled = areDisabled && nodes.has_value();
+        for (const NodeType &node : nodes.value_or(QList<NodeType>())) {
+            if (addresses.contains(node.address))
+                continue;
+            addresses.append(node.address);
+            QString state = modeName(true); // in which nothing moves
+            if (!node.firmwareUpgradeMode || node.unreadable) {
+                client.session().setDisableTarget(client.port(), node.address);
+                const bool isDisabled = disableDrive(client);
+                state = isDisabled ? QStringLiteral("disabled") : QStringLiteral("unconfirmed");
+                areDisabled = areDisabled && isDisabled;
+            }
+            table.rows.append({node.address, nodeName(node), state});
+        }
+    }
+    if (addresses.isEmpty())
+        return failed({tr("No drive answers on %1, so none was disabled.").arg(client.port())});
+    return {areDisabled ? ExitDone : ExitFailed,
+            toResults(table),
+            {tr("Without --node, what answered on %1 was disabled; a drive that did not answer was not.")
+                 .arg(client.port())}};
+}
+
 /// The disable goes out first, before anything that a bad line could keep from succeeding.
 Outcome disable(DriveClient &client, const CommandLine &line)
 {
-    QStringList messages;
-    const auto node = nodeOf(client, line, Use::Look, messages);
-    if (!node)
-        return failed(messages);
     client.received().notes = false;
-    client.session().setDisableTarget(client.port(), *node);
+    if (line.node == 0)
+        return disableAll(client);
+    client.session().setDisableTarget(client.port(), line.node);
     const bool isDisabled = disableDrive(client);
-    if (!client.connectTo(*node) || !client.liveState()) {
+    if (!client.connectTo(line.node) || !client.liveState()) {
         if (!isDisabled)
             return failed();
         client.close();
@@ -205,11 +235,13 @@ enabled when the command has ended: nothing watches it then. "disable" ends it.
 Prints state, setpoint in use (setpoint units) and position feedback (counts), tab separated. When the motor is not
 powered within 3 s, or the drive does not confirm it, the enable is taken back and the reason told. Ctrl+C disables.)")),
         Command("disable", disable).says(TEXT("disable the drive, and wait until its state shows it"), TEXT(R"(
-Goes out before anything else is asked. Give --node: the search for drives would take 2.5 s. Exit status 1 when the
-drive has not confirmed that it is disabled; it may then still be running. This is no emergency stop.
+Goes out before anything else is asked. Give --node: without it the bus is searched, which takes 2.5 s, and every drive
+that answers is disabled; then it is searched once more, for a drive whose answer was lost. Exit status 1 when a drive
+has not confirmed that it is disabled; it may then still be running. This is no emergency stop.
 
 Prints state, setpoint in use (setpoint units) and position feedback (counts), tab separated; only the state when the
-drive could be disabled but not identified.)")),
+drive could be disabled but not identified. Without --node, a line a drive: address, model and what became of it
+("disabled", "unconfirmed", or "upgrade" in firmware-upgrade mode, where nothing moves), tab separated.)")),
         Command("clear-faults", clearFaults).says(TEXT("clear the drive's faults"), TEXT(R"(
 A drive that is still enabled runs again when its faults are gone; "disable" it first if it must not. Exit status 1 when
 a fault is still there or comes back at once.

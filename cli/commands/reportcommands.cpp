@@ -1,5 +1,5 @@
 // Figures of saved captures, and the commissioning report.
-#include "commands.h"
+#include "commandgroups.h"
 
 #include "capturefigures.h"
 #include "capturefile.h"

@@ -1,5 +1,5 @@
 // What a drive's settings are, and changing them; and the search for drives.
-#include "commands.h"
+#include "commandgroups.h"
 
 #include "catalogue.h"
 #include "commandline.h"
@@ -58,24 +58,21 @@ Outcome read(DriveClient &client, const CommandLine &line)
 Outcome write(DriveClient &client, const CommandLine &line)
 {
     QStringList messages;
-    const auto drive = readDrive(client, line, Use::Act, messages);
-    if (!drive)
+    auto settings = readToEdit(client, line, Use::Act, messages);
+    if (!settings)
         return failed(messages);
-    Parameters wanted = *drive;
     QStringList names;
     for (const QString &text : line.arguments) {
         const Assignment assignment = *parseAssignment(text);
-        const QString reason = refusal(*drive, assignment, modelName(client));
+        const QString reason = refusal(settings->drive(), assignment, modelName(client));
         if (!reason.isEmpty())
             messages.append(reason);
-        SingleParam param = wanted.getParam(assignment.name);
-        param.value = assignment.value;
-        wanted.replaceParam(param);
+        settings->edit(assignment.name, assignment.value);
         names.append(assignment.name);
     }
     if (!messages.isEmpty())
         return failed(messages + QStringList(tr("Nothing was written.")));
-    return applySettings(client, line, wanted, names);
+    return applySettings(client, line, *settings, names);
 }
 
 Outcome save(DriveClient &client, const CommandLine &line)
@@ -94,16 +91,15 @@ Outcome save(DriveClient &client, const CommandLine &line)
 Outcome load(DriveClient &client, const CommandLine &line)
 {
     QStringList messages;
-    const auto drive = readDrive(client, line, Use::Act, messages);
-    if (!drive)
+    auto settings = readToEdit(client, line, Use::Act, messages);
+    if (!settings)
         return failed(messages);
-    const auto wanted = loadFile(client, line.arguments.first(), *drive, messages);
-    if (!wanted)
+    if (!loadFile(client, line.arguments.first(), *settings, messages))
         return failed(messages + QStringList(tr("Nothing was written.")));
     QStringList changed;
-    for (const Difference &difference : differences(*drive, *wanted, modelName(client)))
+    for (const Difference &difference : settings->differences(modelName(client)))
         changed.append(difference.name);
-    Outcome outcome = applySettings(client, line, *wanted, changed);
+    Outcome outcome = applySettings(client, line, *settings, changed);
     outcome.messages = messages + outcome.messages;
     return outcome;
 }
@@ -111,15 +107,12 @@ Outcome load(DriveClient &client, const CommandLine &line)
 Outcome compare(DriveClient &client, const CommandLine &line)
 {
     QStringList messages;
-    const auto drive = readDrive(client, line, Use::Look, messages);
-    if (!drive)
-        return failed(messages);
-    const auto file = loadFile(client, line.arguments.first(), *drive, messages);
-    if (!file)
+    auto settings = readToEdit(client, line, Use::Look, messages);
+    if (!settings || !loadFile(client, line.arguments.first(), *settings, messages))
         return failed(messages);
     Table table{{"name", "drive", "file"}, {}};
-    for (const Difference &difference : differences(*drive, *file, modelName(client)))
-        table.rows.append({difference.name, difference.first, difference.second});
+    for (const Difference &difference : settings->differences(modelName(client)))
+        table.rows.append({difference.name, difference.drive, difference.wanted});
     return {table.rows.isEmpty() ? ExitDone : ExitDifferent, toResults(table), messages};
 }
 

@@ -1,5 +1,5 @@
 // The drive's state in words, once or again and again.
-#include "commands.h"
+#include "commandgroups.h"
 
 #include "commandline.h"
 #include "driveclient.h"

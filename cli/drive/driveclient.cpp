@@ -24,24 +24,31 @@ DriveClient::DriveClient(const QString &port, double pauseScale) : m_port(port)
     qRegisterMetaType<QList<CaptureData>>("QList<CaptureData>");
     m_connection = std::make_unique<Connection>();
     m_connection->setPauseScale(pauseScale);
-    watchConnection();
+    watchDrive();
+    watchUpgrade();
+    watchMessages();
+    // Not queued: the thread is about to end.
+    connect(
+        m_connection.get(), &Connection::finished, this, [this] { m_ended.set_value(); }, Qt::DirectConnection);
 }
 
 DriveClient::~DriveClient() = default;
 
-void DriveClient::watchConnection()
+template <typename Signal, typename Store> void DriveClient::on(Signal signal, Store store)
 {
     // Queued: the signals come from the worker thread.
-    const auto on = [this](auto signal, auto store) {
-        connect(
-            m_connection.get(), signal, this,
-            [this, store](auto... arguments) {
-                store(arguments...);
-                if (m_done && m_done())
-                    m_loop.quit();
-            },
-            Qt::QueuedConnection);
-    };
+    connect(
+        m_connection.get(), signal, this,
+        [this, store](auto... arguments) {
+            store(arguments...);
+            if (m_done && m_done())
+                m_loop.quit();
+        },
+        Qt::QueuedConnection);
+}
+
+void DriveClient::watchDrive()
+{
     Received &to = m_received;
     on(&Connection::statusChanged,
        [&to](bool connected, const QString &) { to.link = connected ? Received::Link::Up : Received::Link::Lost; });
@@ -57,6 +64,11 @@ void DriveClient::watchConnection()
     on(&Connection::disableFinished, [&to](DisableOutcome outcome) { to.disableOutcome = outcome; });
     on(&Connection::captureStateChanged, [&to](CaptureState state) { to.captureState = state; });
     on(&Connection::plotReady, [&to](const QList<CaptureData> &capture) { to.plot = capture; });
+}
+
+void DriveClient::watchUpgrade()
+{
+    Received &to = m_received;
     on(&Connection::firmwareUpgradeMsg, [&to](const QString &html, bool done, bool failed) {
         if (to.upgradeMessage)
             to.upgradeMessage(html, done, failed);
@@ -65,6 +77,10 @@ void DriveClient::watchConnection()
         if (to.uploadProgress)
             to.uploadProgress(sentBytes, totalBytes);
     });
+}
+
+void DriveClient::watchMessages()
+{
     on(&Connection::message, [this](const Message &message) {
         const bool isWrong = message.kind != MessageKind::Note && message.kind != MessageKind::FileWarning;
         m_received.errors += isWrong;
@@ -73,8 +89,6 @@ void DriveClient::watchConnection()
     });
     on(&Connection::suggestDeviceRestart,
        [this] { say(tr("The drive is in permanent stop: save what it should keep, then restart it.")); });
-    connect(
-        m_connection.get(), &Connection::finished, this, [this] { m_ended.set_value(); }, Qt::DirectConnection);
 }
 
 void DriveClient::say(const QString &text)
@@ -151,8 +165,8 @@ int DriveClient::deviceType() const
 
 std::optional<Parameters> DriveClient::readBack(const QString &what)
 {
-    // A read that broke off still hands over its list, and the error comes after it. A poll that follows the list
-    // proves that the connection has survived.
+    // The end of a connection is told behind the list of its last read: a poll that follows the list proves that the
+    // connection has survived.
     m_received.list.reset();
     m_connection->getParams();
     m_connection->command(Connection::TaskUpdateStatus);

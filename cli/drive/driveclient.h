@@ -109,7 +109,11 @@ public slots:
     void interrupt();
 
 private:
-    void watchConnection();
+    void watchDrive();
+    void watchUpgrade();
+    void watchMessages();
+    /// Stores what a signal of the session brings, then looks whether the step that waits is done.
+    template <typename Signal, typename Store> void on(Signal signal, Store store);
     /// Reads all settings, behind whatever has been queued before.
     std::optional<Parameters> readBack(const QString &what);
     bool waitForSession(const QString &what, const std::function<bool()> &answered, int limitMs,

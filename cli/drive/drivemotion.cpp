@@ -48,7 +48,7 @@ bool enableDrive(DriveClient &client, QStringList &messages)
 {
     if (isOn(client.drive()))
         return true;
-    DisableAtEnd notYet(client);
+    DisableAtEnd unlessEnabled(client);
     client.session().setDriveEnableStatus(true);
     client.session().command(Connection::TaskApplyEnableState);
     client.received().disableOutcome.reset();
@@ -58,7 +58,7 @@ bool enableDrive(DriveClient &client, QStringList &messages)
     };
     client.waitForDrive(tr("Enabling"), isDecided, enableLimitMs);
     if (client.isUp() && !client.wasInterrupted() && !wasTakenBack() && isOn(client.drive())) {
-        notYet.release();
+        unlessEnabled.release();
         return true;
     }
     messages.append(tr("The drive did not enable."));

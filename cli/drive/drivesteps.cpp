@@ -1,5 +1,6 @@
 #include "drivesteps.h"
 
+#include "catalogue.h"
 #include "commandline.h"
 #include "driveclient.h"
 #include "plaintext.h"
@@ -48,11 +49,14 @@ Table settingsTable(const Parameters &list, const QStringList &names)
     return table;
 }
 
+QString nodeName(const NodeType &node)
+{
+    return node.unreadable ? tr("answers that cannot be read") : Connection::deviceModelName(node.deviceType, false);
+}
+
 QString nodeLine(const NodeType &node)
 {
-    const QString who =
-        node.unreadable ? tr("answers that cannot be read") : Connection::deviceModelName(node.deviceType, false);
-    return QStringLiteral("%1\t%2").arg(QString::number(node.address), who);
+    return QStringLiteral("%1\t%2").arg(QString::number(node.address), nodeName(node));
 }
 
 std::optional<int> nodeOf(DriveClient &client, const CommandLine &line, Use use, QStringList &messages)
@@ -66,8 +70,8 @@ std::optional<int> nodeOf(DriveClient &client, const CommandLine &line, Use use,
         messages = QStringList(tr("No drive answers on %1.").arg(client.port()));
     } else if (use == Use::Act && line.virtualDrives.isEmpty()) {
         // A search tells who answers now, not who was meant: a drive that is switched off leaves another the only one.
-        messages = found(tr("This command writes to a drive or moves it: name the drive with --node. The search found:"),
-                         *nodes);
+        messages = found(
+            tr("This command writes to a drive or moves it: name the drive with --node. The search found:"), *nodes);
     } else if (nodes->size() > 1 || nodes->first().unreadable) {
         messages = found(nodes->size() > 1 ? tr("There are several drives; choose one with --node:")
                                            : tr("The only address that answers cannot be read:"),
@@ -98,36 +102,49 @@ std::optional<Parameters> readDrive(DriveClient &client, const CommandLine &line
     return list;
 }
 
-std::optional<Parameters> loadFile(const DriveClient &client, const QString &fileName, const Parameters &drive,
-                                   QStringList &messages)
+std::optional<EditedSettings> readToEdit(DriveClient &client, const CommandLine &line, Use use, QStringList &messages)
 {
-    Parameters loaded = drive;
+    const auto list = readDrive(client, line, use, messages);
+    if (!list)
+        return std::nullopt;
+    EditedSettings settings(driveParameterCatalogue());
+    settings.accept(*list, EditedSettings::Source::Drive);
+    settings.setDrive(*list);
+    return settings;
+}
+
+bool loadFile(const DriveClient &client, const QString &fileName, EditedSettings &settings, QStringList &messages)
+{
+    Parameters loaded = settings.drive();
     LoadOutcome outcome = LoadOutcome::Refused;
     const QString text = loaded.loadFromFile(fileName, &outcome);
     if (!text.isEmpty())
         messages.append(plainText(text));
     if (outcome == LoadOutcome::Refused)
-        return std::nullopt;
-    const QStringList kept = keepWhereFileHasNone(loaded, drive, modelName(client));
+        return false;
+    const QStringList kept = keepWhereFileHasNone(loaded, settings.drive(), modelName(client));
     if (!kept.isEmpty())
         messages.append(tr("The file has no value for %1; the drive's own stays.").arg(kept.join(QLatin1String(", "))));
-    return loaded;
+    settings.accept(loaded, EditedSettings::Source::File);
+    return true;
 }
 
-Outcome applySettings(DriveClient &client, const CommandLine &line, const Parameters &wanted, const QStringList &names)
+Outcome applySettings(DriveClient &client, const CommandLine &line, const EditedSettings &settings,
+                      const QStringList &names)
 {
     const int errors = client.received().errors;
-    const auto held = client.write(wanted);
+    const auto held = client.write(settings.edited());
     if (!held)
         return failed({tr("Broken off while writing: the drive may hold some of the new values in its working memory. "
                           "Nothing was saved to its flash.")});
     Outcome outcome;
     Table notTaken{{"name", "asked", "held"}, {}};
-    for (const Difference &difference : differences(wanted, *held, modelName(client))) {
-        notTaken.rows.append({difference.name, difference.first, difference.second});
+    const ApplyResult result = applyResult(settings.drive(), settings.edited(), *held, modelName(client));
+    for (const Difference &difference : result.notTaken) {
+        notTaken.rows.append({difference.name, difference.wanted, difference.drive});
         outcome.messages.append(
             tr("%1: %2 was not taken, the drive has %3.")
-                .arg(difference.name, shortNumber(difference.first), shortNumber(difference.second)));
+                .arg(difference.name, shortNumber(difference.wanted), shortNumber(difference.drive)));
     }
     // The session has told why, and there may be nothing to compare: an override's value goes to another register.
     if (client.received().errors != errors)

@@ -3,8 +3,8 @@
 #ifndef DRIVESTEPS_H
 #define DRIVESTEPS_H
 
+#include "editedsettings.h"
 #include "outcome.h"
-#include "parameters.h"
 
 #include <optional>
 
@@ -16,6 +16,8 @@ struct CommandLine;
 QString modelName(const DriveClient &client);
 /// "normal" or "upgrade".
 QString modeName(bool upgradeMode);
+/// Model of a drive that a search has found, or that its answers cannot be read.
+QString nodeName(const NodeType &node);
 /// Address and model of a drive that a search has found, tab separated.
 QString nodeLine(const NodeType &node);
 /// name, value, minimum, maximum of the named settings in their order; of all, in catalogue order, without names.
@@ -23,7 +25,7 @@ Table settingsTable(const Parameters &list, const QStringList &names);
 
 /// What a command connects for.
 enum class Use {
-    Look, ///< reads, or stops
+    Look, ///< reads
     Act,  ///< writes or moves: on a real bus the drive has to be named
 };
 
@@ -36,12 +38,15 @@ std::optional<int> nodeOf(DriveClient &client, const CommandLine &line, Use use,
 /// Connects and reads all settings.
 std::optional<Parameters> readDrive(DriveClient &client, const CommandLine &line, Use use, QStringList &messages);
 
-/// Loads a file over the drive's list. No value when the file was refused; a warning is a message.
-std::optional<Parameters> loadFile(const DriveClient &client, const QString &fileName, const Parameters &drive,
-                                   QStringList &messages);
+/// readDrive() as the start of edits.
+std::optional<EditedSettings> readToEdit(DriveClient &client, const CommandLine &line, Use use, QStringList &messages);
 
-/// Writes `wanted`, reads it back, reports what the drive did not take, and saves to flash where that was asked for and
-/// everything was taken. The result shows the settings named in `names`.
-Outcome applySettings(DriveClient &client, const CommandLine &line, const Parameters &wanted, const QStringList &names);
+/// Loads a file over the drive's settings. False when the file was refused; a warning is a message.
+bool loadFile(const DriveClient &client, const QString &fileName, EditedSettings &settings, QStringList &messages);
+
+/// Writes what is edited, reads it back, reports what the drive did not take, and saves to flash where that was asked
+/// for and everything was taken. The result shows the settings named in `names`.
+Outcome applySettings(DriveClient &client, const CommandLine &line, const EditedSettings &settings,
+                      const QStringList &names);
 
 #endif

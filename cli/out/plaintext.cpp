@@ -69,10 +69,11 @@ QString plainText(const QString &html)
     text.replace(lineBreak, QStringLiteral("\n"));
     text.remove(tag);
     text = replaceEach(text, entity, entityCharacter);
-    // A file's text must not steer the terminal.
-    std::replace_if(
-        text.begin(), text.end(), [](QChar c) { return c.category() == QChar::Other_Control && c != u'\n'; },
-        QChar(u'?'));
+    // A file's text must not steer the terminal, nor turn round the order in which it is read.
+    const auto steers = [](QChar c) {
+        return (c.category() == QChar::Other_Control && c != u'\n') || c.category() == QChar::Other_Format;
+    };
+    std::replace_if(text.begin(), text.end(), steers, QChar(u'?'));
     QStringList lines;
     for (const QString &line : text.split(QLatin1Char('\n'))) {
         if (!line.trimmed().isEmpty())

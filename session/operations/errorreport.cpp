@@ -86,12 +86,15 @@ void ErrorReport::tellRefusal(const SingleParam *param)
 
 void ErrorReport::tellLostLine(const QString &text)
 {
-    const bool unsafe = m_atStake.mayBeEnabled || m_atStake.stopIsUnconfirmed;
+    const bool unsafe = m_atStake.mayBeEnabled || m_atStake.stopIsUnconfirmed || m_atStake.isStreaming;
     QStringList parts;
     if (unsafe)
         parts << SessionText::tr("<b>The drive may still be powered.</b> Esc tries to disable it; the sure way is the "
                                  "machine's own stop.<br>");
     parts << text;
+    // Told here: whether the stop behind the end of a connection gets through has no message of its own.
+    if (m_atStake.isStreaming)
+        parts << SessionText::tr("The test stimulus was running: the axis may go on moving for up to five seconds.");
     if (!m_atStake.brokenOffWrite.isEmpty())
         parts << m_atStake.brokenOffWrite;
     tell(m_atStake.stopIsUnconfirmed ? MessageKind::UnconfirmedStop : MessageKind::LineLost,

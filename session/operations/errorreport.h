@@ -14,6 +14,7 @@ struct AtStake
 {
     bool mayBeEnabled = false;      ///< as far as polls and commands tell
     bool stopIsUnconfirmed = false; ///< a stop was sent and nothing has shown its effect
+    bool isStreaming = false;       ///< setpoints were sent, and no stop of them was acknowledged
     QString brokenOffWrite;         ///< what to say about the running write, empty when none was broken off
 };
 

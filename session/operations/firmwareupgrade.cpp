@@ -149,7 +149,7 @@ bool FirmwareUpgrade::flashFirmwareIOSide(const QList<quint16> &image, bool rese
         return false;
     flashProgress(twoProcessors ? SessionText::tr("Done. Uploading new IO side firmware...")
                                 : SessionText::tr("Done. Uploading new firmware..."));
-    if (!uploadImage(image, true))
+    if (!uploadImage(image, Chunks::Programmed))
         return false;
     flashProgress(SessionText::tr("Done!"));
     return m_bootloaderVersion < firstThatVerifies || verifyIOSide();
@@ -204,7 +204,7 @@ bool FirmwareUpgrade::flashFirmwareTCSide(const QList<quint16> &image)
                                       "TarnwellCore FW will remain intact"));
         return true;
     }
-    if (!uploadImage(image, false))
+    if (!uploadImage(image, Chunks::Kept))
         return false;
     flashProgress(SessionText::tr("Flashing TarnwellCore firmware (takes about 20 secs)..."));
     sendFlashCommand(reg::FlashProgramCore);
@@ -228,12 +228,12 @@ int FirmwareUpgrade::wordsToUpload(const QList<quint16> &image)
     return (image.size() + chunkWords - 1) / chunkWords * chunkWords;
 }
 
-bool FirmwareUpgrade::uploadImage(const QList<quint16> &image, bool programChunks)
+bool FirmwareUpgrade::uploadImage(const QList<quint16> &image, Chunks chunks)
 {
     m_drive.writeSetting(reg::ReturnLength, reg::ReturnsOutcome);
     const int words = wordsToUpload(image);
     for (int first = 0; first < words; first += chunkWords) {
-        if (m_pauses.isClosing() || !uploadChunk(image, first, programChunks))
+        if (m_pauses.isClosing() || !uploadChunk(image, first, chunks))
             return false;
         m_words.done += chunkWords;
         emit m_out.firmwareUploadProgress(2 * m_words.done, 2 * m_words.all);
@@ -245,13 +245,13 @@ bool FirmwareUpgrade::uploadImage(const QList<quint16> &image, bool programChunk
     return true;
 }
 
-bool FirmwareUpgrade::uploadChunk(const QList<quint16> &image, int first, bool program)
+bool FirmwareUpgrade::uploadChunk(const QList<quint16> &image, int first, Chunks chunks)
 {
     int items = 1 + chunkWords;
     m_line.append({QueueItem::Address, reg::FlashPipe});
     for (int i = first; i < first + chunkWords; ++i)
         m_line.append({QueueItem::Value24, i < image.size() ? image.at(i) : fillerWord});
-    if (program) {
+    if (chunks == Chunks::Programmed) {
         m_line.append({QueueItem::Address, reg::FlashCommand});
         m_line.append({QueueItem::Value24, reg::FlashProgramChunk});
         items += 2;

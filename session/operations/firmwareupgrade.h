@@ -31,8 +31,9 @@ private:
     bool verifyIOSide();
     bool flashFirmwareTCSide(const QList<quint16> &image);
     static int wordsToUpload(const QList<quint16> &image);
-    bool uploadImage(const QList<quint16> &image, bool programChunks);
-    bool uploadChunk(const QList<quint16> &image, int first, bool program);
+    enum class Chunks { Programmed, Kept }; ///< each at once, or kept until the whole image is there
+    bool uploadImage(const QList<quint16> &image, Chunks chunks);
+    bool uploadChunk(const QList<quint16> &image, int first, Chunks chunks);
 
     int m_bootloaderVersion = 0;
     struct

@@ -42,6 +42,7 @@ void StimulusStream::uploadStreamChunk()
 {
     const bool fresh = m_stream.state == Stream::Fresh;
     m_stream.state = Stream::Running;
+    m_atStake.isStreaming = true;
     for (int i = 0; i < streamChunkItems; ++i) {
         m_line.append(nextStreamItem(i, fresh));
         debug();
@@ -69,14 +70,18 @@ QueueItem StimulusStream::nextStreamItem(int index, bool fresh)
 bool StimulusStream::stop()
 {
     const bool acknowledged = m_drive.sendStop(reg::SystemCommand, reg::CommandStopStream);
-    if (acknowledged && m_stream.state == Stream::Running)
-        m_stream.state = Stream::Stopped;
+    if (acknowledged) {
+        m_atStake.isStreaming = false;
+        if (m_stream.state == Stream::Running)
+            m_stream.state = Stream::Stopped;
+    }
     return acknowledged;
 }
 
 void StimulusStream::reset()
 {
     m_stream = {};
+    m_atStake.isStreaming = false;
     std::lock_guard<std::mutex> lock(m_data.mutex);
     m_data.stimulus.stop();
 }

@@ -23,15 +23,19 @@ StopService::StopService(OperationContext &context, std::function<bool()> poll)
 void StopService::setTarget(const QString &portName, int nodeAddress)
 {
     m_streamWasLost = false;
+    m_knowsDrive = true;
     std::lock_guard<std::mutex> lock(m_data.mutex);
     m_data.targetPort = portName;
     m_data.targetNode = nodeAddress;
 }
 
-bool StopService::hasTarget() const
+void StopService::suggestTarget(const QString &portName, int nodeAddress)
 {
+    if (m_knowsDrive)
+        return;
     std::lock_guard<std::mutex> lock(m_data.mutex);
-    return !m_data.targetPort.isEmpty();
+    m_data.targetPort = portName;
+    m_data.targetNode = nodeAddress;
 }
 
 bool StopService::serveWaitingDisable()

@@ -24,7 +24,9 @@ public:
     int servedDisables() const { return m_servedDisables; }
     /// The port and address that a disable goes to while no drive is connected.
     void setTarget(const QString &portName, int nodeAddress);
-    bool hasTarget() const;
+    /// The same until a drive was connected, which then stays the target: a drive that cannot be identified can be told
+    /// to stop all the same.
+    void suggestTarget(const QString &portName, int nodeAddress);
     void disableWithoutConnection();
     /// In what was just polled: whether a disable took effect.
     void lookForDisable(const DriveState &state);
@@ -55,6 +57,7 @@ private:
     std::optional<Clock::time_point> m_disableSent; ///< until its outcome was announced
     bool m_enableIsToBeUndone = false;              ///< by a new opening of the port, since the old one gave no answer
     bool m_streamWasLost = false;
+    bool m_knowsDrive = false; ///< the target was connected
     int m_servedDisables = 0;
 };
 

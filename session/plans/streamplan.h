@@ -12,7 +12,6 @@ constexpr double streamLead = 5.0;   ///< seconds of setpoints kept waiting in t
 constexpr int streamItemBytes = 4;   ///< room that a stored item takes in the drive's buffer
 constexpr int streamChunkItems = 30; ///< items of one upload
 constexpr int streamChunkBytes = streamItemBytes * streamChunkItems;
-constexpr int streamInitialFree = 2048; ///< free bytes assumed until the drive has said
 
 /// First items of the first upload of a connection: 2-byte return values that tell the free bytes, setpoint register
 /// selected. The drive keeps these for the rest of the connection, so that a later start does not repeat them.

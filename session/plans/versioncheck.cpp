@@ -4,6 +4,8 @@
 #include "makerlinks.h"
 #include "sessiontext.h"
 
+#include <vector>
+
 namespace {
 
 constexpr SupportedVersion supportedVersions[] = {
@@ -12,62 +14,153 @@ constexpr SupportedVersion supportedVersions[] = {
     {11, 1078, 1078, 1078, 1078, 1078},
 };
 
-constexpr int lowestProtocol = 25;           // in normal mode
-constexpr int highestProtocol = 25;          // in both modes
-constexpr int lowestProtocolForUpgrade = 20; // a bootloader speaks less
-constexpr int lowestBootloader = 1200;
-constexpr int highestBootloader = 1300;
+enum Side { TooNew, TooOld };
+/// What a text quotes in place of %1, %2, ...
+enum Quote { ProgramPage, FirmwarePage, Version, LowestFirmware };
+
+struct Measured
+{
+    int DriveIdentity::*version;
+    int DriveIdentity::*companion;
+};
+constexpr Measured firmware{&DriveIdentity::firmwareVersion, &DriveIdentity::firmwareCompanion};
+constexpr Measured core{&DriveIdentity::coreVersion, &DriveIdentity::coreCompanion};
+constexpr Measured protocol{&DriveIdentity::protocolVersion, &DriveIdentity::protocolCompanion};
+
+/// One reason to refuse a drive: a version on the wrong side of its bound.
+struct Rule
+{
+    Measured measured;
+    Side side;
+    int SupportedVersion::*bound;
+    const char *text;
+    std::vector<Quote> quotes;
+    const char *restartNotice = nullptr; ///< behind the text when the drive is restarted into firmware-upgrade mode
+};
+using Rules = std::vector<Rule>;
+
+// In the order in which they are judged; the first that applies is told. Texts: context "Connection".
+const Rules firmwareRules = {
+    {firmware,
+     TooNew,
+     &SupportedVersion::highestFirmware,
+     QT_TRANSLATE_NOOP("Connection",
+                       "Device firmware version too new, not supported by this software version. Check for "
+                       "Velbrin upgrades from %1. Connected FW version: %2"),
+     {ProgramPage, Version}},
+    {firmware,
+     TooOld,
+     &SupportedVersion::lowestFirmware,
+     QT_TRANSLATE_NOOP("Connection",
+                       "Device firmware version too old, not supported by this software version. Check for "
+                       "firmware upgrades at %1. Connected FW Version is %2 and the olders supported FW "
+                       "version is %3.<br/><br/>You <i>may</i> need to use older Velbrin version to "
+                       "upgrade firmware. Old Velbrin release can be found from %4"),
+     {FirmwarePage, Version, LowestFirmware, ProgramPage},
+     QT_TRANSLATE_NOOP("Connection", "<br/><br/><b>Device now has been restarted in firmware upgrade mode. Try "
+                                     "connecting again and installing a newer firmware to it.</b>")},
+    {core,
+     TooNew,
+     &SupportedVersion::highestCore,
+     QT_TRANSLATE_NOOP("Connection", "Device TarnwellCore firmware version too new, not supported by this software "
+                                     "version. Check for Velbrin upgrades from %1. Connected TC FW version: %2"),
+     {ProgramPage, Version}},
+    {core,
+     TooOld,
+     &SupportedVersion::lowestCore,
+     QT_TRANSLATE_NOOP("Connection",
+                       "Device TarnwellCore firmware version too old, not supported by this software "
+                       "version. Check for firmware upgrades at %1. Connected TC FW Version is %2 and the "
+                       "olders supported TC FW version is %3.<br/><br/>You <i>may</i> need to use older "
+                       "Velbrin version to upgrade firmware. Old Velbrin release can be found from %4"),
+     // The lowest firmware, not the lowest core firmware, is what this text has always quoted.
+     {FirmwarePage, Version, LowestFirmware, ProgramPage},
+     QT_TRANSLATE_NOOP("Connection", "<br/><br/><b>Device now has been restarted in firmware upgrade mode. Try "
+                                     "connecting again and installing a newer firmware to it</b>.")},
+};
+
+const Rules bootloaderRules = {
+    {firmware,
+     TooNew,
+     &SupportedVersion::highestBootloader,
+     QT_TRANSLATE_NOOP("Connection", "Bootloader version too new, not supported by this software version. Check for "
+                                     "Velbrin upgrades. Connected BL Version: %1"),
+     {Version}},
+    {firmware,
+     TooOld,
+     &SupportedVersion::lowestBootloader,
+     QT_TRANSLATE_NOOP("Connection", "Bootloader version too old, not supported by this software version. Check older "
+                                     "Velbrin versions from %1. Connected BL Version: %2"),
+     {ProgramPage, Version}},
+};
+
+Rules protocolRules(int SupportedVersion::*lowest)
+{
+    return {
+        {protocol,
+         TooOld,
+         lowest,
+         QT_TRANSLATE_NOOP("Connection", "Zetabus protocol version too old, not supported by this software version. "
+                                         "Check older Velbrin versions from %1. Connected ZBV2 Version: %2"),
+         {ProgramPage, Version}},
+        {protocol,
+         TooNew,
+         &SupportedVersion::highestProtocol,
+         QT_TRANSLATE_NOOP("Connection", "Zetabus protocol version too new, not supported by this software version. "
+                                         "Check for Velbrin upgrades. Connected ZBV2 Version: %1"),
+         {Version}},
+    };
+}
 
 // A drive is out of bounds only with its version and its companion beyond the bound.
-bool tooNew(int version, int companion, int highest)
+bool applies(const Rule &rule, const DriveIdentity &drive, const SupportedVersion &supported)
 {
-    return version > highest && companion > highest;
+    const int version = drive.*rule.measured.version;
+    const int companion = drive.*rule.measured.companion;
+    const int bound = supported.*rule.bound;
+    return rule.side == TooNew ? version > bound && companion > bound : version < bound && companion < bound;
 }
 
-bool tooOld(int version, int companion, int lowest)
+QString textOf(const Rule &rule, const DriveIdentity &drive, const SupportedVersion &supported)
 {
-    return version < lowest && companion < lowest;
-}
-
-QString programPage()
-{
-    return makerWikiPage(QStringLiteral("/wiki/Velbrin"));
-}
-
-QString firmwarePage()
-{
-    return makerWikiPage(QStringLiteral("/wiki/Firmware"));
-}
-
-// Ends every refusal.
-QString instabilityNote()
-{
-    return SessionText::tr("<br/><br/>Note: it's also possible that this message is caused by connection instability. "
-                           "For troubleshooting, see %1")
-        .arg(makerWikiPage(QStringLiteral("/wiki/Device_connection_troubleshooting")));
-}
-
-VersionVerdict accepted()
-{
-    VersionVerdict verdict;
-    verdict.accepted = true;
-    return verdict;
+    QString text = SessionText::tr(rule.text);
+    for (const Quote quote : rule.quotes) {
+        switch (quote) {
+        case ProgramPage:
+            text = text.arg(makerWikiPage(QStringLiteral("/wiki/Velbrin")));
+            break;
+        case FirmwarePage:
+            text = text.arg(makerWikiPage(QStringLiteral("/wiki/Firmware")));
+            break;
+        case Version:
+            text = text.arg(drive.*rule.measured.version);
+            break;
+        case LowestFirmware:
+            text = text.arg(supported.lowestFirmware);
+            break;
+        }
+    }
+    return text;
 }
 
 VersionVerdict refused(const QString &text)
 {
     VersionVerdict verdict;
-    verdict.errorText = text + instabilityNote();
+    verdict.errorText =
+        text + SessionText::tr("<br/><br/>Note: it's also possible that this message is caused by connection "
+                               "instability. For troubleshooting, see %1")
+                   .arg(makerWikiPage(QStringLiteral("/wiki/Device_connection_troubleshooting")));
     verdict.statusText = SessionText::tr("Connect failed");
     return verdict;
 }
 
-// An outdated drive that can be restarted by command is left where new firmware can be installed at once.
-VersionVerdict refusedAsOutdated(const DriveIdentity &drive, const QString &text, const QString &restartNotice)
+VersionVerdict refused(const Rule &rule, const DriveIdentity &drive, const SupportedVersion &supported)
 {
-    if (!modelHasCapability(drive.deviceType, DeviceCapability::RestartToDFU))
+    const QString text = textOf(rule, drive, supported);
+    if (!rule.restartNotice || !modelHasCapability(drive.deviceType, DeviceCapability::RestartToDFU))
         return refused(text);
-    VersionVerdict verdict = refused(text + restartNotice);
+    // An outdated drive that can be restarted by command is left where new firmware can be installed at once.
+    VersionVerdict verdict = refused(text + SessionText::tr(rule.restartNotice));
     verdict.restartToDFU = true;
     verdict.notRestartedText =
         refused(text +
@@ -75,6 +168,17 @@ VersionVerdict refusedAsOutdated(const DriveIdentity &drive, const QString &text
                                 "confirm the command and is probably still in normal mode. Try connecting "
                                 "again.</b>"))
             .errorText;
+    return verdict;
+}
+
+VersionVerdict judge(const Rules &rules, const DriveIdentity &drive, const SupportedVersion &supported)
+{
+    for (const Rule &rule : rules) {
+        if (applies(rule, drive, supported))
+            return refused(rule, drive, supported);
+    }
+    VersionVerdict verdict;
+    verdict.accepted = true;
     return verdict;
 }
 
@@ -88,98 +192,15 @@ VersionVerdict unsupportedModel(int deviceType)
     return verdict;
 }
 
-VersionVerdict checkProtocol(const DriveIdentity &drive, int lowest)
+VersionVerdict outdatedCore()
 {
-    if (tooOld(drive.protocolVersion, drive.protocolCompanion, lowest))
-        return refused(SessionText::tr("Zetabus protocol version too old, not supported by this software version. "
-                                       "Check older Velbrin versions from %1. Connected ZBV2 Version: %2")
-                           .arg(programPage())
-                           .arg(drive.protocolVersion));
-    if (tooNew(drive.protocolVersion, drive.protocolCompanion, highestProtocol))
-        return refused(SessionText::tr("Zetabus protocol version too new, not supported by this software version. "
-                                       "Check for Velbrin upgrades. Connected ZBV2 Version: %1")
-                           .arg(drive.protocolVersion));
-    return accepted();
-}
-
-VersionVerdict firmwareTooNew(const DriveIdentity &drive)
-{
-    return refused(SessionText::tr("Device firmware version too new, not supported by this software version. Check for "
-                                   "Velbrin upgrades from %1. Connected FW version: %2")
-                       .arg(programPage())
-                       .arg(drive.firmwareVersion));
-}
-
-VersionVerdict firmwareTooOld(const DriveIdentity &drive, const SupportedVersion &supported)
-{
-    const QString text =
-        SessionText::tr("Device firmware version too old, not supported by this software version. Check for firmware "
-                        "upgrades at %1. Connected FW Version is %2 and the olders supported FW version is %3."
-                        "<br/><br/>You <i>may</i> need to use older Velbrin version to upgrade firmware. Old Velbrin "
-                        "release can be found from %4")
-            .arg(firmwarePage(), QString::number(drive.firmwareVersion), QString::number(supported.lowestFirmware),
-                 programPage());
-    return refusedAsOutdated(drive, text,
-                             SessionText::tr("<br/><br/><b>Device now has been restarted in firmware upgrade mode. Try "
-                                             "connecting again and installing a newer firmware to it.</b>"));
-}
-
-VersionVerdict coreTooNew(const DriveIdentity &drive)
-{
-    return refused(SessionText::tr("Device TarnwellCore firmware version too new, not supported by this software "
-                                   "version. Check for Velbrin upgrades from %1. Connected TC FW version: %2")
-                       .arg(programPage())
-                       .arg(drive.coreVersion));
-}
-
-VersionVerdict coreTooOld(const DriveIdentity &drive, const SupportedVersion &supported)
-{
-    const QString text =
-        SessionText::tr("Device TarnwellCore firmware version too old, not supported by this software version. Check "
-                        "for firmware upgrades at %1. Connected TC FW Version is %2 and the olders supported TC FW "
-                        "version is %3.<br/><br/>You <i>may</i> need to use older Velbrin version to upgrade firmware. "
-                        "Old Velbrin release can be found from %4")
-            // The lowest firmware, not the lowest core firmware, is what this text has always quoted.
-            .arg(firmwarePage(), QString::number(drive.coreVersion), QString::number(supported.lowestFirmware),
-                 programPage());
-    return refusedAsOutdated(drive, text,
-                             SessionText::tr("<br/><br/><b>Device now has been restarted in firmware upgrade mode. Try "
-                                             "connecting again and installing a newer firmware to it</b>."));
-}
-
-VersionVerdict checkNormalMode(const DriveIdentity &drive, const SupportedVersion &supported)
-{
-    if (tooNew(drive.firmwareVersion, drive.firmwareCompanion, supported.highestFirmware))
-        return firmwareTooNew(drive);
-    if (tooOld(drive.firmwareVersion, drive.firmwareCompanion, supported.lowestFirmware))
-        return firmwareTooOld(drive, supported);
-    if (tooNew(drive.coreVersion, drive.coreCompanion, supported.highestCore))
-        return coreTooNew(drive);
-    if (tooOld(drive.coreVersion, drive.coreCompanion, supported.lowestCore))
-        return coreTooOld(drive, supported);
-    if (supported.recommendedCore > drive.coreVersion) {
-        // Accepted without a look at the protocol: such a drive is asked to be upgraded, not turned away.
-        VersionVerdict verdict = accepted();
-        verdict.errorText = SessionText::tr("Connected device firmware version is outdated, an upgrade is recommended. "
-                                            "Download the latest FW from <i>%1</i>")
-                                .arg(firmwarePage());
-        return verdict;
-    }
-    return checkProtocol(drive, lowestProtocol);
-}
-
-VersionVerdict checkUpgradeMode(const DriveIdentity &drive)
-{
-    if (tooNew(drive.firmwareVersion, drive.firmwareCompanion, highestBootloader))
-        return refused(SessionText::tr("Bootloader version too new, not supported by this software version. Check for "
-                                       "Velbrin upgrades. Connected BL Version: %1")
-                           .arg(drive.firmwareVersion));
-    if (tooOld(drive.firmwareVersion, drive.firmwareCompanion, lowestBootloader))
-        return refused(SessionText::tr("Bootloader version too old, not supported by this software version. Check "
-                                       "older Velbrin versions from %1. Connected BL Version: %2")
-                           .arg(programPage())
-                           .arg(drive.firmwareVersion));
-    return checkProtocol(drive, lowestProtocolForUpgrade);
+    // Accepted without a look at the protocol: such a drive is asked to be upgraded, not turned away.
+    VersionVerdict verdict;
+    verdict.accepted = true;
+    verdict.errorText = SessionText::tr("Connected device firmware version is outdated, an upgrade is recommended. "
+                                        "Download the latest FW from <i>%1</i>")
+                            .arg(makerWikiPage(QStringLiteral("/wiki/Firmware")));
+    return verdict;
 }
 
 } // namespace
@@ -206,5 +227,13 @@ VersionVerdict checkVersions(const DriveIdentity &drive)
     const SupportedVersion *supported = supportedVersionOf(drive.deviceType);
     if (!supported)
         return unsupportedModel(drive.deviceType);
-    return drive.firmwareUpgradeMode ? checkUpgradeMode(drive) : checkNormalMode(drive, *supported);
+    const bool upgrading = drive.firmwareUpgradeMode;
+    const VersionVerdict verdict = judge(upgrading ? bootloaderRules : firmwareRules, drive, *supported);
+    if (!verdict.accepted)
+        return verdict;
+    if (!upgrading && supported->recommendedCore > drive.coreVersion)
+        return outdatedCore();
+    return judge(
+        protocolRules(upgrading ? &SupportedVersion::lowestProtocolForUpgrade : &SupportedVersion::lowestProtocol),
+        drive, *supported);
 }

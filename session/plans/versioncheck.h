@@ -31,6 +31,12 @@ struct SupportedVersion
     int lowestFirmware;
     int highestFirmware;
     int recommendedCore; ///< older core firmware is accepted with a warning
+    // So far the same for every family
+    int lowestBootloader = 1200;
+    int highestBootloader = 1300;
+    int lowestProtocol = 25;           ///< in normal mode
+    int highestProtocol = 25;          ///< in both modes
+    int lowestProtocolForUpgrade = 20; ///< a bootloader speaks less
 };
 
 struct VersionVerdict

@@ -22,13 +22,13 @@ bool Bootloader::command(std::int32_t command)
         program();
         return true;
     case Verify:
-        if (m_version < FirstToVerify)
+        if (m_version < firstToVerify)
             return false;
         verify();
         return true;
     case Start:
         // A bootloader that cannot verify starts whatever was programmed; a later one wants it verified first.
-        if (m_version < FirstToVerify && !m_flash.empty() && !m_spoiled)
+        if (m_version < firstToVerify && !m_flash.empty() && !m_spoiled)
             m_intact = true;
         return m_intact;
     case ProgramCore:
@@ -37,7 +37,7 @@ bool Bootloader::command(std::int32_t command)
         programCore();
         return true;
     case Protect:
-        if (m_version < FirstToProtect)
+        if (m_version < firstToProtect)
             return false;
         m_protected = true;
         return true;

@@ -21,9 +21,9 @@ public:
         EraseAndResetSettings = 11,
     };
 
-    static constexpr int DefaultVersion = 1260;
-    static constexpr int FirstToVerify = 1210;
-    static constexpr int FirstToProtect = 1260;
+    static constexpr int defaultVersion = 1260;
+    static constexpr int firstToVerify = 1210;
+    static constexpr int firstToProtect = 1260;
 
     static constexpr std::int32_t VerificationFailed = 0x80;
     static constexpr std::int32_t CutOff = 0x120; ///< an earlier upgrade was not finished
@@ -31,7 +31,7 @@ public:
     explicit Bootloader(bool hasIoProcessor) : m_hasIoProcessor(hasIoProcessor) {}
 
     int version() const { return m_version; }
-    /// Below FirstToVerify the verify command is refused, below FirstToProtect the protect command.
+    /// Below firstToVerify the verify command is refused, below firstToProtect the protect command.
     void setVersion(int version) { m_version = version; }
 
     /// Power-up: `intact` tells whether the flash holds a whole firmware.
@@ -60,7 +60,7 @@ private:
     void verify();
 
     bool m_hasIoProcessor;
-    int m_version = DefaultVersion;
+    int m_version = defaultVersion;
     std::vector<std::uint16_t> m_buffer; ///< uploaded, not programmed yet
     std::vector<std::uint16_t> m_flash;
     std::vector<std::uint16_t> m_core;

@@ -6,7 +6,7 @@ namespace sim {
 
 bool CommandBuffer::store(const Item &item)
 {
-    if (freeBytes() < ItemBytes)
+    if (freeBytes() < itemBytes)
         return false;
     m_items.push_back(item);
     return true;
@@ -27,7 +27,7 @@ void CommandBuffer::advance(int units)
 
 void CommandBuffer::addReturn(const Bytes &value)
 {
-    if (m_returns.size() + value.size() <= ReturnBytes)
+    if (m_returns.size() + value.size() <= returnBytes)
         m_returns.insert(m_returns.end(), value.begin(), value.end());
 }
 

@@ -12,10 +12,10 @@ namespace sim {
 class CommandBuffer
 {
 public:
-    static constexpr int Capacity = 2048; ///< bytes
-    static constexpr int ItemBytes = 4;   ///< whatever its length on the line
-    static constexpr std::size_t ReturnBytes = 120;
-    static constexpr int DefaultPeriod = 200; ///< 0.1 ms
+    static constexpr int capacity = 2048; ///< bytes
+    static constexpr int itemBytes = 4;   ///< whatever its length on the line
+    static constexpr std::size_t returnBytes = 120;
+    static constexpr int defaultPeriod = 200; ///< 0.1 ms
 
     /// False when the item does not fit.
     bool store(const Item &item);
@@ -26,7 +26,7 @@ public:
     bool isEmpty() const { return m_items.empty(); }
     const Item &next() const { return m_items.front(); }
     Item take();
-    int freeBytes() const { return Capacity - ItemBytes * int(m_items.size()); }
+    int freeBytes() const { return capacity - itemBytes * int(m_items.size()); }
 
     /// Time between two setpoints, 0.1 ms.
     void setPeriod(int period) { m_period = period; }
@@ -44,7 +44,7 @@ public:
 private:
     std::deque<Item> m_items;
     Bytes m_returns;
-    int m_period = DefaultPeriod;
+    int m_period = defaultPeriod;
     int m_wait = 0;
 };
 

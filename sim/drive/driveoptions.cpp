@@ -13,9 +13,9 @@ namespace sim {
 
 namespace {
 
-constexpr int NotGiven = 0;
-constexpr int LowestAddress = 1;
-constexpr int HighestAddress = 250; ///< above are the addresses of drives in firmware-upgrade mode
+constexpr int notGiven = 0;
+constexpr int lowestAddress = 1;
+constexpr int highestAddress = 250; ///< above are the addresses of drives in firmware-upgrade mode
 
 std::string parseDrive(const std::string &text, const std::string &defaultLoad, DriveOptions &drive)
 {
@@ -23,8 +23,8 @@ std::string parseDrive(const std::string &text, const std::string &defaultLoad, 
     const std::string named = text.substr(0, at);
     const std::size_t colon = named.find(':');
     drive.profile = named.substr(0, colon);
-    long address = NotGiven;
-    if (at != std::string::npos && !parseNumber(text.substr(at + 1), LowestAddress, HighestAddress, address))
+    long address = notGiven;
+    if (at != std::string::npos && !parseNumber(text.substr(at + 1), lowestAddress, highestAddress, address))
         return "\"" + text + "\": the address must be a number from 1 to 250";
     drive.address = static_cast<int>(address);
     if (colon == std::string::npos && defaultLoad.empty())
@@ -41,9 +41,9 @@ void placeDrives(std::vector<DriveOptions> &drives)
     };
     int address = DriveOptions().address;
     for (DriveOptions &drive : drives) {
-        while (drive.address == NotGiven && isTaken(address))
+        while (drive.address == notGiven && isTaken(address))
             ++address;
-        if (drive.address == NotGiven)
+        if (drive.address == notGiven)
             drive.address = address;
     }
 }
@@ -82,7 +82,7 @@ std::string checkDrives(const std::vector<DriveOptions> &drives)
     for (const DriveOptions &drive : drives) {
         if (!findProfile(drive.profile))
             return "there is no drive profile \"" + drive.profile + "\"";
-        if (drive.address < LowestAddress || drive.address > HighestAddress)
+        if (drive.address < lowestAddress || drive.address > highestAddress)
             return "address " + std::to_string(drive.address) + " is not between 1 and 250";
         if (!taken.insert(drive.address).second)
             return "two drives at address " + std::to_string(drive.address);

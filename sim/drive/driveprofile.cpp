@@ -8,20 +8,20 @@ namespace sim {
 
 namespace {
 
-constexpr Winding LowVoltage{0.10, 150, 500, 4800};
-constexpr Winding HighVoltage{0.40, 2400, 8000, 32000};
+constexpr Winding lowVoltage{0.10, 150, 500, 4800};
+constexpr Winding highVoltage{0.40, 2400, 8000, 32000};
 
-constexpr int TorvaRate = 17500;
-constexpr int KetaRate = 20000;
-static_assert(TorvaRate % CycleRate == 0 && KetaRate % CycleRate == 0, "whole base periods in a control cycle");
+constexpr int torvaRate = 17500;
+constexpr int ketaRate = 20000;
+static_assert(torvaRate % cycleRate == 0 && ketaRate % cycleRate == 0, "whole base periods in a control cycle");
 
-constexpr std::int32_t ProtocolVersionNow = 25;
-constexpr std::int32_t Serial = 240117;
-constexpr std::int32_t Revision = 0x1A4C7E2;
-constexpr std::int32_t Unique = 0x1C35A90B;
+constexpr std::int32_t protocolVersionNow = 25;
+constexpr std::int32_t serial = 240117;
+constexpr std::int32_t revision = 0x1A4C7E2;
+constexpr std::int32_t unique = 0x1C35A90B;
 
 /// Settings of every model: register, value at the factory, minimum, maximum.
-const RegisterInfo CommonSettings[] = {
+const RegisterInfo commonSettings[] = {
     {565, 2500, 1, 1000000},                     // FBR
     {493, 1, 0, 6},                              // FBD
     {494, 0, 0, 4},                              // FB2D
@@ -73,21 +73,21 @@ const RegisterInfo CommonSettings[] = {
     {8120, 0, 0, 32767},                         // overrideAddr1
     {8121, 0, 0, 32767},                         // overrideAddr2
     {8122, 0, 0, 32767},                         // overrideAddr3
-    {8125, 0, RegisterMinimum, RegisterMaximum}, // overrideVal1
-    {8126, 0, RegisterMinimum, RegisterMaximum}, // overrideVal2
-    {8127, 0, RegisterMinimum, RegisterMaximum}, // overrideVal3
+    {8125, 0, registerMinimum, registerMaximum}, // overrideVal1
+    {8126, 0, registerMinimum, registerMaximum}, // overrideVal2
+    {8127, 0, registerMinimum, registerMaximum}, // overrideVal3
     {911, 0, 0, 10000},                          // BED
     {910, 0, 0, 10000},                          // BER
     {912, 0, 0, 10000},                          // BDD
 };
 
-const RegisterInfo KetaSettings[] = {
+const RegisterInfo ketaSettings[] = {
     {573, 0, 0, 1}, // CEI
     {14, 0, 0, 15}, // ZBO
 };
 
 /// Torque ripple compensation.
-const RegisterInfo KetaProSettings[] = {
+const RegisterInfo ketaProSettings[] = {
     {424, 0, 0, 25},       // TRF1
     {426, 0, 0, 25},       // TRF2
     {425, 0, -5000, 5000}, // TRA1
@@ -95,7 +95,7 @@ const RegisterInfo KetaProSettings[] = {
 };
 
 /// The smaller current range of the high-voltage stage, and the motor wound for it.
-const RegisterInfo TorvaDifferences[] = {
+const RegisterInfo torvaDifferences[] = {
     {reg::PeakCurrent, 8000, 0, 20000},
     {reg::ContinuousCurrent, 3250, 0, 20000},
     {reg::HomingCurrent, 1625, 0, 20000},
@@ -108,7 +108,7 @@ const RegisterInfo TorvaDifferences[] = {
     {reg::VelocityI, 90, 0, 32767},
 };
 
-const RegisterInfo HighCurrentDifferences[] = {
+const RegisterInfo highCurrentDifferences[] = {
     {reg::PeakCurrent, 32000, 0, 50000},
     {reg::ContinuousCurrent, 13000, 0, 50000},
     {reg::HomingCurrent, 6500, 0, 50000},
@@ -136,20 +136,20 @@ template <std::size_t Count> void replace(std::vector<RegisterInfo> &list, const
 void appendIdentity(std::vector<RegisterInfo> &list, const DriveProfile &profile)
 {
     const auto fixed = [&](int address, std::int32_t value) {
-        list.push_back({address, value, 0, RegisterMaximum, RegisterInfo::Fixed});
+        list.push_back({address, value, 0, registerMaximum, RegisterInfo::Fixed});
     };
-    fixed(reg::ProtocolVersion, ProtocolVersionNow);
-    fixed(reg::ProtocolCompanion, ProtocolVersionNow);
-    fixed(reg::SerialNumber, Serial);
+    fixed(reg::ProtocolVersion, protocolVersionNow);
+    fixed(reg::ProtocolCompanion, protocolVersionNow);
+    fixed(reg::SerialNumber, serial);
     fixed(reg::Firmware, profile.firmware);
     fixed(reg::FirmwareCompanion, profile.firmware);
     fixed(reg::CoreFirmware, profile.firmware);
     fixed(reg::CoreCompanion, profile.firmware);
     fixed(reg::DeviceType, profile.deviceType);
-    list.push_back({reg::ControlRate, CycleRate, CycleRate, CycleRate, RegisterInfo::Fixed});
+    list.push_back({reg::ControlRate, cycleRate, cycleRate, cycleRate, RegisterInfo::Fixed});
     if (profile.deviceType / 1000 == Keta) {
-        fixed(reg::UniqueId, Unique);
-        fixed(reg::BuildRevision, Revision);
+        fixed(reg::UniqueId, unique);
+        fixed(reg::BuildRevision, revision);
     }
 }
 
@@ -158,10 +158,10 @@ void appendIdentity(std::vector<RegisterInfo> &list, const DriveProfile &profile
 const std::vector<DriveProfile> &driveProfiles()
 {
     static const std::vector<DriveProfile> profiles = {
-        {"keta", "Keta, 48 V, one processor", KetaType, 1078, false, KetaRate, LowVoltage},
-        {"keta-pro", "Keta Pro, 48 V, with torque ripple compensation", KetaProType, 1078, false, KetaRate, LowVoltage},
-        {"keta-hc", "Keta for high currents, up to 50 A", KetaHighCurrentType, 1078, false, KetaRate, LowVoltage},
-        {"torva", "Torva, 320 V, two processors", TorvaType, 1090, true, TorvaRate, HighVoltage},
+        {"keta", "Keta, 48 V, one processor", KetaType, 1078, false, ketaRate, lowVoltage},
+        {"keta-pro", "Keta Pro, 48 V, with torque ripple compensation", KetaProType, 1078, false, ketaRate, lowVoltage},
+        {"keta-hc", "Keta for high currents, up to 50 A", KetaHighCurrentType, 1078, false, ketaRate, lowVoltage},
+        {"torva", "Torva, 320 V, two processors", TorvaType, 1090, true, torvaRate, highVoltage},
     };
     return profiles;
 }
@@ -179,15 +179,15 @@ std::vector<RegisterInfo> registersOf(const DriveProfile &profile)
 {
     std::vector<RegisterInfo> list;
     appendIdentity(list, profile);
-    append(list, CommonSettings);
+    append(list, commonSettings);
     if (profile.deviceType / 1000 == Keta)
-        append(list, KetaSettings);
+        append(list, ketaSettings);
     if (profile.deviceType == KetaProType)
-        append(list, KetaProSettings);
+        append(list, ketaProSettings);
     if (profile.deviceType == KetaHighCurrentType)
-        replace(list, HighCurrentDifferences);
+        replace(list, highCurrentDifferences);
     if (profile.deviceType / 1000 == Torva)
-        replace(list, TorvaDifferences);
+        replace(list, torvaDifferences);
     return list;
 }
 

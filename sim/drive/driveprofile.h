@@ -10,8 +10,8 @@
 namespace sim {
 
 /// Largest and smallest value of a register.
-constexpr std::int32_t RegisterMaximum = 536870911;
-constexpr std::int32_t RegisterMinimum = -536870912;
+constexpr std::int32_t registerMaximum = 536870911;
+constexpr std::int32_t registerMinimum = -536870912;
 
 /// How the motor is wound for the model's bus voltage. Both windings give the same motion.
 struct Winding
@@ -34,7 +34,7 @@ struct DriveProfile
 };
 
 /// Control cycles per second, on every model.
-constexpr int CycleRate = 2500;
+constexpr int cycleRate = 2500;
 
 /// One register that has a plain value.
 struct RegisterInfo

@@ -12,12 +12,12 @@ constexpr std::int32_t MaximumFlag = 0x8000;
 constexpr std::int32_t NumberMask = 0x3FFF;
 
 /// Identity stays readable in firmware-upgrade mode.
-constexpr int FixedInUpgradeMode[] = {reg::ProtocolVersion, reg::ProtocolCompanion, reg::SerialNumber, reg::UniqueId,
+constexpr int fixedInUpgradeMode[] = {reg::ProtocolVersion, reg::ProtocolCompanion, reg::SerialNumber, reg::UniqueId,
                                       reg::DeviceType};
 
 bool isInUpgradeTable(int address)
 {
-    for (int fixed : FixedInUpgradeMode) {
+    for (int fixed : fixedInUpgradeMode) {
         if (fixed == address)
             return true;
     }
@@ -25,7 +25,7 @@ bool isInUpgradeTable(int address)
 }
 
 /// A change of these while the motor runs needs a restart before it may run again.
-constexpr int NeedRestart[] = {reg::FeedbackDevice, reg::VelocityFeedbackDevice, reg::MotorType, reg::PolePairs};
+constexpr int needRestart[] = {reg::FeedbackDevice, reg::VelocityFeedbackDevice, reg::MotorType, reg::PolePairs};
 
 } // namespace
 
@@ -45,7 +45,7 @@ std::int32_t VirtualDrive::returnValue(const CommandContext &context) const
     if (const RegisterInfo *plain = findPlain(address))
         return wantsMinimum ? plain->minimum : plain->maximum;
     if (!m_upgradeMode && LiveRegister::find(address))
-        return wantsMinimum ? 0 : RegisterMaximum;
+        return wantsMinimum ? 0 : registerMaximum;
     return 0;
 }
 
@@ -95,7 +95,7 @@ Outcome VirtualDrive::writeSetting(const RegisterInfo &info, std::int32_t value)
     const bool changed = value != m_registers.value(info.address);
     m_registers.setValue(info.address, value);
     m_axis.configure(m_registers);
-    for (int address : NeedRestart) {
+    for (int address : needRestart) {
         if (changed && address == info.address && m_axis.isEnabled())
             m_axis.stopPermanently();
     }

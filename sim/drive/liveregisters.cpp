@@ -8,9 +8,9 @@ namespace {
 
 using Drive = VirtualDrive;
 
-constexpr std::int32_t EncoderMillivolts = 2500; ///< both analog encoder lines rest at half their supply
+constexpr std::int32_t encoderMillivolts = 2500; ///< both analog encoder lines rest at half their supply
 
-const LiveRegister Registers[] = {
+const LiveRegister registerTable[] = {
     {reg::Status, [](const Drive &d) { return d.axis().status(); }},
     {reg::BusVoltage, [](const Drive &d) { return d.axis().readings().busVoltage; },
      [](Drive &d, std::int32_t v) { d.axis().inputs().supplyCentivolts = v; }},
@@ -26,8 +26,8 @@ const LiveRegister Registers[] = {
      [](Drive &d, std::int32_t v) { d.axis().inputs().analog[0] = v; }},
     {reg::AnalogIn2, [](const Drive &d) { return d.axis().inputs().analog[1]; },
      [](Drive &d, std::int32_t v) { d.axis().inputs().analog[1] = v; }},
-    {reg::AnalogEncoderA, [](const Drive &) { return EncoderMillivolts; }},
-    {reg::AnalogEncoderB, [](const Drive &) { return EncoderMillivolts; }},
+    {reg::AnalogEncoderA, [](const Drive &) { return encoderMillivolts; }},
+    {reg::AnalogEncoderB, [](const Drive &) { return encoderMillivolts; }},
     {reg::DigitalInputs, [](const Drive &d) { return d.axis().digitalInputs(); }},
     {reg::ControlInputs, [](const Drive &d) { return d.axis().controlInputs(); },
      [](Drive &d, std::int32_t v) { d.axis().inputs().controls = v; }},
@@ -45,7 +45,7 @@ const LiveRegister Registers[] = {
 
 const LiveRegister *LiveRegister::find(int address)
 {
-    for (const LiveRegister &live : Registers) {
+    for (const LiveRegister &live : registerTable) {
         if (live.address == address)
             return &live;
     }

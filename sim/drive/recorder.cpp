@@ -12,7 +12,7 @@ struct Source
 };
 
 /// In the order in which they are stored.
-constexpr Source Sources[] = {
+constexpr Source sourceTable[] = {
     {0x2, &AxisSignals::torqueSetpoint},     {0x4, &AxisSignals::torque},
     {0x8, &AxisSignals::velocitySetpoint},   {0x10, &AxisSignals::velocity},
     {0x20, &AxisSignals::positionSetpoint},  {0x40, &AxisSignals::position},
@@ -39,7 +39,7 @@ bool Recorder::arm(std::int32_t trigger, const AxisSignals &now)
         return true;
     }
     std::int32_t known = 0;
-    for (const Source &source : Sources)
+    for (const Source &source : sourceTable)
         known |= source.bit;
     if (trigger < SetpointRises || trigger > AtOnce || (m_nextSources & known) == 0)
         return false;
@@ -84,11 +84,11 @@ bool Recorder::triggered(const AxisSignals &readings) const
 
 void Recorder::store(const AxisSignals &readings)
 {
-    for (const Source &source : Sources) {
+    for (const Source &source : sourceTable) {
         if (!(m_sources & source.bit))
             continue;
         m_words[static_cast<std::size_t>(m_stored)] = toWord(readings.*source.signal, source.isUnsigned);
-        if (++m_stored == Words) {
+        if (++m_stored == words) {
             m_state = Off;
             return;
         }

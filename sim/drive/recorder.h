@@ -12,7 +12,7 @@ namespace sim {
 class Recorder
 {
 public:
-    static constexpr int Words = 2000;
+    static constexpr int words = 2000;
 
     enum Trigger { Off = 0, SetpointRises = 1, SetpointChanges = 2, Fault = 3, AtOnce = 4 };
 
@@ -51,7 +51,7 @@ private:
     int m_periodsToSample = 0;
     int m_stored = 0;
     int m_readAddress = 0;
-    std::array<std::int32_t, Words> m_words{};
+    std::array<std::int32_t, words> m_words{};
 };
 
 } // namespace sim

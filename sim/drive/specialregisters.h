@@ -21,7 +21,7 @@ struct SpecialRegister
     static const SpecialRegister *find(int address, bool upgradeMode);
 
 private:
-    static const SpecialRegister Table[];
+    static const SpecialRegister table[];
 };
 
 } // namespace sim

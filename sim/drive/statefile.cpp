@@ -14,9 +14,9 @@ namespace sim {
 
 namespace {
 
-constexpr char FirstLine[] = "velbrin-sim state 1";
-constexpr char CutOffLine[] = "firmware=cut-off";
-constexpr std::size_t MostLines = 100000; ///< more is no state file
+constexpr char firstLine[] = "velbrin-sim state 1";
+constexpr char cutOffLine[] = "firmware=cut-off";
+constexpr std::size_t mostLines = 100000; ///< more is no state file
 
 /// By model and address.
 using Key = std::pair<std::string, int>;
@@ -41,7 +41,7 @@ bool readLine(const std::string &text, Sections &sections, Flash *&section)
     }
     if (!section)
         return false;
-    if (text == CutOffLine) {
+    if (text == cutOffLine) {
         section->firmwareIntact = false;
         return true;
     }
@@ -87,12 +87,12 @@ std::string readSections(const std::string &path, Sections &sections)
         return path + ": " + std::strerror(errno);
     std::string text;
     std::getline(file, text);
-    if (text != FirstLine)
+    if (text != firstLine)
         return path + ": not a state file of the virtual drive";
     Flash *section = nullptr;
     std::size_t line = 1;
     while (std::getline(file, text)) {
-        if (++line > MostLines)
+        if (++line > mostLines)
             return atLine(path, line, "no end of settings");
         if (!text.empty() && !readLine(text, sections, section))
             return atLine(path, line, "neither a drive nor a setting");
@@ -149,11 +149,11 @@ std::string saveState(const std::string &path, const Drives &drives)
     for (const auto &drive : drives)
         sections[{drive->profile().name, drive->ownAddress()}] = drive->flash();
     std::ostringstream text;
-    text << FirstLine << '\n';
+    text << firstLine << '\n';
     for (const auto &[key, flash] : sections) {
         text << "drive " << key.first << ' ' << key.second << '\n';
         if (!flash.firmwareIntact)
-            text << CutOffLine << '\n';
+            text << cutOffLine << '\n';
         for (const auto &[address, value] : flash.settings)
             text << address << '=' << value << '\n';
     }

@@ -8,10 +8,10 @@ namespace sim {
 
 namespace {
 
-constexpr std::int64_t NanosecondsPerSecond = 1000000000;
-constexpr int MostAtOnce = 1; ///< seconds that a drive catches up with in one go
-constexpr int ClockRate = 10000;
-constexpr int ClockUnitsPerCycle = ClockRate / CycleRate;
+constexpr std::int64_t nanosecondsPerSecond = 1000000000;
+constexpr int mostAtOnce = 1; ///< seconds that a drive catches up with in one go
+constexpr int clockRate = 10000;
+constexpr int clockUnitsPerCycle = clockRate / cycleRate;
 
 } // namespace
 
@@ -25,9 +25,9 @@ VirtualDrive::VirtualDrive(const DriveProfile &profile, int address, const Machi
 int VirtualDrive::address() const
 {
     if (m_upgradeMode)
-        return UpgradeAddress;
+        return upgradeAddress;
     if (m_oneTimeAddress)
-        return OneTimeAddress;
+        return oneTimeAddress;
     return m_ownAddress + m_addressOffset;
 }
 
@@ -76,7 +76,7 @@ Bytes VirtualDrive::store(const Bytes &payload)
 /// 16 bits of 0.1 ms since power-up, low byte first.
 Bytes VirtualDrive::clock() const
 {
-    const std::int64_t units = m_ticks * ClockRate / m_profile.recorderRate;
+    const std::int64_t units = m_ticks * clockRate / m_profile.recorderRate;
     return {static_cast<std::uint8_t>(units), static_cast<std::uint8_t>(units >> 8)};
 }
 
@@ -96,10 +96,10 @@ void VirtualDrive::execute(CommandContext &context, const Item &item, Bytes &ret
 void VirtualDrive::advance(std::chrono::nanoseconds elapsed)
 {
     const std::chrono::nanoseconds bounded =
-        std::min<std::chrono::nanoseconds>(elapsed, std::chrono::seconds(MostAtOnce));
+        std::min<std::chrono::nanoseconds>(elapsed, std::chrono::seconds(mostAtOnce));
     m_tickPhase += bounded.count() * m_profile.recorderRate;
-    while (m_tickPhase >= NanosecondsPerSecond) {
-        m_tickPhase -= NanosecondsPerSecond;
+    while (m_tickPhase >= nanosecondsPerSecond) {
+        m_tickPhase -= nanosecondsPerSecond;
         tick();
     }
 }
@@ -113,7 +113,7 @@ void VirtualDrive::advanceCycles(int cycles)
 void VirtualDrive::tick()
 {
     if (m_silence.count() > 0)
-        m_silence -= std::chrono::nanoseconds(NanosecondsPerSecond / m_profile.recorderRate);
+        m_silence -= std::chrono::nanoseconds(nanosecondsPerSecond / m_profile.recorderRate);
     if (m_upgradeMode)
         return;
     if (m_ticks++ % m_axis.ticksPerCycle() == 0)
@@ -125,7 +125,7 @@ void VirtualDrive::tick()
 /// One control cycle's worth of the command buffer.
 void VirtualDrive::runBuffer()
 {
-    m_buffer.advance(ClockUnitsPerCycle);
+    m_buffer.advance(clockUnitsPerCycle);
     while (!m_buffer.isEmpty()) {
         const bool isSetpoint = !m_buffer.next().selectsAddress && (m_buffered.selected == reg::SetpointAbsolute ||
                                                                     m_buffered.selected == reg::SetpointIncremental);

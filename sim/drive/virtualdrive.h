@@ -38,8 +38,8 @@ enum ErrorBit : std::int32_t {
 class VirtualDrive
 {
 public:
-    static constexpr int UpgradeAddress = 255; ///< in firmware-upgrade mode
-    static constexpr int OneTimeAddress = 16;  ///< after the bootloader has started a firmware, until the next restart
+    static constexpr int upgradeAddress = 255; ///< in firmware-upgrade mode
+    static constexpr int oneTimeAddress = 16;  ///< after the bootloader has started a firmware, until the next restart
 
     /// Powers up with factory settings; see powerUp. `address` as set on the drive, 1 to 250.
     explicit VirtualDrive(const DriveProfile &profile, int address = 5, const Machine &machine = {});

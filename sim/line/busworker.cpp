@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <poll.h>
+#include <pthread.h>
 #include <sys/eventfd.h>
 #include <sys/prctl.h>
 #include <unistd.h>
@@ -13,14 +14,14 @@ namespace {
 using namespace std::chrono_literals;
 using Nanoseconds = std::chrono::nanoseconds;
 
-constexpr std::int64_t BaudRate = 460800;
-constexpr int BitsPerByte = 10;
-constexpr Nanoseconds ByteTime{1000000000LL * BitsPerByte / BaudRate};
+constexpr std::int64_t baudRate = 460800;
+constexpr int bitsPerByte = 10;
+constexpr Nanoseconds byteTime{1000000000LL * bitsPerByte / baudRate};
 /// Longer than any gap within a packet, shorter than any time-out of a master.
-constexpr auto PacketGap = 30ms;
+constexpr auto packetGap = 30ms;
 /// How often the drives catch up with the wall clock when the bus is idle.
-constexpr auto IdleStep = 5ms;
-constexpr auto NoiseStep = 2ms;
+constexpr auto idleStep = 5ms;
+constexpr auto noiseStep = 2ms;
 
 } // namespace
 
@@ -129,6 +130,10 @@ void VirtualBus::Worker::run()
 {
     // Replies are due to the microsecond; the system's usual slack would be as long as two bytes on the line.
     prctl(PR_SET_TIMERSLACK, 1000UL);
+    if (options.goesFirst) {
+        const sched_param lowest{1}; // of those that go before the ordinary ones
+        pthread_setschedparam(pthread_self(), SCHED_RR, &lowest);
+    }
     for (;;) {
         int descriptor = -1;
         Clock::time_point until;
@@ -138,7 +143,7 @@ void VirtualBus::Worker::run()
                 return;
             serve();
             descriptor = port.descriptor();
-            until = m_replies.nextDue(Clock::now() + (isNoisy ? NoiseStep : IdleStep));
+            until = m_replies.nextDue(Clock::now() + (isNoisy ? noiseStep : idleStep));
         }
         waitForWork(descriptor, until);
     }
@@ -181,7 +186,7 @@ void VirtualBus::Worker::advanceDrives()
 void VirtualBus::Worker::take(const Bytes &bytes)
 {
     const Clock::time_point now = Clock::now();
-    if (now - m_lastByte > PacketGap)
+    if (now - m_lastByte > packetGap)
         m_parser.reset();
     m_lastByte = now;
     for (const std::uint8_t byte : bytes) {
@@ -218,7 +223,7 @@ void VirtualBus::Worker::reply(const Packet &request, const Packet &answer, Line
     const Bytes bytes = damage.damaged(frame(answer), fault);
     Clock::time_point due = Clock::now() + options.turnAround;
     if (options.lineRate)
-        due += ByteTime * static_cast<std::int64_t>(frame(request).size() + bytes.size());
+        due += byteTime * static_cast<std::int64_t>(frame(request).size() + bytes.size());
     if (fault == LineFault::Late)
         due += damage.lateness();
     m_replies.add(due, bytes);
@@ -227,7 +232,7 @@ void VirtualBus::Worker::reply(const Packet &request, const Packet &answer, Line
 void VirtualBus::Worker::makeNoise()
 {
     const Clock::time_point now = Clock::now();
-    const auto count = (now - m_lastNoise) / ByteTime;
+    const auto count = (now - m_lastNoise) / byteTime;
     m_lastNoise = now;
     port.write(damage.noise(static_cast<std::size_t>(std::clamp<std::int64_t>(count, 1, 1024))));
 }

@@ -12,9 +12,9 @@ struct Field
 };
 
 /// By the top two bits of an item's first byte.
-constexpr Field ItemFields[4] = {{4, 30, 0x00}, {3, 22, 0x40}, {2, 14, 0x80}, {1, 6, 0xC0}};
+constexpr Field itemFields[4] = {{4, 30, 0x00}, {3, 22, 0x40}, {2, 14, 0x80}, {1, 6, 0xC0}};
 /// By the length control, which happens to count the same way.
-constexpr const Field (&ReturnFields)[4] = ItemFields;
+constexpr const Field (&returnFields)[4] = itemFields;
 
 std::int32_t signExtend(std::uint32_t value, int bits)
 {
@@ -29,7 +29,7 @@ std::vector<Item> decodeItems(const Bytes &payload)
 {
     std::vector<Item> items;
     for (std::size_t at = 0; at < payload.size();) {
-        const Field &field = ItemFields[payload[at] >> 6];
+        const Field &field = itemFields[payload[at] >> 6];
         if (at + field.bytes > payload.size())
             break;
         std::uint32_t raw = 0;
@@ -46,7 +46,7 @@ std::vector<Item> decodeItems(const Bytes &payload)
 
 void appendReturnValue(Bytes &reply, std::int32_t value, std::int32_t lengthControl)
 {
-    const Field &field = ReturnFields[lengthControl & 3];
+    const Field &field = returnFields[lengthControl & 3];
     const std::uint32_t raw = static_cast<std::uint32_t>(value);
     for (std::size_t i = field.bytes; i-- > 0;)
         reply.push_back(static_cast<std::uint8_t>(raw >> 8 * i));

@@ -23,7 +23,7 @@ Bytes::iterator byteAt(Bytes &reply, std::size_t at)
     return reply.begin() + static_cast<std::ptrdiff_t>(at);
 }
 
-const KindRow Kinds[] = {
+const KindRow kindTable[] = {
     {LineFault::Drop, "drop", "a byte of every reply is lost (AT: which, from 0)",
      [](Bytes &reply, std::size_t at, Random &) { reply.erase(byteAt(reply, at)); }},
     {LineFault::Flip, "flip", "a bit of a byte is inverted (AT: which byte)",
@@ -46,12 +46,13 @@ const KindRow Kinds[] = {
 
 const KindRow *find(LineFault::Kind kind)
 {
-    const auto row = std::find_if(std::begin(Kinds), std::end(Kinds), [=](const KindRow &r) { return r.kind == kind; });
-    return row == std::end(Kinds) ? nullptr : row;
+    const auto row =
+        std::find_if(std::begin(kindTable), std::end(kindTable), [=](const KindRow &r) { return r.kind == kind; });
+    return row == std::end(kindTable) ? nullptr : row;
 }
 
-constexpr int DefaultLateness = 100; // ms
-constexpr std::size_t MostDigits = 6;
+constexpr int defaultLateness = 100; // ms
+constexpr std::size_t mostDigits = 6;
 
 /// Takes a number that stands behind `mark` off the text's end. False when there is a mark without one.
 bool takeNumber(std::string &text, char mark, int &number)
@@ -60,7 +61,7 @@ bool takeNumber(std::string &text, char mark, int &number)
     if (at == std::string::npos)
         return true;
     const std::string digits = text.substr(at + 1);
-    const bool isNumber = !digits.empty() && digits.size() <= MostDigits &&
+    const bool isNumber = !digits.empty() && digits.size() <= mostDigits &&
                           std::all_of(digits.begin(), digits.end(), [](unsigned char c) { return std::isdigit(c); });
     if (isNumber)
         number = std::stoi(digits);
@@ -74,7 +75,7 @@ const std::vector<LineFault::Kind> &LineFault::allKinds()
 {
     static const std::vector<Kind> kinds = [] {
         std::vector<Kind> list;
-        for (const KindRow &row : Kinds)
+        for (const KindRow &row : kindTable)
             list.push_back(row.kind);
         return list;
     }();
@@ -98,9 +99,9 @@ std::string parseLineFault(const std::string &text, LineFault &fault)
         !name.empty() && std::all_of(name.begin(), name.end(), [](char c) { return c >= 'a' && c <= 'z'; });
     if (!isForm || !isWord)
         return "\"" + text + "\" is not of the form KIND[=AT][+SKIP][xCOUNT]";
-    const auto known = std::find_if(std::begin(Kinds), std::end(Kinds),
+    const auto known = std::find_if(std::begin(kindTable), std::end(kindTable),
                                     [&](const KindRow &candidate) { return name == candidate.name; });
-    if (known == std::end(Kinds))
+    if (known == std::end(kindTable))
         return "there is no line fault \"" + name + "\"";
     parsed.kind = known->kind;
     fault = parsed;
@@ -110,7 +111,7 @@ std::string parseLineFault(const std::string &text, LineFault &fault)
 std::string lineFaultHelp()
 {
     std::string help;
-    for (const KindRow &kind : Kinds)
+    for (const KindRow &kind : kindTable)
         help += "  " + std::string(kind.name) + std::string(11 - std::string(kind.name).size(), ' ') + kind.help + "\n";
     return help;
 }
@@ -151,7 +152,7 @@ Bytes LineDamage::damaged(Bytes reply, LineFault::Kind kind)
 
 std::chrono::milliseconds LineDamage::lateness() const
 {
-    return std::chrono::milliseconds(m_at == LineFault::AnyByte ? DefaultLateness : m_at);
+    return std::chrono::milliseconds(m_at == LineFault::anyByte ? defaultLateness : m_at);
 }
 
 Bytes LineDamage::noise(std::size_t count)
@@ -164,7 +165,7 @@ Bytes LineDamage::noise(std::size_t count)
 
 std::size_t LineDamage::pick(std::size_t size)
 {
-    if (m_at != LineFault::AnyByte)
+    if (m_at != LineFault::anyByte)
         return static_cast<std::size_t>(m_at);
     return size == 0 ? 0 : m_random() % size;
 }

@@ -28,13 +28,13 @@ struct LineFault
         Noise,     ///< the reply is followed by random bytes at line rate, without end
         Unplugged, ///< the port goes away instead of the reply
     };
-    static constexpr int AnyByte = -1; ///< a random byte of each reply; for Late, a tenth of a second
-    static constexpr int Forever = -1;
+    static constexpr int anyByte = -1; ///< a random byte of each reply; for Late, a tenth of a second
+    static constexpr int unlimited = -1;
 
     Kind kind = None;
-    int at = AnyByte;
+    int at = anyByte;
     int skip = 0;        ///< replies that still pass unharmed
-    int count = Forever; ///< replies that are hit, then the line is well again
+    int count = unlimited; ///< replies that are hit, then the line is well again
 
     /// Every kind but None, for whoever tries them all.
     static const std::vector<Kind> &allKinds();
@@ -67,7 +67,7 @@ private:
     std::size_t pick(std::size_t size);
 
     std::deque<LineFault> m_faults;
-    int m_at = LineFault::AnyByte; ///< of the fault that hits the present exchange
+    int m_at = LineFault::anyByte; ///< of the fault that hits the present exchange
     std::minstd_rand m_random{1};
 };
 

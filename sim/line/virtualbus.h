@@ -27,6 +27,7 @@ struct BusOptions
     bool lineRate = false;                       ///< bytes take their time at 460800 baud
     std::chrono::microseconds turnAround{0};     ///< between the end of a request and the begin of its reply
     std::chrono::milliseconds restartTime{1500}; ///< silence of a restarting drive
+    bool goesFirst = false;                      ///< before whatever else the PC does, where that is permitted
     bool recordRequests = false;                 ///< keep what arrives for received(); grows without bound
 };
 

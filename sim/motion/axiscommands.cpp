@@ -8,16 +8,16 @@ namespace sim {
 
 namespace {
 
-constexpr double CurrentScale = 560.0;  // counts per ampere
-constexpr double FullVoltage = 16383.0; // the whole bus voltage
-constexpr double FullDuty = 16384.0;    // 100 %
-constexpr double ThirdOfTurn = 2.0943951023931953;
-constexpr double QuarterTurn = 1.5707963267948966;
-constexpr double NearTarget = 5.0; ///< counts
+constexpr double currentScale = 560.0;  // counts per ampere
+constexpr double fullVoltage = 16383.0; // the whole bus voltage
+constexpr double fullDuty = 16384.0;    // 100 %
+constexpr double thirdOfTurn = 2.0943951023931953;
+constexpr double quarterTurn = 1.5707963267948966;
+constexpr double nearTarget = 5.0; ///< counts
 
 std::int32_t rounded(double value)
 {
-    return static_cast<std::int32_t>(std::lround(std::clamp(value, double(RegisterMinimum), double(RegisterMaximum))));
+    return static_cast<std::int32_t>(std::lround(std::clamp(value, double(registerMinimum), double(registerMaximum))));
 }
 
 } // namespace
@@ -103,7 +103,7 @@ bool ServoAxis::mayRun() const
 bool ServoAxis::isTargetReached() const
 {
     return m_settings.mode == AxisSettings::Position && !m_homing.isActive() && !m_path.isRecovering &&
-           std::abs(m_path.error) <= NearTarget && std::abs(m_velocity) <= 1;
+           std::abs(m_path.error) <= nearTarget && std::abs(m_velocity) <= 1;
 }
 
 std::int32_t ServoAxis::status() const
@@ -142,21 +142,21 @@ void ServoAxis::updateSignals()
     m_signals.setpoint = m_setpoint;
     m_signals.faults = m_faults;
     m_signals.torqueSetpoint = rounded(m_nextCurrent);
-    m_signals.torque = rounded(m_motor.amperes() * CurrentScale * sign);
+    m_signals.torque = rounded(m_motor.amperes() * currentScale * sign);
     m_signals.velocitySetpoint = rounded(m_loop.commandedVelocity());
     m_signals.velocity = rounded(static_cast<double>(m_velocity));
     m_signals.position = rounded(static_cast<double>(m_position));
     m_signals.positionSetpoint = m_brake.isPowered() ? rounded(m_path.setpoint) : rounded(double(setpointInCounts()));
     m_signals.trackingError = rounded(m_path.error);
-    m_signals.outputVoltage = rounded(voltage * FullVoltage * sign);
+    m_signals.outputVoltage = rounded(voltage * fullVoltage * sign);
     m_signals.busVoltage = rounded(supplyVolts() * 100.0);
-    m_signals.fluxVoltage = m_brake.isPowered() ? rounded(m_motor.fluxVoltage() * FullVoltage) : 0;
+    m_signals.fluxVoltage = m_brake.isPowered() ? rounded(m_motor.fluxVoltage() * fullVoltage) : 0;
     m_signals.debug1 = rounded(m_loop.integral(m_settings));
     m_signals.debug2 = rounded(m_limit.heat() * 1000.0);
     std::int32_t *const duties[] = {&m_signals.pwm1, &m_signals.pwm2, &m_signals.pwm3};
     for (int phase = 0; phase < 3; ++phase) {
-        const double angle = m_motor.electricalAngle() + QuarterTurn - phase * ThirdOfTurn;
-        *duties[phase] = m_brake.isPowered() ? rounded(FullDuty / 2 * (1.0 + voltage * std::sin(angle))) : 0;
+        const double angle = m_motor.electricalAngle() + quarterTurn - phase * thirdOfTurn;
+        *duties[phase] = m_brake.isPowered() ? rounded(fullDuty / 2 * (1.0 + voltage * std::sin(angle))) : 0;
     }
 }
 

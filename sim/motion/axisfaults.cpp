@@ -23,8 +23,8 @@ enum Location {
     LocationFeedbackSettings = 403,
 };
 
-constexpr int MotorWired = 3;   ///< three-phase AC
-constexpr int EncoderWired = 1; ///< quadrature
+constexpr int motorWired = 3;   ///< three-phase AC
+constexpr int encoderWired = 1; ///< quadrature
 
 } // namespace
 
@@ -43,7 +43,7 @@ void ServoAxis::checkSupply()
         raiseFaults(FaultOverVoltage, LocationOverVoltage);
     if (centivolts < m_settings.underVoltage && isEnabled())
         raiseFaults(FaultUnderVoltage, LocationUnderVoltage);
-    if (m_inputs.temperature >= HottestDrive)
+    if (m_inputs.temperature >= hottestDrive)
         raiseFaults(FaultOverTemperature, LocationOverTemperature);
     if (m_inputs.safeTorqueOff && m_wasRunning)
         raiseFaults(FaultPowerStageOff);
@@ -52,11 +52,11 @@ void ServoAxis::checkSupply()
 /// At the first power to the motor: what is set must be what is wired.
 void ServoAxis::checkSettings()
 {
-    if (m_settings.motorType != MotorWired || m_settings.polePairs != static_cast<int>(m_motor.polePairs()))
+    if (m_settings.motorType != motorWired || m_settings.polePairs != static_cast<int>(m_motor.polePairs()))
         raiseFaults(FaultInit, LocationMotorSettings);
     if ((m_settings.flags & FlagHall) && (m_settings.flags & FlagHallInverted))
         raiseFaults(FaultInit, LocationHallSettings);
-    if (m_settings.feedbackDevice != EncoderWired || m_settings.velocityFeedbackDevice > EncoderWired)
+    if (m_settings.feedbackDevice != encoderWired || m_settings.velocityFeedbackDevice > encoderWired)
         raiseFaults(FaultFeedback, LocationFeedbackSettings);
 }
 
@@ -74,9 +74,9 @@ void ServoAxis::checkMotion()
     if (hasSoftLimits && m_settings.mode == AxisSettings::Position &&
         (m_setpoint < m_settings.lowLimit || m_setpoint > m_settings.highLimit))
         raiseFaults(FaultMotionRange, LocationSoftLimit);
-    constexpr std::int32_t BothFeeds = InputPositiveFeed | InputNegativeFeed;
+    constexpr std::int32_t bothFeeds = InputPositiveFeed | InputNegativeFeed;
     if (m_settings.limitSwitches == AxisSettings::StopWithFault && !m_homing.isActive() &&
-        (controlInputs() & BothFeeds) != BothFeeds)
+        (controlInputs() & bothFeeds) != bothFeeds)
         raiseFaults(FaultMotionRange, LocationLimitSwitch);
     checkTracking();
 }

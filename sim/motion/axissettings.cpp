@@ -9,29 +9,42 @@ namespace sim {
 
 namespace {
 
-constexpr double BandwidthHz[] = {100, 200, 300, 400, 500, 700, 1000, 1500, 2000, 3000};
-constexpr double OverCurrentUnit = 0.06; ///< A
-constexpr int CyclesPerMillisecondTimesTen = 25;
+constexpr double bandwidthHz[] = {100, 200, 300, 400, 500, 700, 1000, 1500, 2000, 3000};
+constexpr double overCurrentUnit = 0.06; ///< A
+constexpr int cyclesPerMillisecondTimesTen = 25;
 
 int cycles(std::int32_t milliseconds)
 {
-    return milliseconds * CyclesPerMillisecondTimesTen / 10;
+    return milliseconds * cyclesPerMillisecondTimesTen / 10;
 }
+
+/// Values forced from outside may be impossible ones: nothing here may divide by them or index with them.
+struct Values
+{
+    const RegisterFile &registers;
+
+    int operator()(int address) const { return registers.value(address); }
+    double amperes(int address) const { return registers.value(address) / 1000.0; }
+    double divider() const { return std::max(registers.value(reg::Divider), 1); }
+};
 
 } // namespace
 
 AxisSettings::AxisSettings(const RegisterFile &registers)
 {
-    const auto value = [&](int address) { return registers.value(address); };
-    // Values forced from outside may be impossible ones: nothing here may divide by them or index with them.
-    const double divider = std::max(value(reg::Divider), 1);
-    const auto amperes = [&](int address) { return value(address) / 1000.0; };
+    takeControl(registers);
+    takeLimits(registers);
+    takeMachine(registers);
+}
 
+void AxisSettings::takeControl(const RegisterFile &registers)
+{
+    const Values value{registers};
     flags = value(reg::Flags);
     mode = value(reg::ControlMode);
     setpointInput = value(reg::SetpointInput);
     setpointOffset = value(reg::SetpointOffset);
-    countsPerUnit = std::max(value(reg::Multiplier), 1) / divider;
+    countsPerUnit = std::max(value(reg::Multiplier), 1) / value.divider();
 
     positionGain = value(reg::PositionP) / 4096.0;
     velocityGain = value(reg::VelocityP);
@@ -39,17 +52,22 @@ AxisSettings::AxisSettings(const RegisterFile &registers)
     positionForward = value(reg::PositionFeedForward) / 1024.0;
     velocityForward = value(reg::VelocityFeedForward) / 16.0;
     accelerationForward = value(reg::AccelerationFeedForward);
-    torqueBandwidth = BandwidthHz[std::clamp(value(reg::TorqueBandwidth), 0, 9)];
+    torqueBandwidth = bandwidthHz[std::clamp(value(reg::TorqueBandwidth), 0, 9)];
 
-    velocityLimit = value(reg::VelocityLimit) / divider;
-    accelerationLimit = value(reg::AccelerationLimit) / divider;
-    stopDeceleration = value(reg::StopDeceleration) > 0 ? value(reg::StopDeceleration) / divider : accelerationLimit;
-    recoveryVelocity = value(reg::RecoveryVelocity) / divider;
+    velocityLimit = value(reg::VelocityLimit) / value.divider();
+    accelerationLimit = value(reg::AccelerationLimit) / value.divider();
+    stopDeceleration =
+        value(reg::StopDeceleration) > 0 ? value(reg::StopDeceleration) / value.divider() : accelerationLimit;
+    recoveryVelocity = value(reg::RecoveryVelocity) / value.divider();
+}
 
-    peakCurrent = amperes(reg::PeakCurrent);
-    continuousCurrent = amperes(reg::ContinuousCurrent);
-    homingCurrent = amperes(reg::HomingCurrent);
-    overCurrent = value(reg::OverCurrentLimit) * OverCurrentUnit;
+void AxisSettings::takeLimits(const RegisterFile &registers)
+{
+    const Values value{registers};
+    peakCurrent = value.amperes(reg::PeakCurrent);
+    continuousCurrent = value.amperes(reg::ContinuousCurrent);
+    homingCurrent = value.amperes(reg::HomingCurrent);
+    overCurrent = value(reg::OverCurrentLimit) * overCurrentUnit;
     thermalTime = std::max(value(reg::ThermalTime), 1);
 
     positionErrorLimit = value(reg::PositionErrorLimit);
@@ -61,10 +79,14 @@ AxisSettings::AxisSettings(const RegisterFile &registers)
     limitSwitches = value(reg::LimitSwitches);
     lowLimit = value(reg::LowLimit);
     highLimit = value(reg::HighLimit);
+}
 
+void AxisSettings::takeMachine(const RegisterFile &registers)
+{
+    const Values value{registers};
     homingBits = value(reg::Homing);
-    homingVelocity = value(reg::HomingVelocity) / divider;
-    homingAcceleration = value(reg::HomingAcceleration) / divider;
+    homingVelocity = value(reg::HomingVelocity) / value.divider();
+    homingAcceleration = value(reg::HomingAcceleration) / value.divider();
     hardStopThreshold = value(reg::HomingStopThreshold);
     homingOffset = value(reg::HomingOffset);
 

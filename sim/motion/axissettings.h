@@ -63,6 +63,11 @@ struct AxisSettings
     // What the motor is told to be
     int motorType, polePairs, feedbackDevice, velocityFeedbackDevice, feedbackLines;
     bool inputsNormallyOpen;
+
+private:
+    void takeControl(const RegisterFile &registers);
+    void takeLimits(const RegisterFile &registers);
+    void takeMachine(const RegisterFile &registers);
 };
 
 } // namespace sim

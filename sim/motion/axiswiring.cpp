@@ -8,10 +8,10 @@ namespace sim {
 
 namespace {
 
-constexpr double TwoPi = 6.283185307179586;
-constexpr double ThirdOfTurn = TwoPi / 3.0;
-constexpr double SagPerWatt = 2.0e-5; ///< share of the supply lost per watt taken: a fiftieth at a kilowatt
-constexpr double DeepestSag = 0.6;    ///< share of the supply that a weak one loses at most
+constexpr double twoPi = 6.283185307179586;
+constexpr double thirdOfTurn = twoPi / 3.0;
+constexpr double sagPerWatt = 2.0e-5; ///< share of the supply lost per watt taken: a fiftieth at a kilowatt
+constexpr double deepestSag = 0.6;    ///< share of the supply that a weak one loses at most
 
 } // namespace
 
@@ -20,7 +20,7 @@ int ServoAxis::axisSign() const
     return m_settings.flags & FlagInvertAxis ? -1 : 1;
 }
 
-/// Inverted feedback alone makes the loop run away; inverting the axis turns torque and feedback together.
+/// inverted feedback alone makes the loop run away; inverting the axis turns torque and feedback together.
 int ServoAxis::feedbackSign() const
 {
     const int wired = m_machine.feedbackReversed > 0.0 ? -1 : 1;
@@ -36,11 +36,11 @@ std::int64_t ServoAxis::readEncoder()
 
 std::int32_t ServoAxis::controlInputs() const
 {
-    constexpr std::int32_t Inverted = InputEnable | InputPositiveFeed | InputNegativeFeed;
+    constexpr std::int32_t inverted = InputEnable | InputPositiveFeed | InputNegativeFeed;
     std::int32_t wired = m_inputs.controls;
     wired &= m_machine.positiveStuck > 0.0 ? ~InputPositiveFeed : ~0;
     wired &= m_machine.negativeStuck > 0.0 ? ~InputNegativeFeed : ~0;
-    const std::int32_t inputs = m_settings.inputsNormallyOpen ? wired ^ Inverted : wired;
+    const std::int32_t inputs = m_settings.inputsNormallyOpen ? wired ^ inverted : wired;
     return m_homing.isSwitchClosed(m_motor) ? inputs | InputHomeSwitch : inputs;
 }
 
@@ -51,7 +51,7 @@ std::int32_t ServoAxis::digitalInputs() const
     const std::int64_t quarter = m_motor.counts() & 3;
     std::int32_t bits = (quarter == 1 || quarter == 2 ? EncoderA : 0) | (quarter >= 2 ? EncoderB : 0);
     for (int phase = 0; phase < 3; ++phase) {
-        if (std::sin(m_motor.electricalAngle() - phase * ThirdOfTurn) > 0.0)
+        if (std::sin(m_motor.electricalAngle() - phase * thirdOfTurn) > 0.0)
             bits |= HallU << phase;
     }
     return bits;
@@ -60,14 +60,14 @@ std::int32_t ServoAxis::digitalInputs() const
 /// The supply sags under load, and rises a little while the motor brakes.
 double ServoAxis::supplyVolts() const
 {
-    return m_inputs.supplyCentivolts / 100.0 * (1.0 - m_sagged) * (1.0 - SagPerWatt * m_motor.power());
+    return m_inputs.supplyCentivolts / 100.0 * (1.0 - m_sagged) * (1.0 - sagPerWatt * m_motor.power());
 }
 
 /// A weak supply gives way while the motor has power, and comes back as slowly.
 void ServoAxis::sagSupply()
 {
-    const double step = m_machine.sag / 100.0 / CycleRate;
-    m_sagged = std::clamp(m_sagged + (m_brake.isPowered() ? step : -step), 0.0, DeepestSag);
+    const double step = m_machine.sag / 100.0 / cycleRate;
+    m_sagged = std::clamp(m_sagged + (m_brake.isPowered() ? step : -step), 0.0, deepestSag);
 }
 
 /// With a wrong resolution the drive loses the rotor angle as the motor turns; with two phases swapped its field turns
@@ -75,11 +75,11 @@ void ServoAxis::sagSupply()
 double ServoAxis::commutation() const
 {
     const bool isSwapped = m_machine.phasesSwapped > 0.0;
-    if (m_settings.feedbackLines == MotorModel::EncoderLines && !isSwapped)
+    if (m_settings.feedbackLines == MotorModel::encoderLines && !isSwapped)
         return 1.0;
-    const double turns = (m_motor.angle() - m_commutationFrom) / MotorModel::CountsPerTurn;
-    const double field = double(MotorModel::EncoderLines) / m_settings.feedbackLines * (isSwapped ? -1.0 : 1.0);
-    return std::cos(TwoPi * m_motor.polePairs() * turns * (1.0 - field));
+    const double turns = (m_motor.angle() - m_commutationFrom) / MotorModel::countsPerTurn;
+    const double field = double(MotorModel::encoderLines) / m_settings.feedbackLines * (isSwapped ? -1.0 : 1.0);
+    return std::cos(twoPi * m_motor.polePairs() * turns * (1.0 - field));
 }
 
 MotorModel::Load ServoAxis::load() const

@@ -37,7 +37,7 @@ private:
 };
 
 /// Temperature at which the drive stops, degrees Celsius.
-constexpr std::int32_t HottestDrive = 85;
+constexpr std::int32_t hottestDrive = 85;
 
 } // namespace sim
 

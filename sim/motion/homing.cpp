@@ -7,9 +7,9 @@ namespace sim {
 
 namespace {
 
-constexpr double SwitchSpacing = 2.0 * MotorModel::CountsPerTurn;
-constexpr double NearestSwitch = 0.5 * MotorModel::CountsPerTurn;
-constexpr double PinBehindSwitch = MotorModel::CountsPerTurn;
+constexpr double switchSpacing = 2.0 * MotorModel::countsPerTurn;
+constexpr double nearestSwitch = 0.5 * MotorModel::countsPerTurn;
+constexpr double pinBehindSwitch = MotorModel::countsPerTurn;
 
 int signOf(double value)
 {
@@ -18,7 +18,7 @@ int signOf(double value)
 
 std::int64_t turnOf(const MotorModel &motor)
 {
-    return static_cast<std::int64_t>(std::floor(motor.angle() / MotorModel::CountsPerTurn));
+    return static_cast<std::int64_t>(std::floor(motor.angle() / MotorModel::countsPerTurn));
 }
 
 } // namespace
@@ -27,9 +27,9 @@ void Homing::start(const AxisSettings &settings, std::int64_t position, MotorMod
 {
     const bool inverted = settings.flags & FlagInvertAxis;
     m_direction = signOf(settings.homingVelocity) * (inverted ? -1 : 1);
-    const double from = motor.angle() * m_direction + NearestSwitch;
-    m_switchAt = std::ceil(from / SwitchSpacing) * SwitchSpacing * m_direction;
-    motor.setHardStop(m_switchAt + PinBehindSwitch * m_direction, m_direction);
+    const double from = motor.angle() * m_direction + nearestSwitch;
+    m_switchAt = std::ceil(from / switchSpacing) * switchSpacing * m_direction;
+    motor.setHardStop(m_switchAt + pinBehindSwitch * m_direction, m_direction);
 
     const bool searches = settings.hardStopThreshold > 0 || settings.homingBits & SwitchSearch;
     enter(Search, position);

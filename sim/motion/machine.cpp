@@ -18,7 +18,7 @@ struct Property
 };
 
 /// One more is a row here, a member of Machine, and the place where it acts.
-const Property Properties[] = {
+const Property propertyTable[] = {
     {"flexible", &Machine::springHz, 60, 5, 1000, "the load hangs on a spring: their resonance, Hz"},
     {"damping", &Machine::springDamping, 0.02, 0, 0.7, "of that spring, 1 = critical"},
     {"ratio", &Machine::inertiaRatio, 2, 0.1, 20, "inertia of the load over the motor's"},
@@ -49,9 +49,9 @@ std::string parseProperty(const std::string &text, Machine &machine, bool &needs
 {
     const std::size_t equals = text.find('=');
     const std::string name = text.substr(0, equals);
-    const auto property = std::find_if(std::begin(Properties), std::end(Properties),
+    const auto property = std::find_if(std::begin(propertyTable), std::end(propertyTable),
                                        [&](const Property &candidate) { return name == candidate.name; });
-    if (property == std::end(Properties))
+    if (property == std::end(propertyTable))
         return "there is no load \"" + name + "\"";
     double value = property->ifNamed;
     if (equals != std::string::npos) {
@@ -92,17 +92,17 @@ std::string parseMachine(const std::string &text, Machine &machine)
 
 std::string machineHelp()
 {
-    constexpr std::size_t Column = 21;
+    constexpr std::size_t column = 21;
     std::ostringstream help;
     help.imbue(std::locale::classic());
-    for (const Property &property : Properties) {
+    for (const Property &property : propertyTable) {
         std::ostringstream name;
         name.imbue(std::locale::classic());
         name << property.name;
         if (property.maximum > 1.0 || property.ifNamed != 1.0)
             name << '[' << '=' << property.ifNamed << ']';
         const std::string text = name.str();
-        help << "  " << text << std::string(std::max(Column, text.size() + 1) - text.size(), ' ') << property.help
+        help << "  " << text << std::string(std::max(column, text.size() + 1) - text.size(), ' ') << property.help
              << '\n';
     }
     return help.str();

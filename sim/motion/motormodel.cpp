@@ -7,19 +7,19 @@ namespace sim {
 
 namespace {
 
-constexpr double TwoPi = 6.283185307179586;
+constexpr double twoPi = 6.283185307179586;
 /// Counts per control cycle that are one rad/s.
-constexpr double CountsPerRadian = MotorModel::CountsPerTurn / TwoPi;
-constexpr double CountsPerCycle = CountsPerRadian / CycleRate;
+constexpr double countsPerRadian = MotorModel::countsPerTurn / twoPi;
+constexpr double countsPerCycle = countsPerRadian / cycleRate;
 /// Sine-commutated three-phase motor: line voltage per speed over torque per phase ampere, and the resistance that a
 /// phase current meets between two wires.
-constexpr double EmfPerTorque = 1.1547005383792515; // 2 / sqrt 3
-constexpr double WirePerPhase = 0.8660254037844386; // sqrt 3 / 2
-constexpr double RipplesPerElectricalTurn = 6.0;    // a ripple each time the current passes from wire to wire
-constexpr double CogsPerTurn = 24.0;
-constexpr double SlippingDrag = 0.02; // Nm s/rad: a slipping brake lets the load sink, not fall
+constexpr double emfPerTorque = 1.1547005383792515; // 2 / sqrt 3
+constexpr double wirePerPhase = 0.8660254037844386; // sqrt 3 / 2
+constexpr double ripplesPerElectricalTurn = 6.0;    // a ripple each time the current passes from wire to wire
+constexpr double cogsPerTurn = 24.0;
+constexpr double slippingDrag = 0.02; // Nm s/rad: a slipping brake lets the load sink, not fall
 /// Where a hanging load meets the ground.
-constexpr double GroundCounts = -5.0 * MotorModel::CountsPerTurn;
+constexpr double groundCounts = -5.0 * MotorModel::countsPerTurn;
 
 } // namespace
 
@@ -48,13 +48,13 @@ void MotorModel::switchOff()
 
 double MotorModel::backEmfVolts() const
 {
-    return EmfPerTorque * m_winding.torquePerAmpere * m_velocity / CountsPerCycle;
+    return emfPerTorque * m_winding.torquePerAmpere * m_velocity / countsPerCycle;
 }
 
 /// What the bus voltage leaves of the target: against the back-EMF there must be enough to push the current.
 double MotorModel::boundedTarget()
 {
-    const double ohms = WirePerPhase * m_winding.milliOhms / 1000.0;
+    const double ohms = wirePerPhase * m_winding.milliOhms / 1000.0;
     const double highest = std::max((m_busVolts - backEmfVolts()) / ohms, 0.0);
     const double lowest = std::min((-m_busVolts - backEmfVolts()) / ohms, 0.0);
     const double bounded = std::clamp(m_target, lowest, highest);
@@ -67,15 +67,15 @@ double MotorModel::motorTorque(const Load &load) const
 {
     double torque = m_winding.torquePerAmpere * m_current * load.commutation;
     if (m_machine.ripple > 0.0)
-        torque *= 1.0 + m_machine.ripple * std::sin(RipplesPerElectricalTurn * electricalAngle());
+        torque *= 1.0 + m_machine.ripple * std::sin(ripplesPerElectricalTurn * electricalAngle());
     if (m_machine.cogging > 0.0)
-        torque -= m_machine.cogging * std::sin(CogsPerTurn * m_angle / CountsPerRadian);
+        torque -= m_machine.cogging * std::sin(cogsPerTurn * m_angle / countsPerRadian);
     return torque;
 }
 
 void MotorModel::step(double seconds, const Load &load)
 {
-    const double settled = 1.0 - std::exp(-TwoPi * m_bandwidth * seconds);
+    const double settled = 1.0 - std::exp(-twoPi * m_bandwidth * seconds);
     m_current += (boundedTarget() - m_current) * settled;
     const double driving = motorTorque(load);
     const double against = load.torque + (m_isPropped ? 0.0 : m_machine.hanging);
@@ -84,8 +84,8 @@ void MotorModel::step(double seconds, const Load &load)
         return;
     }
     turn(seconds, driving, against, load);
-    if (m_machine.hanging > 0.0 && m_angle < GroundCounts) {
-        m_angle = GroundCounts;
+    if (m_machine.hanging > 0.0 && m_angle < groundCounts) {
+        m_angle = groundCounts;
         m_velocity = 0.0;
     }
 }
@@ -96,11 +96,11 @@ void MotorModel::swing(double seconds, double driving, double against, const Loa
     const int steps = m_load->stepsFor(seconds);
     const double part = seconds / steps;
     for (int i = 0; i < steps; ++i) {
-        const double spring = m_load->torque(m_angle / CountsPerRadian, m_velocity / CountsPerCycle);
+        const double spring = m_load->torque(m_angle / countsPerRadian, m_velocity / countsPerCycle);
         turn(part, driving, spring, load);
         m_load->step(part, spring, against);
-        if (m_machine.hanging > 0.0 && loadAngle() < GroundCounts)
-            m_load->restAt(GroundCounts / CountsPerRadian);
+        if (m_machine.hanging > 0.0 && loadAngle() < groundCounts)
+            m_load->restAt(groundCounts / countsPerRadian);
     }
 }
 
@@ -111,9 +111,9 @@ void MotorModel::turn(double seconds, double driving, double against, const Load
         m_velocity = 0.0;
         return;
     }
-    const double speed = m_velocity / CountsPerCycle; // rad/s
+    const double speed = m_velocity / countsPerCycle; // rad/s
     const double dry = m_machine.dryFriction + load.brakeTorque;
-    const double viscous = m_machine.viscousFriction + (load.brakeTorque > 0.0 ? SlippingDrag : 0.0);
+    const double viscous = m_machine.viscousFriction + (load.brakeTorque > 0.0 ? slippingDrag : 0.0);
     const double pushing = driving - against - viscous * speed;
     double changed = 0.0;
     if (m_velocity == 0.0) {
@@ -125,8 +125,8 @@ void MotorModel::turn(double seconds, double driving, double against, const Load
         if (changed * speed < 0.0 && std::abs(pushing) <= dry)
             changed = 0.0;
     }
-    m_velocity = changed * CountsPerCycle;
-    m_angle += m_velocity * seconds * CycleRate;
+    m_velocity = changed * countsPerCycle;
+    m_angle += m_velocity * seconds * cycleRate;
     if (m_stopDirection != 0 && (m_angle - m_stopAt) * m_stopDirection > 0.0) {
         m_angle = m_stopAt;
         m_velocity = 0.0;
@@ -135,7 +135,7 @@ void MotorModel::turn(double seconds, double driving, double against, const Load
 
 double MotorModel::loadAngle() const
 {
-    return m_load ? m_load->angle() * CountsPerRadian : m_angle;
+    return m_load ? m_load->angle() * countsPerRadian : m_angle;
 }
 
 void MotorModel::setHardStop(double counts, int direction)
@@ -153,7 +153,7 @@ double MotorModel::torqueVoltage() const
 {
     if (m_busVolts <= 0.0)
         return 0.0;
-    const double volts = backEmfVolts() + WirePerPhase * m_winding.milliOhms / 1000.0 * m_current;
+    const double volts = backEmfVolts() + wirePerPhase * m_winding.milliOhms / 1000.0 * m_current;
     return std::clamp(volts / m_busVolts, -1.0, 1.0);
 }
 
@@ -161,19 +161,19 @@ double MotorModel::fluxVoltage() const
 {
     if (m_busVolts <= 0.0)
         return 0.0;
-    const double electricalSpeed = polePairs() * m_velocity / CountsPerCycle;
-    const double volts = -electricalSpeed * WirePerPhase * m_winding.microHenries * 1e-6 * m_current;
+    const double electricalSpeed = polePairs() * m_velocity / countsPerCycle;
+    const double volts = -electricalSpeed * wirePerPhase * m_winding.microHenries * 1e-6 * m_current;
     return std::clamp(volts / m_busVolts, -1.0, 1.0);
 }
 
 double MotorModel::power() const
 {
-    return m_winding.torquePerAmpere * m_current * m_velocity / CountsPerCycle;
+    return m_winding.torquePerAmpere * m_current * m_velocity / countsPerCycle;
 }
 
 double MotorModel::electricalAngle() const
 {
-    return std::fmod(polePairs() * m_angle / CountsPerRadian, TwoPi);
+    return std::fmod(polePairs() * m_angle / countsPerRadian, twoPi);
 }
 
 } // namespace sim

@@ -18,8 +18,8 @@ namespace sim {
 class MotorModel
 {
 public:
-    static constexpr int CountsPerTurn = 10000;
-    static constexpr int EncoderLines = CountsPerTurn / 4;
+    static constexpr int countsPerTurn = 10000;
+    static constexpr int encoderLines = countsPerTurn / 4;
 
     explicit MotorModel(const Winding &winding, const Machine &machine = {});
 

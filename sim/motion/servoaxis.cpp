@@ -7,15 +7,15 @@ namespace sim {
 
 namespace {
 
-constexpr double CurrentScale = 560.0; ///< counts per ampere
-constexpr double FullScale = 16384.0;  ///< setpoint of full velocity or torque
-constexpr int SmoothingCycles = 8;
-constexpr double MillivoltsFullScale = 10000.0;
+constexpr double currentScale = 560.0; ///< counts per ampere
+constexpr double fullScale = 16384.0;  ///< setpoint of full velocity or torque
+constexpr int smoothingCycles = 8;
+constexpr double millivoltsFullScale = 10000.0;
 
 } // namespace
 
 ServoAxis::ServoAxis(const DriveProfile &profile, const RegisterFile &registers, const Machine &machine)
-    : m_ticksPerCycle(profile.recorderRate / CycleRate), m_tickSeconds(1.0 / profile.recorderRate),
+    : m_ticksPerCycle(profile.recorderRate / cycleRate), m_tickSeconds(1.0 / profile.recorderRate),
       m_settings(registers), m_machine(machine), m_motor(profile.winding, machine), m_noise(std::uint32_t(machine.seed))
 {
     m_inputs.supplyCentivolts = profile.winding.busCentivolts;
@@ -82,7 +82,7 @@ void ServoAxis::cycle()
         return;
     }
     // What was commanded in the last cycle acts in this one.
-    m_motor.drive(m_nextCurrent / CurrentScale * axisSign(), m_settings.torqueBandwidth, m_supplyVolts);
+    m_motor.drive(m_nextCurrent / currentScale * axisSign(), m_settings.torqueBandwidth, m_supplyVolts);
     control();
     checkMotion();
 }
@@ -118,7 +118,7 @@ void ServoAxis::control()
         m_path.setpoint = static_cast<double>(m_position);
         m_path.error = 0.0;
         m_loop.reset(static_cast<double>(m_velocity));
-        m_nextCurrent = std::clamp(wanted, -limit, limit) * CurrentScale;
+        m_nextCurrent = std::clamp(wanted, -limit, limit) * currentScale;
         noteLimit(std::abs(wanted) > limit);
         return;
     }
@@ -129,7 +129,7 @@ void ServoAxis::control()
     m_nextCurrent = m_loop.velocityControl(m_settings, wanted, static_cast<double>(m_velocity),
                                            m_path.isRecovering ? m_settings.recoveryVelocity : m_settings.velocityLimit,
                                            isStop ? m_settings.stopDeceleration : m_settings.accelerationLimit,
-                                           limit * CurrentScale);
+                                           limit * currentScale);
     noteLimit(m_loop.isHeld());
 }
 
@@ -141,7 +141,7 @@ double ServoAxis::wantedVelocity()
     if (m_brake.isStopping())
         return 0.0;
     if (m_settings.mode == AxisSettings::Velocity)
-        return m_setpoint / FullScale * m_settings.velocityLimit * m_settings.countsPerUnit;
+        return m_setpoint / fullScale * m_settings.velocityLimit * m_settings.countsPerUnit;
     double error = 0.0, change = 0.0;
     followSetpoint(error, change);
     return m_loop.positionControl(m_settings, error, change);
@@ -160,7 +160,7 @@ void ServoAxis::followSetpoint(double &error, double &change)
         m_path.isRecovering = m_path.setpoint != arrived;
     } else if (m_brake.isFree()) {
         m_path.setpoint = m_settings.flags & FlagSmoothSetpoint
-                              ? m_path.setpoint + (arrived - m_path.setpoint) / SmoothingCycles
+                              ? m_path.setpoint + (arrived - m_path.setpoint) / smoothingCycles
                               : arrived;
     }
     const double position = static_cast<double>(m_position);
@@ -200,16 +200,16 @@ double ServoAxis::blockedBySwitches(double velocity) const
 
 double ServoAxis::torqueSetpoint() const
 {
-    return m_setpoint / FullScale * m_settings.peakCurrent * m_settings.countsPerUnit;
+    return m_setpoint / fullScale * m_settings.peakCurrent * m_settings.countsPerUnit;
 }
 
 void ServoAxis::readAnalogSetpoint()
 {
-    constexpr int FirstAnalog = 3;
-    const int input = m_settings.setpointInput - FirstAnalog;
+    constexpr int firstAnalog = 3;
+    const int input = m_settings.setpointInput - firstAnalog;
     if (input == 0 || input == 1)
         m_setpoint = static_cast<std::int32_t>(
-            std::lround(m_inputs.analog[input] / MillivoltsFullScale * FullScale + m_settings.setpointOffset));
+            std::lround(m_inputs.analog[input] / millivoltsFullScale * fullScale + m_settings.setpointOffset));
 }
 
 /// Closing the input clears; holding it closed does not keep the axis clear.

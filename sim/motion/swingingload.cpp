@@ -7,17 +7,17 @@ namespace sim {
 
 namespace {
 
-constexpr double TwoPi = 6.283185307179586;
-constexpr double RadiansPerCount = TwoPi / 10000.0;
-constexpr double StiffHz = 300.0;      ///< of a coupling that has play but was not said to be soft
-constexpr double LongestStep = 0.0625; ///< of the swing, rad: its frequency comes out within 0.02 %
+constexpr double twoPi = 6.283185307179586;
+constexpr double radiansPerCount = twoPi / 10000.0;
+constexpr double stiffHz = 300.0;      ///< of a coupling that has play but was not said to be soft
+constexpr double longestStep = 0.0625; ///< of the swing, rad: its frequency comes out within 0.02 %
 
 } // namespace
 
 SwingingLoad::SwingingLoad(const Machine &machine)
     : m_inertia(machine.inertia * machine.inertiaRatio / (1.0 + machine.inertiaRatio)),
-      m_swing(TwoPi * (machine.springHz > 0.0 ? machine.springHz : StiffHz)),
-      m_halfPlay(machine.backlash / 2.0 * RadiansPerCount)
+      m_swing(twoPi * (machine.springHz > 0.0 ? machine.springHz : stiffHz)),
+      m_halfPlay(machine.backlash / 2.0 * radiansPerCount)
 {
     // What swings is the reduced mass J1 J2 / (J1 + J2).
     const double reduced = m_inertia / (1.0 + machine.inertiaRatio);
@@ -27,7 +27,7 @@ SwingingLoad::SwingingLoad(const Machine &machine)
 
 int SwingingLoad::stepsFor(double seconds) const
 {
-    return std::max(1, static_cast<int>(std::ceil(m_swing * seconds / LongestStep)));
+    return std::max(1, static_cast<int>(std::ceil(m_swing * seconds / longestStep)));
 }
 
 double SwingingLoad::torque(double motorAngle, double motorSpeed) const

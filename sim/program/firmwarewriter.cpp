@@ -9,9 +9,9 @@ namespace sim {
 
 namespace {
 
-constexpr std::uint16_t FormatVersion = 300;
-constexpr std::size_t IoWords = 2500; // not a multiple of the 32 words of an upload: the last chunk is filled up
-constexpr std::size_t CoreWords = 1200;
+constexpr std::uint16_t formatVersion = 300;
+constexpr std::size_t ioWords = 2500; // not a multiple of the 32 words of an upload: the last chunk is filled up
+constexpr std::size_t coreWords = 1200;
 
 void append(Bytes &bytes, std::uint32_t value, int count)
 {
@@ -36,7 +36,7 @@ Bytes firmwareFile(std::int32_t deviceType, const std::vector<std::uint16_t> &io
                    const std::vector<std::uint16_t> &coreImage)
 {
     Bytes bytes{'T', 'D', 'F', 'W'};
-    append(bytes, FormatVersion, 2);
+    append(bytes, formatVersion, 2);
     append(bytes, static_cast<std::uint32_t>(deviceType), 2);
     append(bytes, static_cast<std::uint32_t>(ioImage.size() * 2), 4);
     append(bytes, static_cast<std::uint32_t>(coreImage.size() * 2), 4);
@@ -51,8 +51,8 @@ Bytes firmwareFile(std::int32_t deviceType, const std::vector<std::uint16_t> &io
 Bytes sampleFirmware(const DriveProfile &profile)
 {
     const auto seed = static_cast<std::uint32_t>(profile.deviceType);
-    return firmwareFile(profile.deviceType, sampleImage(IoWords, seed),
-                        profile.hasIoProcessor ? sampleImage(CoreWords, seed + 1) : std::vector<std::uint16_t>());
+    return firmwareFile(profile.deviceType, sampleImage(ioWords, seed),
+                        profile.hasIoProcessor ? sampleImage(coreWords, seed + 1) : std::vector<std::uint16_t>());
 }
 
 std::string writeFile(const std::string &path, const Bytes &bytes)

@@ -7,9 +7,9 @@
 
 namespace {
 
-constexpr int Failed = 1;
-constexpr int WrongUsage = 2;
-constexpr long StateCheckNanoseconds = 500000000;
+constexpr int exitFailed = 1;
+constexpr int wrongUsage = 2;
+constexpr long stateCheckNanoseconds = 500000000;
 
 int failed(const std::string &error, int status)
 {
@@ -21,7 +21,7 @@ int writeFirmware(const sim::SimOptions &options)
 {
     const sim::DriveProfile &profile = *sim::findProfile(options.bus.drives.front().profile);
     const std::string error = sim::writeFile(options.firmwareFile, sim::sampleFirmware(profile));
-    return error.empty() ? 0 : failed(error, Failed);
+    return error.empty() ? 0 : failed(error, exitFailed);
 }
 
 /// Empty on success, else which register does not exist.
@@ -48,11 +48,11 @@ std::string preset(sim::VirtualBus &bus, const sim::SimOptions &options)
 void serve(const sim::VirtualBus &bus, const sigset_t &signals)
 {
     std::string told;
-    const timespec pause{0, StateCheckNanoseconds};
+    const timespec pause{0, stateCheckNanoseconds};
     while (sigtimedwait(&signals, nullptr, &pause) < 0) {
         const std::string error = bus.stateError();
         if (error != told && !error.empty())
-            failed(error, Failed);
+            failed(error, exitFailed);
         told = error;
     }
 }
@@ -64,7 +64,7 @@ int main(int count, char **arguments)
     sim::SimOptions options;
     const std::string wrong = sim::parseArguments(count, arguments, options);
     if (!wrong.empty())
-        return failed(wrong + "\nTry velbrin-sim --help", WrongUsage);
+        return failed(wrong + "\nTry velbrin-sim --help", wrongUsage);
     if (options.wantsHelp) {
         std::fputs(sim::helpText().c_str(), stdout);
         return 0;
@@ -85,7 +85,7 @@ int main(int count, char **arguments)
     if (error.empty())
         error = preset(bus, options);
     if (!error.empty())
-        return failed(error, Failed);
+        return failed(error, exitFailed);
     bus.setFaults(options.faults);
     std::printf("%s\n", bus.portName().c_str());
     std::fflush(stdout);

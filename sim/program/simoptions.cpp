@@ -88,9 +88,9 @@ public:
 
 void describe(CLI::App &app)
 {
-    constexpr std::size_t Column = 30;
+    constexpr std::size_t column = 30;
     app.formatter(std::make_shared<UsageFirst>());
-    app.get_formatter()->column_width(Column);
+    app.get_formatter()->column_width(column);
     app.footer(profileHelp() + "\nLoads:\n" + machineHelp() + "\nKinds of bad lines:\n" + lineFaultHelp());
 }
 
@@ -102,7 +102,7 @@ std::string parsePreset(const std::string &text, std::vector<PresetRegister> &pr
     long reg = 0, value = 0, drive = 0;
     const bool good = equals != std::string::npos && (at == std::string::npos || at > equals) &&
                       parseNumber(text.substr(0, equals), 1, 0x3FFF, reg) &&
-                      parseNumber(text.substr(equals + 1, at - equals - 1), RegisterMinimum, RegisterMaximum, value) &&
+                      parseNumber(text.substr(equals + 1, at - equals - 1), registerMinimum, registerMaximum, value) &&
                       (at == std::string::npos || parseNumber(text.substr(at + 1), 1, 250, drive));
     if (!good)
         return "--set " + text + ": not of the form REGISTER=VALUE[@ADDRESS]";

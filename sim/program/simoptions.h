@@ -20,7 +20,7 @@ struct SimOptions
     BusOptions bus;
     std::vector<PresetRegister> presets;
     std::vector<LineFault> faults;
-    int bootloaderVersion = Bootloader::DefaultVersion;
+    int bootloaderVersion = Bootloader::defaultVersion;
     std::string firmwareFile; ///< write one and end, when not empty
     bool wantsHelp = false;
 };

@@ -62,6 +62,7 @@ protected:
     /// Brings the bus up anew, with other drives or on the same state file.
     void startBus(sim::BusOptions options)
     {
+        options.goesFirst = true; // a real drive has a processor of its own
         m_bus.reset();
         options.linkPath = port();
         options.recordRequests = true;

@@ -1,4 +1,4 @@
-#include "helpview.h"
+#include "enginestart.h"
 #include "testhome.h"
 
 #include <QApplication>
@@ -11,9 +11,9 @@ int main(int argc, char **argv)
     setenv("QT_QPA_PLATFORM", "offscreen", 0);
     testing::InitGoogleTest(&argc, argv);
     // In a container the system may refuse the engine its sandbox. Tests show it their own pages only.
-    if (!HelpView::whyEngineCannotStart().isEmpty())
+    if (!whyEngineCannotStart().isEmpty())
         setenv("QTWEBENGINE_DISABLE_SANDBOX", "1", 0);
-    HelpView::prepareEngine();
+    prepareEngine();
     QApplication app(argc, argv);
     return RUN_ALL_TESTS();
 }

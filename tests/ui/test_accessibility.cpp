@@ -4,7 +4,12 @@
 #include "panekeys.h"
 
 #include <QAccessible>
+#include <QComboBox>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QSpinBox>
+#include <QStackedWidget>
+#include <QToolButton>
 #include <set>
 
 namespace {
@@ -74,6 +79,38 @@ TEST_F(Accessibility, EveryControlOfEveryPageHasANameAndAnAction)
         widget->show();
         EXPECT_EQ(namelessIn(widget), QStringList()) << dialog;
         widget->close();
+    }
+}
+
+TEST_F(Accessibility, NoPageOfASmallWindowIsScrolledSidewaysAndTabLeavesEachOnce)
+{
+    openConnectedWindow();
+    m_window->resize(1024, 700);
+    control<QComboBox>("MT")->setCurrentIndex(0);
+    control<QSpinBox>("CVL")->setValue(20000); // the marks of long values
+    goTo(3);
+    ASSERT_TRUE(waitFor([this] { return control<QToolButton>("MTdrive")->isVisible(); }));
+    m_answers.press("No");
+    auto *pages = control<QStackedWidget>("pages");
+    for (int page = 0; page < pages->count(); ++page) {
+        goTo(page);
+        QWidget *shown = pages->currentWidget();
+        for (const bool withHelp : {false, true}) {
+            if (control<QWidget>("helpPane")->isVisible() != withHelp)
+                press(Qt::Key_F1);
+            QApplication::processEvents();
+            EXPECT_EQ(shown->findChild<QScrollArea *>()->horizontalScrollBar()->maximum(), 0) << page << withHelp;
+        }
+        int entered = 0;
+        for (QWidget *stop = m_window.get(), *before = stop;; before = stop) {
+            do
+                stop = stop->nextInFocusChain();
+            while (stop != m_window.get() && !(stop->isVisible() && stop->focusPolicy() & Qt::TabFocus));
+            entered += shown->isAncestorOf(stop) && !shown->isAncestorOf(before);
+            if (stop == m_window.get())
+                break;
+        }
+        EXPECT_LE(entered, 1) << page;
     }
 }
 

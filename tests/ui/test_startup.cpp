@@ -1,4 +1,5 @@
 // Opening the window: disclaimer, pages, names.
+#include "pagetable.h"
 #include "windowfixture.h"
 
 #include <QCheckBox>
@@ -41,9 +42,12 @@ TEST_F(Startup, AgreeingOpensTheWindowOnTheWelcomePage)
     EXPECT_FALSE(label("wellcomeText")->text().contains("%VELBRIN_VERSION"));
     EXPECT_EQ(control<QStackedWidget>("pages")->currentIndex(), 0);
     const auto *selector = control<QListWidget>("pageSelector");
-    ASSERT_EQ(selector->count(), 7);
-    for (int i = 0; i < selector->count(); ++i)
-        EXPECT_FALSE(selector->item(i)->icon().isNull() || selector->item(i)->text().isEmpty()) << i;
+    ASSERT_EQ(selector->count(), int(pageTable().size()));
+    for (int i = 0; i < selector->count(); ++i) {
+        EXPECT_EQ(selector->item(i)->text(), pageTable()[std::size_t(i)].text);
+        EXPECT_FALSE(selector->item(i)->icon().pixmap(64).isNull()) << i;
+        EXPECT_EQ(selector->item(i)->sizeHint(), QSize(79, 96));
+    }
 }
 
 TEST_F(Startup, DisagreeingSaysSoAndClosesTheWindow)
@@ -115,7 +119,7 @@ TEST_F(Startup, WithoutADriveNothingIsPendingAndNothingCanBeSent)
 TEST_F(Startup, HiddenControlsStayHiddenOnTheirPages)
 {
     openWindow();
-    for (int page = 0; page < 7; ++page) {
+    for (int page = 0; page < int(pageTable().size()); ++page) {
         goTo(page);
         for (const char *name : {"CSD", "AD", "stimuluspresets", "dualfbgroup", "ScopeDebug", "scopePWM3", "menuBar",
                                  "mainToolBar", "offlineHelpNotification", "FUVwarning", "restartToDFUMode"})

@@ -1,6 +1,5 @@
 /// \file
-/// The pane beside the pages: help, or the plot of a capture. This pair of files is the only one that knows the web
-/// engine.
+/// The pane beside the pages: help, or the plot of a capture. No header that others include knows the web engine.
 #ifndef HELPVIEW_H
 #define HELPVIEW_H
 
@@ -13,9 +12,11 @@
 
 class QLabel;
 class QStackedLayout;
+struct HelpEngine;
 
 /// Shows one page at a time. The engine (processes of its own, some 100 MB) is started behind the first paint of the
-/// pane, so that it never delays the window; what is asked before waits. Where it cannot start, or has died, the pane
+/// pane, so that it never delays the window; prepareEngine() (enginestart.h) has to come before the application object.
+/// What is asked before it stands waits. Where it cannot start, or has died, the pane
 /// says so in words and everything else goes on. User-interface thread.
 ///
 /// A page may do what help and plots need and no more: no downloads, windows, permissions or stored data; local files
@@ -29,13 +30,6 @@ public:
     enum class Engine { Allowed, Off };
     /// What happens to the zoom of a plot that is drawn again.
     enum class Zoom { Keep, Reset };
-
-    /// To be called once, before the application object is made: registers the plot page's address scheme and sets what
-    /// the engine takes from the environment.
-    static void prepareEngine();
-    /// A look at what would end the whole program if the engine were started all the same: its process is missing, or
-    /// the system refuses its sandbox. Empty when it can start.
-    static QString whyEngineCannotStart();
 
     explicit HelpView(QWidget *parent = nullptr, Engine engine = Engine::Allowed);
     ~HelpView() override;
@@ -76,19 +70,19 @@ protected:
     void changeEvent(QEvent *event) override;
 
 private:
-    class Engines;
     void startEngine();
     bool isRunning() const;
     void loadEnded(bool ok, const QUrl &url);
     void processEnded(const QString &how);
     void showNote(const QString &text);
     void loadPlot();
+    void pictureEnded(const QString &failure);
 
     Engine m_use;
     QStackedLayout *m_stack;
     QLabel *m_note;
     QString m_noteText;
-    std::unique_ptr<Engines> m_engines; ///< once started
+    std::unique_ptr<HelpEngine> m_engine; ///< once started
     bool m_begun = false;               ///< the start is on its way
     bool m_loading = false;             ///< whoever asked for the page waits for its end
     QUrl m_wantedUrl;                   ///< the page on display, or to be loaded as soon as the engine stands

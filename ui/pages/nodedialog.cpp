@@ -19,14 +19,22 @@ QString rowText(const NodeType &node)
         .arg(node.address);
 }
 
+QString linkText(QString form, const QPalette &colours)
+{
+    form.replace(QLatin1String("https://wiki.tarnwell.example"), makerWikiBase());
+    // The form's blue is one for a light desktop.
+    if (colours.color(QPalette::Window).lightness() < 128)
+        form.replace(QLatin1String("#0057ae"), QColor(0x7a, 0xb8, 0xff).name());
+    return form;
+}
+
 } // namespace
 
 NodeDialog::NodeDialog(const QList<NodeType> &nodes, int lastAddress, QWidget *parent)
     : QDialog(parent), m_nodes(nodes), m_form(new Ui_selectBusNode)
 {
     m_form->setupUi(this);
-    m_form->label_2->setText(
-        m_form->label_2->text().replace(QLatin1String("https://wiki.tarnwell.example"), makerWikiBase()));
+    m_form->label_2->setText(linkText(m_form->label_2->text(), palette()));
     QPushButton *again = m_form->buttonBox->addButton(tr("Search again"), QDialogButtonBox::ActionRole);
     connect(again, &QPushButton::clicked, this, [this] { done(SearchAgain); });
     connect(m_form->nodeList, &QListWidget::itemSelectionChanged, this, &NodeDialog::updateOpenButton);

@@ -168,7 +168,7 @@ QString ParameterPages::sanityWarnings() const
     in.trackingThreshold = m_forms.faultLimits.FPT->value();
     in.controlMode = m_forms.goals.CM->currentIndex();
     in.limitVelocity = scale.velocity(m_forms.goals.CVL->value());
-    in.faultVelocity = scale.velocity(m_forms.faultLimits.FEV->value(), false, true);
+    in.faultVelocity = scale.velocity(m_forms.faultLimits.FEV->value(), UnitConversion::Scale::Raw);
     return ::sanityWarnings(in);
 }
 
@@ -238,7 +238,6 @@ void ParameterPages::connectUnitLabels()
     for (const QSpinBox *box : {goals.MUL, goals.DIV, m_forms.machine.FBR})
         connect(box, &QSpinBox::valueChanged, this, &ParameterPages::unitsChanged);
     connect(goals.AXS, &QDoubleSpinBox::valueChanged, this, &ParameterPages::unitsChanged);
-    connect(goals.AXT, &QComboBox::currentIndexChanged, this, &ParameterPages::unitsChanged);
 }
 
 void ParameterPages::updateUnitLabels()

@@ -89,6 +89,7 @@ void ParameterPages::axisTypeChosen(int index)
     // These two turn into converted values as soon as the unit labels are next computed.
     m_forms.goals.CVLrvel->setText(tr("%1/s").arg(unit));
     m_forms.goals.CALracc->setText(tr("%1/s²").arg(unit));
+    emit unitsChanged();
 }
 
 void ParameterPages::feedbackDeviceChosen(const QString &name)

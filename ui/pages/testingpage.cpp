@@ -7,7 +7,6 @@
 #include "connection.h"
 #include "editedfield.h"
 #include "parameterpages.h"
-#include "triesdesk.h"
 #include "ui_testingpage.h"
 
 #include <QDebug>
@@ -202,7 +201,7 @@ void TestingPage::showCaptureState(const QString &text)
 
 void TestingPage::plot(const QList<CaptureData> &captures)
 {
-    m_use.tries->captured(captureRecord(m_session, m_use.connect->lastAddress(), m_request, captures));
+    emit captured(captureRecord(m_session, m_use.connect->lastAddress(), m_request, captures));
     if (m_form.repeatCapture->isChecked())
         capture();
 }

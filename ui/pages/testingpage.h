@@ -18,7 +18,6 @@ class ParameterPages;
 class QCheckBox;
 class QPushButton;
 class QSpinBox;
-class TriesDesk;
 class Ui_TestingPage;
 enum class Reach;
 
@@ -35,7 +34,6 @@ public:
         const ParameterPages *pages; ///< for setpoints in machine units
         ApplyDesk *apply;            ///< asks before a capture of settings that are not applied
         const ConnectPage *connect;  ///< knows the drive's address
-        TriesDesk *tries;            ///< shows captures
         const EditedSettings &settings;
     };
     TestingPage(QWidget *window, const Ui_TestingPage &form, Connection &session, const Helpers &helpers);
@@ -60,6 +58,9 @@ public:
     CaptureAid *captureAid() const { return m_aid; }
     /// The panels as plain text, one below the other.
     QString deviceState() const { return m_panels.plainText(); }
+
+signals:
+    void captured(const CaptureRecord &record);
 
 private:
     void connectPanels();

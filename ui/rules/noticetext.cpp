@@ -6,7 +6,7 @@
 
 namespace {
 
-constexpr int LONGEST_NOTICE = 4000;
+constexpr int longestNotice = 4000;
 
 const char *const PLAIN_TAGS[] = {"b", "strong", "i", "em", "u", "br", "p", "h1", "h2", "h3", "h4", "ul", "ol", "li"};
 
@@ -39,7 +39,7 @@ bool endsLink(const QString &inside)
 
 QString noticeText(const QString &html)
 {
-    const QString source = html.size() > LONGEST_NOTICE ? html.left(LONGEST_NOTICE) + QChar(0x2026) : html;
+    const QString source = html.size() > longestNotice ? html.left(longestNotice) + QChar(0x2026) : html;
     QString text;
     QString address; // of the link that is open
     qsizetype at = 0;

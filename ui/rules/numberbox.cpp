@@ -7,13 +7,13 @@
 
 namespace {
 
-constexpr int MINUS_SIGN = 0x2212; // as texts have it that were copied from a data sheet
-constexpr double MARK_STRENGTH = 0.35;
+constexpr int minusSign = 0x2212; // as texts have it that were copied from a data sheet
+constexpr double markStrength = 0.35;
 
 /// The field's own colour with some red in it, so that the text stays readable on a dark desktop, too.
 QColor markedColour(const QColor &base)
 {
-    const auto mixed = [](int from, int to) { return int(from + (to - from) * MARK_STRENGTH); };
+    const auto mixed = [](int from, int to) { return int(from + (to - from) * markStrength); };
     return {mixed(base.red(), 255), mixed(base.green(), 40), mixed(base.blue(), 40)};
 }
 
@@ -31,7 +31,7 @@ TypedNumber readTypedNumber(const QString &text, int decimals)
 {
     static const QRegularExpression form(QStringLiteral("^([+-]?)(\\d*)(?:([.,])(\\d*))?$"));
     QString typed = text.trimmed();
-    if (typed.startsWith(QChar(MINUS_SIGN)))
+    if (typed.startsWith(QChar(minusSign)))
         typed[0] = QLatin1Char('-');
     const QRegularExpressionMatch match = form.match(typed);
     if (!match.hasMatch())

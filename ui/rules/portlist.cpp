@@ -6,8 +6,8 @@
 namespace {
 
 // The USB identity of the Zetabus V2 adapter's serial chip.
-constexpr int ADAPTER_VENDOR = 0x0403;
-constexpr int ADAPTER_PRODUCT = 0x6001;
+constexpr int adapterVendor = 0x0403;
+constexpr int adapterProduct = 0x6001;
 
 QString tr(const char *text)
 {
@@ -17,7 +17,7 @@ QString tr(const char *text)
 bool isAdapter(const SerialPort &port)
 {
     if (port.portName.contains(QLatin1String("COM")))
-        return port.vendorId == ADAPTER_VENDOR && port.productId == ADAPTER_PRODUCT;
+        return port.vendorId == adapterVendor && port.productId == adapterProduct;
     return port.portName.contains(QLatin1String("ttyUSB"));
 }
 

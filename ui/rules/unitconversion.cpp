@@ -22,7 +22,10 @@ constexpr AxisUnitRow axisUnitTable[] = {
     {QT_TRANSLATE_NOOP("MW", "degree"), QT_TRANSLATE_NOOP("MW", "degrees")},
 };
 
-// In the order in which they are tried. "hacc" only takes part in updates: no conversion goes with it.
+// In the order in which they are tried. A label that ends in "hacc" is refreshed with the others and shows "ERROR": no
+// conversion goes with it.
+using Scale = UnitConversion::Scale;
+
 struct SuffixRow
 {
     const char *suffix;
@@ -32,8 +35,8 @@ const SuffixRow suffixTable[] = {
     {"rpos", [](const UnitConversion &u, double v) { return u.positionLabel(v); }},
     {"rvel", [](const UnitConversion &u, double v) { return u.velocityLabel(v); }},
     {"racc", [](const UnitConversion &u, double v) { return u.accelerationLabel(v); }},
-    {"hpos", [](const UnitConversion &u, double v) { return u.positionLabel(v, true); }},
-    {"hvel", [](const UnitConversion &u, double v) { return u.velocityLabel(v, false, true); }},
+    {"hpos", [](const UnitConversion &u, double v) { return u.positionLabel(v, Scale::Raw); }},
+    {"hvel", [](const UnitConversion &u, double v) { return u.velocityLabel(v, Scale::Raw); }},
     {"hacc", [](const UnitConversion &, double) { return QStringLiteral("ERROR"); }},
 };
 
@@ -56,16 +59,18 @@ AxisUnits axisUnits(int axisType)
     return {translated(axisUnitTable[axisType].singular), translated(axisUnitTable[axisType].plural)};
 }
 
-double UnitConversion::velocity(double hwunits, bool isSetpoint, bool rawHWscale) const
+double UnitConversion::velocity(double hwunits, Scale scale) const
 {
-    const double d = rawHWscale ? 1.0 : div;
+    const bool isRaw = scale == Scale::Raw || scale == Scale::RawSetpoint;
+    const bool isSetpoint = scale == Scale::Setpoint || scale == Scale::RawSetpoint;
+    const double d = isRaw ? 1.0 : div;
     const double f = isSetpoint ? mul / d : 1.0;
     return hwunits * pif / d / countsPerUnit() * f;
 }
 
-double UnitConversion::position(double hwunits, bool rawHWscale) const
+double UnitConversion::position(double hwunits, Scale scale) const
 {
-    const double k = rawHWscale ? 1.0 : mul / div;
+    const double k = scale == Scale::Raw ? 1.0 : mul / div;
     return k * hwunits / countsPerUnit();
 }
 
@@ -74,14 +79,14 @@ double UnitConversion::acceleration(double hwunits) const
     return hwunits * pif * pif / div / countsPerUnit();
 }
 
-QString UnitConversion::velocityLabel(double hwunits, bool isSetpoint, bool rawHWscale) const
+QString UnitConversion::velocityLabel(double hwunits, Scale scale) const
 {
-    return label(velocity(hwunits, isSetpoint, rawHWscale), unit) + QStringLiteral("/s");
+    return label(velocity(hwunits, scale), unit) + QStringLiteral("/s");
 }
 
-QString UnitConversion::positionLabel(double hwunits, bool rawHWscale) const
+QString UnitConversion::positionLabel(double hwunits, Scale scale) const
 {
-    return label(position(hwunits, rawHWscale), unit);
+    return label(position(hwunits, scale), unit);
 }
 
 QString UnitConversion::accelerationLabel(double hwunits) const
@@ -103,7 +108,7 @@ QString UnitConversion::setpointLabel(double ref, const ActiveScale &active) con
     case 0:
         return positionLabel(ref);
     case 1:
-        return velocityLabel(active.cvl * ref / fullScaleSetpoint, true);
+        return velocityLabel(active.cvl * ref / fullScaleSetpoint, Scale::Setpoint);
     case 2:
         return label(active.mmc * ref / fullScaleSetpoint * mul / div, QStringLiteral("A"));
     default:

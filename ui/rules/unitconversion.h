@@ -33,17 +33,23 @@ struct UnitConversion
     double div = 1.0;    ///< setpoint divider, also the resolution of velocities and accelerations
     QString unit;        ///< plural name of the machine unit
 
-    /// Velocity in machine units a second. A setpoint is divided by DIV twice and multiplied by MUL once, any other
-    /// value is divided by DIV once, a raw one not at all: that is how the drive counts.
-    double velocity(double hwunits, bool isSetpoint = false, bool rawHWscale = false) const;
-    /// Position in machine units; raw: counts, else setpoint units.
-    double position(double hwunits, bool rawHWscale = false) const;
+    /// What a number of the drive counts in.
+    enum class Scale {
+        Setpoint,    ///< setpoint units: MUL and DIV apply, on top of the DIV of a velocity
+        Value,       ///< a setting or a live value: velocities and accelerations are divided by DIV
+        Raw,         ///< encoder counts, undivided
+        RawSetpoint, ///< multiplied by MUL only
+    };
+    /// Velocity in machine units a second.
+    double velocity(double hwunits, Scale scale = Scale::Value) const;
+    /// Position in machine units; of Raw, counts, and of anything else setpoint units.
+    double position(double hwunits, Scale scale = Scale::Setpoint) const;
     /// Acceleration in machine units per square second.
     double acceleration(double hwunits) const;
 
     /// The same as texts: "= 6.25 mm/s" and the like, six significant digits.
-    QString velocityLabel(double hwunits, bool isSetpoint = false, bool rawHWscale = false) const;
-    QString positionLabel(double hwunits, bool rawHWscale = false) const;
+    QString velocityLabel(double hwunits, Scale scale = Scale::Value) const;
+    QString positionLabel(double hwunits, Scale scale = Scale::Setpoint) const;
     QString accelerationLabel(double hwunits) const;
     /// The conversion that the last four letters of a label's object name choose; "ERROR" for any other name.
     QString labelBySuffix(double hwunits, const QString &labelName) const;

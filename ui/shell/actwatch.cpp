@@ -56,7 +56,7 @@ void ActWatch::lookForEnable(const DriveState &state)
         return finish(tr("Enabled: the motor is powered"));
     if (state.faultRegister != 0 && !state.isRunning() && state.isFaultStopped())
         return finish(tr("Not enabled: the drive has a fault: %1").arg(faultNames(state).join(QLatin1String(", "))));
-    if (m_since.elapsed() < ENABLE_LIMIT_MS)
+    if (m_since.elapsed() < enableLimitMs)
         return;
     const QString reasons = reasonsForInactivity(state);
     finish(reasons.isEmpty() ? tr("The enable was sent, but the motor is not powered")
@@ -67,7 +67,7 @@ void ActWatch::lookForCleared(const DriveState &state)
 {
     if (state.faultRegister == 0)
         finish(tr("Faults cleared"));
-    else if (m_since.elapsed() >= CLEAR_LIMIT_MS)
+    else if (m_since.elapsed() >= clearLimitMs)
         finish(tr("Not cleared: %1. The cause is still there").arg(faultNames(state).join(QLatin1String(", "))));
 }
 

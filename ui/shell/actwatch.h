@@ -19,8 +19,8 @@ public:
     explicit ActWatch(QObject *parent = nullptr);
 
     /// How long the drive may take to show an effect, ms. An enable may have to find the rotor angle first.
-    static constexpr int ENABLE_LIMIT_MS = 3000;
-    static constexpr int CLEAR_LIMIT_MS = 1500;
+    static constexpr int enableLimitMs = 3000;
+    static constexpr int clearLimitMs = 1500;
 
     void enableAsked() { ask(Act::Enable); }
     void clearFaultsAsked() { ask(Act::ClearFaults); }

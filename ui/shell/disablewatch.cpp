@@ -5,7 +5,7 @@
 DisableWatch::DisableWatch(QObject *parent) : QObject(parent)
 {
     m_limit.setSingleShot(true);
-    m_limit.setInterval(LIMIT_MS);
+    m_limit.setInterval(limitMs);
     connect(&m_limit, &QTimer::timeout, this, [this] {
         // A late poll may still bring the good news, so the watch goes on.
         emit unconfirmed(tr("The disable is not confirmed: the drive may still be powered. Use the machine's hardware "

@@ -20,7 +20,7 @@ public:
     explicit DisableWatch(QObject *parent = nullptr);
 
     /// How long a poll may take to confirm a disable, ms.
-    static constexpr int LIMIT_MS = 500;
+    static constexpr int limitMs = 500;
 
     /// Which drive a disable can reach.
     enum class Reach {

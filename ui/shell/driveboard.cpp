@@ -129,12 +129,10 @@ void DriveBoard::restoreTyping()
 void DriveBoard::refresh()
 {
     QStringList names;
-    const auto differences = m_settings.differences();
-    for (const EditedSettings::Difference &difference : differences) {
-        // What a file brings for another model is nobody's edit: it is never sent.
-        if (m_settings.drive().getParam(difference.name).supportedInDevice(model()))
-            names << difference.name;
-    }
+    // What a file brings for another model is nobody's edit: it is never sent, and no difference.
+    const auto differences = m_settings.differences(model());
+    for (const Difference &difference : differences)
+        names << difference.name;
     m_changes = m_marks->show(m_settings.drive(), m_settings.edited(), names);
     ValueHomes homes;
     homes.changes = int(m_changes.size());

@@ -1,5 +1,6 @@
 #include "editmarks.h"
 
+#include "elided.h"
 #include "parameters.h"
 
 #include <QGridLayout>
@@ -40,7 +41,8 @@ void EditMarks::make(const SettingField &field)
     if (!grid)
         return;
     Mark mark;
-    mark.button = new QToolButton(field.control->parentWidget());
+    mark.button = new ElidedButton(field.control->parentWidget());
+    mark.button->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed); // a long choice makes no page wider
     mark.button->setObjectName(field.name + QLatin1String("drive"));
     mark.button->setToolTip(tr("The field was changed and not applied. A click brings the drive's value back."));
     mark.button->hide();
@@ -88,7 +90,7 @@ void EditMarks::mark(const SettingField &field, const SettingChange *change)
         return;
     }
     found->driveValue = change->beforeNumber;
-    const QString text = tr("drive: %1").arg(change->before);
+    const QString text = tr("drive: %1").arg(field.bareText(change->beforeNumber)); // the field has the unit
     if (button->text() != text) {
         button->setText(text);
         button->setAccessibleName(tr("%1 edited, the drive has %2: take the edit back").arg(field.name, change->before));

@@ -11,7 +11,7 @@
 
 namespace {
 
-constexpr int RETRY_MS = 100;
+constexpr int retryMs = 100;
 
 QString oneLine(const QString &html)
 {
@@ -99,7 +99,7 @@ void ErrorWindow::showNext()
         const bool vital = isVital(m_waiting.head());
         const bool boxOpen = QApplication::activeModalWidget() != nullptr;
         if (boxOpen && !vital) {
-            QTimer::singleShot(RETRY_MS, this, &ErrorWindow::showNext);
+            QTimer::singleShot(retryMs, this, &ErrorWindow::showNext);
             return;
         }
         const QString text = m_waiting.dequeue().text;
@@ -107,7 +107,7 @@ void ErrorWindow::showNext()
         setModal(boxOpen);
         if (m_again)
             m_again->setVisible(!vital);
-        // A type of its own for each vital message: the tick of an earlier one cannot match it.
+        // "Show no more" works by type: a vital message gets one that no earlier message had, so that it always shows.
         if (vital)
             showMessage(withLinks(text), QStringLiteral("vital %1").arg(++m_vitalCount));
         else

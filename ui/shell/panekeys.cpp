@@ -5,19 +5,23 @@
 #include <QHash>
 #include <QListWidget>
 #include <QShortcut>
+#include <QLayout>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QSplitter>
+#include <QStackedWidget>
 #include <algorithm>
 
 namespace {
 
-/// A plot that is narrower shows nothing; then the page has the room, or gives some of it when help is asked for.
-constexpr int leastHelpWidth = 320;
+/// A plot that is narrower shows nothing; then the page has the room.
+constexpr int usefulHelpWidth = 320;
 
 } // namespace
 
 PaneKeys::PaneKeys(QWidget *window, QListWidget *pages, QSplitter *splitter, QWidget *help,
                    const QVector<QWidget *> &panes)
-    : QObject(window), m_pages(pages), m_splitter(splitter), m_help(help), m_panes(panes.cbegin(), panes.cend())
+    : QObject(window), m_pages(pages), m_stack(splitter->findChild<QStackedWidget *>()), m_splitter(splitter), m_help(help), m_panes(panes.cbegin(), panes.cend())
 {
     const auto add = [window](const QKeySequence &keys) {
         auto *shortcut = new QShortcut(keys, window);
@@ -36,6 +40,7 @@ PaneKeys::PaneKeys(QWidget *window, QListWidget *pages, QSplitter *splitter, QWi
                 m_last[pane] = now;
         }
     });
+    connect(m_stack, &QStackedWidget::currentChanged, this, &PaneKeys::pageCame);
     splitter->installEventFilter(this);
     pages->viewport()->installEventFilter(this);
 }
@@ -48,20 +53,34 @@ bool PaneKeys::isHelpShown() const
 void PaneKeys::showHelp(bool shown)
 {
     m_wish = shown ? Wish::Shown : Wish::Hidden;
-    if (isHelpShown() == shown)
+    fold(!shown);
+}
+
+void PaneKeys::fold(bool away)
+{
+    if (isHelpShown() != away)
         return;
-    if (!shown && m_help->isAncestorOf(QApplication::focusWidget()))
+    if (away && m_help->isAncestorOf(QApplication::focusWidget()))
         walk(1);
-    m_help->setVisible(shown);
-    if (shown && m_help->width() < leastHelpWidth)
-        m_splitter->setSizes({m_splitter->width() - m_splitter->handleWidth() - leastHelpWidth, leastHelpWidth});
-    emit helpShown(shown);
+    m_help->setVisible(!away);
+    share();
+    emit helpShown(!away);
 }
 
 void PaneKeys::plotCame()
 {
-    if (m_wish != Wish::Hidden)
-        showHelp(true);
+    m_plotPage = m_stack->currentIndex();
+    pageCame();
+}
+
+void PaneKeys::pageCame()
+{
+    if (m_wish == Wish::None || m_wish == Wish::Plot)
+        m_wish = m_stack->currentIndex() == m_plotPage ? Wish::Plot : Wish::None;
+    if (m_wish == Wish::Plot)
+        fold(false);
+    makeRoom();
+    share();
 }
 
 QWidget *PaneKeys::focusTargetIn(QWidget *pane)
@@ -98,8 +117,12 @@ void PaneKeys::walk(int step)
 
 bool PaneKeys::eventFilter(QObject *watched, QEvent *event)
 {
-    if (watched == m_splitter && (event->type() == QEvent::Resize || event->type() == QEvent::LayoutRequest))
+    if (watched == m_splitter && event->type() == QEvent::LayoutRequest)
         makeRoom();
+    if (watched == m_splitter && event->type() == QEvent::Resize) {
+        makeRoom();
+        share();
+    }
     if (watched == m_pages->viewport() && event->type() == QEvent::Resize)
         spreadPages();
     return QObject::eventFilter(watched, event);
@@ -107,13 +130,41 @@ bool PaneKeys::eventFilter(QObject *watched, QEvent *event)
 
 void PaneKeys::makeRoom()
 {
-    const QWidget *page = m_splitter->widget(0);
-    const int needed = page->sizeHint().width() + m_splitter->handleWidth() + leastHelpWidth;
-    const bool shown = m_splitter->width() >= needed;
-    if (m_wish != Wish::None || shown == isHelpShown())
+    const bool fits = m_splitter->width() >= neededByWidestPage() + m_splitter->handleWidth() + usefulHelpWidth;
+    if (m_wish == Wish::None)
+        fold(!fits);
+}
+
+// The help has its useful width, less only where the page would have to be scrolled sideways.
+void PaneKeys::share()
+{
+    const QWidget *settings = m_splitter->widget(0);
+    if (!isHelpShown() || settings->isHidden() || !m_splitter->isVisible())
         return;
-    m_help->setVisible(shown);
-    emit helpShown(shown);
+    const int both = m_splitter->width() - m_splitter->handleWidth();
+    const int page = neededBeside(m_stack->currentWidget());
+    const int help = std::max(m_help->minimumSizeHint().width(), std::min(usefulHelpWidth, both - page));
+    const QList<int> sizes = m_splitter->sizes();
+    if (sizes[0] < page || sizes[1] < help)
+        m_splitter->setSizes({both - help, help});
+}
+
+int PaneKeys::neededBeside(const QWidget *page) const
+{
+    const auto *area = page->findChild<QScrollArea *>();
+    const int contents = area && area->widget()
+                             ? area->widget()->minimumSizeHint().width() + area->verticalScrollBar()->sizeHint().width()
+                             : page->minimumSizeHint().width();
+    const QWidget *settings = m_splitter->widget(0);
+    return m_pages->width() + settings->layout()->spacing() + contents;
+}
+
+int PaneKeys::neededByWidestPage() const
+{
+    int widest = 0;
+    for (int i = 0; i < m_stack->count(); ++i)
+        widest = std::max(widest, neededBeside(m_stack->widget(i)));
+    return widest;
 }
 
 // All pages in view where the window is high enough for icon and name of each.
@@ -122,6 +173,9 @@ void PaneKeys::spreadPages()
     const QSize wanted = m_pages->item(0)->sizeHint();
     const int least = m_pages->iconSize().height() + m_pages->fontMetrics().height() + 6;
     const int each = m_pages->viewport()->height() / m_pages->count() - 1;
+    const bool scrolls = least * m_pages->count() > m_pages->viewport()->height();
+    const int bar = scrolls ? m_pages->verticalScrollBar()->sizeHint().width() : 0;
+    m_pages->setFixedWidth(wanted.width() + 2 * m_pages->frameWidth() + 2 + bar); // the icons stand in its middle
     const QSize grid(wanted.width(), std::clamp(each, least, std::max(least, wanted.height())));
     if (m_pages->gridSize() != grid)
         m_pages->setGridSize(grid);

@@ -10,6 +10,7 @@
 #include <QWidget>
 
 class QListWidget;
+class QStackedWidget;
 class QSplitter;
 
 class PaneKeys : public QObject
@@ -22,29 +23,37 @@ public:
 
     bool isHelpShown() const;
     void showHelp(bool shown);
-    /// Something is to be seen there, unless the user has folded it away.
+    /// Something is to be seen there, unless the user has folded it away: on this page, not beside others.
     void plotCame();
 
 signals:
     void helpShown(bool shown);
 
 protected:
-    /// A window that has become narrow takes the help's room before a page's.
+    /// A window that has become narrow takes the help's room before a page's, on all pages alike.
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
     void walk(int step);
+    void fold(bool away);
     void makeRoom();
+    void pageCame();
+    void share();
+    /// What a page needs beside the help so that nothing has to be scrolled sideways.
+    int neededBeside(const QWidget *page) const;
+    int neededByWidestPage() const;
     void spreadPages();
     /// The control of a pane that had the keyboard last, or its first.
     static QWidget *focusTargetIn(QWidget *pane);
 
     QListWidget *m_pages;
+    QStackedWidget *m_stack;
     QSplitter *m_splitter;
     QWidget *m_help;
     QVector<QPointer<QWidget>> m_panes;
     QHash<QWidget *, QPointer<QWidget>> m_last; ///< control of each pane that had the keyboard
-    enum class Wish { None, Shown, Hidden } m_wish = Wish::None; ///< what was asked for goes before what fits
+    int m_plotPage = -1; ///< the page beside which there is something to be seen
+    enum class Wish { None, Shown, Plot, Hidden } m_wish = Wish::None; ///< what was asked for goes before what fits
 };
 
 #endif

@@ -9,6 +9,7 @@
 #include <QCoreApplication>
 #include <QDoubleSpinBox>
 #include <QLabel>
+#include <QRegularExpression>
 #include <QSpinBox>
 #include <QStackedWidget>
 #include <QTextDocument>
@@ -41,14 +42,21 @@ QWidget *findControl(QWidget *window, const QString &name)
     return window->findChild<QLabel *>(name);
 }
 
+/// As the form shows it: "&&" is one "&" there.
+QString withoutMnemonic(QString text)
+{
+    static const QRegularExpression mark(QStringLiteral("&(.)"));
+    return text.replace(mark, QStringLiteral("\\1"));
+}
+
 QString captionOf(QWidget *window, QWidget *control, const QString &name)
 {
     if (const auto *check = qobject_cast<QCheckBox *>(control))
-        return check->text();
+        return withoutMnemonic(check->text());
     const auto labels = window->findChildren<QLabel *>();
     for (const QLabel *label : labels) {
         if (control && label->buddy() == control)
-            return label->text();
+            return withoutMnemonic(label->text());
     }
     if (control && !control->accessibleName().isEmpty())
         return QStringLiteral("[%1] %2").arg(name, control->accessibleName());
@@ -119,6 +127,12 @@ void SettingField::show(double value) const
 
 QString SettingField::text(double value) const
 {
+    const QString bare = bareText(value);
+    return unit.isEmpty() ? bare : QStringLiteral("%1 %2").arg(bare, unit);
+}
+
+QString SettingField::bareText(double value) const
+{
     if (qobject_cast<const QCheckBox *>(control))
         return value != 0.0 ? tr("on") : tr("off");
     if (const auto *combo = qobject_cast<const QComboBox *>(control)) {
@@ -126,8 +140,7 @@ QString SettingField::text(double value) const
         const bool isItem = index >= 0 && index < combo->count() && !combo->itemData(index).isValid();
         return isItem ? combo->itemText(index) : tr("Value %1").arg(index);
     }
-    const QString number = shortNumber(valueOf(value));
-    return unit.isEmpty() ? number : QStringLiteral("%1 %2").arg(number, unit);
+    return shortNumber(valueOf(value));
 }
 
 SettingFields::SettingFields(QWidget *window)

@@ -31,6 +31,8 @@ struct SettingField
     void show(double value) const;
     /// As the control would write it, unit included: "13 A", "Position control", "on".
     QString text(double value) const;
+    /// The same without the unit.
+    QString bareText(double value) const;
 };
 
 /// All of a window, looked up once, in the order of the catalogue. To be built before anything has changed tool tips.

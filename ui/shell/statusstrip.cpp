@@ -1,5 +1,6 @@
 #include "statusstrip.h"
 
+#include "elided.h"
 #include "stateshape.h"
 
 #include <QAccessible>
@@ -38,36 +39,24 @@ StatusStrip::StatusStrip(QWidget *parent) : QWidget(parent)
     lines->setContentsMargins(6, 2, 6, 2);
     lines->setSpacing(2);
     auto *row = new QHBoxLayout;
+    row->setSpacing(6);
     lines->addLayout(row);
     m_secondLine = new QHBoxLayout;
     lines->addLayout(m_secondLine);
     m_shape = new StateShape(this);
-    m_word = addLabel(row, "stripWord");
+    m_word = addLabel(row, new QLabel(this), "stripWord");
     m_word->setFont(larger(font()));
     m_shape->setFont(m_word->font());
     row->insertWidget(0, m_shape);
     row->addSpacing(6);
-    m_detail = addLabel(row, "stripDetail");
-    m_faultHelp = new QToolButton(this);
-    m_faultHelp->setObjectName(QStringLiteral("stripFaultHelp"));
-    m_faultHelp->setText(QStringLiteral("?"));
-    m_faultHelp->setToolTip(tr("What this fault means and what to do"));
-    m_faultHelp->setAccessibleName(tr("Help on this fault"));
-    m_faultHelp->hide();
-    row->addWidget(m_faultHelp);
+    m_detail = addLabel(row, new ElidedLabel(this), "stripDetail");
+    addFaultHelp(row);
     row->addStretch(1);
-    m_identity = addLabel(row, "stripIdentity");
+    m_identity = addLabel(row, new ElidedLabel(this), "stripIdentity");
     row->addSpacing(12);
-    m_figures = addLabel(row, "stripFigures");
+    m_figures = addLabel(row, new QLabel(this), "stripFigures");
     row->addSpacing(8);
-    m_enable = addButton(row, "stripEnable", tr("Enable"), tr("Gives the software enable, as on the Connect page."));
-    m_disable = addButton(row, "stripDisable", tr("Disable [Esc]"), tr("Takes the power off the motor."));
-    m_clear = addButton(row, "stripClearFaults", tr("Clear faults"),
-                        tr("Clears the faults. Remove their cause first. Shortcut Alt+R"));
-    connect(m_enable, &QPushButton::clicked, this, &StatusStrip::enableAsked);
-    connect(m_disable, &QPushButton::clicked, this, &StatusStrip::disableAsked);
-    connect(m_clear, &QPushButton::clicked, this, &StatusStrip::clearFaultsAsked);
-    connect(m_faultHelp, &QToolButton::clicked, this, [this] { emit faultHelpAsked(m_shown.faultBit); });
+    addButtons(row);
     connect(&m_ageTimer, &QTimer::timeout, this, &StatusStrip::lookAtAge);
     m_ageTimer.start(ageIntervalMs);
     m_sinceLook.start();
@@ -75,9 +64,31 @@ StatusStrip::StatusStrip(QWidget *parent) : QWidget(parent)
     refresh();
 }
 
-QLabel *StatusStrip::addLabel(QHBoxLayout *row, const char *name)
+void StatusStrip::addFaultHelp(QHBoxLayout *row)
 {
-    auto *label = new QLabel(this);
+    m_faultHelp = new QToolButton(this);
+    m_faultHelp->setObjectName(QStringLiteral("stripFaultHelp"));
+    m_faultHelp->setText(QStringLiteral("?"));
+    m_faultHelp->setToolTip(tr("What this fault means and what to do"));
+    m_faultHelp->setAccessibleName(tr("Help on this fault"));
+    m_faultHelp->hide();
+    row->addWidget(m_faultHelp);
+    connect(m_faultHelp, &QToolButton::clicked, this, [this] { emit faultHelpAsked(m_shown.faultBit); });
+}
+
+void StatusStrip::addButtons(QHBoxLayout *row)
+{
+    m_enable = addButton(row, "stripEnable", tr("Enable"), tr("Gives the software enable, as on the Connect page."));
+    m_disable = addButton(row, "stripDisable", tr("Disable [Esc]"), tr("Takes the power off the motor."));
+    m_clear = addButton(row, "stripClearFaults", tr("Clear faults"),
+                        tr("Clears the faults. Remove their cause first. Shortcut Alt+R"));
+    connect(m_enable, &QPushButton::clicked, this, &StatusStrip::enableAsked);
+    connect(m_disable, &QPushButton::clicked, this, &StatusStrip::disableAsked);
+    connect(m_clear, &QPushButton::clicked, this, &StatusStrip::clearFaultsAsked);
+}
+
+QLabel *StatusStrip::addLabel(QHBoxLayout *row, QLabel *label, const char *name)
+{
     label->setObjectName(QLatin1String(name));
     label->setTextFormat(Qt::PlainText);
     label->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);

@@ -55,7 +55,9 @@ protected:
     void changeEvent(QEvent *event) override;
 
 private:
-    QLabel *addLabel(QHBoxLayout *row, const char *name);
+    QLabel *addLabel(QHBoxLayout *row, QLabel *label, const char *name);
+    void addFaultHelp(QHBoxLayout *row);
+    void addButtons(QHBoxLayout *row);
     QPushButton *addButton(QHBoxLayout *row, const char *name, const QString &text, const QString &toolTip);
     void lookAtAge();
     void refresh();

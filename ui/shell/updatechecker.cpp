@@ -9,7 +9,7 @@
 
 namespace {
 
-constexpr qint64 LONGEST_BODY = 2 << 20; // a notice is a few lines; this only keeps a broken server out of the memory
+constexpr qint64 longestBody = 2 << 20; // a notice is a few lines; this only keeps a broken server out of the memory
 
 const QString genuineMarker = QStringLiteral("VELBRINREPLY");
 const QString disconnectMarker = QStringLiteral("MUSTDISCONNECT");
@@ -44,9 +44,9 @@ void UpdateChecker::sendCheckRequest(QString vv, int did, int snr, int fwv, int 
                               .arg(vv, QString::number(did), QString::number(snr), QString::number(fwv),
                                    QString::number(tfwv), QString::number(static_cast<quint32>(uid)));
     QNetworkReply *reply = m_manager->get(requestFor(makerUpdateServer() + query));
-    reply->setReadBufferSize(2 * LONGEST_BODY);
+    reply->setReadBufferSize(2 * longestBody);
     connect(reply, &QNetworkReply::readyRead, reply, [reply] {
-        if (reply->bytesAvailable() > LONGEST_BODY)
+        if (reply->bytesAvailable() > longestBody)
             reply->abort();
     });
     // The toolkit's own transfer time-out starts anew with every byte, so that a trickle would never end.
@@ -57,7 +57,7 @@ void UpdateChecker::readFinished(QNetworkReply *reply)
 {
     reply->deleteLater();
     const int status = reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
-    if (reply->error() != QNetworkReply::NoError || status != 200 || reply->bytesAvailable() > LONGEST_BODY)
+    if (reply->error() != QNetworkReply::NoError || status != 200 || reply->bytesAvailable() > longestBody)
         return;
     const QByteArray bytes = reply->readAll();
     const QString body = QString::fromLatin1(bytes.left(static_cast<int>(qstrnlen(bytes.constData(), bytes.size()))));

@@ -1,5 +1,7 @@
 #include "valuemarks.h"
 
+#include "elided.h"
+
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
@@ -24,7 +26,10 @@ QString changesText(const ValueHomes &homes)
         return ValueMarks::tr("Edited (1 change)");
     if (homes.changes > 1)
         return ValueMarks::tr("Edited (%1 changes)").arg(homes.changes);
-    return homes.isPending ? ValueMarks::tr("File loaded, not applied") : ValueMarks::tr("Nothing edited");
+    if (!homes.isPending)
+        return ValueMarks::tr("Nothing edited");
+    // Without a drive there is nothing to count against.
+    return homes.file.isEmpty() ? ValueMarks::tr("Edited, not applied") : ValueMarks::tr("File loaded, not applied");
 }
 
 QString flashText(const ValueHomes &homes)
@@ -52,15 +57,14 @@ ValueMarks::ValueMarks(QWidget *parent) : QWidget(parent)
     auto *row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(14);
-    const auto add = [this, row](const char *name) {
-        auto *label = new QLabel(this);
+    const auto add = [row](QLabel *label, const char *name) {
         label->setObjectName(QLatin1String(name));
         label->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
         row->addWidget(label);
         return label;
     };
-    m_edited = add("markEdited");
-    m_working = add("markWorking");
+    m_edited = add(new QLabel(this), "markEdited");
+    m_working = add(new QLabel(this), "markWorking");
     m_save = new QPushButton(tr("Save to drive"), this);
     m_save->setObjectName(QStringLiteral("stripSaveToDrive"));
     m_save->setToolTip(tr("Keeps the applied settings over a power-off."));
@@ -68,8 +72,8 @@ ValueMarks::ValueMarks(QWidget *parent) : QWidget(parent)
     connect(m_save, &QPushButton::clicked, this, &ValueMarks::saveToDriveAsked);
     row->addWidget(m_save);
     setMinimumHeight(m_save->sizeHint().height()); // nothing jumps when it comes and goes
-    m_flash = add("markFlash");
-    m_file = add("markFile");
+    m_flash = add(new QLabel(this), "markFlash");
+    m_file = add(new ElidedLabel(this), "markFile"); // as long as the file's name
     row->addStretch(1);
     show(ValueHomes());
 }

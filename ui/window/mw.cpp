@@ -1,4 +1,4 @@
-// The frame: construction in its fixed order, pages, boxes of the shell, closing.
+// The frame: construction in its fixed order, pages, closing.
 #include "mw.h"
 
 #include "applydesk.h"
@@ -9,13 +9,10 @@
 #include "driveboard.h"
 #include "drivedesk.h"
 #include "errorwindow.h"
-#include "escapefilter.h"
 #include "firmwaredesk.h"
-#include "firmwaredialog.h"
 #include "formpage.h"
 #include "helpbrowser.h"
 #include "makernews.h"
-#include "numberbox.h"
 #include "pagetable.h"
 #include "parameterpages.h"
 #include "questionqueue.h"
@@ -33,23 +30,13 @@
 #include "ui_welcomepage.h"
 #include "version.h"
 #include "wheelguard.h"
+#include "windowlayout.h"
 
 #include <QScrollArea>
-#include <QSettings>
-#include <QShortcut>
-#include <QTimer>
-#include <QToolTip>
 
 namespace {
 
-constexpr int applyIntervalMs = 1000;
-constexpr int refusalMs = 15000;
 constexpr QSize pageItemSize(79, 96);
-
-QSettings windowSettings()
-{
-    return QSettings(QStringLiteral("Tarnwell Devices"), QStringLiteral("Velbrin"));
-}
 
 } // namespace
 
@@ -75,7 +62,7 @@ MW::MW(const Options &options, QWidget *parent)
     connectBoard();
     createShortcuts();
     new WheelGuard(this);
-    restoreLayout();
+    restoreLayout(*this);
     showFirstState(options);
     if (Disclaimer::isAgreedTo(this) && !options.file.isEmpty())
         m_apply->loadFile(options.file);
@@ -98,7 +85,7 @@ void MW::buildForms()
         m_form->pages->addWidget(page.build());
     // Apply stands below the pages, and the keyboard comes to it after them.
     QWidget::setTabOrder(previousInFocusChain(), m_form->apply_button);
-    // The areas around the pages scroll with the control that has the keyboard; they are no stop of their own.
+    // The areas around the pages scroll to the control that has the keyboard: Tab need not stop at them.
     const auto areas = m_form->pages->findChildren<QScrollArea *>();
     for (QScrollArea *area : areas)
         area->setFocusPolicy(Qt::NoFocus);
@@ -113,6 +100,7 @@ void MW::buildForms()
     m_connectionStatusLabel->setObjectName(QStringLiteral("connectionStatus"));
     m_connectionStatusLabel->setMargin(2);
     statusBar()->addPermanentWidget(m_connectionStatusLabel);
+    connect(statusBar(), &QStatusBar::messageChanged, statusBar(), &QWidget::setToolTip); // where it is cut off
     statusBar()->showMessage(tr("Program started"));
 }
 
@@ -129,14 +117,14 @@ void MW::buildPages(const Options &options)
          formAmong<Ui_TuningPage>(*m_form->pages), formAmong<Ui_FaultLimitsPage>(*m_form->pages)},
         m_connection, m_settings);
     m_apply = new ApplyDesk(
-        this, {m_form->apply_button, m_changeCount, connectForm.save_settings_to_file, m_overridesForm->customParamDisplay},
+        this,
+        {m_form->apply_button, m_changeCount, connectForm.save_settings_to_file, m_overridesForm->customParamDisplay},
         m_connection, m_settings, m_parameters, m_board, reports);
     m_connectPage = new ConnectPage(this, connectForm, m_connection, m_questions);
     const auto &testingForm = formAmong<Ui_TestingPage>(*m_form->pages);
     m_tries = new TriesDesk(this, testingForm.testingContentsLayout, m_form->settingsPane, m_connection,
                             {m_settings, m_parameters, m_apply, m_connectPage, m_help, reports});
-    m_testing =
-        new TestingPage(this, testingForm, m_connection, {m_parameters, m_apply, m_connectPage, m_tries, m_settings});
+    m_testing = new TestingPage(this, testingForm, m_connection, {m_parameters, m_apply, m_connectPage, m_settings});
     m_drive = new DriveDesk(this, m_connection, m_connectPage, m_testing, m_apply, reports);
     m_firmware = new FirmwareDesk(this, m_connection, m_connectPage, m_apply, m_questions);
     m_controlMode = new ControlModeRule(this, m_connection, m_settings, m_questions);
@@ -155,134 +143,6 @@ void MW::buildPageList()
     m_form->splitter->setStretchFactor(1, 1);
     connect(m_form->pageSelector, &QListWidget::itemSelectionChanged, this, &MW::pageChanged);
     m_form->pageSelector->setCurrentRow(0);
-}
-
-void MW::connectForms()
-{
-    const auto &machine = formAmong<Ui_MachinePage>(*m_form->pages);
-    const auto &testing = formAmong<Ui_TestingPage>(*m_form->pages);
-    // Once, when all forms are built: twice would run every slot twice.
-    QMetaObject::connectSlotsByName(this);
-    connect(machine.FBD, &QComboBox::currentIndexChanged, this,
-            [this, box = machine.FBD](int index) { on_FBD_currentIndexChanged(box->itemText(index)); });
-    connect(testing.clear_faults_2, &QPushButton::clicked, this, &MW::on_clear_faults_clicked);
-    for (QLabel *label : {testing.faultRegister, machine.FBDhelp}) {
-        label->setOpenExternalLinks(false);
-        connect(label, &QLabel::linkActivated, this, [this](const QString &link) { browserLinkClicked(QUrl(link)); });
-    }
-    const auto fields = findChildren<NumberField *>();
-    for (NumberField *field : fields) {
-        connect(field, &NumberField::refused, this, [this, field](const QString &why) {
-            statusBar()->showMessage(why, refusalMs);
-            // Where the user looks, too; a box would take the keyboard away from the next field.
-            if (const auto *box = qobject_cast<QWidget *>(field->parent()); box && box->isVisible())
-                QToolTip::showText(box->mapToGlobal(QPoint(box->width(), 0)), why.toHtmlEscaped(), nullptr, QRect(),
-                                   refusalMs);
-        });
-    }
-}
-
-void MW::connectPages()
-{
-    connect(m_errorWindow, &ErrorWindow::vitalMessage, this,
-            [this](const QString &line) { statusBar()->showMessage(line); });
-    connect(m_errorWindow, &ErrorWindow::linkActivated, this, &MW::browserLinkClicked);
-    connect(m_help->view(), &HelpView::linkClicked, this, &MW::browserLinkClicked);
-    connect(m_help->view(), &HelpView::pageLoaded, this, &MW::helpViewLoadFinished);
-    connect(m_help, &HelpBrowser::timedOut, this, &MW::helpLoadingTimeouted);
-    connect(m_help, &HelpBrowser::saveWanted, this, &MW::saveTestResults_clicked);
-    connect(m_help, &HelpBrowser::redrawWanted, m_tries, [this] { m_tries->redraw(false); });
-    connect(m_help, &HelpBrowser::saved, this, &MW::pictureSaved);
-
-    connect(m_parameters, &ParameterPages::unitsChanged, this, &MW::updateUnitLabels);
-    connect(m_parameters, &ParameterPages::driveRead, m_news, [this] {
-        if (!m_board->isReadBack()) // an apply makes no other drive of it
-            m_news->ask(m_settings);
-    });
-    connect(m_parameters, &ParameterPages::bootloaderRead, m_connectPage, &ConnectPage::showBootloader);
-    connect(m_connectPage, &ConnectPage::searching, statusBar(), &QStatusBar::clearMessage);
-    connect(m_connectPage, &ConnectPage::leaving, m_testing, &TestingPage::stopStimulus);
-    connect(m_connectPage, &ConnectPage::connecting, this, [this](int address) {
-        m_board->connectingTo(address);
-        FWUpgrade_close_clicked();
-        m_parameters->collect();
-        m_settings.settle();
-        updateUnitLabels();
-    });
-    connect(m_firmware->dialog()->form.openFile, &QPushButton::clicked, this, &MW::FWUpgrade_openFile_clicked);
-    connect(m_firmware->dialog()->form.close, &QPushButton::clicked, this, &MW::FWUpgrade_close_clicked);
-    connect(m_firmware, &FirmwareDesk::restarting, this,
-            [this] { connectionStatusChanged(false, tr("Restarting device")); });
-    connect(m_news, &MakerNews::arrived, this, &MW::handleUpdateCheckerMessage);
-}
-
-void MW::connectSession()
-{
-    auto *applyTimer = new QTimer(this);
-    connect(applyTimer, &QTimer::timeout, this, &MW::updateApplyButtonState);
-    applyTimer->start(applyIntervalMs);
-
-    // The worker emits on its own thread; everything arrives here through the event loop.
-    const auto type = Qt::QueuedConnection;
-    connect(&m_connection, &Connection::statusChanged, this, &MW::connectionStatusChanged, type);
-    connect(&m_connection, &Connection::message, m_errorWindow, &ErrorWindow::tell, type);
-    connect(&m_connection, &Connection::message, m_connectPage, &ConnectPage::messageCame, type);
-    connect(&m_connection, &Connection::parametersRetreived, this, &MW::paramsRetreived, type);
-    connect(&m_connection, &Connection::plotReady, this, &MW::plotCapture, type);
-    connect(&m_connection, &Connection::updateCaptureButtonText, this, &MW::changeScopeButtonText, type);
-    connect(&m_connection, &Connection::availableBusNodes, this, &MW::availableBusNodesListReceived, type);
-    connect(&m_connection, &Connection::firmwareUpgradeMsg, this, &MW::firmwareUpgradeMsg, type);
-    connect(&m_connection, &Connection::suggestDeviceRestart, this, &MW::suggestDeviceRestart, type);
-    connect(&m_connection, &Connection::setpointChanged, this, &MW::setpointChanged, type);
-    connect(&m_connection, &Connection::busy, this, &MW::setBusy, type);
-    connect(&m_connection, &Connection::setUnsavedState, this, &MW::setUnsavedStatus, type);
-    connect(&m_connection, &Connection::controlModeChanged, this, &MW::deviceControlModeChanged, type);
-    connect(&m_connection, &Connection::enableStatePolled, m_news, &MakerNews::enableStatePolled, type);
-    connect(
-        &m_connection, &Connection::driveParametersChanged, this,
-        [this](const Parameters &list) {
-            m_settings.setDrive(list);
-            updateUnitLabels();
-        },
-        type);
-}
-
-void MW::createShortcuts()
-{
-    struct Shortcut
-    {
-        const char *key;
-        void (MW::*slot)();
-    };
-    // Alt+2 and Alt+3 cross on purpose: absolute targets first, then the increments.
-    const Shortcut shortcuts[] = {
-        {"Ctrl+P", &MW::on_actionRaw_parameters_triggered},
-        {"Alt+A", &MW::on_apply_button_clicked},
-        {"Alt+1", &MW::on_setAbs1_clicked},
-        {"Alt+2", &MW::on_setAbs2_clicked},
-        {"Alt+3", &MW::on_setInc1_clicked},
-        {"Alt+4", &MW::on_setInc2_clicked},
-        {"Alt+0", &MW::on_setZero_clicked},
-        {"Alt+R", &MW::on_clear_faults_clicked},
-        {"Alt+S", &MW::on_ScopeCaptureNow_clicked},
-        {"Ctrl+S", &MW::on_save_settings_to_file_clicked},
-        {"Ctrl+O", &MW::on_load_settings_from_file_clicked},
-        {"Ctrl+Shift+O", &MW::openCapture},
-        {"F11", &MW::toggleOpenedOut},
-        {"Alt+O", &MW::on_connect_button_clicked},
-        {"Alt+D", &MW::on_disconnect_button_clicked},
-    };
-    for (const Shortcut &shortcut : shortcuts) {
-        auto *key = new QShortcut(QKeySequence(QLatin1String(shortcut.key)), this);
-        key->setAutoRepeat(false); // a held Alt+3 must not walk the axis away
-        connect(key, &QShortcut::activated, this, shortcut.slot);
-    }
-    auto *filter = new EscapeFilter(this);
-    connect(filter, &EscapeFilter::escapePressed, this, &MW::on_disable_drive_clicked);
-    auto *escape = new QShortcut(QKeySequence(Qt::Key_Escape), this);
-    escape->setAutoRepeat(false);
-    connect(escape, &QShortcut::activated, filter, &EscapeFilter::shortcutActivated);
-    connect(escape, &QShortcut::activatedAmbiguously, filter, &EscapeFilter::shortcutActivated);
 }
 
 void MW::hideForGood()
@@ -310,21 +170,6 @@ void MW::showFirstState(const Options &options)
     m_connection.setDebugValuesShown(options.debugValues);
     m_connection.emitParameters();
     connectionStatusChanged(false, tr("Not connected"));
-}
-
-void MW::restoreLayout()
-{
-    const QSettings settings = windowSettings();
-    if (!restoreGeometry(settings.value(QStringLiteral("geometry")).toByteArray()))
-        resize(1300, 730);
-    restoreState(settings.value(QStringLiteral("windowState")).toByteArray(), 0);
-}
-
-void MW::saveLayout() const
-{
-    QSettings settings = windowSettings();
-    settings.setValue(QStringLiteral("geometry"), saveGeometry());
-    settings.setValue(QStringLiteral("windowState"), saveState(0));
 }
 
 // --- The frame ----------------------------------------------------------------------------------------------------
@@ -418,6 +263,6 @@ void MW::closeEvent(QCloseEvent *event)
     m_testing->stopStimulus();
     m_questions->clear();
     m_errorWindow->endMessages();
-    saveLayout();
+    saveLayout(*this);
     event->accept();
 }

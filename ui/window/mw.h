@@ -4,6 +4,7 @@
 #define MW_H
 
 #include "capturedata.h"
+#include "catalogue.h"
 #include "connection.h"
 #include "editedsettings.h"
 #include "helpview.h"
@@ -153,15 +154,13 @@ private:
     void createShortcuts();
     void hideForGood();
     void showFirstState(const Options &options);
-    void restoreLayout();
-    void saveLayout() const;
     void pictureSaved(const QString &failure);
 
     // The drive at a glance (mwboard.cpp)
     void buildBoard();
     void connectBoard();
     void nameControls();
-    void goToSetting(const QString &name);
+    void orderKeyboard();
     void showFaultHelp(int faultBit);
     void showHelpFile(const QString &file, const QString &anchor);
 
@@ -187,7 +186,7 @@ private:
     ControlModeRule *m_controlMode = nullptr;
     MakerNews *m_news = nullptr;
 
-    EditedSettings m_settings;
+    EditedSettings m_settings{driveParameterCatalogue()};
     int m_currentPage = 0;
     bool m_closeWhenSaved = false; ///< a picture is still being written; the window closes behind it
 

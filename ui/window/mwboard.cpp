@@ -9,7 +9,7 @@
 #include "mw.h"
 #include "panekeys.h"
 #include "parameterpages.h"
-#include "settingfinder.h"
+#include "settingguide.h"
 #include "statusstrip.h"
 #include "testingpage.h"
 #include "ui_connectpage.h"
@@ -19,7 +19,6 @@
 #include <QDir>
 #include <QLabel>
 #include <QLineEdit>
-#include <QScrollArea>
 #include <QShortcut>
 #include <QToolButton>
 
@@ -35,7 +34,6 @@ void MW::buildBoard()
     connect(m_board, &DriveBoard::clearFaultsAsked, this, &MW::on_clear_faults_clicked);
     connect(m_board, &DriveBoard::saveToDriveAsked, this, &MW::on_saveToFlash_clicked);
     connect(m_board, &DriveBoard::faultHelpAsked, this, &MW::showFaultHelp);
-    connect(m_board, &DriveBoard::settingChosen, this, &MW::goToSetting);
     connect(m_board, &DriveBoard::refreshAsked, this, &MW::updateApplyButtonState);
     connect(m_board, &DriveBoard::report, this, [this](const QString &text) { statusBar()->showMessage(text); });
     const auto shortcut = [this](const char *keys) {
@@ -61,8 +59,28 @@ void MW::nameControls()
     statusBar()->setAccessibleName(tr("Messages"));
 }
 
+/// The Testing page's panels are built behind its form, but stand between its groups.
+void MW::orderKeyboard()
+{
+    const auto &testing = formAmong<Ui_TestingPage>(*m_form->pages);
+    const auto follow = [this](QWidget *last, const char *group) {
+        const auto inside = findChild<QWidget *>(QLatin1String(group))->findChildren<QWidget *>();
+        for (QWidget *control : inside) {
+            if (!(control->focusPolicy() & Qt::TabFocus) || control->focusProxy())
+                continue;
+            setTabOrder(last, control);
+            last = control;
+        }
+    };
+    follow(testing.setZero, "gainsGroup");
+    auto *callOff = findChild<QWidget *>(QStringLiteral("callOffCapture"));
+    setTabOrder(testing.repeatCapture, callOff);
+    follow(callOff, "triesGroup");
+}
+
 void MW::connectBoard()
 {
+    orderKeyboard();
     m_paneKeys = new PaneKeys(this, m_form->pageSelector, m_form->splitter, m_form->helpPane,
                               {m_form->pageSelector, m_form->pages, m_form->helpPane, m_board->strip()});
     auto *help = new QToolButton;
@@ -74,6 +92,11 @@ void MW::connectBoard()
     connect(help, &QToolButton::clicked, m_paneKeys, &PaneKeys::showHelp);
     connect(m_paneKeys, &PaneKeys::helpShown, help, &QToolButton::setChecked);
     connect(m_parameters, &ParameterPages::corrected, m_board, &DriveBoard::note);
+    auto *guide = new SettingGuide(this, {m_form->pageSelector, m_form->pages, m_parameters, m_board->fields()});
+    connect(m_board, &DriveBoard::settingChosen, guide, &SettingGuide::goTo);
+    connect(guide, &SettingGuide::rawParametersWanted, this, &MW::on_actionRaw_parameters_triggered);
+    connect(guide, &SettingGuide::helpWanted, this, &MW::showHelpFile);
+    connect(guide, &SettingGuide::report, this, [this](const QString &text) { statusBar()->showMessage(text); });
     connect(m_connectPage, &ConnectPage::leaving, m_board->strip(), &StatusStrip::expectEnd);
     connect(m_testing->captureAid(), &CaptureAid::callOffAsked, m_board->acts(), &ActWatch::captureCalledOff);
     const auto type = Qt::QueuedConnection; // from the worker
@@ -103,34 +126,4 @@ void MW::showHelpFile(const QString &file, const QString &anchor)
 void MW::showFaultHelp(int faultBit)
 {
     showHelpFile(QStringLiteral("Faults_and_status.htm"), QStringLiteral("fault-%1").arg(faultBit));
-}
-
-void MW::goToSetting(const QString &name)
-{
-    const SettingField *field = m_board->fields().find(name);
-    const QString place = helpPlaceOf(m_board->fields(), name);
-    const bool hasControl = field && field->control && field->name == name;
-    if (hasControl && field->page >= 0)
-        m_form->pageSelector->setCurrentRow(field->page, QItemSelectionModel::ClearAndSelect);
-    else if (hasControl && field->isEditable)
-        on_actionRaw_parameters_triggered();
-    showHelpFile(place.section(QLatin1Char('#'), 0, 0), place.section(QLatin1Char('#'), 1));
-    if (!hasControl)
-        return;
-    QWidget *control = field->control;
-    const QWidget *page = field->page >= 0 ? m_form->pages->widget(field->page) : control->window();
-    if (!control->isVisibleTo(page) && !m_parameters->showsAdvanced())
-        m_parameters->toggleAdvanced();
-    if (!control->isVisibleTo(page)) {
-        statusBar()->showMessage(
-            tr("[%1] is not shown: this model lacks it, or other settings leave it without effect").arg(name));
-        return;
-    }
-    if (!control->isEnabled())
-        statusBar()->showMessage(tr("[%1] is not on this model").arg(name));
-    for (QWidget *up = control; up; up = up->parentWidget()) {
-        if (auto *area = qobject_cast<QScrollArea *>(up))
-            area->ensureWidgetVisible(control);
-    }
-    control->setFocus(Qt::ShortcutFocusReason);
 }

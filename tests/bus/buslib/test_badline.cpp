@@ -125,7 +125,7 @@ TEST_F(BadLine, FullSpeedNoiseEndsWithTheDrainsByteLimit)
 
 TEST_F(BadLine, TricklingNoiseEndsWithTheDrainsTimeLimit)
 {
-    open(shortWait);
+    open(longWait);
     const Babbler babbler(line.master(), {0xFF}, 20);
     const Stopwatch watch;
     zbAppendGetParamCommandToQueue(bus, 6012);

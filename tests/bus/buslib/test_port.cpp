@@ -48,7 +48,7 @@ TEST_F(Port, TimeoutIsLimitedAndCountsForPortsOpenedLater)
 {
     EXPECT_EQ(zbSetTimeout(5000), ZB_OK);
     EXPECT_EQ(zbSetTimeout(5001), ZB_ERR_PARAMETER);
-    EXPECT_EQ(readTimeoutMs, 5000);
+    EXPECT_EQ(readTimeout(), 5000);
     EXPECT_EQ(zbGetVersion(), 0x20001);
 }
 

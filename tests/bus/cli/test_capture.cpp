@@ -140,7 +140,7 @@ TEST_F(CliCapture, InterruptedStimulusIsStoppedAndTheDriveDisabled)
         EXPECT_THAT(sent(), Contains(StopStreamPayload));
         bool isEmpty = false;
         bus().withDrive(DriveAddress, [&isEmpty](sim::VirtualDrive &drive) {
-            isEmpty = drive.commandBuffer().freeBytes() == sim::CommandBuffer::Capacity;
+            isEmpty = drive.commandBuffer().freeBytes() == sim::CommandBuffer::capacity;
         });
         EXPECT_TRUE(isEmpty) << "setpoints are still waiting in the drive";
         EXPECT_TRUE(isOff());

@@ -41,6 +41,31 @@ TEST_F(CliTwoDrives, ADriveThatCannotBeReadDoesNotMakeTheOtherTheOnlyOne)
     EXPECT_EQ(ran.err, "There are several drives; choose one with --node:\n3\tanswers that cannot be read\n7\tTORVA\n");
 }
 
+TEST_F(CliTwoDrives, DisableWithoutAnAddressLeavesNoDriveRunning)
+{
+    constexpr int SoftEnable = 2533;
+    const QStringList disable = {"--port", port(), "disable"};
+    const auto enableBoth = [this] {
+        for (int address : {3, 7})
+            bus().withDrive(address, [](sim::VirtualDrive &drive) { drive.write(SoftEnable, 1); });
+    };
+    enableBoth();
+    bus().setFault({sim::LineFault::Missing, 0, 0, 1}); // hides the first drive from the first search
+    Ran ran = run(disable);
+    EXPECT_EQ(ran.status, 0) << ran.err.toStdString();
+    EXPECT_EQ(ran.out, "7\tTORVA\tdisabled\n3\tKETA\tdisabled\n");
+    EXPECT_EQ(ran.err, "Without --node, what answered on COM1 was disabled; a drive that did not answer was not.\n");
+    EXPECT_EQ(bus().read(3, SoftEnable) + bus().read(7, SoftEnable), 0);
+
+    enableBoth();
+    bus().withDrive(3, [](sim::VirtualDrive &drive) { drive.refuseWrites(SoftEnable); });
+    ran = run(disable);
+    EXPECT_EQ(ran.status, 1);
+    EXPECT_EQ(ran.out, "3\tKETA\tunconfirmed\n7\tTORVA\tdisabled\n");
+    EXPECT_THAT(ran.err.toStdString(), HasSubstr("The drive at address 3 on COM1 answers, but shows that it is still"));
+    EXPECT_EQ(bus().read(7, SoftEnable), 0);
+}
+
 TEST_F(Cli, WhatWritesOrMovesNeedsANameForItsDrive)
 {
     const QString reason =

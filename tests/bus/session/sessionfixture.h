@@ -18,6 +18,11 @@
 #include <functional>
 #include <gmock/gmock.h>
 
+/// Reply time-out where replies are lost on purpose, in ms: short, but a virtual drive on a busy machine answers within
+/// it. A late reply comes in the middle of the time that it is waited for before anything is asked again.
+constexpr int shortTimeoutMs = 400;
+constexpr int tooLateMs = 600;
+
 /// What a Connection has signalled, in order, as the user interface's thread receives it.
 struct SessionLog : QObject
 {
@@ -166,7 +171,8 @@ protected:
     {
         const int before = log().read.size();
         session().getParams();
-        return waitUntil([&] { return log().read.size() > before; });
+        return waitUntil([&] { return log().read.size() > before || !log().statuses.last().connected; }) &&
+               log().read.size() > before;
     }
     void disable()
     {

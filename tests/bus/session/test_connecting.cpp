@@ -318,9 +318,9 @@ TEST_F(Connecting, ADriveThatIsTooOldIsOnlySaidToBeRestartedWhenItConfirmedThat)
 {
     bus().set(5, 6014, 1077);
     bus().set(5, 6015, 1077);
-    session().setReplyTimeout(200);
+    session().setReplyTimeout(shortTimeoutMs);
     // Both readings of the identity, four requests each, come through.
-    bus().setFault({sim::LineFault::Deaf, sim::LineFault::AnyByte, 8, 1});
+    bus().setFault({sim::LineFault::Deaf, sim::LineFault::anyByte, 8, 1});
     expectRefused("Connect failed", "Device could not be restarted in firmware upgrade mode");
     EXPECT_THAT(log().errors.last().toStdString(), Not(HasSubstr("now has been restarted")));
     EXPECT_EQ(received(wire("822a 00000040")), 1) << "once only";
@@ -345,14 +345,14 @@ TEST_F(Connecting, OneOddReadingOfTheVersionsRestartsNothing)
 TEST_F(Connecting, ADamagedReplyIsAskedForOnceMoreAndADoubledOneAnswersNothingElse)
 {
     using F = sim::LineFault;
-    session().setReplyTimeout(200);
+    session().setReplyTimeout(shortTimeoutMs);
     for (F::Kind kind : {F::Twice, F::Flip, F::Double, F::Missing, F::Late}) {
         for (int exchange = 0; exchange < 6; ++exchange) {
             bus().clearFaults();
             session().command(Connection::TaskDisconnect);
             ASSERT_TRUE(waitUntilIdle());
             bus().clearReceived();
-            bus().setFault({kind, kind == F::Late ? 240 : 9, exchange, 1});
+            bus().setFault({kind, kind == F::Late ? tooLateMs : 9, exchange, 1});
             const int errorsBefore = session().lineMeter().errors;
             const int straysBefore = session().lineMeter().strays;
             EXPECT_TRUE(connectTo()) << kind << " at " << exchange;

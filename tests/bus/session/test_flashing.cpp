@@ -308,8 +308,8 @@ TEST_F(Flashing, ARestartOutOfUpgradeModeEndsTheConnectionWithoutAComplaint)
 TEST_P(FailedUpgrade, IsToldOnceAndCanBeRepeated)
 {
     const bool torva = std::string(GetParam().profile) == "torva";
-    session().setReplyTimeout(100);
-    ASSERT_TRUE(connectToBootloader() || connectToBootloader()); // the time-out is short for a busy machine
+    session().setReplyTimeout(shortTimeoutMs);
+    ASSERT_TRUE(connectToBootloader());
     GetParam().prepare(bus());
     const QString file =
         torva ? writeFirmware(4000, numberedWords(320), numberedWords(320)) : writeFirmware(11000, numberedWords(320));

@@ -26,7 +26,7 @@ protected:
         data.wanted.parameters = data.drive = driveParameterCatalogue();
         data.connected = true;
         data.deviceType = 11000;
-        ASSERT_TRUE(with.line.open(port(), 100));
+        ASSERT_TRUE(with.line.open(port(), shortTimeoutMs));
         with.line.setNodeAddress(DriveAddress);
         with.drive.setAsksAgain(true);
     }
@@ -37,13 +37,13 @@ protected:
             return hex(request.packet.payload).rfind(payloadStart, 0) == 0;
         }));
     }
+    void setFault(Fault fault) { bus().setFault(fault); }
     void askToDisable()
     {
         QueuedTask disable;
         disable.task = SessionTasks::TaskApplyEnableState;
         queue.push(disable);
     }
-    void setFault(Fault fault) { bus().setFault(fault); }
 
     SessionData data;
     TaskQueue queue;
@@ -74,10 +74,10 @@ TEST_F(Operations, NothingIsForcedBehindAnEnableThatFailedOrPastADisable)
          0},
         {refused, [this] { bus().withDrive(5, [](sim::VirtualDrive &drive) { drive.refuseWrites(2533, 1); }); }, 0},
         {"disable waits", [this] { askToDisable(); }, 0},
-        {"disable served while its answer is asked for again",
+        {"disable served before the enable's outcome is known",
          [this] {
+             setFault({Fault::Missing, 0, 1, 1}); // the question for error bits, behind which there is a pause
              askToDisable();
-             setFault({Fault::Missing, 0, 1, 1});
          },
          0},
     };
@@ -96,6 +96,30 @@ TEST_F(Operations, NothingIsForcedBehindAnEnableThatFailedOrPastADisable)
     }
 }
 
+TEST_F(Operations, AnEnableThatWasUndoneLeavesNoRefusalForTheNextOne)
+{
+    QSignalSpy messages(&out, &SessionEvents::message);
+    setFault({Fault::Missing, 0, 0, 1});
+    commands.applyEnableState({true, false}); // taken back also by 2534 := 0, which a drive that was not forced refuses
+    commands.applyEnableState({true, false});
+    ASSERT_EQ(messages.count(), 1);
+    EXPECT_EQ(messages.at(0).at(0).value<Message>().kind, MessageKind::Undone);
+    EXPECT_EQ(bus().read(5, 2533), 1);
+}
+
+TEST_F(Operations, ADisableInsideTheUndoingOfAnEnableLeavesThatAStop)
+{
+    QSignalSpy messages(&out, &SessionEvents::message);
+    // The enable, what is read after both disables, and the disable that is served before that is read again: three
+    // failures in a row, after which only a stop is still sent.
+    bus().setFaults({{Fault::Missing, 0, 0, 1}, {Fault::Missing, 0, 1, 1}, {Fault::Missing, 0, 0, 1}});
+    askToDisable();
+    commands.applyEnableState({true, false});
+    ASSERT_EQ(messages.count(), 1);
+    EXPECT_EQ(messages.at(0).at(0).value<Message>().kind, MessageKind::Undone) << "it was seen to be disabled";
+    EXPECT_EQ(received(disables), 3) << "with 2534 := 0, then the one that was asked for, twice";
+}
+
 TEST_F(Operations, APollWithoutAGoodReplyCountsForNothing)
 {
     ASSERT_TRUE(monitor.poll());
@@ -103,7 +127,7 @@ TEST_F(Operations, APollWithoutAGoodReplyCountsForNothing)
     QSignalSpy enabled(&out, &SessionEvents::enableStatePolled), panels(&out, &SessionEvents::faultRegisterUpdated);
     bus().withDrive(5, [](sim::VirtualDrive &drive) { drive.write(2533, 1); });
     for (Fault::Kind kind : {Fault::Cut, Fault::Missing, Fault::Flip}) {
-        setFault({kind, 9, 0, Fault::Forever});
+        setFault({kind, 9, 0, Fault::unlimited});
         with.line.startTask();
         with.line.clearStatus();
         EXPECT_FALSE(monitor.poll()) << Fault::name(kind);
@@ -189,6 +213,33 @@ TEST_F(Operations, WithTheLatchSetEveryTaskEndsWithAQuestionForErrors)
     ASSERT_EQ(messages.count(), 1);
     EXPECT_EQ(messages.at(0).at(0).value<Message>().kind, MessageKind::Refused);
     EXPECT_TRUE(queue.isEmpty()) << "a refusal is an answer: the connection goes on";
+}
+
+TEST_F(Operations, AStreamIsSetUpOnceInAConnection)
+{
+    data.stimulus.set(100, 1, 0, 1, true);
+    EXPECT_EQ(stream.state(), Stream::Fresh);
+    stream.streamStimulus();
+    EXPECT_EQ(stream.state(), Stream::Running);
+    EXPECT_TRUE(stream.stop());
+    EXPECT_EQ(stream.state(), Stream::Stopped);
+    bus().clearReceived();
+    data.stimulus.set(100, 1, 0, 1, true);
+    stream.streamStimulus();
+    EXPECT_EQ(received("800a400000800940"), 1) << "asked for room, and told no period";
+    setFault({Fault::Deaf});
+    EXPECT_FALSE(stream.stop());
+    EXPECT_EQ(stream.state(), Stream::Running) << "as far as anybody knows";
+    QSignalSpy messages(&out, &SessionEvents::message);
+    with.errors.finishTask();
+    ASSERT_EQ(messages.count(), 1) << "the only one about a stop that is tried again and may fail again";
+    const QString told = messages.at(0).at(0).value<Message>().text;
+    EXPECT_TRUE(told.startsWith("<b>The drive may still be powered.</b>") &&
+                told.contains("The test stimulus was running"))
+        << qPrintable(told);
+    stream.reset();
+    EXPECT_EQ(stream.state(), Stream::Fresh);
+    EXPECT_FALSE(data.stimulusIsActive());
 }
 
 TEST_F(Operations, AFullReadOnADamagedLineSucceeds)

@@ -109,14 +109,14 @@ TEST_F(Scope, OneBadReplyOfADownloadChangesNoWord)
     using F = sim::LineFault;
     session().command(Connection::TaskDisconnect);
     ASSERT_TRUE(waitForDisconnect());
-    session().setReplyTimeout(200);
+    session().setReplyTimeout(shortTimeoutMs);
     ASSERT_TRUE(connectTo());
     arm(20000, captureAtOnce, selection({torqueSetpoint, busVoltage}));
     ASSERT_TRUE(waitForPlot());
     const auto whole = log().plots.last()[busVoltage].samples;
     for (F::Kind kind : {F::Twice, F::Flip, F::Missing, F::Late}) {
         ASSERT_TRUE(waitUntilIdle());
-        bus().setFault({kind, kind == F::Late ? 240 : 9, 10, 1});
+        bus().setFault({kind, kind == F::Late ? tooLateMs : 9, 10, 1});
         log().plots.clear();
         session().command(Connection::TaskDownloadScope);
         ASSERT_TRUE(waitForPlot()) << kind;

@@ -99,20 +99,6 @@ TEST_F(Stimulus, ANewConnectionBeginsAnewAndDoesNotMoveByItself)
     EXPECT_EQ(payloads().front(), wire("8008 000000c8") + readFree);
 }
 
-TEST_F(Stimulus, AStopThatIsLostIsSentAgainOnLeaving)
-{
-    const std::string stopWrite = wire("822a 00000004");
-    start();
-    ASSERT_TRUE(waitForClock());
-    setFault(sim::LineFault::Deaf);
-    stop();
-    ASSERT_TRUE(waitForPayload(stopWrite));
-    bus().clearFaults();
-    ASSERT_TRUE(waitForDisconnect());
-    EXPECT_EQ(received(stopWrite), 2);
-    EXPECT_TRUE(bus().waitForRegister(5, 6, 2048)) << "the buffer is empty";
-}
-
 TEST_F(Stimulus, ADisableAndARestartEndItForGood)
 {
     for (bool restart : {false, true}) {

@@ -14,9 +14,6 @@ using Fault = sim::LineFault;
 
 namespace {
 
-constexpr int replyTimeoutMs = 200;
-constexpr int tooLateMs = 240; // by the same proportion as 1.2 s is for a reply that may take one
-
 const std::string bothDisables = "89e50000000089e600000000"; // 2533 := 0, 2534 := 0
 
 const Fault::Kind singleFaults[] = {Fault::Missing, Fault::Deaf, Fault::Cut, Fault::Flip, Fault::Late, Fault::Twice};
@@ -27,7 +24,7 @@ protected:
     void SetUp() override
     {
         SessionFixture::SetUp();
-        session().setReplyTimeout(replyTimeoutMs);
+        session().setReplyTimeout(shortTimeoutMs);
     }
     bool isEnabled() { return (bus().read(5, 553) & 16) != 0 || bus().read(5, 2533) != 0; }
     void setEnabled(bool on)
@@ -211,7 +208,6 @@ TEST_F(Stops, ADisableDoesNotWaitForAConnectionThatDoesNotComeAbout)
     ASSERT_TRUE(waitUntilIdle());
     bus().setFault({Fault::Deaf, 4, 0, 1});
     bus().clearReceived();
-    session().setReplyTimeout(400);
     session().connectDevice(port(), DriveAddress);
     ASSERT_TRUE(waitForRequests(1));
     disable();
@@ -219,8 +215,48 @@ TEST_F(Stops, ADisableDoesNotWaitForAConnectionThatDoesNotComeAbout)
     const auto sent = bus().received();
     ASSERT_GE(sent.size(), 2u);
     EXPECT_EQ(hex(sent[1].packet.payload), bothDisables);
-    EXPECT_LT(sent[1].time - sent[0].time, std::chrono::milliseconds(600));
+    EXPECT_LT(sent[1].time - sent[0].time, std::chrono::milliseconds(2 * shortTimeoutMs));
     EXPECT_FALSE(isEnabled());
+}
+
+TEST_F(Stops, ADriveThatCouldNotBeConnectedToCanBeDisabledAllTheSame)
+{
+    setEnabled(true);
+    setFault(Fault::Deaf);
+    EXPECT_FALSE(connectTo(4)); // a slip of the finger
+    EXPECT_FALSE(connectTo());
+    bus().clearFaults();
+    disable();
+    ASSERT_TRUE(waitForOutcome());
+    EXPECT_EQ(log().outcomes.last(), DisableOutcome::Disabled);
+    EXPECT_FALSE(isEnabled());
+    // From here on a drive is known that may move: it stays the one to be stopped.
+    begin(true);
+    session().connectDevice(port(), 4);
+    ASSERT_TRUE(waitForDisconnect());
+    disable();
+    ASSERT_TRUE(waitForOutcome());
+    EXPECT_EQ(log().outcomes.last(), DisableOutcome::Disabled);
+}
+
+TEST_F(Stops, ADisableDoesNotWaitForTheEndOfASearch)
+{
+    begin(true);
+    session().command(Connection::TaskDisconnect);
+    ASSERT_TRUE(waitUntilIdle());
+    bus().clearReceived();
+    session().getListOfBusNodes(port());
+    ASSERT_TRUE(waitForRequests(1));
+    disable();
+    const std::size_t asked = bus().received().size();
+    ASSERT_TRUE(waitForOutcome());
+    EXPECT_EQ(log().outcomes.last(), DisableOutcome::Disabled);
+    const std::vector<std::string> sent = payloads();
+    const auto served = std::find(sent.begin(), sent.end(), bothDisables);
+    EXPECT_LE(served - sent.begin(), asked + 1) << "of 25 addresses";
+    ASSERT_TRUE(waitUntil([this] { return !log().nodes.isEmpty(); })) << "the search goes on";
+    ASSERT_THAT(log().nodes.last(), SizeIs(1));
+    EXPECT_EQ(log().nodes.last().first().address, 5);
 }
 
 TEST_F(Stops, AStreamDoesNotOutliveItsConnectionWhateverHappensToOneReply)
@@ -278,7 +314,7 @@ TEST_F(Stops, AbortHomingSurvivesADisconnectAnErrorAndQuitting)
         each.end();
         EXPECT_TRUE(waitForPayload(abort)) << each.name;
         bus().setTurnAround(std::chrono::milliseconds(0));
-        session().setReplyTimeout(replyTimeoutMs);
+        session().setReplyTimeout(shortTimeoutMs);
         ASSERT_TRUE(waitUntilIdle());
     }
 }
@@ -314,6 +350,6 @@ TEST_F(Stops, AStopGetsThroughBeforeALostReplyIsAskedForAgain)
     const auto sent = bus().received();
     ASSERT_GE(sent.size(), 2u);
     EXPECT_EQ(hex(sent[1].packet.payload), wire("89e5 00000000"));
-    EXPECT_LT(sent[1].time - sent[0].time, std::chrono::milliseconds(replyTimeoutMs + 150));
+    EXPECT_LT(sent[1].time - sent[0].time, std::chrono::milliseconds(2 * shortTimeoutMs)) << "a late reply is not awaited";
     EXPECT_FALSE(isEnabled());
 }

@@ -183,10 +183,10 @@ TEST_F(Worker, ADisableIsSentAlsoWhereTheLineCountsAsDead)
 
 TEST_F(Worker, ALateReplyToSomethingElseDoesNotAcknowledgeADisable)
 {
-    session().setReplyTimeout(200);
+    session().setReplyTimeout(shortTimeoutMs);
     ASSERT_TRUE(connectTo());
     ASSERT_TRUE(waitUntilIdle());
-    bus().setFaults({{sim::LineFault::Late, 350, 0, 1}, {sim::LineFault::Deaf}});
+    bus().setFaults({{sim::LineFault::Late, tooLateMs, 0, 1}, {sim::LineFault::Deaf}});
     bus().clearReceived();
     ASSERT_TRUE(waitForRequests(1)); // a poll
     disable();
@@ -210,7 +210,7 @@ TEST_F(Worker, ARestartingDriveIsToldToDisableUntilItHearsIt)
     sim::BusOptions slowly;
     slowly.restartTime = std::chrono::milliseconds(400);
     startBus(slowly);
-    session().setReplyTimeout(100);
+    session().setReplyTimeout(shortTimeoutMs);
     ASSERT_TRUE(connectTo());
     session().setPauseScale(0.4); // 1.4 s
     session().command(Connection::TaskRestartDrive);
@@ -273,6 +273,7 @@ TEST_F(Worker, ClosingOnABabblingLineEndsInTime)
         bus().clearFaults();
         bus().setTurnAround(std::chrono::milliseconds(0));
         ASSERT_TRUE(connectTo());
+        ASSERT_TRUE(waitUntilIdle()); // connecting ends with dropping what error bits it finds
         leaveErrorBit();
         session().checkErrors(); // from this error on every write is followed by a question
         ASSERT_TRUE(waitUntil([this] { return !log().errors.isEmpty(); }));

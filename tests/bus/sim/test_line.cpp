@@ -168,7 +168,7 @@ TEST_F(Line, UnpluggedPortEndsForItsUserAndComesBackUnderTheSameName)
 TEST_F(Line, UnpluggedFaultPullsTheAdapterInsteadOfTheReply)
 {
     TestLine line(port());
-    bus().setFault({LineFault::Unplugged, LineFault::AnyByte, 2});
+    bus().setFault({LineFault::Unplugged, LineFault::anyByte, 2});
     for (int i = 0; i < 2; ++i)
         EXPECT_EQ(line.exchange(ReadType, TypeReply.size()), TypeReply);
     EXPECT_EQ(line.exchange(ReadType, 1), Bytes{});

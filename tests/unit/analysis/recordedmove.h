@@ -58,7 +58,7 @@ inline CaptureRecord recordMove(const Move &move)
                         recordedChannel("posmeas", 1.0)};
     if (move.withSetpoint)
         capture.channels[1] = recordedChannel("posreference", 1.0);
-    for (int word = 0; word < sim::Recorder::Words; ++word) {
+    for (int word = 0; word < sim::Recorder::words; ++word) {
         CaptureData &channel = capture.channels[word % 3];
         drive.write(sim::reg::RecorderAddress, word);
         const double value = drive.read(sim::reg::RecorderWord) * channel.scale;

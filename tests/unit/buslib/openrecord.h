@@ -4,7 +4,7 @@
 #ifndef OPENRECORD_H
 #define OPENRECORD_H
 
-#include "bushandle.h"
+#include "busrecord.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
 // What is refused before anything is opened, and the help.
-#include "commandline.h"
+#include "commandparser.h"
 
 #include "commands.h"
 

@@ -7,7 +7,7 @@
 namespace {
 
 using Source = EditedSettings::Source;
-constexpr int kvp = 0, cvl = 1;
+constexpr int kvp = 0, cvl = 1, pif = 2;
 
 Parameters valuesOf(double kvpValue, double cvlValue)
 {
@@ -31,7 +31,7 @@ Parameters valuesOf(double kvpValue, double cvlValue)
 /// As the window takes a list over.
 EditedSettings settledOn(const Parameters &list, Source source = Source::Drive)
 {
-    EditedSettings settings;
+    EditedSettings settings(valuesOf(0, 0));
     settings.accept(list, source);
     settings.settle();
     return settings;
@@ -41,7 +41,7 @@ EditedSettings settledOn(const Parameters &list, Source source = Source::Drive)
 
 TEST(EditedSettings, AnEditIsPendingUntilUndoneOrApplied)
 {
-    EditedSettings settings;
+    EditedSettings settings(valuesOf(0, 0));
     settings.accept(valuesOf(1, 2), Source::Drive);
     EXPECT_FALSE(settings.isPending()); // nothing was ever settled: the list is only just there
     settings.settle();
@@ -93,19 +93,22 @@ TEST(EditedSettings, OnlyAWholeReadOfThisConnectionCountsAsTheDrives)
 
 TEST(EditedSettings, DifferencesAreWhatTheDriveWouldHoldOtherwise)
 {
+    const QString model = "KETA";
     EditedSettings settings = settledOn(valuesOf(1, 2));
-    EXPECT_TRUE(settings.differences().isEmpty());
+    EXPECT_TRUE(settings.differences(model).isEmpty());
     settings.setDrive(valuesOf(1, 2));
     settings.edit(cvl, 2.004); // the drive counts in hundredths
-    EXPECT_TRUE(settings.differences().isEmpty());
+    settings.edit(pif, 7);     // read-only
+    EXPECT_TRUE(settings.differences(model).isEmpty());
     settings.edit(cvl, 2.01);
     settings.edit(kvp, 5);
-    const auto found = settings.differences();
+    const auto found = settings.differences(model);
     ASSERT_EQ(found.size(), 2);
     EXPECT_EQ(found[0].name, "KVP");
     EXPECT_EQ(found[0].drive, 1);
-    EXPECT_EQ(found[0].edited, 5);
+    EXPECT_EQ(found[0].wanted, 5);
     EXPECT_EQ(found[1].name, "CVL");
+    EXPECT_TRUE(settings.differences("OTHER").isEmpty()) << "no setting of that model";
     settings.connectionChanged();
-    EXPECT_TRUE(settings.differences().isEmpty());
+    EXPECT_TRUE(settings.differences(model).isEmpty());
 }

@@ -33,19 +33,6 @@ TEST(SettingsChecks, LimitsCountAsTheyGoOverTheBus)
     EXPECT_NE(refusal(drive, {"FOC", 0.5}, keta), "");
 }
 
-TEST(SettingsChecks, DifferencesIgnoreRoundingReadOnlyAndWhatTheModelLacks)
-{
-    const Parameters first = withSetting("AXS", 2.500001, 0, 5000); // scaled by 100000: 250000 either way
-    EXPECT_TRUE(differences(first, withSetting("AXS", 2.5, 0, 5000), keta).isEmpty());
-    EXPECT_TRUE(differences(driveParameterCatalogue(), withSetting("HWSERIAL", 17, 0, 99), keta).isEmpty());
-    EXPECT_TRUE(differences(driveParameterCatalogue(), withSetting("TRF1", 3, 0, 25), keta).isEmpty());
-
-    const QList<Difference> found = differences(first, withSetting("AXS", 2.50001, 0, 5000), keta);
-    ASSERT_EQ(found.size(), 1);
-    EXPECT_EQ(found.first().name, "AXS");
-    EXPECT_EQ(found.first().second, 2.50001);
-}
-
 TEST(SettingsChecks, MarkOfASettingThatWasNeverReadGivesWayToTheDrives)
 {
     const Parameters drive = withSetting("KVP", 360, 0, 32767);

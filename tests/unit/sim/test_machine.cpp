@@ -165,7 +165,7 @@ TEST(Machine, WiringFaultsShowTheirSignsAndCanBeSetRight)
         std::int32_t faults;
         int setpoint, lowest, highest; ///< where it comes to
     } rows[] = {
-        {"reversed", {}, FaultTracking, 1000, RegisterMinimum, 0}, // it runs away
+        {"reversed", {}, FaultTracking, 1000, registerMinimum, 0}, // it runs away
         {"reversed", {{reg::Flags, 0x0009}}, 0, 1000, 1000, 1000},
         {"poles=3", {}, FaultInit, 1000, 0, 0},
         {"poles=3", {{reg::PolePairs, 3}}, 0, 1000, 1000, 1000},
@@ -173,7 +173,7 @@ TEST(Machine, WiringFaultsShowTheirSignsAndCanBeSetRight)
         // friction.
         {"swapped", {{reg::ControlMode, 3}}, 0, 1024, 290, 335},
         {"swapped", {{reg::ControlMode, 3}}, 0, -2048, -335, -290},
-        {"swapped", {}, FaultTracking, 1990, RegisterMinimum, RegisterMaximum},
+        {"swapped", {}, FaultTracking, 1990, registerMinimum, registerMaximum},
         {"stuck-positive", {}, 0, 1000, 1000, 1000},
         {"stuck-positive", {{reg::LimitSwitches, 1}}, 0, 1000, 0, 0},
         {"stuck-negative", {{reg::LimitSwitches, 1}}, 0, 1000, 1000, 1000},

@@ -30,7 +30,7 @@ protected:
     std::vector<std::int32_t> words()
     {
         std::vector<std::int32_t> all;
-        for (int address = 0; address < Recorder::Words; ++address) {
+        for (int address = 0; address < Recorder::words; ++address) {
             drive.write(reg::RecorderAddress, address);
             all.push_back(drive.read(reg::RecorderWord));
         }
@@ -59,7 +59,7 @@ TEST_F(RecorderBench, StoresEnabledSourcesInterleavedLowestBitFirst)
     drive.advanceCycles(100);
     const std::vector<std::int32_t> all = words();
     const int expected[] = {-700, 0, 40000}; // 667, 667 and 666 of each
-    for (int i = 0; i < Recorder::Words; ++i)
+    for (int i = 0; i < Recorder::words; ++i)
         ASSERT_EQ(all[std::size_t(i)], expected[i % 3]) << i;
 }
 

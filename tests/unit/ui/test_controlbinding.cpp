@@ -37,7 +37,7 @@ protected:
 
     QWidget root;
     ControlBinding binding{&root};
-    EditedSettings settings;
+    EditedSettings settings{Parameters()};
 
     /// Fills and keeps what the control made of it, as the window does.
     bool fill(const SingleParam &p, bool fromDrive = false)

@@ -1,36 +1,14 @@
 // A web engine that cannot start, or dies: said in words, and started again.
 #include "captureplotter.h"
+#include "pageprocesses.h"
 #include "pagescript.h"
 
 #include <gtest/gtest.h>
 
-#include <QDir>
-#include <QFile>
 #include <QLabel>
 #include <QSignalSpy>
 
 #include <csignal>
-#include <unistd.h>
-
-namespace {
-
-/// The processes below this one that draw pages: children of the engine's own first process.
-std::vector<pid_t> pageProcesses()
-{
-    std::vector<std::vector<pid_t>> generations{{getpid()}, {}, {}};
-    for (int i = 0; i < 2; ++i) {
-        for (const QString &entry : QDir("/proc").entryList({"[0-9]*"}, QDir::Dirs)) {
-            QFile stat("/proc/" + entry + "/stat");
-            const QByteArray line = stat.open(QIODevice::ReadOnly) ? stat.readAll() : QByteArray();
-            const pid_t parent = line.mid(line.lastIndexOf(')') + 2).split(' ').value(1).toInt();
-            if (std::count(generations[i].begin(), generations[i].end(), parent) > 0)
-                generations[i + 1].push_back(entry.toInt());
-        }
-    }
-    return generations[2];
-}
-
-} // namespace
 
 TEST(HelpViewEngine, ThatDiesIsSaidInWordsAndStartsAgain)
 {

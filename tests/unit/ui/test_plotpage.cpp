@@ -1,16 +1,19 @@
 // The plot page in the engine that shows it.
 #include "captureplotter.h"
 #include "flotfolder.h"
+#include "pageprocesses.h"
 #include "pagescript.h"
 #include "parameters.h"
 
 #include <gtest/gtest.h>
 
 #include <QImage>
+#include <QProcess>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 
 #include <cmath>
+#include <csignal>
 
 namespace {
 
@@ -269,6 +272,58 @@ TEST_F(PlotPage, PicturesShowTheZoomAndAFullDiskLeavesTheOldOne)
         ASSERT_TRUE(saved.wait(30000));
         EXPECT_TRUE(saved[0][0].toString().startsWith(QString("Error writing graphs to file ") + impossible));
     }
+}
+
+TEST_F(PlotPage, PicturesAreAsWideAsAskedFor)
+{
+    show(2, 100);
+    for (const auto &[asked, wide] : {std::pair(1100, 1100), {2000, 1100}, {801, 801}, {100, 400}}) {
+        const QString file = folder.filePath(QString("%1.png").arg(asked));
+        QSignalSpy saved(&view, &HelpView::pictureSaved);
+        view.savePng(file, asked);
+        ASSERT_TRUE(saved.wait(30000));
+        const QImage image(file);
+        EXPECT_EQ(image.width(), wide);
+        EXPECT_GT(image.height(), 2 * 400);
+        EXPECT_EQ(image.pixel(wide - 1, 0), image.pixel(0, 0)) << "the heading goes from edge to edge";
+    }
+}
+
+TEST(PictureWidth, IsTheSameOnScaledScreens)
+{
+    for (const char *scale : {"1.75", "1.1", "3"}) {
+        SCOPED_TRACE(scale);
+        qputenv("QT_SCALE_FACTOR", scale); // read when the application is made, so the test above runs once more
+        EXPECT_EQ(QProcess::execute(QCoreApplication::applicationFilePath(),
+                                    {"--gtest_filter=PlotPage.PicturesAreAsWideAsAskedFor", "--gtest_brief=1"}),
+                  0);
+        qunsetenv("QT_SCALE_FACTOR");
+    }
+}
+
+TEST_F(PlotPage, APictureWhoseProcessDiesIsGivenUpAtOnce)
+{
+    show(16, 5000);
+    const std::vector<pid_t> former = pageProcesses();
+    QSignalSpy saved(&view, &HelpView::pictureSaved);
+    view.savePng(folder.filePath("no.png"));
+    std::vector<pid_t> drawing;
+    ASSERT_TRUE(waitFor([&] {
+        for (const pid_t process : pageProcesses()) {
+            if (std::count(former.begin(), former.end(), process) == 0)
+                drawing.push_back(process);
+        }
+        return !drawing.empty();
+    }));
+    QElapsedTimer sinceDeath;
+    sinceDeath.start();
+    for (const pid_t process : drawing)
+        kill(process, SIGKILL);
+    ASSERT_TRUE(saved.count() == 1 || saved.wait(30000));
+    EXPECT_LT(sinceDeath.elapsed(), 10000) << "not when its time is over";
+    EXPECT_TRUE(saved[0][0].toString().contains("ended unexpectedly")) << qPrintable(saved[0][0].toString());
+    EXPECT_FALSE(QFile::exists(folder.filePath("no.png")));
+    EXPECT_EQ(run("$('a.waiting').length").toInt(), 0) << "the plot stands, and can be saved again";
 }
 
 TEST_F(PlotPage, ChartsShareOneTimeAxisByDragWheelAndKeys)

@@ -5,6 +5,8 @@
 
 namespace {
 
+using Scale = UnitConversion::Scale;
+
 /// 1000 lines and 10 mm a revolution: 400 counts a millimetre.
 UnitConversion screwAxis()
 {
@@ -24,11 +26,11 @@ TEST(UnitConversion, CountsAndSetpointsBecomeUnitsOfTheAxis)
     units.mul = 3;
     units.div = 4;
     EXPECT_DOUBLE_EQ(units.velocity(64), 64 * 6.25 / 4) << "a setpoint's is divided twice and multiplied once";
-    EXPECT_DOUBLE_EQ(units.velocity(64, true), 64 * 6.25 / 4 * 3 / 4);
-    EXPECT_DOUBLE_EQ(units.velocity(64, false, true), 64 * 6.25);
-    EXPECT_DOUBLE_EQ(units.velocity(64, true, true), 64 * 6.25 * 3);
+    EXPECT_DOUBLE_EQ(units.velocity(64, Scale::Setpoint), 64 * 6.25 / 4 * 3 / 4);
+    EXPECT_DOUBLE_EQ(units.velocity(64, Scale::Raw), 64 * 6.25);
+    EXPECT_DOUBLE_EQ(units.velocity(64, Scale::RawSetpoint), 64 * 6.25 * 3);
     EXPECT_EQ(units.positionLabel(4000), "= 7.5 mm");
-    EXPECT_EQ(units.positionLabel(4000, true), "= 10 mm");
+    EXPECT_EQ(units.positionLabel(4000, Scale::Raw), "= 10 mm");
     EXPECT_EQ(units.scalingText(), "Setpoint scaling factor:\n3/4=75%");
     units.div = 200;
     EXPECT_EQ(units.accelerationLabel(320), "= 25000 mm/s²"); // 320 * 2500 * 2500 / 200 / 400

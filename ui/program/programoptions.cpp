@@ -24,6 +24,12 @@ QStringList knownProfiles()
     return names;
 }
 
+// The tour enables the drive and moves the axis: never a real one, and never with somebody's settings.
+bool isTourSafe(const ProgramOptions &options)
+{
+    return !options.virtualDrives.isEmpty() && options.port.isEmpty() && options.file.isEmpty();
+}
+
 } // namespace
 
 ProgramOptions parseProgramOptions(QStringList arguments)
@@ -79,9 +85,7 @@ ProgramOptions parseProgramOptions(QStringList arguments)
         if (!error.isEmpty())
             options.error = tr("--virtual-drive: %1. Models: %2.").arg(error, profiles.join(QLatin1String(", ")));
     }
-    // The tour enables the drive and moves the axis: never a real one, and never with somebody's settings.
-    if (!options.tourFolder.isEmpty() &&
-        (options.virtualDrives.isEmpty() || !options.port.isEmpty() || !options.file.isEmpty()))
+    if (!options.tourFolder.isEmpty() && !isTourSafe(options))
         options.error = tr("--tour goes with --virtual-drive, and not with --port or a file.");
     return options;
 }

@@ -1,8 +1,8 @@
 /// \file
-/// Bus handles: one record per open bus with the protocol state, the command queue and the cumulative status. Internal
+/// Bus records: one per handle, with the protocol state, the command queue and the cumulative status. Internal
 /// to this folder and its tests; users include zetabus.h.
-#ifndef VELBRIN_BUSLIB_BUSHANDLE_H
-#define VELBRIN_BUSLIB_BUSHANDLE_H
+#ifndef VELBRIN_BUSLIB_BUSRECORD_H
+#define VELBRIN_BUSLIB_BUSRECORD_H
 
 #include "zetabus.h"
 
@@ -47,7 +47,7 @@ struct BusState
     std::uint32_t cumulativeStatus = 0;
 };
 
-/// Closes every record and puts it to its initial values. The first zbOpenBus does this by itself.
+/// Closes every record and puts it to its initial values, which it has at the start, too.
 void zbBusesInit();
 
 /// The record of a handle 0-9, open or not, else null.

@@ -1,4 +1,4 @@
-#include "commandline.h"
+#include "commandparser.h"
 
 #include "commandhelp.h"
 #include "commands.h"

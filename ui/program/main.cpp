@@ -1,9 +1,12 @@
 // The program: command line, the built-in virtual drives, the window, and a clean end.
 #include "datafolder.h"
+#include "disabledink.h"
+#include "enginestart.h"
 #include "mw.h"
 #include "programoptions.h"
 #include "quitsignals.h"
 #include "tour.h"
+#include "utf8locale.h"
 #include "virtualport.h"
 
 #include <QApplication>
@@ -14,7 +17,7 @@
 
 namespace {
 
-constexpr int EXIT_USAGE = 2;
+constexpr int wrongUsage = 2;
 
 // Help and version are asked for on machines without a display, too.
 bool wantsTextOnly(int argc, char **argv)
@@ -43,14 +46,15 @@ int failed(const QString &text, int exitCode)
 
 int main(int argc, char **argv)
 {
+    useUtf8();
     if (wantsTextOnly(argc, argv))
         qputenv("QT_QPA_PLATFORM", "offscreen");
-    HelpView::prepareEngine();
+    prepareEngine();
     QGuiApplication::setDesktopFileName(QStringLiteral("velbrin")); // where Wayland finds name and icon
     QApplication application(argc, argv);
     const ProgramOptions options = parseProgramOptions(QApplication::arguments());
     if (!options.error.isEmpty())
-        return failed(options.error, EXIT_USAGE);
+        return failed(options.error, wrongUsage);
     if (!options.text.isEmpty()) {
         std::fputs(qPrintable(options.text), stdout);
         return 0;
@@ -76,6 +80,7 @@ int main(int argc, char **argv)
         tour.start(); // before the window, whose disclaimer is its first stop
     MW mainWindow(window);
     setStyle();
+    new DisabledInk(&application);
     mainWindow.show();
     const int status = QApplication::exec();
     return tour.failed() ? EXIT_FAILURE : status;

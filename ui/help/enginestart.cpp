@@ -1,0 +1,59 @@
+#include "enginestart.h"
+
+#include "plotscheme.h"
+
+#include <QCoreApplication>
+#include <QFileInfo>
+#include <QLibraryInfo>
+#include <QQuickWindow>
+#include <sched.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace {
+
+QString processPath()
+{
+    const QString own = qEnvironmentVariable("QTWEBENGINEPROCESS_PATH");
+    return own.isEmpty()
+               ? QLibraryInfo::path(QLibraryInfo::LibraryExecutablesPath) + QLatin1String("/QtWebEngineProcess")
+               : own;
+}
+
+bool isSandboxOff()
+{
+    return qEnvironmentVariableIntValue("QTWEBENGINE_DISABLE_SANDBOX") == 1;
+}
+
+/// Whether the system lets a process of ours have name spaces of its own, which the engine's sandbox is made of.
+bool systemAllowsSandbox()
+{
+    const pid_t child = fork();
+    if (child == 0)
+        _exit(unshare(CLONE_NEWUSER | CLONE_NEWPID) == 0 ? 0 : 1);
+    int status = 0;
+    return child > 0 && waitpid(child, &status, 0) == child && WIFEXITED(status) && WEXITSTATUS(status) == 0;
+}
+
+} // namespace
+
+void prepareEngine()
+{
+    registerPlotScheme();
+    // Help and charts need no graphics processor, and then no driver of one can fail.
+    QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
+    QByteArray flags = qgetenv("QTWEBENGINE_CHROMIUM_FLAGS");
+    flags += " --disable-gpu";
+    if (geteuid() == 0) // the engine refuses to start a sandbox for root
+        flags += " --no-sandbox";
+    qputenv("QTWEBENGINE_CHROMIUM_FLAGS", flags.trimmed());
+}
+
+QString whyEngineCannotStart()
+{
+    if (!QFileInfo(processPath()).isExecutable())
+        return QCoreApplication::translate("HelpView", "its program %1 is missing").arg(processPath());
+    if (geteuid() != 0 && !isSandboxOff() && !systemAllowsSandbox())
+        return QCoreApplication::translate("HelpView", "this system does not allow its sandbox (user name spaces)");
+    return QString();
+}

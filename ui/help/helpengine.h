@@ -1,0 +1,32 @@
+/// \file
+/// The web engine of the pane and what belongs to it.
+#ifndef HELPENGINE_H
+#define HELPENGINE_H
+
+#include "helppage.h"
+#include "plotpicture.h"
+#include "plotscheme.h"
+
+#include <QWebEngineProfile>
+#include <QWebEngineView>
+#include <memory>
+
+/// To be made once the window is on the screen. The members stand in the order in which the engine wants to be ended: the
+/// last first.
+struct HelpEngine
+{
+    explicit HelpEngine(QWidget *owner);
+
+    QWebEngineProfile profile; ///< without a name: nothing of it is kept on disk
+    RequestGate gate;
+    PlotFiles plotFiles;
+    HelpPage page;
+    QWebEngineView view;
+    std::unique_ptr<PlotPicture> picture; ///< while one is being drawn
+    bool plotStands = false;              ///< the plot page on display is loaded to its end
+
+    /// Dark pages under a dark palette, from the next load on; the one on display follows by itself.
+    void followPalette(const QPalette &palette);
+};
+
+#endif

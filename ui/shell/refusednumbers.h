@@ -1,0 +1,12 @@
+/// \file
+/// Says why a number field has not taken what was typed.
+#ifndef REFUSEDNUMBERS_H
+#define REFUSEDNUMBERS_H
+
+class QStatusBar;
+class QWidget;
+
+/// For every number field that is in the window by now: in the status bar, and at the field.
+void showRefusedNumbers(QWidget *window, QStatusBar *status);
+
+#endif
