@@ -64,7 +64,7 @@ TEST_F(BadLine, AdapterPulledDuringAnApplyLosesNoEdit)
     openConnectedWindow();
     auto *kvp = control<QSpinBox>("KVP");
     kvp->setValue(777);
-    bus().setFault({LineFault::Unplugged, LineFault::AnyByte, 5});
+    bus().setFault({LineFault::Unplugged, LineFault::anyByte, 5});
     click("apply_button");
     clickUntilDisconnected();
     EXPECT_EQ(kvp->value(), 777);

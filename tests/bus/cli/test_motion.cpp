@@ -244,4 +244,11 @@ TEST_F(CliMotion, HomingThatTakesTooLongOrIsInterruptedIsAborted)
     EXPECT_EQ(finish(process).status, 1);
     EXPECT_THAT(sent(), Contains("9d6c00000000"));
     EXPECT_EQ(bus().read(DriveAddress, Status) & Homing, 0);
+
+    bus().clearReceived();
+    bus().withDrive(DriveAddress, [](sim::VirtualDrive &drive) { drive.refuseWrites(7532, 0); });
+    start(process, {"--port", port(), "--node", "5", "home"});
+    ASSERT_TRUE(waitForPayload(bus(), "9d6c00000001"));
+    sendSignal(process);
+    EXPECT_THAT(finish(process).err.toStdString(), HasSubstr("has not confirmed that homing is aborted"));
 }

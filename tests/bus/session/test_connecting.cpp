@@ -116,19 +116,16 @@ TEST_F(TwoDrives, AnAddressWhoseReplyWasDamagedIsAskedAgain)
 
 TEST_F(TwoDrives, AReplyThatComesAfterItsTimeoutIsListedForTheDriveThatSentIt)
 {
-    bus().setFault({sim::LineFault::Late, 130, 0, 1}); // the one of address 3, while 4 is being asked
-    ASSERT_TRUE(scan());
-    QList<int> addresses;
-    for (const NodeType &node : log().nodes.last())
-        addresses << node.address;
-    EXPECT_THAT(addresses, ElementsAre(3, 7));
-
-    bus().setFault({sim::LineFault::Late, 500, 1, 1}); // the one of address 7, while 11 is being asked
-    ASSERT_TRUE(scan());
-    addresses.clear();
-    for (const NodeType &node : log().nodes.last())
-        addresses << node.address;
-    EXPECT_THAT(addresses, ElementsAre(3, 7)) << "in order";
+    // The one of address 3, while 4 is being asked, and that of address 7, while 11 is.
+    using F = sim::LineFault;
+    for (const F &late : {F{F::Late, 130, 0, 1}, F{F::Late, 500, 1, 1}}) {
+        bus().setFault(late);
+        ASSERT_TRUE(scan());
+        QList<int> addresses;
+        for (const NodeType &node : log().nodes.last())
+            addresses << node.address;
+        EXPECT_THAT(addresses, ElementsAre(3, 7)) << "in order";
+    }
 }
 
 TEST_F(InUpgradeMode, ADriveInUpgradeModeIsFoundAndWelcomed)
@@ -233,16 +230,13 @@ TEST_F(Connecting, TasksWithoutADriveAreQuiet)
 
 TEST_F(Connecting, APortThatCannotBeOpenedIsSaidOnceAndWhy)
 {
-    const struct
-    {
-        const char *name, *why;
-    } cases[] = {
+    const std::pair<const char *, const char *> cases[] = {
         {"/dev/ttyNotThere", "There is no port %1: check that the adapter is plugged in."},
         {"notAPort", "%1 is not a serial port."},
     };
-    for (const auto &each : cases) {
+    for (const auto &[name, why] : cases) {
         newSession();
-        expectCannotOpen(each.name, each.why);
+        expectCannotOpen(name, why);
         EXPECT_EQ(log().messages.last().kind, MessageKind::ConnectFailed);
     }
 }
@@ -377,19 +371,15 @@ TEST_F(Connecting, WhoDoesNotAnswerAndWhoAnswersDamagedAreToldApart)
 {
     using F = sim::LineFault;
     session().setReplyTimeout(100);
-    const struct
-    {
-        F::Kind kind;
-        const char *text;
-    } cases[] = {
+    const std::pair<F::Kind, const char *> cases[] = {
         {F::Missing, "The port is open, but nobody answered at address 5"},
         {F::Flip, "Something answered at address 5, but damaged"},
     };
-    for (const auto &each : cases) {
+    for (const auto &[kind, text] : cases) {
         newSession();
         session().setReplyTimeout(100);
-        setFault(each.kind);
-        expectRefused("Connect failed", each.text);
+        setFault(kind);
+        expectRefused("Connect failed", text);
         EXPECT_TRUE(log().errors.last().startsWith("Communication error flags:"));
         EXPECT_EQ(log().messages.last().kind, MessageKind::ConnectFailed);
     }

@@ -108,7 +108,7 @@ template <int register_, int value, int after = 0> void refuse(sim::VirtualBus &
 
 template <Fault::Kind kind, int skip> void damage(sim::VirtualBus &bus)
 {
-    bus.setFault({kind, Fault::AnyByte, skip});
+    bus.setFault({kind, Fault::anyByte, skip});
 }
 
 const char *const ketaFailed = "Flashing firmware failed. Power off, reconnect and try again.";
