@@ -22,8 +22,8 @@ namespace sim {
 struct BusOptions
 {
     std::vector<DriveOptions> drives = {DriveOptions()};
-    std::string linkPath;                        ///< symbolic link to the port, removed by stop(); none when empty
-    std::string stateFile;                       ///< keeps the drives' flash across runs; none when empty
+    std::string linkPath = {};                   ///< symbolic link to the port, removed by stop(); none when empty
+    std::string stateFile = {};                  ///< keeps the drives' flash across runs; none when empty
     bool lineRate = false;                       ///< bytes take their time at 460800 baud
     std::chrono::microseconds turnAround{0};     ///< between the end of a request and the begin of its reply
     std::chrono::milliseconds restartTime{1500}; ///< silence of a restarting drive

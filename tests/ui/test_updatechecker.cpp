@@ -125,23 +125,6 @@ TEST_F(UpdateCheck, RedirectIsNotFollowed)
     EXPECT_EQ(notices.size(), 0);
 }
 
-TEST_F(UpdateCheck, SlowAnswerIsTakenWhileTheProgramGoesOn)
-{
-    server.handler = [](QTcpSocket *socket) {
-        socket->write("HTTP/1.1 200 OK\r\nContent-Length: 16\r\n\r\nVELBRINREPLY");
-        QTimer::singleShot(400, socket, [socket] { socket->write("late"); });
-    };
-    ask();
-    EXPECT_EQ(server.requests.size(), 0) << "asking returns before anything has happened";
-    int turns = 0;
-    QTimer other;
-    QObject::connect(&other, &QTimer::timeout, [&turns] { ++turns; });
-    other.start(5);
-    ASSERT_TRUE(QTest::qWaitFor([this] { return notices.size() == 1; }));
-    EXPECT_EQ(notice(), "late");
-    EXPECT_GT(turns, 10);
-}
-
 TEST_F(UpdateCheck, SilentOrTricklingServerIsGivenUp)
 {
     QTimer trickle;
@@ -184,21 +167,6 @@ TEST_F(UpdateCheck, MegabyteIsTakenAndAnEndlessBodyIsNot)
     EXPECT_TRUE(QTest::qWaitFor([this] { return server.openConnections == 0; }));
     EXPECT_LT(sent, 100 << 20);
     EXPECT_EQ(notices.size(), 1);
-}
-
-TEST_F(UpdateCheck, TwoQuestionsInARowHaveAnAnswerEach)
-{
-    int asked = 0;
-    server.handler = [&asked](QTcpSocket *socket) {
-        const QByteArray number = QByteArray::number(++asked);
-        socket->write("HTTP/1.1 200 OK\r\nContent-Length: 13\r\nConnection: close\r\n\r\nVELBRINREPLY" + number);
-        socket->disconnectFromHost();
-    };
-    ask();
-    askAndWait();
-    ASSERT_EQ(notices.size(), 2);
-    EXPECT_EQ(notice(0), "1");
-    EXPECT_EQ(notice(1), "2");
 }
 
 TEST_F(UpdateCheck, MayBeDestroyedAtAnyMoment)

@@ -55,10 +55,11 @@ public:
         m_timer.start(5);
     }
 
-    /// The next message box gets this button pressed.
-    void press(const QString &buttonText)
+    /// The next message box gets this button pressed, after it was looked at.
+    void press(const QString &buttonText, const std::function<void(QWidget *)> &look = [](QWidget *) {})
     {
-        expect([buttonText](QWidget *box) {
+        expect([buttonText, look](QWidget *box) {
+            look(box);
             const auto buttons = box->findChildren<QAbstractButton *>();
             for (QAbstractButton *button : buttons) {
                 if (button->text().remove('&') != buttonText)
@@ -69,13 +70,15 @@ public:
             return false;
         });
     }
-    /// The next node dialog gets this row chosen and opened.
-    void chooseNode(int row)
+    /// The next node dialog gets this row chosen and opened; its rows are read.
+    void chooseNode(int row, QStringList *rows = nullptr)
     {
-        expect([row](QWidget *dialog) {
+        expect([row, rows](QWidget *dialog) {
             auto *nodes = dialog->findChild<QListWidget *>("nodeList");
             if (!nodes || row >= nodes->count())
                 return false;
+            for (int i = 0; rows && i < nodes->count(); ++i)
+                *rows << nodes->item(i)->text();
             nodes->setCurrentRow(row);
             dialog->findChild<QDialogButtonBox *>("buttonBox")->button(QDialogButtonBox::Open)->click();
             return true;
@@ -188,6 +191,11 @@ protected:
         ASSERT_TRUE(waitFor([this] { return connectionText() == Connection::tr("Connected"); }))
             << qPrintable(connectionText());
         ASSERT_TRUE(waitFor([this] { return label("HWMODEL")->text().startsWith("Tarnwell"); }));
+    }
+    void disconnectFromDrive()
+    {
+        click("disconnect_button");
+        ASSERT_TRUE(waitFor([this] { return connectionText() == "Disconnected"; }));
     }
     void openConnectedWindow()
     {

@@ -1,4 +1,5 @@
 #include "cliprocess.h"
+#include "testfiles.h"
 
 #include <QFile>
 #include <QJsonArray>
@@ -18,12 +19,7 @@ class Cli : public VirtualBusFixture
 
 class CliTwoDrives : public VirtualBusFixture
 {
-    sim::BusOptions busOptions() const override
-    {
-        sim::BusOptions options;
-        options.drives = {{"keta", 3, false}, {"torva", 7, false}};
-        return options;
-    }
+    sim::BusOptions busOptions() const override { return {{{"keta", 3, false}, {"torva", 7, false}}}; }
 };
 
 } // namespace
@@ -178,12 +174,9 @@ TEST_F(Cli, FileGoesOutAndComesBack)
 
 TEST_F(Cli, FileOfAModelThatLacksASettingLeavesTheDriveItsOwn)
 {
-    sim::BusOptions options;
-    options.drives = {{"torva", DriveAddress, false}};
-    startBus(options);
+    startBus({{{"torva", DriveAddress, false}}});
     ASSERT_EQ(onDrive({"save", "torva.drc"}).status, 0);
-    options.drives = {{"keta", DriveAddress, false}};
-    startBus(options);
+    startBus({{{"keta", DriveAddress, false}}});
     constexpr int inputLogic = 573; // CEI, not on Torva: -1 in the file
     bus().set(DriveAddress, inputLogic, 1);
     const Ran ran = onDrive({"compare", "torva.drc"});
@@ -198,14 +191,10 @@ TEST_F(Cli, FileOfAModelThatLacksASettingLeavesTheDriveItsOwn)
 TEST_F(Cli, FileThatWantsACommandWrittenIsNoSuccess)
 {
     ASSERT_EQ(onDrive({"save", "axis.drc"}).status, 0);
-    QFile file("axis.drc");
-    ASSERT_TRUE(file.open(QIODevice::ReadWrite));
-    QByteArray text = file.readAll();
+    QByteArray text = contents("axis.drc");
     const int value = text.indexOf("value=", text.indexOf("overrideAddr2"));
     text.replace(value, int(strlen("value=0")), "value=554");
-    file.seek(0);
-    file.write(text);
-    file.close();
+    put("axis.drc", text);
     const Ran ran = onDrive({"load", "axis.drc", "--to-flash"});
     EXPECT_EQ(ran.status, 1);
     EXPECT_THAT(ran.err.toStdString(), HasSubstr("overrideAddr2 was not written: register 554 is a command"));
@@ -214,10 +203,7 @@ TEST_F(Cli, FileThatWantsACommandWrittenIsNoSuccess)
 
 TEST_F(Cli, BadFileIsRefusedAndNothingIsWritten)
 {
-    QFile noise("noise.drc");
-    ASSERT_TRUE(noise.open(QIODevice::WriteOnly));
-    noise.write(QByteArray(100000, '\x5a'));
-    noise.close();
+    put("noise.drc", QByteArray(100000, '\x5a'));
     for (const char *file : {"noise.drc", "missing.drc", "."}) {
         const Ran ran = onDrive({"load", file});
         EXPECT_EQ(ran.status, 1) << file;

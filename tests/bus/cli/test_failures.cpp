@@ -15,12 +15,7 @@ class CliFailure : public VirtualBusFixture
 
 class CliUpgradeMode : public VirtualBusFixture
 {
-    sim::BusOptions busOptions() const override
-    {
-        sim::BusOptions options;
-        options.drives = {{"keta", DriveAddress, true}};
-        return options;
-    }
+    sim::BusOptions busOptions() const override { return {{{"keta", DriveAddress, true}}}; }
 };
 
 std::string terminalOutput(sim::PseudoTerminal &terminal)
@@ -56,9 +51,7 @@ TEST_F(CliFailure, PortThatIsNotThereEndsWithOneReason)
 
 TEST_F(CliFailure, SilentDriveIsRefusedInPlainWords)
 {
-    sim::LineFault deaf;
-    deaf.kind = sim::LineFault::Deaf;
-    bus().setFault(deaf);
+    bus().setFault({sim::LineFault::Deaf});
     Ran ran = onDrive({"read"});
     EXPECT_EQ(ran.status, 1);
     EXPECT_EQ(ran.out, "");
@@ -85,17 +78,20 @@ TEST_F(CliFailure, LineLostWhileWritingSaysWhatMayHaveHappened)
                                                  "saved to its flash."));
 }
 
-TEST_F(CliUpgradeMode, SettingsAreRefusedAndScanAndStatusWork)
+TEST_F(CliUpgradeMode, SettingsAndMotionAreRefusedAndScanAndStatusWork)
 {
     Ran ran = run({"--port", port(), "scan"});
     EXPECT_EQ(ran.out, "255\tKETA\t11000\tupgrade\n");
     const QStringList drive = {"--port", port(), "--node", "255"};
-    for (const QStringList &command :
-         {QStringList{"read"}, QStringList{"save", "a.drc"}, QStringList{"write", "KVP=1"}}) {
+    const std::pair<QStringList, const char *> refused[] = {
+        {{"read"}, "has no settings"},   {{"save", "a.drc"}, "has no settings"}, {{"write", "KVP=1"}, "has no settings"},
+        {{"enable"}, "cannot move"},     {{"disable"}, "cannot move"},           {{"home"}, "cannot move"},
+        {{"clear-faults"}, "cannot move"}, {{"setpoint", "1"}, "cannot move"}};
+    for (const auto &[command, why] : refused) {
         ran = run(drive + command);
         EXPECT_EQ(ran.status, 1);
         EXPECT_EQ(ran.out, "");
-        EXPECT_THAT(ran.err.toStdString(), HasSubstr("firmware-upgrade mode and has no settings"));
+        EXPECT_THAT(ran.err.toStdString(), HasSubstr(std::string("firmware-upgrade mode and ") + why));
     }
     ran = run(drive + QStringList{"status"});
     EXPECT_EQ(ran.status, 0) << ran.err.toStdString();

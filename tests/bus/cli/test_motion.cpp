@@ -45,16 +45,6 @@ protected:
     std::vector<std::string> sent() { return payloads(bus().received()); }
 };
 
-class CliMotionUpgradeMode : public VirtualBusFixture
-{
-    sim::BusOptions busOptions() const override
-    {
-        sim::BusOptions options;
-        options.drives = {{"keta", DriveAddress, true}};
-        return options;
-    }
-};
-
 } // namespace
 
 TEST_F(CliMotion, EnablePowersTheMotorAndLeavesItSo)
@@ -228,6 +218,11 @@ TEST_F(CliMotion, HomingRunsToItsEnd)
     EXPECT_THAT(ran.out.toStdString(), StartsWith("running\t0\t"));
     EXPECT_THAT(sent(), Contains("9d6c00000001"));
     EXPECT_THAT(sent(), Not(Contains("9d6c00000000")));
+
+    bus().set(DriveAddress, HomingSettings, 0);
+    ran = onDrive({"home"});
+    EXPECT_EQ(ran.status, 1);
+    EXPECT_THAT(ran.err.toStdString(), HasSubstr("The drive did not start homing."));
 }
 
 TEST_F(CliMotion, HomingThatTakesTooLongOrIsInterruptedIsAborted)
@@ -249,23 +244,11 @@ TEST_F(CliMotion, HomingThatTakesTooLongOrIsInterruptedIsAborted)
     EXPECT_EQ(finish(process).status, 1);
     EXPECT_THAT(sent(), Contains("9d6c00000000"));
     EXPECT_EQ(bus().read(DriveAddress, Status) & Homing, 0);
-}
 
-TEST_F(CliMotion, HomingThatIsSwitchedOffIsSaidSo)
-{
-    enableByHand();
-    const Ran ran = onDrive({"home"});
-    EXPECT_EQ(ran.status, 1);
-    EXPECT_THAT(ran.err.toStdString(), HasSubstr("The drive did not start homing."));
-}
-
-TEST_F(CliMotionUpgradeMode, NothingMovesInFirmwareUpgradeMode)
-{
-    for (const QStringList &command : {QStringList{"enable"}, QStringList{"disable"}, QStringList{"home"},
-                                       QStringList{"clear-faults"}, QStringList{"setpoint", "1"}}) {
-        const Ran ran = run(QStringList{"--port", port(), "--node", "255"} + command);
-        EXPECT_EQ(ran.status, 1);
-        EXPECT_THAT(ran.err.toStdString(), HasSubstr("firmware-upgrade mode and cannot move"))
-            << command[0].toStdString();
-    }
+    bus().clearReceived();
+    bus().withDrive(DriveAddress, [](sim::VirtualDrive &drive) { drive.refuseWrites(7532, 0); });
+    start(process, {"--port", port(), "--node", "5", "home"});
+    ASSERT_TRUE(waitForPayload(bus(), "9d6c00000001"));
+    sendSignal(process);
+    EXPECT_THAT(finish(process).err.toStdString(), HasSubstr("has not confirmed that homing is aborted"));
 }

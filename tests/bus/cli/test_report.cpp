@@ -1,5 +1,6 @@
 // The commissioning report: what is in it, that it can be checked, and the stop test, which only listens.
 #include "cliprocess.h"
+#include "testfiles.h"
 
 #include <QFile>
 #include <QJsonObject>
@@ -23,20 +24,12 @@ class CliReport : public VirtualBusFixture
 {
 };
 
-QByteArray contents(const char *name)
-{
-    QFile file(name);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(no file)");
-}
-
 void replaceIn(const char *name, const QByteArray &before, const QByteArray &after)
 {
     QByteArray bytes = contents(name);
     ASSERT_TRUE(bytes.contains(before));
     bytes.replace(bytes.indexOf(before), before.size(), after);
-    QFile file(name);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(bytes);
+    put(name, bytes);
 }
 
 } // namespace

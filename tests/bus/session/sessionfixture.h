@@ -65,59 +65,33 @@ struct SessionLog : QObject
 inline SessionLog::SessionLog(Connection &s)
 {
     const auto queued = Qt::QueuedConnection;
+    const auto keep = [&](auto signal, auto &list) {
+        connect(&s, signal, this, [&list](const auto &value) { list << value; }, queued);
+    };
     using C = Connection;
-    connect(
-        &s, &C::statusChanged, this,
-        [this](bool on, QString t) {
-            statuses << Status{on, t};
-        },
-        queued);
-    connect(
-        &s, &C::error, this, [this](QString t) { errors << t; }, queued);
-    connect(
-        &s, &C::parametersRetreived, this, [this](Parameters p, bool file) { (file ? loaded : read) << p; }, queued);
-    connect(
-        &s, &C::availableBusNodes, this, [this](QList<NodeType> n) { nodes << n; }, queued);
-    connect(
-        &s, &C::updateCaptureButtonText, this, [this](QString t) { captureButton << t; }, queued);
-    connect(
-        &s, &C::plotReady, this, [this](QList<CaptureData> c) { plots << c; }, queued);
-    connect(
-        &s, &C::statusRegisterUpdated, this, [this](QString t) { statusPanels << t; }, queued);
-    connect(
-        &s, &C::faultRegisterUpdated, this, [this](QString t) { faultPanels << t; }, queued);
-    connect(
-        &s, &C::physInputsUpdated, this, [this](QString t) { inputPanels << t; }, queued);
-    connect(
-        &s, &C::firmwareUpgradeMsg, this,
-        [this](QString t, bool done, bool failed) {
-            upgrade << UpgradeMessage{t, done, failed};
-        },
-        queued);
-    connect(
-        &s, &C::setpointChanged, this, [this](double v) { setpoints << v; }, queued);
-    connect(
-        &s, &C::controlModeChanged, this, [this](int m) { controlModes << m; }, queued);
-    connect(
-        &s, &C::busy, this, [this](bool on, bool) { busy << on; }, queued);
-    connect(
-        &s, &C::disableAnswered, this, [this](bool ok) { disables << ok; }, queued);
-    connect(
-        &s, &C::enableStatePolled, this, [this](bool on) { enabled << on; }, queued);
-    connect(
-        &s, &C::message, this, [this](Message m) { messages << m; }, queued);
-    connect(
-        &s, &C::statePolled, this, [this](DriveState d) { states << d; }, queued);
-    connect(
-        &s, &C::captureStateChanged, this, [this](CaptureState c) { captures << c; }, queued);
-    connect(
-        &s, &C::disableFinished, this, [this](DisableOutcome o) { outcomes << o; }, queued);
-    connect(
-        &s, &C::driveParametersChanged, this, [this](Parameters p) { held << p; }, queued);
-    connect(
-        &s, &C::suggestDeviceRestart, this, [this] { ++restartSuggestions; }, queued);
-    connect(
-        &s, &C::setUnsavedState, this, [this] { ++unsaved; }, queued);
+    connect(&s, &C::statusChanged, this, [this](bool on, QString text) { statuses << Status{on, text}; }, queued);
+    connect(&s, &C::parametersRetreived, this, [this](Parameters p, bool file) { (file ? loaded : read) << p; }, queued);
+    const auto keepMessage = [this](QString t, bool done, bool failed) { upgrade << UpgradeMessage{t, done, failed}; };
+    connect(&s, &C::firmwareUpgradeMsg, this, keepMessage, queued);
+    connect(&s, &C::busy, this, [this](bool on, bool) { busy << on; }, queued);
+    connect(&s, &C::suggestDeviceRestart, this, [this] { ++restartSuggestions; }, queued);
+    connect(&s, &C::setUnsavedState, this, [this] { ++unsaved; }, queued);
+    keep(&C::error, errors);
+    keep(&C::availableBusNodes, nodes);
+    keep(&C::updateCaptureButtonText, captureButton);
+    keep(&C::plotReady, plots);
+    keep(&C::statusRegisterUpdated, statusPanels);
+    keep(&C::faultRegisterUpdated, faultPanels);
+    keep(&C::physInputsUpdated, inputPanels);
+    keep(&C::setpointChanged, setpoints);
+    keep(&C::controlModeChanged, controlModes);
+    keep(&C::disableAnswered, disables);
+    keep(&C::enableStatePolled, enabled);
+    keep(&C::message, messages);
+    keep(&C::statePolled, states);
+    keep(&C::captureStateChanged, captures);
+    keep(&C::disableFinished, outcomes);
+    keep(&C::driveParametersChanged, held);
 }
 
 /// Runs the event loop until the condition holds; false when it did not within the limit.
@@ -213,9 +187,7 @@ protected:
     }
     void setFault(sim::LineFault::Kind kind)
     {
-        sim::LineFault fault;
-        fault.kind = kind;
-        bus().setFault(fault);
+        bus().setFault({kind});
     }
     /// How often a payload has arrived.
     int received(const std::string &payload)

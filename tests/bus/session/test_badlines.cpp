@@ -49,10 +49,8 @@ const Fault::Kind kinds[] = {Fault::Drop,    Fault::Flip, Fault::Cut,   Fault::L
 
 std::string nameOf(const testing::TestParamInfo<std::tuple<Moment, Fault::Kind>> &info)
 {
-    static const std::map<Fault::Kind, const char *> names = {
-        {Fault::Drop, "Drop"}, {Fault::Flip, "Flip"},       {Fault::Cut, "Cut"},     {Fault::Late, "Late"},
-        {Fault::Deaf, "Deaf"}, {Fault::Missing, "Missing"}, {Fault::Noise, "Noise"}, {Fault::Unplugged, "Unplugged"}};
-    return std::string(std::get<0>(info.param).name) + names.at(std::get<1>(info.param));
+    const auto [moment, kind] = info.param;
+    return moment.name + std::string(1, char(std::toupper(Fault::name(kind)[0]))) + Fault::name(kind).substr(1);
 }
 
 class BadLine : public SessionFixture, public testing::WithParamInterface<std::tuple<Moment, Fault::Kind>>
@@ -67,10 +65,6 @@ protected:
     }
 };
 
-class BadConnect : public SessionFixture, public testing::WithParamInterface<Fault::Kind>
-{
-};
-
 } // namespace
 
 TEST_P(BadLine, EndsInOneMessageAndTheNextConnectionWorks)
@@ -81,11 +75,7 @@ TEST_P(BadLine, EndsInOneMessageAndTheNextConnectionWorks)
     log().statuses.clear();
     session().setReplyTimeout(1000);
 
-    Fault fault;
-    fault.kind = kind;
-    fault.at = kind == Fault::Late ? tooLateMs : 4;
-    fault.skip = moment.repliesThatPass;
-    bus().setFault(fault);
+    bus().setFault({kind, kind == Fault::Late ? tooLateMs : 4, moment.repliesThatPass});
     QElapsedTimer timer;
     timer.start();
     moment.begin(session());
@@ -115,38 +105,9 @@ INSTANTIATE_TEST_SUITE_P(Testing, BadLine,
                                                           Fault::Unplugged)),
                          nameOf);
 
-TEST_P(BadConnect, AReplyDamagedAtAnyByteIsAFailedConnectAndTheNextOneWorks)
-{
-    constexpr int replyBytes = 21; // of the first read: id, size, address, four values of 4 bytes, checksum
-    session().setReplyTimeout(100);
-    for (int at = 0; at < replyBytes; ++at) {
-        Fault fault;
-        fault.kind = GetParam();
-        fault.at = at;
-        bus().setFault(fault);
-        log().errors.clear();
-        log().statuses.clear();
-        EXPECT_FALSE(connectTo()) << at;
-        ASSERT_TRUE(waitUntil([this] { return !log().errors.isEmpty(); }));
-        EXPECT_THAT(log().errors, SizeIs(1)) << at;
-        EXPECT_THAT(log().errors.first().toStdString(), HasSubstr("Communication error flags:"));
-        ASSERT_THAT(log().statuses, SizeIs(1)) << at;
-        EXPECT_EQ(log().statuses.first().text, "Connect failed");
-    }
-    bus().clearFaults();
-    session().setReplyTimeout(1000);
-    EXPECT_TRUE(connectTo());
-    EXPECT_TRUE(readAll());
-}
-
-INSTANTIATE_TEST_SUITE_P(Any, BadConnect, testing::Values(Fault::Cut, Fault::Flip),
-                         [](const auto &info) { return info.param == Fault::Cut ? "CutShort" : "Flipped"; });
-
 TEST_F(SessionFixture, ABabblingLineEndsAScanWithinSeconds)
 {
-    Fault noise;
-    noise.kind = Fault::Noise;
-    bus().setFault(noise);
+    bus().setFault({Fault::Noise});
     session().getListOfBusNodes(port());
     ASSERT_TRUE(waitUntil([this] { return !log().errors.isEmpty(); }));
     EXPECT_THAT(log().errors.first().toStdString(), HasSubstr("The bus is never quiet"));

@@ -1,6 +1,8 @@
 // The firmware upgrade: what reaches the flash, what is told, and that every failure is told exactly once.
 #include "sessionfixture.h"
 
+#include "firmwarewriter.h"
+
 #include <QFile>
 
 using testing::Contains;
@@ -23,29 +25,11 @@ Words numberedWords(int count)
     return words;
 }
 
-/// A firmware file: magic, version 300, type, lengths, I/O image, core image, sum of all bytes.
 QString writeFirmware(int type, const Words &io, const Words &core = {})
 {
-    QByteArray data("TDFW");
-    const auto put = [&data](quint32 value, int bytes) {
-        for (int i = 0; i < bytes; ++i)
-            data.append(static_cast<char>(value >> (8 * i)));
-    };
-    put(300, 2);
-    put(type, 2);
-    put(2 * io.size(), 4);
-    put(2 * core.size(), 4);
-    for (std::uint16_t word : io)
-        put(word, 2);
-    for (std::uint16_t word : core)
-        put(word, 2);
-    quint32 sum = 0;
-    for (char byte : data)
-        sum += static_cast<quint8>(byte);
-    put(sum, 4);
-    QFile file(QDir::currentPath() + "/firmware.tdf");
-    EXPECT_TRUE(file.open(QIODevice::WriteOnly) && file.write(data) == data.size());
-    return file.fileName();
+    const QString name = QDir::currentPath() + "/firmware.tdf";
+    EXPECT_EQ(sim::writeFile(name.toStdString(), sim::firmwareFile(type, io, core)), "");
+    return name;
 }
 
 class Flashing : public SessionFixture
@@ -54,9 +38,7 @@ protected:
     sim::BusOptions busOptions() const override { return upgradeModeOf("keta"); }
     static sim::BusOptions upgradeModeOf(const char *profile)
     {
-        sim::BusOptions options;
-        options.drives = {{profile, 5, true}};
-        return options;
+        return {{{profile, 5, true}}};
     }
     void SetUp() override
     {
@@ -126,10 +108,7 @@ template <int register_, int value, int after = 0> void refuse(sim::VirtualBus &
 
 template <Fault::Kind kind, int skip> void damage(sim::VirtualBus &bus)
 {
-    Fault fault;
-    fault.kind = kind;
-    fault.skip = skip;
-    bus.setFault(fault);
+    bus.setFault({kind, Fault::anyByte, skip});
 }
 
 const char *const ketaFailed = "Flashing firmware failed. Power off, reconnect and try again.";

@@ -41,14 +41,17 @@ protected:
     }
     Parameters held() { return log().read.last(); }
 
-    Parameters with(const char *name, double value)
+    Parameters with(std::initializer_list<std::pair<const char *, double>> values)
     {
         Parameters list = held();
-        SingleParam param = list.getParam(name);
-        param.value = value;
-        list.replaceParam(param);
+        for (const auto &[name, value] : values) {
+            SingleParam param = list.getParam(name);
+            param.value = value;
+            list.replaceParam(param);
+        }
         return list;
     }
+    Parameters with(const char *name, double value) { return with({{name, value}}); }
     void apply(const Parameters &list)
     {
         session().setParams(list);
@@ -66,12 +69,7 @@ protected:
 
 class TorvaTransfer : public Transfer
 {
-    sim::BusOptions busOptions() const override
-    {
-        sim::BusOptions options;
-        options.drives = {{"torva", 5}};
-        return options;
-    }
+    sim::BusOptions busOptions() const override { return {{{"torva", 5}}}; }
 };
 
 std::string fourHexDigits(int value)
@@ -129,21 +127,15 @@ TEST_F(Transfer, AFullWriteBeginsWithTheLengthControlThenOneExchangeAWritableRec
 
 TEST_F(Transfer, OverrideSlotsFollowTheRecords)
 {
-    Parameters list = with("overrideAddr1", 202);
-    SingleParam value = list.getParam("overrideVal1");
-    value.value = 77;
-    list.replaceParam(value);
-    apply(list);
+    apply(with({{"overrideAddr1", 202}, {"overrideVal1", 77}}));
     EXPECT_EQ(payloads().back(), wire("80ca 0000004d"));
     EXPECT_EQ(bus().read(5, 202), 77);
 }
 
 TEST_F(Transfer, NoSettingsFileAndNoOverrideEnablesMovesOrRestartsADrive)
 {
-    Parameters list = with("overrideAddr1", 551);
-    SingleParam faults = list.getParam("overrideAddr2"); // clearing a fault sets an enabled drive going
-    faults.value = 552;
-    list.replaceParam(faults);
+    // Clearing a fault, 552, sets an enabled drive going.
+    Parameters list = with({{"overrideAddr1", 551}, {"overrideAddr2", 552}});
     SingleParam disguised = list.getParam("KVP"); // a file carries its own register for every setting
     disguised.addr = 2533;
     disguised.value = 1;
@@ -192,11 +184,7 @@ TEST_F(Transfer, AValueThatTheBusCannotCarryIsNamedAndLeftOut)
     const int before = bus().read(5, 202);
     for (double value : {1e15, 536870912.0, -536870913.0, std::nan("")}) {
         log().errors.clear();
-        Parameters list = with("KVP", value);
-        SingleParam other = list.getParam("KVI");
-        other.value = 17;
-        list.replaceParam(other);
-        apply(list);
+        apply(with({{"KVP", value}, {"KVI", 17}}));
         EXPECT_EQ(bus().read(5, 202), before) << value;
         EXPECT_EQ(bus().read(5, 200), 17) << "the rest is written";
         ASSERT_THAT(log().errors, SizeIs(1)) << value;
@@ -209,10 +197,7 @@ TEST_F(Transfer, AValueThatTheBusCannotCarryIsNamedAndLeftOut)
 TEST_F(Transfer, ARefusedWriteIsToldWithItsValueAndTheDrivesLimitsAndTheConnectionGoesOn)
 {
     const SingleParam drives = held().getParam("KVP");
-    Parameters list = with("KVP", 500000000);
-    SingleParam behind = list.getParam("CAL");
-    behind.value = behind.min;
-    list.replaceParam(behind);
+    const Parameters list = with({{"KVP", 500000000}, {"CAL", held().getParam("CAL").min}});
     for (int pass = 0; pass < 2; ++pass) { // the second with a question behind every write
         log().errors.clear();
         apply(list);
@@ -351,6 +336,14 @@ TEST_F(Transfer, ValuesAreCompleteOnceEverythingWasReadInThisConnection)
     ASSERT_TRUE(waitForDisconnect());
     EXPECT_EQ(log().read.size(), before) << "a part hands no values to anyone";
     EXPECT_FALSE(session().valuesAreComplete());
+
+    // The end of the next connection is told, too.
+    bus().clearFaults();
+    bus().setTurnAround(std::chrono::milliseconds(0));
+    ASSERT_TRUE(connectTo());
+    bus().unplug();
+    ASSERT_TRUE(waitForDisconnect());
+    EXPECT_TRUE(waitUntil([this] { return log().errors.size() == 2; }));
 }
 
 TEST_F(Transfer, CommandsAreTheWritesTheyStandFor)
@@ -376,10 +369,8 @@ TEST_F(Transfer, ForceEnableIsUsedOnceAndNeverByADisable)
     session().setDriveEnableStatus(false);
     EXPECT_THAT(sentBy(Connection::TaskApplyEnableState), ElementsAre(wire("89e5 00000000")));
     EXPECT_THAT(log().disables, ElementsAre(true));
-}
 
-TEST_F(Transfer, AForceEnableIsForTheDriveItWasAskedFor)
-{
+    // It is for the drive that it was asked for.
     session().setDriveForceEnableStatus(true);
     session().command(Connection::TaskDisconnect);
     ASSERT_TRUE(waitForDisconnect());
@@ -428,19 +419,13 @@ TEST_F(Transfer, ARefusedMeasurementDoesNotPassForTheOneBefore)
     EXPECT_TRUE(session().isConnected());
 }
 
-TEST_F(TorvaTransfer, OnlyAKetaMeasures)
+TEST_F(TorvaTransfer, WhatOnlyAKetaCanIsSaidAndNothingIsSent)
 {
     session().command(Connection::TaskMeasure);
-    ASSERT_TRUE(waitUntilIdle());
-    EXPECT_THAT(log().errors, ElementsAre(QString("Measure function is available only in KETA drive models")));
-    EXPECT_TRUE(payloads().empty());
-}
-
-TEST_F(TorvaTransfer, OnlyADriveThatCanIsRestartedIntoUpgradeMode)
-{
     session().command(Connection::TaskRestartToDFU);
     ASSERT_TRUE(waitUntilIdle());
-    EXPECT_THAT(log().errors, SizeIs(1));
+    ASSERT_THAT(log().errors, SizeIs(2));
+    EXPECT_EQ(log().errors[0], "Measure function is available only in KETA drive models");
     EXPECT_EQ(log().messages.last().kind, MessageKind::Note);
     EXPECT_TRUE(payloads().empty());
 }

@@ -3,7 +3,6 @@
 
 using testing::Contains;
 using testing::HasSubstr;
-using testing::Not;
 
 namespace {
 
@@ -84,9 +83,7 @@ TEST_F(Worker, SettersAndCommandsReturnAtOnceWhileTheDriveAnswersNothing)
 {
     session().setReplyTimeout(400);
     ASSERT_TRUE(connectTo());
-    sim::LineFault deaf;
-    deaf.kind = sim::LineFault::Deaf;
-    bus().setFault(deaf);
+    bus().setFault({sim::LineFault::Deaf});
     bus().clearReceived();
     session().getParams();
     ASSERT_TRUE(waitForRequests(1)); // the worker now waits for a reply
@@ -126,28 +123,6 @@ TEST_P(DuringATask, ADisableIsTheNextThingOnTheLine)
     EXPECT_TRUE(log().errors.isEmpty());
 }
 INSTANTIATE_TEST_SUITE_P(Any, DuringATask, testing::ValuesIn(longTasks), nameOf);
-
-TEST_F(Worker, ADisableOvertakesWhatWaitsAndDropsWhatWouldMove)
-{
-    ASSERT_TRUE(connectTo());
-    bus().setTurnAround(std::chrono::milliseconds(5));
-    bus().clearReceived();
-    session().getParams(); // busy with this while the rest is queued
-    ASSERT_TRUE(waitForRequests(1));
-    session().setTargetSetpoint(1000);
-    session().command(Connection::TaskSetAbsoluteSetpoint);
-    session().command(Connection::TaskStartHoming);
-    session().setDriveEnableStatus(true);
-    session().command(Connection::TaskApplyEnableState);
-    session().command(Connection::TaskSaveToFlash);
-    disable();
-    ASSERT_TRUE(waitUntilIdle());
-    const std::vector<std::string> sent = allPayloads();
-    EXPECT_THAT(sent, Contains(disableWrite));
-    EXPECT_THAT(sent, Contains(wire("822a 00000001"))) << "saving moves nothing";
-    for (const std::string &moving : {enableWrite, wire("8227 000003e8"), wire("9d6c 00000001")})
-        EXPECT_THAT(sent, Not(Contains(moving)));
-}
 
 TEST_F(Worker, ADisableIsSentUntilItIsAcknowledgedAtMostThreeTimes)
 {
@@ -211,12 +186,7 @@ TEST_F(Worker, ALateReplyToSomethingElseDoesNotAcknowledgeADisable)
     session().setReplyTimeout(shortTimeoutMs);
     ASSERT_TRUE(connectTo());
     ASSERT_TRUE(waitUntilIdle());
-    sim::LineFault late, deaf;
-    late.kind = sim::LineFault::Late;
-    late.at = tooLateMs;
-    late.count = 1;
-    deaf.kind = sim::LineFault::Deaf;
-    bus().setFaults({late, deaf});
+    bus().setFaults({{sim::LineFault::Late, tooLateMs, 0, 1}, {sim::LineFault::Deaf}});
     bus().clearReceived();
     ASSERT_TRUE(waitForRequests(1)); // a poll
     disable();
@@ -237,11 +207,9 @@ TEST_F(Worker, ADisableIsServedInsideAPause)
 
 TEST_F(Worker, ARestartingDriveIsToldToDisableUntilItHearsIt)
 {
-    startBus([] {
-        sim::BusOptions options;
-        options.restartTime = std::chrono::milliseconds(400);
-        return options;
-    }());
+    sim::BusOptions slowly;
+    slowly.restartTime = std::chrono::milliseconds(400);
+    startBus(slowly);
     session().setReplyTimeout(shortTimeoutMs);
     ASSERT_TRUE(connectTo());
     session().setPauseScale(0.4); // 1.4 s
@@ -276,22 +244,6 @@ TEST_F(Worker, PollsAnIdleDriveAndSaysWhatHasChanged)
     ASSERT_TRUE(waitUntil([this] { return log().restartSuggestions == 2; }));
 }
 
-TEST_F(Worker, OnePollIsOneExchange)
-{
-    ASSERT_TRUE(connectTo());
-    ASSERT_TRUE(waitUntilIdle());
-    bus().clearReceived();
-    session().setDebugValuesShown(true);
-    session().setWatchedParameter(202);
-    session().command(Connection::TaskUpdateStatus);
-    ASSERT_TRUE(waitForRequests(1));
-    const sim::Bytes payload = bus().received().front().packet.payload;
-    EXPECT_EQ(payload.size(), 88u) << "27 registers and the three items in front: a full reply";
-    EXPECT_EQ(hex(payload).substr(0, 14), wire("800a 400000 8009"));
-    EXPECT_TRUE(waitUntil([this] { return !log().faultPanels.isEmpty(); }));
-    EXPECT_TRUE(log().errors.isEmpty());
-}
-
 TEST_P(EndingATask, ComesBeforeTheThreadWouldBeTerminated)
 {
     for (bool answers : {true, false}) {
@@ -299,11 +251,8 @@ TEST_P(EndingATask, ComesBeforeTheThreadWouldBeTerminated)
         bus().clearFaults();
         ASSERT_TRUE(connectTo());
         session().setPauseScale(1);
-        if (!answers) {
-            sim::LineFault deaf;
-            deaf.kind = sim::LineFault::Deaf;
-            bus().setFault(deaf);
-        }
+        if (!answers)
+            setFault(sim::LineFault::Deaf);
         bus().clearReceived();
         GetParam().begin(session());
         ASSERT_TRUE(waitForRequests(1));

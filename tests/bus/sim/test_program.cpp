@@ -3,14 +3,13 @@
 #include "testline.h"
 #include "virtualbusfixture.h"
 
+#include <QProcess>
 #include <csignal>
-#include <cstring>
 #include <fstream>
 #include <gmock/gmock.h>
 #include <iterator>
 #include <sstream>
 #include <string>
-#include <sys/wait.h>
 
 using namespace std::chrono_literals;
 using sim::Bytes;
@@ -23,63 +22,34 @@ namespace {
 class Program
 {
 public:
-    explicit Program(std::vector<std::string> arguments)
+    explicit Program(const QStringList &arguments)
     {
-        int output[2];
-        EXPECT_EQ(pipe(output), 0);
-        m_process = fork();
-        if (m_process == 0) {
-            dup2(output[1], STDOUT_FILENO);
-            dup2(output[1], STDERR_FILENO);
-            ::close(output[0]);
-            ::close(output[1]);
-            arguments.insert(arguments.begin(), VELBRIN_BINARY_DIR "/bin/velbrin-sim");
-            std::vector<char *> pointers;
-            for (std::string &argument : arguments)
-                pointers.push_back(argument.data());
-            pointers.push_back(nullptr);
-            execv(pointers[0], pointers.data());
-            _exit(127);
-        }
-        ::close(output[1]);
-        m_output = fdopen(output[0], "r");
+        m_process.setProcessChannelMode(QProcess::MergedChannels);
+        m_process.start(VELBRIN_BINARY_DIR "/bin/velbrin-sim", arguments);
     }
     ~Program()
     {
-        if (m_process > 0)
-            end(SIGKILL);
-        fclose(m_output);
+        m_process.kill();
+        m_process.waitForFinished();
     }
-    Program(const Program &) = delete;
-    Program &operator=(const Program &) = delete;
 
     std::string line()
     {
-        char text[1024] = "";
-        return fgets(text, sizeof text, m_output) ? std::string(text, strcspn(text, "\n")) : std::string();
-    }
-    std::string all()
-    {
-        std::string text;
-        char part[1024];
-        while (fgets(part, sizeof part, m_output))
-            text += part;
-        return text;
+        while (!m_process.canReadLine() && m_process.waitForReadyRead())
+            continue;
+        return m_process.readLine().trimmed().toStdString();
     }
     /// Exit status, 128 + signal when a signal ended it.
     int end(int signal = 0)
     {
         if (signal)
-            kill(m_process, signal);
-        int status = 0;
-        waitpid(m_process, &status, 0);
-        m_process = -1;
-        return WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status);
+            ::kill(pid_t(m_process.processId()), signal);
+        m_process.waitForFinished();
+        return m_process.exitStatus() == QProcess::NormalExit ? m_process.exitCode() : 128 + m_process.exitCode();
     }
 
 private:
-    pid_t m_process = -1;
-    FILE *m_output = nullptr;
+    QProcess m_process;
 };
 
 class VelbrinSim : public testing::Test
@@ -205,9 +175,8 @@ TEST_F(VelbrinSim, WrongUsageEndsWithStatusTwoAndAWord)
     EXPECT_THAT(program.line(), HasSubstr("toaster"));
     EXPECT_EQ(program.end(), 2);
     Program help({"--help"});
-    const std::string text = help.all();
     EXPECT_EQ(help.end(), 0);
-    EXPECT_THAT(text, HasSubstr("Usage"));
+    EXPECT_THAT(help.line(), HasSubstr("Usage"));
 }
 
 TEST_F(VelbrinSim, DamagedStateFileOrImpossibleRegisterIsTold)
@@ -256,9 +225,9 @@ TEST_F(VelbrinSim, KilledHalfWayThroughAnUpgradeItComesUpInUpgradeMode)
 TEST_F(VelbrinSim, WritesAFirmwareFileForEachProfile)
 {
     for (const std::string profile : {"keta", "keta-pro", "keta-hc", "torva"}) {
-        Program program({"--drive", profile, "--write-firmware", profile + ".tdf"});
+        Program program({"--drive", profile.c_str(), "--write-firmware", "new.tdf"});
         EXPECT_EQ(program.end(), 0);
-        std::ifstream file(profile + ".tdf", std::ios::binary);
+        std::ifstream file("new.tdf", std::ios::binary);
         const Bytes bytes{std::istreambuf_iterator<char>(file), {}};
         ASSERT_GT(bytes.size(), 20u);
         const auto number = [&](std::size_t at) {

@@ -194,38 +194,6 @@ TEST(StepFigures, ChannelsOfACaptureAreChosenByControlModeAndMotion)
     EXPECT_EQ(stepRecordOf(capture).setpoint.back(), 32800);
 }
 
-TEST(StepFigures, OfTheVirtualMotorAreWhatItsDescriptionSays)
-{
-    const struct
-    {
-        int positionP, from, to; // overshoot, %
-    } rows[] = {{120, 0, 0}, {240, 3, 8}, {480, 50, 70}};
-    for (const auto &row : rows) {
-        Move move;
-        move.counts = 1000;
-        move.holdCycles = 2000;
-        move.withSetpoint = true;
-        move.settings = {{sim::reg::PositionP, row.positionP}};
-        const StepFigures figures = stepFigures(recordMove(move));
-        ASSERT_TRUE(figures.overshoot.value) << figures.overshoot.reason.toStdString();
-        EXPECT_GE(*figures.overshoot.value, row.from);
-        EXPECT_LE(*figures.overshoot.value, row.to);
-        EXPECT_EQ(figures.timeInCurrentLimit.value, 0.0);
-        if (row.positionP == 120) {
-            EXPECT_NEAR(*figures.timeTo90.value, 0.032, 0.004);
-            EXPECT_LE(figures.settlingTime.value.value_or(1.0), 0.070);
-            EXPECT_EQ(*figures.peakError.value, 1000.0);
-            EXPECT_FALSE(figures.ringing.value);
-        }
-    }
-    Move weak;
-    weak.counts = 1000;
-    weak.holdCycles = 2000;
-    weak.withSetpoint = true;
-    weak.settings = {{sim::reg::PeakCurrent, 2000}};
-    EXPECT_GT(*stepFigures(recordMove(weak)).timeInCurrentLimit.value, 0.002);
-}
-
 TEST(StepFigures, AreShownWithUnitsOrReasons)
 {
     StepRecord record = makeUp(Made::Saturated, 1).record;

@@ -1,5 +1,6 @@
 #include "helppages.h"
 
+#include "formreader.h"
 #include "printqt.h"
 
 #include <QDir>
@@ -81,57 +82,6 @@ QHash<QString, QString> readTranslations()
     return texts;
 }
 
-/// The text of a property, inside its <string>, with the spaces that a suffix begins with.
-QString stringOf(QXmlStreamReader &xml)
-{
-    return xml.readNextStartElement() ? xml.readElementText(QXmlStreamReader::IncludeChildElements) : QString();
-}
-
-/// Puts the controls of one form into the map: labels carry the mnemonic, controls are named by it.
-void readForm(const QString &path, QMap<QString, FormControl> &controls)
-{
-    QFile file(path);
-    ASSERT_TRUE(file.open(QIODevice::ReadOnly)) << qPrintable(path);
-    QXmlStreamReader xml(&file);
-    QString form;
-    QStringList names;
-    QStringList kinds;
-    bool inItem = false;
-    const QRegularExpression mnemonic(QStringLiteral("^\\[([A-Z0-9]+)\\] "));
-    while (!xml.atEnd()) {
-        xml.readNext();
-        const bool isWidget = xml.name() == QLatin1String("widget");
-        if (xml.isEndElement() && isWidget) {
-            names.removeLast();
-            kinds.removeLast();
-        }
-        if (!xml.isStartElement())
-            continue;
-        if (xml.name() == QLatin1String("class"))
-            form = xml.readElementText();
-        if (isWidget) {
-            names.append(xml.attributes().value("name").toString());
-            kinds.append(xml.attributes().value("class").toString());
-            controls[names.last()].kind = kinds.last();
-        }
-        inItem = xml.name() == QLatin1String("item") ||
-                 (inItem && (xml.name() == QLatin1String("property") || xml.name() == QLatin1String("string")));
-        if (xml.name() != QLatin1String("property") || names.isEmpty())
-            continue;
-        const QString property = xml.attributes().value("name").toString();
-        if (property != QLatin1String("text") && property != QLatin1String("suffix"))
-            continue;
-        const QString text = inLanguage(form, stringOf(xml)).trimmed();
-        if (property == QLatin1String("suffix"))
-            controls[names.last()].unit = text;
-        else if (inItem && kinds.last() == QLatin1String("QComboBox"))
-            controls[names.last()].choices.append(text);
-        else if (mnemonic.match(text).hasMatch())
-            controls[mnemonic.match(text).captured(1)].label = QString(text).replace("&&", "&");
-    }
-    EXPECT_FALSE(xml.hasError()) << qPrintable(path);
-}
-
 } // namespace
 
 void readIn(const QString &wanted)
@@ -180,14 +130,24 @@ Definition definitionOf(const QString &anchor)
 const QMap<QString, FormControl> &formControls()
 {
     static QMap<QString, QMap<QString, FormControl>> controls;
-    if (!controls.contains(language)) {
-        QMap<QString, FormControl> &all = controls[language];
-        const QDir folder(QStringLiteral(VELBRIN_SOURCE_DIR "/ui/forms"));
-        const QStringList files = folder.entryList({"*page.ui"});
-        for (const QString &file : files)
-            readForm(folder.filePath(file), all);
-        for (auto control = all.begin(); control != all.end();)
-            control = control->label.isEmpty() ? all.erase(control) : std::next(control);
+    if (controls.contains(language))
+        return controls[language];
+    const QRegularExpression mnemonic(QStringLiteral("^\\[([A-Z0-9]+)\\] "));
+    QMap<QString, FormControl> &all = controls[language];
+    for (const QString &file : formsFolder().entryList({"*page.ui"})) {
+        const Form form = readForm(file);
+        const auto shown = [&form](const QString &text) { return inLanguage(form.className, text).trimmed(); };
+        for (const Widget &caption : form.widgets) { // labels carry the mnemonic, controls are named by it
+            const QString name = mnemonic.match(caption.properties.value("text")).captured(1);
+            if (name.isEmpty())
+                continue;
+            const Widget control = form.widgets.value(name);
+            QStringList choices = control.choices;
+            for (QString &choice : choices)
+                choice = shown(choice);
+            all[name] = {shown(caption.properties.value("text")).replace("&&", "&"), control.kind,
+                         shown(control.properties.value("suffix")), choices};
+        }
     }
-    return controls[language];
+    return all;
 }

@@ -89,44 +89,15 @@ QString expectedRange(const SingleParam &p, const QString &unit)
     return text + '.';
 }
 
-/// The labels of a panel's lines, in order; `isSet` asks for those of flags that are on.
-QStringList labelsOf(const QString &panel, bool isSet)
+/// Every flag of a register has a definition with its name and bit.
+void expectExplained(const QList<DriveFlag> &flags, int count, const QString &prefix)
 {
-    const QString circle = isSet ? QStringLiteral("&#9679;") : QStringLiteral("&#9675;");
-    QStringList labels;
-    const QStringList lines = panel.split(QStringLiteral("<br>"));
-    for (QString line : lines) {
-        if (line.startsWith(circle))
-            labels << inLanguage("Connection",
-                                 line.mid(circle.size()).remove("&nbsp;").remove(QRegularExpression("<.*")).trimmed());
-    }
-    return labels;
-}
-
-using Panel = QString (*)(const DriveState &, bool &);
-
-QString panelText(Panel panel, const DriveState &state)
-{
-    bool inactivityReason = false;
-    return panel(state, inactivityReason);
-}
-
-/// Every flag of a register has a definition with its name and bit; gives the number of flags.
-int expectFlagsExplained(Panel panel, qint32 DriveState::*reg, const QString &prefix)
-{
-    int flags = 0;
-    for (int bit = 1; bit < 65536; bit *= 2) {
-        DriveState state;
-        state.*reg = bit;
-        const QStringList set = labelsOf(panelText(panel, state), true);
-        if (set.isEmpty())
-            continue;
-        ++flags;
-        const Definition definition = definitionOf(prefix + QString::number(bit));
-        EXPECT_EQ(definition.term, set.first() + words->bitValue + QString::number(bit));
+    EXPECT_EQ(flags.size(), count);
+    for (const DriveFlag &flag : flags) {
+        const Definition definition = definitionOf(prefix + QString::number(flag.mask));
+        EXPECT_EQ(definition.term, inLanguage("Connection", flag.label) + words->bitValue + QString::number(flag.mask));
         EXPECT_GE(definition.text.size(), shortestExplanation) << qPrintable(definition.term);
     }
-    return flags;
 }
 
 } // namespace
@@ -247,19 +218,13 @@ TEST_P(HelpPages, RangesAndDefaultsAreThoseOfTheDrive)
     EXPECT_GT(compared, 35);
 }
 
-TEST_P(HelpPages, EveryFaultAndStatusBitIsExplained)
+TEST_P(HelpPages, EveryFaultAndStatusBitAndInputIsExplained)
 {
-    EXPECT_EQ(expectFlagsExplained(getFaultRegString, &DriveState::faultRegister, "fault-"), 15);
-    EXPECT_EQ(expectFlagsExplained(getStatusRegString, &DriveState::statusRegister, "status-"), 13);
-}
-
-TEST_P(HelpPages, EveryInputLineIsExplained)
-{
+    expectExplained(faultFlagsOf(DriveState()), 15, "fault-");
+    expectExplained(statusFlagsOf(DriveState()), 13, "status-");
     QStringList terms;
     for (const Definition &definition : helpPages().value("Testing tab.htm").definitions)
         terms << definition.term.split(", ");
-    const QStringList labels = labelsOf(panelText(getDigitalInsString, DriveState()), false);
-    EXPECT_EQ(labels.size(), 23);
-    for (const QString &label : labels)
-        EXPECT_TRUE(terms.contains(label)) << qPrintable(label);
+    for (const DriveFlag &flag : inputFlagsOf(DriveState()))
+        EXPECT_TRUE(terms.contains(inLanguage("Connection", flag.label))) << qPrintable(flag.label);
 }

@@ -1,9 +1,9 @@
 #include "captureplotter.h"
+#include "testfiles.h"
 
 #include <gtest/gtest.h>
 
 #include <QDateTime>
-#include <QFile>
 #include <QLocale>
 #include <QTemporaryDir>
 
@@ -43,13 +43,6 @@ struct DecimalComma
     DecimalComma() { QLocale::setDefault(QLocale(QLocale::German)); }
     ~DecimalComma() { QLocale::setDefault(QLocale::c()); }
 };
-
-QByteArray contentOf(const QString &path)
-{
-    QFile file(path);
-    file.open(QIODevice::ReadOnly);
-    return file.readAll();
-}
 
 } // namespace
 
@@ -122,11 +115,11 @@ TEST(CapturePlotter, CsvHasAsManyRowsAsTheShortestChannel)
     const QTemporaryDir folder;
     const QString path = folder.filePath("capture.csv");
     ASSERT_TRUE(CapturePlotter().saveCaptureDataCSV(recurring(), path));
-    EXPECT_EQ(contentOf(path), "Time;Torque setpoint [A];Velocity achieved;Flux current\n"
+    EXPECT_EQ(contents(path), "Time;Torque setpoint [A];Velocity achieved;Flux current\n"
                                "0;1e-05;1.23457e+06;655.35\n"
                                "0.000114286;-0.00178571;-0.5;0\n");
     ASSERT_TRUE(CapturePlotter().saveCaptureDataCSV({}, path));
-    EXPECT_EQ(contentOf(path), "Time\n");
+    EXPECT_EQ(contents(path), "Time\n");
 }
 
 TEST(CapturePlotter, CsvThatCannotBeWrittenIsReported)

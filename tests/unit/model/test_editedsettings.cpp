@@ -78,18 +78,6 @@ TEST(EditedSettings, ValueThatIsNoNumberIsNotAnEditForEver)
     EXPECT_TRUE(settings.isPending());
 }
 
-TEST(EditedSettings, UneditedControlStandsForExactlyWhatCameIn)
-{
-    const double exact = 801 / (50.0 / 3); // 48.06, but not to the last bit
-    EditedSettings settings = settledOn(valuesOf(1, exact));
-    settings.showAs("CVL", {48.06, exact});
-    settings.edit(cvl, 48.06);
-    EXPECT_EQ(settings.value("CVL"), exact);
-    EXPECT_FALSE(settings.isPending());
-    settings.edit(cvl, 48.07);
-    EXPECT_EQ(settings.value("CVL"), 48.07);
-}
-
 TEST(EditedSettings, OnlyAWholeReadOfThisConnectionCountsAsTheDrives)
 {
     for (const Source source : {Source::BareCatalogue, Source::File, Source::PartOfDrive})

@@ -1,4 +1,5 @@
 #include "firmwarefile.h"
+#include "testfiles.h"
 
 #include <gtest/gtest.h>
 
@@ -18,10 +19,7 @@ class Firmware : public testing::Test
 protected:
     QString load(const QByteArray &hex, int type = 11001)
     {
-        QFile file(path);
-        file.open(QIODevice::WriteOnly);
-        file.write(QByteArray::fromHex(hex));
-        file.close();
+        put(path, QByteArray::fromHex(hex));
         return FirmwareFile().loadFile(path, type);
     }
 

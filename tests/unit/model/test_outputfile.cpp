@@ -1,4 +1,5 @@
 #include "outputfile.h"
+#include "testfiles.h"
 
 #include "captureplotter.h"
 #include "printqt.h"
@@ -7,43 +8,9 @@
 
 #include <QDir>
 #include <QElapsedTimer>
-#include <QFile>
 #include <QTemporaryDir>
 
-#include <csignal>
-#include <sys/resource.h>
 #include <sys/stat.h>
-
-namespace {
-
-/// No file grows beyond 100 bytes while this lives: what a full disk does, for a test that has no disk to fill.
-class SmallDisk
-{
-public:
-    SmallDisk() : m_handler(std::signal(SIGXFSZ, SIG_IGN))
-    {
-        getrlimit(RLIMIT_FSIZE, &m_before);
-        const rlimit small = {100, m_before.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &small);
-    }
-    ~SmallDisk()
-    {
-        setrlimit(RLIMIT_FSIZE, &m_before);
-        std::signal(SIGXFSZ, m_handler);
-    }
-
-private:
-    rlimit m_before{};
-    void (*m_handler)(int);
-};
-
-QByteArray contents(const QString &name)
-{
-    QFile file(name);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-} // namespace
 
 TEST(OutputFile, LeavesTheOldOneWhereTheDiskIsFull)
 {
@@ -53,10 +20,7 @@ TEST(OutputFile, LeavesTheOldOneWhereTheDiskIsFull)
     channel.enabled = true;
     for (int i = 0; i < 100; ++i)
         channel.samples.append({i, i});
-    {
-        QFile old(name);
-        ASSERT_TRUE(old.open(QIODevice::WriteOnly) && old.write("old") == 3);
-    }
+    put(name, "old");
     {
         const SmallDisk disk;
         OutputFile file(name);

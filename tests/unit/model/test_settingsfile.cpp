@@ -1,4 +1,5 @@
 #include "parameters.h"
+#include "testfiles.h"
 
 #include <gtest/gtest.h>
 
@@ -8,10 +9,8 @@
 #include <QSettings>
 #include <QTemporaryDir>
 
-#include <csignal>
 #include <cstring>
 #include <limits>
-#include <sys/resource.h>
 #include <sys/stat.h>
 
 namespace {
@@ -48,17 +47,8 @@ protected:
         p.value = type;
         list.replaceParam(p);
     }
-    void write(const QByteArray &bytes)
-    {
-        QFile file(path);
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
-    }
-    QByteArray content() const
-    {
-        QFile file(path);
-        file.open(QIODevice::ReadOnly);
-        return file.readAll();
-    }
+    void write(const QByteArray &bytes) { put(path, bytes); }
+    QByteArray content() const { return contents(path); }
     QString load(const QByteArray &bytes)
     {
         write(bytes);
@@ -303,14 +293,10 @@ TEST_F(SettingsFile, ThatCannotBeReadOrWrittenSaysSo)
 TEST_F(SettingsFile, OldOneStaysWholeWhenTheDiskIsFull)
 {
     write("old");
-    rlimit before;
-    ASSERT_EQ(::getrlimit(RLIMIT_FSIZE, &before), 0);
-    const rlimit small = {100, before.rlim_max};
-    const auto oldHandler = std::signal(SIGXFSZ, SIG_IGN);
-    ::setrlimit(RLIMIT_FSIZE, &small);
-    const QString message = list.saveToFile(path);
-    ::setrlimit(RLIMIT_FSIZE, &before);
-    std::signal(SIGXFSZ, oldHandler);
+    const QString message = [this] {
+        const SmallDisk disk;
+        return list.saveToFile(path);
+    }();
     EXPECT_EQ(message, cannotWrite);
     EXPECT_EQ(content(), "old");
     EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files | QDir::Hidden).size(), 1) << "no temporary file left";

@@ -4,21 +4,6 @@
 #include <QSet>
 #include <gtest/gtest.h>
 
-namespace {
-
-QStringList namesUnsupportedBy(const QString &modelName)
-{
-    const Parameters list = driveParameterCatalogue();
-    QStringList names;
-    for (int i = 0; i < list.getParamCount(); ++i) {
-        if (!list.getParam(i).supportedInDevice(modelName))
-            names.append(list.getParam(i).name);
-    }
-    return names;
-}
-
-} // namespace
-
 TEST(Catalogue, NamesEveryRecordAndRegisterOnce)
 {
     const Parameters list = driveParameterCatalogue();
@@ -70,12 +55,4 @@ TEST(Catalogue, NeverWritesWhatIdentifiesTheDrive)
     }
     EXPECT_EQ(readOnly.join(' '), "TCFWVER FWVER HWTYPE HWSERIAL BUILDREVISION UID PIF");
     EXPECT_EQ(withoutAux.join(' '), "FLAGS PIF");
-}
-
-TEST(Catalogue, KnowsWhatEachFamilyLacks)
-{
-    EXPECT_EQ(namesUnsupportedBy("TORVA").join(' '), "BUILDREVISION CEI UID ZBO TRF1 TRF2 TRA1 TRA2");
-    EXPECT_EQ(namesUnsupportedBy("KETA").join(' '), "FWVER TRF1 TRF2 TRA1 TRA2");
-    EXPECT_EQ(namesUnsupportedBy("KETA HC").join(' '), "FWVER TRF1 TRF2 TRA1 TRA2");
-    EXPECT_EQ(namesUnsupportedBy("KETA Pro").join(' '), "FWVER");
 }

@@ -78,26 +78,20 @@ TEST(StatusPoll, StoresEveryReturnValueInItsUnit)
     state.watchedAddress = 415; // chosen while the poll was on the line
     ASSERT_TRUE(poll.store(returned, state));
 
-    EXPECT_EQ(state.faultRegister, 2);
-    EXPECT_EQ(state.statusRegister, 24);
-    EXPECT_EQ(state.softEnable, 1);
-    EXPECT_DOUBLE_EQ(state.busVoltage, 48.0);
-    EXPECT_DOUBLE_EQ(state.outputCurrent, -0.5);
-    EXPECT_DOUBLE_EQ(state.deviceTemperature, 41.0);
-    EXPECT_DOUBLE_EQ(state.actualCurrentLimit, 1.5);
-    EXPECT_EQ(state.lastLimitReason, 3);
-    EXPECT_EQ(state.rawVelocity, -12);
-    EXPECT_EQ(state.position, 123456);
-    EXPECT_EQ(state.setpoint, -7);
-    EXPECT_DOUBLE_EQ(state.analogIn1, 2.5);
-    EXPECT_DOUBLE_EQ(state.analogIn2, -0.125);
-    EXPECT_DOUBLE_EQ(state.analogEncoderA, 3.3);
-    EXPECT_DOUBLE_EQ(state.analogEncoderB, 1.65);
-    EXPECT_EQ(state.digitalInputs, 65535);
-    EXPECT_EQ(state.controlInputs, 31);
-    EXPECT_EQ(state.faultLocation1, 5);
-    EXPECT_EQ(state.faultLocation2, 6);
-    EXPECT_EQ(state.scopeState, 4);
+    const std::pair<qint32, qint32> whole[] = {
+        {state.faultRegister, 2}, {state.statusRegister, 24},    {state.softEnable, 1},     {state.lastLimitReason, 3},
+        {state.rawVelocity, -12}, {state.position, 123456},      {state.setpoint, -7},      {state.digitalInputs, 65535},
+        {state.controlInputs, 31}, {state.faultLocation1, 5},    {state.faultLocation2, 6}, {state.scopeState, 4},
+    };
+    for (const auto &[stored, expected] : whole)
+        EXPECT_EQ(stored, expected);
+    const std::pair<double, double> scaled[] = {
+        {state.busVoltage, 48.0}, {state.outputCurrent, -0.5}, {state.deviceTemperature, 41.0},
+        {state.actualCurrentLimit, 1.5}, {state.analogIn1, 2.5}, {state.analogIn2, -0.125},
+        {state.analogEncoderA, 3.3}, {state.analogEncoderB, 1.65},
+    };
+    for (const auto &[stored, expected] : scaled)
+        EXPECT_DOUBLE_EQ(stored, expected);
     EXPECT_EQ(state.debugValues, (std::array<qint32, 6>{11, 12, 13, 14, 15, 16}));
     EXPECT_EQ(state.watchedValue, -300);
     EXPECT_EQ(state.watchedAddress, 202) << "the value must stand beside the register it came from";
@@ -134,14 +128,8 @@ TEST(StatusPoll, RefusesAnotherNumberOfValuesUntouched)
 
 TEST(DriveState, WordsTheLimitReasons)
 {
-    const QStringList texts = {"Unknown (-1)",
-                               "None",
-                               "Peak current [MMC]",
-                               "Continuous current [MCC]",
-                               "Motor thermal model [MTC]",
-                               "Drive temperature",
-                               "Supply voltage",
-                               "Unknown (6)"};
+    const QStringList texts = {"Unknown (-1)", "None", "Peak current [MMC]", "Continuous current [MCC]",
+                               "Motor thermal model [MTC]", "Drive temperature", "Supply voltage", "Unknown (6)"};
     for (int i = 0; i < texts.size(); ++i)
         EXPECT_EQ(limitReasonText(i - 1), texts.at(i));
 }

@@ -20,72 +20,45 @@ TEST(ErrorText, IsEmptyWhenNothingWentWrongOrNothingIsConnected)
     EXPECT_EQ(busErrorText(false, 1 + 8, 31), "");
 }
 
-TEST(ErrorText, NamesEveryBusErrorInItsOrder)
+TEST(ErrorText, NamesEveryErrorInItsOrderAndTheParameterBeingWritten)
 {
-    EXPECT_EQ(busErrorText(true, 1 + 2 + 4 + 8 + 16 + 32, 0), QString("Communication error flags: <br>"
-                                                                      "* NoDevice (interface)<br>"
-                                                                      "* InvalidParameter (API)<br>"
-                                                                      "* Communication (cheksum mismatch)<br>"
-                                                                      "* DataLegth (timeout or app error)<br>"
-                                                                      "* BusError<br>") +
-                                                                  seeTroubleshooting);
+    SingleParam offset = undefinedParam(563, 0);
+    offset.value = 150.5;
+    offset.name = "CAO";
+    offset.scaling = 163.84;
+    const SingleParam small = undefinedParam(10, 3), large = undefinedParam(8125, -12345678);
+    const QString lost = "Communication error, disconnected.", flags = "Communication error flags: <br>",
+                  device = "<br>Device errors: <br>", writing = "Occurred while setting parameter: name=";
     const struct
     {
-        quint32 status;
-        const char *line;
-    } cases[] = {
-        {2, "* NoDevice (interface)<br>"},
-        {5, "* BusError<br>"},
-        {9, "* Communication (cheksum mismatch)<br>"},
-        {17, "* InvalidParameter (API)<br>"},
-        {33, "* DataLegth (timeout or app error)<br>"},
+        quint32 status, deviceErrors;
+        const SingleParam *param;
+        QString text;
+    } rows[] = {
+        {1 + 2 + 4 + 8 + 16 + 32, 0, nullptr,
+         flags + "* NoDevice (interface)<br>* InvalidParameter (API)<br>* Communication (cheksum mismatch)<br>"
+                 "* DataLegth (timeout or app error)<br>* BusError<br>" + seeTroubleshooting},
+        {2, 0, nullptr, flags + "* NoDevice (interface)<br>" + seeTroubleshooting},
+        {5, 0, nullptr, flags + "* BusError<br>" + seeTroubleshooting},
+        {9, 0, nullptr, flags + "* Communication (cheksum mismatch)<br>" + seeTroubleshooting},
+        {17, 0, nullptr, flags + "* InvalidParameter (API)<br>" + seeTroubleshooting},
+        {33, 0, nullptr, flags + "* DataLegth (timeout or app error)<br>" + seeTroubleshooting},
+        {1, 31, &offset,
+         lost + device + "* Command fail (NACK)<br>* Invalid param address<br>* Invalid param value<br>"
+                         "* Value too high<br>* Value too low<br>" +
+             writing + "CAO, addr=563, GUI value=150.5, HW value=24658"},
+        {1, 8, nullptr, lost + device + "* Value too high<br>"},
+        {9, 2, &small,
+         flags + "* Communication (cheksum mismatch)<br>" + seeTroubleshooting + device + "* Invalid param address<br>" +
+             writing + "undefined, addr=10, GUI value=3, HW value=3"},
+        {1, 16, &large,
+         lost + device + "* Value too low<br>" + writing +
+             "undefined, addr=8125, GUI value=-1.23457e+07, HW value=-1.23457e+07"},
+        {64, 0, nullptr, lost}, // something is said about bits that nobody knows, too
+        {1, 64, nullptr, lost},
     };
-    for (const auto &c : cases)
-        EXPECT_EQ(busErrorText(true, c.status, 0),
-                  QString("Communication error flags: <br>") + c.line + seeTroubleshooting);
-}
-
-TEST(ErrorText, NamesEveryDeviceErrorWithTheParameterBeingWritten)
-{
-    SingleParam offset;
-    offset.name = "CAO";
-    offset.addr = 563;
-    offset.scaling = 163.84;
-    offset.value = 150.5;
-    EXPECT_EQ(busErrorText(true, 1, 31, &offset),
-              "Communication error, disconnected."
-              "<br>Device errors: <br>"
-              "* Command fail (NACK)<br>"
-              "* Invalid param address<br>"
-              "* Invalid param value<br>"
-              "* Value too high<br>"
-              "* Value too low<br>"
-              "Occurred while setting parameter: name=CAO, addr=563, GUI value=150.5, HW value=24658");
-    EXPECT_EQ(busErrorText(true, 1, 8),
-              "Communication error, disconnected.<br>Device errors: <br>* Value too high<br>");
-}
-
-TEST(ErrorText, PutsBusErrorsBeforeDeviceErrors)
-{
-    const SingleParam p = undefinedParam(10, 3);
-    EXPECT_EQ(busErrorText(true, 9, 2, &p),
-              QString("Communication error flags: <br>* Communication (cheksum mismatch)<br>") + seeTroubleshooting +
-                  "<br>Device errors: <br>* Invalid param address<br>"
-                  "Occurred while setting parameter: name=undefined, addr=10, GUI value=3, HW value=3");
-}
-
-TEST(ErrorText, PrintsNumbersWithSixSignificantDigits)
-{
-    const SingleParam p = undefinedParam(8125, -12345678);
-    EXPECT_TRUE(busErrorText(true, 1, 16, &p)
-                    .endsWith("name=undefined, addr=8125, GUI value=-1.23457e+07, HW "
-                              "value=-1.23457e+07"));
-}
-
-TEST(ErrorText, SaysSomethingAboutBitsItDoesNotKnow)
-{
-    EXPECT_EQ(busErrorText(true, 64, 0), "Communication error, disconnected.");
-    EXPECT_EQ(busErrorText(true, 1, 64), "Communication error, disconnected.");
+    for (const auto &row : rows)
+        EXPECT_EQ(busErrorText(true, row.status, row.deviceErrors, row.param), row.text);
 }
 
 TEST(ErrorText, TellsPortsThatCannotBeOpenedApart)

@@ -23,18 +23,6 @@ TEST(SquareWave, BeginsAtTargetOneWithTheBoundarySampleIncluded)
     EXPECT_EQ(samples(wave, 9, 4.0), (std::vector<double>{100, 100, -50, -50, -50, 100, 100, 100, -50}));
 }
 
-TEST(SquareWave, HoldsEachTargetForItsDelay)
-{
-    SquareWave wave;
-    wave.set(1, 0.5, 0, 0.5, true);
-    const std::vector<double> list = samples(wave, 1000, 100.0);
-    double sum = 0;
-    for (double value : list)
-        sum += value;
-    EXPECT_EQ(list.front(), 1.0);
-    EXPECT_NEAR(sum, 500.0, 12.0); // ten turns, one boundary sample more or less in each
-}
-
 TEST(SquareWave, SwitchingOffIsToldOnceAndRestartsTheClock)
 {
     SquareWave wave;

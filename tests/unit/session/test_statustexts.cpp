@@ -14,11 +14,68 @@ const QString mark = "<b><font style=\"color:#e00\"> !</font></b>";
 const QString legend = "<br><font style=\"color:#e00\"><b>!</b> = reason for inactivity</font>";
 const QString help = " <a href=https://wiki.tarnwell.example/wiki/Fault_location>?</a>";
 
+/// One flag of a panel, in the panel's order.
+struct Row
+{
+    const char *label;
+    int DriveState::*member;
+    int mask;
+    enum { Never, WhenClear, WhenSet } keepsFromRunning = Never;
+    const char *before = ""; ///< what parts it from the flag above
+};
+
+constexpr auto statusRegister = &DriveState::statusRegister, faultRegister = &DriveState::faultRegister,
+               pins = &DriveState::digitalInputs, controls = &DriveState::controlInputs;
+
+const QList<Row> statusRows = {
+    {"Initialized", statusRegister, 4096, Row::WhenClear}, {"Error recovering", statusRegister, 4},
+    {"Tracking error warn", statusRegister, 64}, {"Target reached", statusRegister, 2},
+    {"Enabled", statusRegister, 16, Row::WhenClear}, {"Run", statusRegister, 8},
+    {"Homing active", statusRegister, 2048}, {"Braking", statusRegister, 1024},
+    {"Permanent stop", statusRegister, 32768, Row::WhenSet}, {"Voltages good", statusRegister, 8192, Row::WhenClear},
+    {"Fault stopped", statusRegister, 32, Row::WhenSet}, {"Ready for use", statusRegister, 256},
+    {"STO active", statusRegister, 128, Row::WhenSet},
+};
+const QList<Row> faultRows = {
+    {"Tracking error", faultRegister, 2, Row::WhenSet}, {"Over velocity", faultRegister, 1024, Row::WhenSet},
+    {"Hardware", faultRegister, 512, Row::WhenSet}, {"Over temperature", faultRegister, 32, Row::WhenSet},
+    {"Feedback", faultRegister, 16, Row::WhenSet}, {"Over current", faultRegister, 4, Row::WhenSet},
+    {"Internal comm error", faultRegister, 32768, Row::WhenSet},
+    {"Power stage forced off", faultRegister, 16384, Row::WhenSet},
+    {"Under voltage", faultRegister, 64, Row::WhenSet}, {"Over voltage", faultRegister, 128, Row::WhenSet},
+    {"Motion range", faultRegister, 8192, Row::WhenSet}, {"Firmware error", faultRegister, 256, Row::WhenSet},
+    {"Init", faultRegister, 2048, Row::WhenSet}, {"Motion", faultRegister, 4096, Row::WhenSet},
+    {"Zetabus", faultRegister, 8, Row::WhenSet},
+};
+/// The feed inputs as they are with limit switches.
+const QList<Row> inputRows = {
+    {"GPI 1", pins, 1}, {"GPI 2", pins, 2}, {"GPI 3", pins, 4}, {"GPI 4", pins, 8}, {"GPI 5", pins, 16},
+    {"GPI 6", pins, 1048576}, {"HSIN 1", pins, 32}, {"HSIN 2", pins, 64}, {"ANA1 as digital", pins, 128},
+    {"ANA2 as digital", pins, 256}, {"ENC A", pins, 512}, {"ENC B", pins, 1024}, {"ENC C", pins, 2048},
+    {"ENC D", pins, 4096}, {"Hall U", pins, 8192}, {"Hall V", pins, 16384}, {"Hall W", pins, 32768},
+    {"Soft enable", &DriveState::softEnable, 1, Row::WhenClear, "<br>"}, {"Phys enable", controls, 1, Row::WhenClear},
+    {"Pos feed enable", controls, 2, Row::WhenClear}, {"Neg feed enable", controls, 4, Row::WhenClear},
+    {"Home switch", controls, 8}, {"Clear faults", controls, 16},
+};
+
+/// A panel's flags with one of them set, or all, or none.
+QString linesOf(const QList<Row> &rows, const Row *only = nullptr, bool all = false, bool running = false)
+{
+    QString text;
+    for (const Row &row : rows) {
+        const bool isSet = all || &row == only;
+        const bool isReason = row.keepsFromRunning == (isSet ? Row::WhenSet : Row::WhenClear);
+        text += row.before + (isSet ? on : off) + row.label + (isReason && !running ? mark : QString()) + "<br>";
+    }
+    return text;
+}
+
 DriveState keta()
 {
     DriveState state;
     state.deviceType = 11000;
     state.feedbackResolution = 2500;
+    state.limitSwitchFunction = 1;
     return state;
 }
 
@@ -27,34 +84,17 @@ struct Panel
     QString text;
     bool marked = false;
 };
+using Wording = QString (*)(const DriveState &, bool &);
 
-Panel statusPanel(const DriveState &state)
+Panel panelOf(Wording wording, const DriveState &state, bool marked = false)
 {
-    Panel panel;
-    panel.text = getStatusRegString(state, panel.marked);
+    Panel panel{{}, marked};
+    panel.text = wording(state, panel.marked);
     return panel;
 }
 
-Panel faultPanel(const DriveState &state, bool marked = false)
-{
-    Panel panel;
-    panel.marked = marked;
-    panel.text = getFaultRegString(state, panel.marked);
-    return panel;
-}
-
-Panel inputPanel(const DriveState &state)
-{
-    Panel panel;
-    panel.text = getDigitalInsString(state, panel.marked);
-    return panel;
-}
-
-const QString clearFaults = off + "Tracking error<br>" + off + "Over velocity<br>" + off + "Hardware<br>" + off +
-                            "Over temperature<br>" + off + "Feedback<br>" + off + "Over current<br>" + off +
-                            "Internal comm error<br>" + off + "Power stage forced off<br>" + off + "Under voltage<br>" +
-                            off + "Over voltage<br>" + off + "Motion range<br>" + off + "Firmware error<br>" + off +
-                            "Init<br>" + off + "Motion<br>" + off + "Zetabus<br>";
+Panel statusPanel(const DriveState &state) { return panelOf(getStatusRegString, state); }
+Panel faultPanel(const DriveState &state, bool marked = false) { return panelOf(getFaultRegString, state, marked); }
 
 QString valueLineAfter(const QString &text, const QString &label)
 {
@@ -62,62 +102,58 @@ QString valueLineAfter(const QString &text, const QString &label)
     return text.mid(begin, text.indexOf("<br>", begin) - begin);
 }
 
-/// A panel's flags, put together from the values.
-QString flagLines(const QList<DriveFlag> &flags)
+const struct
 {
-    QString text;
-    for (const DriveFlag &flag : flags)
-        text += (flag.isSet ? on : off) + flag.label + (flag.isReason ? mark : QString()) + "<br>";
-    return text;
-}
+    const QList<Row> &rows;
+    Wording wording;
+    QList<DriveFlag> (*flags)(const DriveState &);
+} panels[] = {{statusRows, getStatusRegString, statusFlagsOf},
+              {faultRows, getFaultRegString, faultFlagsOf},
+              {inputRows, getDigitalInsString, inputFlagsOf}};
 
 } // namespace
 
-TEST(DriveFlags, SayWhatThePanelsShow)
+TEST(Panels, EveryFlagHasItsBitAndItsMarkAndStandsInTheValuesToo)
 {
-    DriveState state = keta();
-    for (const auto &[status, faults, inputs] :
-         {std::array<int, 3>{0, 0, 0}, {4096 + 16, 2 + 64, 1 + 4}, {8 + 16, 512, 2}, {32768, 8, 31}}) {
-        state.statusRegister = status;
-        state.faultRegister = faults;
-        state.controlInputs = state.digitalInputs = inputs;
-        state.softEnable = inputs & 1;
-        state.limitSwitchFunction = inputs & 4;
-        EXPECT_TRUE(statusPanel(state).text.startsWith(flagLines(statusFlagsOf(state)) + "<br>HV bus")) << status;
-        EXPECT_TRUE(faultPanel(state).text.startsWith(flagLines(faultFlagsOf(state)) + "<br>Fault location")) << faults;
-        EXPECT_EQ(inputPanel(state).text.remove("<br><br>").section("Analog in 1", 0, 0).remove("<br>"),
-                  flagLines(inputFlagsOf(state)).remove("<br>"))
-            << inputs;
+    for (const auto &panel : panels) {
+        EXPECT_TRUE(panelOf(panel.wording, keta()).text.startsWith(linesOf(panel.rows) + "<br>"));
+        for (const Row &row : panel.rows) {
+            DriveState state = keta();
+            state.*row.member = row.mask;
+            const bool running = state.isRunning();
+            EXPECT_TRUE(panelOf(panel.wording, state).text.startsWith(linesOf(panel.rows, &row, false, running) + "<br>"))
+                << row.label;
+            const QList<DriveFlag> flags = panel.flags(state);
+            ASSERT_EQ(flags.size(), panel.rows.size());
+            for (int i = 0; i < flags.size(); ++i) {
+                const bool isSet = &panel.rows[i] == &row;
+                EXPECT_EQ(flags[i].label, panel.rows[i].label);
+                EXPECT_EQ(flags[i].isSet, isSet) << row.label;
+                EXPECT_EQ(flags[i].isReason,
+                          !running && panel.rows[i].keepsFromRunning == (isSet ? Row::WhenSet : Row::WhenClear));
+            }
+        }
     }
-    state.firmwareUpgradeMode = true;
-    EXPECT_TRUE(statusFlagsOf(state).isEmpty() && inputFlagsOf(state).isEmpty());
+    DriveState bootloader = keta();
+    bootloader.firmwareUpgradeMode = true;
+    EXPECT_TRUE(statusFlagsOf(bootloader).isEmpty() && inputFlagsOf(bootloader).isEmpty());
 }
 
-TEST(StatusPanel, AllClear)
-{
-    const Panel panel = statusPanel(keta());
-    EXPECT_EQ(panel.text, off + "Initialized" + mark + "<br>" + off + "Error recovering<br>" + off +
-                              "Tracking error warn<br>" + off + "Target reached<br>" + off + "Enabled" + mark + "<br>" +
-                              off + "Run<br>" + off + "Homing active<br>" + off + "Braking<br>" + off +
-                              "Permanent stop<br>" + off + "Voltages good" + mark + "<br>" + off + "Fault stopped<br>" +
-                              off + "Ready for use<br>" + off + "STO active<br>" +
-                              "<br>"
-                              "HV bus voltage&nbsp;&nbsp;0.0 VDC<br>"
-                              "Device temperature&nbsp;&nbsp;0 &deg;C<br>"
-                              "Actual current limit&nbsp;&nbsp;&plusmn;0.0 A<br>"
-                              "Last limit reason&nbsp;&nbsp;None<br>"
-                              "Output current&nbsp;&nbsp;0.00 A<br>"
-                              "Velocity feedback&nbsp;&nbsp;0 r/s<br>"
-                              "Velocity feedback (raw)&nbsp;&nbsp;0<br>"
-                              "Position feedback&nbsp;&nbsp;0<br>"
-                              "Setpoint value&nbsp;&nbsp;0<br>");
-    EXPECT_TRUE(panel.marked);
-}
-
-TEST(StatusPanel, AllSetWhileRunning)
+TEST(Panels, OfARunningDriveHaveNoMarks)
 {
     DriveState state = keta();
-    state.statusRegister = 0x3FFFFFFF;
+    state.statusRegister = state.faultRegister = 0x3FFFFFFF;
+    state.limitSwitchFunction = 1;
+    for (const auto &panel : panels)
+        EXPECT_FALSE(panelOf(panel.wording, state).marked);
+    EXPECT_TRUE(statusPanel(state).text.startsWith(linesOf(statusRows, nullptr, true, true) + "<br>"));
+    EXPECT_EQ(faultPanel(state).text, linesOf(faultRows, nullptr, true, true) + "<br>Fault location ID 1 0" + help +
+                                          "<br>Fault location ID 2 0" + help);
+}
+
+TEST(Panels, EndWithTheirValues)
+{
+    DriveState state = keta();
     state.busVoltage = 48.27;
     state.deviceTemperature = 41.0;
     state.actualCurrentLimit = 5.57;
@@ -126,37 +162,43 @@ TEST(StatusPanel, AllSetWhileRunning)
     state.rawVelocity = -123;
     state.position = -2147483647;
     state.setpoint = 16383;
-    const Panel panel = statusPanel(state);
-    EXPECT_EQ(panel.text, on + "Initialized<br>" + on + "Error recovering<br>" + on + "Tracking error warn<br>" + on +
-                              "Target reached<br>" + on + "Enabled<br>" + on + "Run<br>" + on + "Homing active<br>" +
-                              on + "Braking<br>" + on + "Permanent stop<br>" + on + "Voltages good<br>" + on +
-                              "Fault stopped<br>" + on + "Ready for use<br>" + on + "STO active<br>" +
-                              "<br>"
-                              "HV bus voltage&nbsp;&nbsp;48.3 VDC<br>"
-                              "Device temperature&nbsp;&nbsp;41 &deg;C<br>"
-                              "Actual current limit&nbsp;&nbsp;&plusmn;5.6 A<br>"
-                              "Last limit reason&nbsp;&nbsp;Continuous current [MCC]<br>"
-                              "Output current&nbsp;&nbsp;-1.23 A<br>"
-                              "Velocity feedback&nbsp;&nbsp;-30.75 r/s<br>"
-                              "Velocity feedback (raw)&nbsp;&nbsp;-123<br>"
-                              "Position feedback&nbsp;&nbsp;-2147483647<br>"
-                              "Setpoint value&nbsp;&nbsp;16383<br>");
-    EXPECT_FALSE(panel.marked);
+    state.analogIn1 = -9.876;
+    state.analogIn2 = 10;
+    state.analogEncoderA = 1.654;
+    state.analogEncoderB = 3.3;
+    state.faultLocation1 = 440101;
+    state.faultLocation2 = -7;
+    EXPECT_TRUE(statusPanel(state).text.endsWith("<br><br>HV bus voltage&nbsp;&nbsp;48.3 VDC<br>"
+                                                 "Device temperature&nbsp;&nbsp;41 &deg;C<br>"
+                                                 "Actual current limit&nbsp;&nbsp;&plusmn;5.6 A<br>"
+                                                 "Last limit reason&nbsp;&nbsp;Continuous current [MCC]<br>"
+                                                 "Output current&nbsp;&nbsp;-1.23 A<br>"
+                                                 "Velocity feedback&nbsp;&nbsp;-30.75 r/s<br>"
+                                                 "Velocity feedback (raw)&nbsp;&nbsp;-123<br>"
+                                                 "Position feedback&nbsp;&nbsp;-2147483647<br>"
+                                                 "Setpoint value&nbsp;&nbsp;16383<br>"));
+    EXPECT_TRUE(panelOf(getDigitalInsString, state).text.endsWith("<br><br>Analog in 1&nbsp;&nbsp;-9.88 V <br>"
+                                                                  "Analog in 2&nbsp;&nbsp;10.00 V <br>"
+                                                                  "Analog Enc A&nbsp;&nbsp;1.65 V <br>"
+                                                                  "Analog Enc B&nbsp;&nbsp;3.30 V <br>"));
+    const QString locations = "<br><br>Fault location ID 1 440101" + help + "<br>Fault location ID 2 -7" + help;
+    EXPECT_TRUE(faultPanel(state).text.endsWith(locations));
+    EXPECT_FALSE(faultPanel(state).marked);
+    EXPECT_TRUE(faultPanel(state, true).text.endsWith(locations + legend)) << "for the marks of the other panels";
+    state.faultRegister = 8;
+    EXPECT_TRUE(faultPanel(state).text.endsWith(locations + legend));
+    EXPECT_TRUE(faultPanel(state).marked);
 }
 
-TEST(StatusPanel, MarksWhatKeepsAStoppedDriveFromRunning)
+TEST(Panels, OfADriveThatWouldBeReadyHaveNoMarks)
 {
     DriveState state = keta();
-    state.statusRegister = 4096 + 16 + 8192; // would be ready
+    state.statusRegister = 4096 + 16 + 8192;
     EXPECT_FALSE(statusPanel(state).marked);
-    for (const auto &c : {std::make_pair(32768, "Permanent stop"), std::make_pair(32, "Fault stopped"),
-                          std::make_pair(128, "STO active")}) {
-        DriveState stopped = state;
-        stopped.statusRegister += c.first;
-        const Panel panel = statusPanel(stopped);
-        EXPECT_TRUE(panel.text.contains(on + c.second + mark + "<br>")) << c.second;
-        EXPECT_EQ(panel.text.count(mark), 1) << c.second;
-    }
+    state.softEnable = state.controlInputs = 1;
+    EXPECT_TRUE(panelOf(getDigitalInsString, state).marked);
+    state.limitSwitchFunction = 0; // the feed inputs do not matter then
+    EXPECT_FALSE(panelOf(getDigitalInsString, state).marked);
 }
 
 TEST(StatusPanel, TorvaShowsNoTemperature)
@@ -187,78 +229,12 @@ TEST(StatusPanel, VelocityWithoutAFeedbackResolutionIsPerCount)
     }
 }
 
-TEST(FaultPanel, AllClear)
-{
-    const Panel panel = faultPanel(keta());
-    EXPECT_EQ(panel.text, clearFaults + "<br>Fault location ID 1 0" + help + "<br>Fault location ID 2 0" + help);
-    EXPECT_FALSE(panel.marked);
-}
-
-TEST(FaultPanel, FaultsWhileStoppedAreMarkedAndExplained)
-{
-    DriveState state = keta();
-    state.faultRegister = 2 + 64;
-    state.faultLocation1 = 440101;
-    state.faultLocation2 = -7;
-    const Panel panel = faultPanel(state);
-    EXPECT_EQ(panel.text, on + "Tracking error" + mark + "<br>" + off + "Over velocity<br>" + off + "Hardware<br>" +
-                              off + "Over temperature<br>" + off + "Feedback<br>" + off + "Over current<br>" + off +
-                              "Internal comm error<br>" + off + "Power stage forced off<br>" + on + "Under voltage" +
-                              mark + "<br>" + off + "Over voltage<br>" + off + "Motion range<br>" + off +
-                              "Firmware error<br>" + off + "Init<br>" + off + "Motion<br>" + off + "Zetabus<br>" +
-                              "<br>Fault location ID 1 440101" + help + "<br>Fault location ID 2 -7" + help + legend);
-    EXPECT_TRUE(panel.marked);
-}
-
-TEST(FaultPanel, FaultWhileRunningIsShownUnmarked)
-{
-    DriveState state = keta();
-    state.statusRegister = 8;
-    state.faultRegister = 8;
-    const Panel panel = faultPanel(state);
-    EXPECT_TRUE(panel.text.contains(on + "Zetabus<br>"));
-    EXPECT_FALSE(panel.text.contains(mark));
-    EXPECT_FALSE(panel.text.contains(legend));
-    EXPECT_FALSE(panel.marked);
-}
-
-TEST(FaultPanel, EveryFaultHasItsBit)
-{
-    const std::pair<int, const char *> faults[] = {{2, "Tracking error"},
-                                                   {1024, "Over velocity"},
-                                                   {512, "Hardware"},
-                                                   {32, "Over temperature"},
-                                                   {16, "Feedback"},
-                                                   {4, "Over current"},
-                                                   {32768, "Internal comm error"},
-                                                   {16384, "Power stage forced off"},
-                                                   {64, "Under voltage"},
-                                                   {128, "Over voltage"},
-                                                   {8192, "Motion range"},
-                                                   {256, "Firmware error"},
-                                                   {2048, "Init"},
-                                                   {4096, "Motion"},
-                                                   {8, "Zetabus"}};
-    for (const auto &fault : faults) {
-        DriveState state = keta();
-        state.faultRegister = fault.first;
-        const QString text = faultPanel(state).text;
-        EXPECT_TRUE(text.contains(on + fault.second + mark + "<br>")) << fault.second;
-        EXPECT_EQ(text.count(on), 1) << fault.second;
-    }
-}
-
-TEST(FaultPanel, LegendAlsoExplainsTheMarksOfTheOtherPanels)
-{
-    EXPECT_TRUE(faultPanel(keta(), true).text.endsWith(help + legend));
-}
-
 TEST(FaultPanel, ShowsDebugValuesAndTheWatchedRegisterWhenWanted)
 {
     DriveState state = keta();
     state.debugValues = {1, -2, 3, 4, 5, 600000};
     state.watchedValue = -42;
-    const QString plain = clearFaults + "<br>Fault location ID 1 0" + help + "<br>Fault location ID 2 0" + help;
+    const QString plain = linesOf(faultRows) + "<br>Fault location ID 1 0" + help + "<br>Fault location ID 2 0" + help;
     const QString debug = "<br><br>Debug 1&nbsp;&nbsp;1<br>Debug 2&nbsp;&nbsp;-2<br>Debug 3&nbsp;&nbsp;3<br>"
                           "Debug 4&nbsp;&nbsp;4<br>Debug 5&nbsp;&nbsp;5<br>Debug 6&nbsp;&nbsp;600000<br>";
     const QString watched = "Param 202&nbsp;&nbsp;-42<br>";
@@ -273,99 +249,6 @@ TEST(FaultPanel, ShowsDebugValuesAndTheWatchedRegisterWhenWanted)
     state.debugValuesShown = true;
     state.firmwareUpgradeMode = true; // a bootloader knows neither
     EXPECT_EQ(faultPanel(state).text, plain);
-}
-
-TEST(InputPanel, AllClear)
-{
-    DriveState state = keta();
-    state.limitSwitchFunction = 1;
-    const Panel panel = inputPanel(state);
-    EXPECT_EQ(panel.text, off + "GPI 1<br>" + off + "GPI 2<br>" + off + "GPI 3<br>" + off + "GPI 4<br>" + off +
-                              "GPI 5<br>" + off + "GPI 6<br>" + off + "HSIN 1<br>" + off + "HSIN 2<br>" + off +
-                              "ANA1 as digital<br>" + off + "ANA2 as digital<br>" + off + "ENC A<br>" + off +
-                              "ENC B<br>" + off + "ENC C<br>" + off + "ENC D<br>" + off + "Hall U<br>" + off +
-                              "Hall V<br>" + off + "Hall W<br>" + "<br>" + off + "Soft enable" + mark + "<br>" + off +
-                              "Phys enable" + mark + "<br>" + off + "Pos feed enable" + mark + "<br>" + off +
-                              "Neg feed enable" + mark + "<br>" + off + "Home switch<br>" + off + "Clear faults<br>" +
-                              "<br>"
-                              "Analog in 1&nbsp;&nbsp;0.00 V <br>"
-                              "Analog in 2&nbsp;&nbsp;0.00 V <br>"
-                              "Analog Enc A&nbsp;&nbsp;0.00 V <br>"
-                              "Analog Enc B&nbsp;&nbsp;0.00 V <br>");
-    EXPECT_TRUE(panel.marked);
-}
-
-TEST(InputPanel, AllSet)
-{
-    DriveState state = keta();
-    state.limitSwitchFunction = 1;
-    state.digitalInputs = 0x10FFFF;
-    state.controlInputs = 31;
-    state.softEnable = 1;
-    state.analogIn1 = -9.876;
-    state.analogIn2 = 10;
-    state.analogEncoderA = 1.654;
-    state.analogEncoderB = 3.3;
-    const Panel panel = inputPanel(state);
-    EXPECT_EQ(panel.text, on + "GPI 1<br>" + on + "GPI 2<br>" + on + "GPI 3<br>" + on + "GPI 4<br>" + on + "GPI 5<br>" +
-                              on + "GPI 6<br>" + on + "HSIN 1<br>" + on + "HSIN 2<br>" + on + "ANA1 as digital<br>" +
-                              on + "ANA2 as digital<br>" + on + "ENC A<br>" + on + "ENC B<br>" + on + "ENC C<br>" + on +
-                              "ENC D<br>" + on + "Hall U<br>" + on + "Hall V<br>" + on + "Hall W<br>" + "<br>" + on +
-                              "Soft enable<br>" + on + "Phys enable<br>" + on + "Pos feed enable<br>" + on +
-                              "Neg feed enable<br>" + on + "Home switch<br>" + on + "Clear faults<br>" +
-                              "<br>"
-                              "Analog in 1&nbsp;&nbsp;-9.88 V <br>"
-                              "Analog in 2&nbsp;&nbsp;10.00 V <br>"
-                              "Analog Enc A&nbsp;&nbsp;1.65 V <br>"
-                              "Analog Enc B&nbsp;&nbsp;3.30 V <br>");
-    EXPECT_FALSE(panel.marked);
-}
-
-TEST(InputPanel, FeedInputsAreNoReasonWithoutLimitSwitches)
-{
-    DriveState state = keta();
-    state.softEnable = 1;
-    state.controlInputs = 1;
-    const Panel panel = inputPanel(state);
-    EXPECT_TRUE(panel.text.contains(off + "Pos feed enable<br>" + off + "Neg feed enable<br>"));
-    EXPECT_FALSE(panel.marked);
-}
-
-TEST(InputPanel, EveryInputHasItsBit)
-{
-    const std::pair<int, const char *> pins[] = {{1, "GPI 1"},
-                                                 {2, "GPI 2"},
-                                                 {4, "GPI 3"},
-                                                 {8, "GPI 4"},
-                                                 {16, "GPI 5"},
-                                                 {1048576, "GPI 6"},
-                                                 {32, "HSIN 1"},
-                                                 {64, "HSIN 2"},
-                                                 {512, "ENC A"},
-                                                 {1024, "ENC B"},
-                                                 {2048, "ENC C"},
-                                                 {4096, "ENC D"},
-                                                 {128, "ANA1 as digital"},
-                                                 {256, "ANA2 as digital"},
-                                                 {8192, "Hall U"},
-                                                 {16384, "Hall V"},
-                                                 {32768, "Hall W"}};
-    for (const auto &pin : pins) {
-        DriveState state = keta();
-        state.digitalInputs = pin.first;
-        const QString text = inputPanel(state).text;
-        EXPECT_TRUE(text.contains(on + pin.second + "<br>")) << pin.second;
-        EXPECT_EQ(text.count(on), 1) << pin.second;
-    }
-    const std::pair<int, const char *> controls[] = {
-        {1, "Phys enable"}, {2, "Pos feed enable"}, {4, "Neg feed enable"}, {8, "Home switch"}, {16, "Clear faults"}};
-    for (const auto &control : controls) {
-        DriveState state = keta();
-        state.controlInputs = control.first;
-        const QString text = inputPanel(state).text;
-        EXPECT_TRUE(text.contains(on + control.second + "<br>")) << control.second;
-        EXPECT_EQ(text.count(on), 1) << control.second;
-    }
 }
 
 TEST(FlagLine, IsMarkedOnlyForAReasonInTheUnexpectedStateWhileNotRunning)

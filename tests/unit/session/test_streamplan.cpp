@@ -27,20 +27,6 @@ TEST(StreamPlan, CountsTheChunksThatAreDue)
         EXPECT_EQ(streamChunkCount(c.free, c.threshold), c.chunks) << c.free << " free, threshold " << c.threshold;
 }
 
-TEST(StreamPlan, BeginsWithTheFiveSetUpItems)
-{
-    const std::array<QueueItem, 5> expected = {{{QueueItem::Address, 9},
-                                                {QueueItem::Value24, 6},
-                                                {QueueItem::Address, 10},
-                                                {QueueItem::Value24, 2},
-                                                {QueueItem::Address, 551}}};
-    EXPECT_EQ(streamSetUp, expected);
-    EXPECT_TRUE(isStreamSetUpStep(0));
-    EXPECT_TRUE(isStreamSetUpStep(4));
-    EXPECT_FALSE(isStreamSetUpStep(5));
-    EXPECT_FALSE(isStreamSetUpStep(2000000000));
-}
-
 TEST(StreamPlan, TruncatesSetpointsAndNeverWrapsThem)
 {
     const struct

@@ -16,98 +16,54 @@ QueuedTask enableTask(bool enable)
     return entry;
 }
 
-void pushAll(TaskQueue &queue, std::initializer_list<int> codes)
-{
-    for (int code : codes)
-        queue.push(static_cast<SessionTasks::Task>(code));
-}
-
 } // namespace
 
-TEST(TaskQueue, RunsTasksInTheOrderOfAsking)
+TEST(TaskQueue, PutsStopsFirstAndKeepsTheOrderOfTheRest)
 {
-    TaskQueue queue;
-    pushAll(queue, {4, 9, 3, 9});
-    EXPECT_THAT(queue.codes(), ElementsAre(4, 9, 3, 9));
-}
-
-TEST(TaskQueue, ATaskKeepsWhatWasAskedWhenItWasQueued)
-{
-    TaskQueue queue;
-    QueuedTask setpoint;
-    setpoint.task = SessionTasks::TaskSetAbsoluteSetpoint;
-    for (int target : {100, -200}) {
-        setpoint.request = SetpointRequest{target};
-        queue.push(setpoint);
+    constexpr int enable = 100, disable = 101, lineLost = 102;
+    const struct
+    {
+        const char *what;
+        std::vector<int> pushed, queued;
+    } rows[] = {
+        {"as asked", {4, 9, 3, 9}, {4, 9, 3, 9}},
+        {"a disable drops what would move", {3, 12, 15, 27, 4, 28, 30, 16, enable, disable}, {11, 3, 4, 16}},
+        {"a repeated disable does not pile up", {4, disable, disable, disable}, {11, 4}},
+        {"an enable waits behind a disable", {4, disable, enable}, {11, 4, 11}},
+        {"a disconnect clears all but stops and the user's choices",
+         {enable, disable, 4, 3, 9, 14, 27, 5, 16, 26, 23, 1, 2},
+         {11, 3, 14, 16, 26, 2}},
+        {"a disconnect waits behind a restart", {4, 25, 9, 2}, {4, 25, 9, 2}},
+        {"of either kind", {4, 29, 9, 2}, {4, 29, 9, 2}},
+        {"the disconnect after an error goes ahead of all but stops",
+         {3, 26, 4, 26, 16, 16, disable, lineLost, lineLost},
+         {11, 26, 16, 2, 3, 4}},
+    };
+    for (const auto &row : rows) {
+        TaskQueue queue;
+        for (const int code : row.pushed) {
+            if (code == lineLost)
+                queue.pushDisconnectFirst();
+            else if (code == enable || code == disable)
+                queue.push(enableTask(code == enable));
+            else
+                queue.push(static_cast<SessionTasks::Task>(code));
+        }
+        EXPECT_EQ(queue.codes(), row.queued) << row.what;
     }
-    QueuedTask taken;
-    ASSERT_TRUE(queue.take(taken));
-    EXPECT_EQ(std::get<SetpointRequest>(taken.request).setpoint, 100);
-    ASSERT_TRUE(queue.take(taken));
-    EXPECT_EQ(std::get<SetpointRequest>(taken.request).setpoint, -200);
-    EXPECT_FALSE(queue.take(taken));
 }
 
-TEST(TaskQueue, ADisableOvertakesEverythingAndDropsWhatWouldMove)
-{
-    TaskQueue queue;
-    pushAll(queue, {3, 12, 15, 27, 4, 28, 30, 16});
-    queue.push(enableTask(true));
-    queue.push(enableTask(false));
-    EXPECT_THAT(queue.codes(), ElementsAre(11, 3, 4, 16));
-    QueuedTask first;
-    ASSERT_TRUE(queue.take(first));
-    EXPECT_TRUE(first.isDisable());
-}
-
-TEST(TaskQueue, ARepeatedDisableDoesNotPileUp)
-{
-    TaskQueue queue;
-    queue.push(SessionTasks::TaskGetParams);
-    for (int i = 0; i < 5; ++i)
-        queue.push(enableTask(false));
-    EXPECT_THAT(queue.codes(), ElementsAre(11, 4));
-}
-
-TEST(TaskQueue, AnEnableWaitsItsTurnAlsoBehindADisable)
+TEST(TaskQueue, OnlyADisableIsServedOutOfTurn)
 {
     TaskQueue queue;
     queue.push(SessionTasks::TaskGetParams);
     queue.push(enableTask(false));
     queue.push(enableTask(true));
-    EXPECT_THAT(queue.codes(), ElementsAre(11, 4, 11));
     QueuedTask taken;
     EXPECT_TRUE(queue.takeDisable(taken));
-    EXPECT_FALSE(queue.takeDisable(taken)) << "an enable is not to be served out of turn";
+    EXPECT_TRUE(taken.isDisable());
+    EXPECT_FALSE(queue.takeDisable(taken));
     EXPECT_THAT(queue.codes(), ElementsAre(4, 11));
-}
-
-TEST(TaskQueue, ADisconnectClearsWhatWaitsButStopsAndTheUsersChoices)
-{
-    TaskQueue queue;
-    queue.push(enableTask(true));
-    queue.push(enableTask(false));
-    pushAll(queue, {4, 3, 9, 14, 27, 5, 16, 26, 23, 1, 2});
-    EXPECT_THAT(queue.codes(), ElementsAre(11, 3, 14, 16, 26, 2));
-}
-
-TEST(TaskQueue, ADisconnectWaitsBehindARestart)
-{
-    for (int restart : {25, 29}) {
-        TaskQueue queue;
-        pushAll(queue, {4, restart, 9, 2});
-        EXPECT_THAT(queue.codes(), ElementsAre(4, restart, 9, 2));
-    }
-}
-
-TEST(TaskQueue, TheDisconnectAfterAnErrorGoesAheadOfAllButStops)
-{
-    TaskQueue queue;
-    pushAll(queue, {3, 26, 4, 26, 16, 16});
-    queue.push(enableTask(false));
-    queue.pushDisconnectFirst();
-    queue.pushDisconnectFirst();
-    EXPECT_THAT(queue.codes(), ElementsAre(11, 26, 16, 2, 3, 4));
 }
 
 TEST(TaskQueue, OneScanWaitsAtATimeTheNewest)
@@ -130,7 +86,8 @@ TEST(TaskQueue, OneScanWaitsAtATimeTheNewest)
 TEST(TaskQueue, ClosingDisconnectsThenQuitsAndEndsPauses)
 {
     TaskQueue queue;
-    pushAll(queue, {4, 14, 21, 22});
+    for (int code : {4, 14, 21, 22})
+        queue.push(static_cast<SessionTasks::Task>(code));
     EXPECT_FALSE(queue.isClosing());
     queue.close();
     queue.close();

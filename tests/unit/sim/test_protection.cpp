@@ -160,6 +160,13 @@ TEST_F(Protection, LimitReasonsNameWhatLimits)
         other.write(reg::SetpointAbsolute, 16384);
         other.advanceCycles(limit.cycles);
         EXPECT_EQ(static_cast<LimitReason>(other.read(reg::LimitReason)), limit.reason);
+        if (limit.reason != LimitReason::ThermalModel)
+            continue;
+        other.advanceCycles(20000);
+        EXPECT_NEAR(other.read(reg::CurrentLimit), 13000, 400) << "a hot motor gets its continuous current only";
+        other.write(reg::SetpointAbsolute, 0);
+        other.advanceCycles(25000); // 10 s
+        EXPECT_EQ(other.read(reg::CurrentLimit), 32000) << "cooled down again";
     }
 }
 
@@ -240,22 +247,6 @@ TEST_F(Protection, InvertedAxisMovesTheMotorTheOtherWay)
     drive.advanceCycles(500);
     EXPECT_EQ(position(), 1000);
     EXPECT_NEAR(drive.axis().motor().angle(), -1000.0, 2.0);
-}
-
-TEST_F(Protection, HotMotorGetsContinuousCurrentOnly)
-{
-    drive.write(reg::ControlMode, 3);
-    drive.write(reg::ThermalTime, 1);
-    drive.axis().inputs().locked = true;
-    enable();
-    drive.write(reg::SetpointAbsolute, 16384);
-    drive.advanceCycles(100);
-    EXPECT_EQ(drive.read(reg::CurrentLimit), 32000);
-    drive.advanceCycles(25000); // 10 s
-    EXPECT_NEAR(drive.read(reg::CurrentLimit), 13000, 400);
-    drive.write(reg::SetpointAbsolute, 0);
-    drive.advanceCycles(25000);
-    EXPECT_EQ(drive.read(reg::CurrentLimit), 32000) << "cooled down again";
 }
 
 TEST_F(Protection, BrakeHoldsBeforeAndAfterRunning)

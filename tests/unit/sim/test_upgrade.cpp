@@ -82,55 +82,6 @@ TEST_F(Upgrade, EachBootloaderTakesItsCommandsAndTellsFailedVerification)
     }
 }
 
-TEST_F(Upgrade, ProgrammedWordsAreKeptInOrderForEachProcessor)
-{
-    VirtualDrive torva(*findProfile("torva"));
-    torva.powerUpInUpgradeMode();
-    torva.write(reg::UpgradeCommand, Bootloader::Erase);
-    const auto upload = [&](std::initializer_list<int> words, int command) {
-        for (const int word : words)
-            torva.write(reg::UpgradePipe, word);
-        torva.write(reg::UpgradeCommand, command);
-    };
-    upload({1, 2, 0xFFFF}, Bootloader::Program);
-    upload({0xEEEE}, Bootloader::Program);
-    upload({0x0102, 0xF00D}, Bootloader::ProgramCore);
-    EXPECT_EQ(torva.bootloader().programmedWords(), (std::vector<std::uint16_t>{1, 2, 0xFFFF, 0xEEEE}));
-    EXPECT_EQ(torva.bootloader().coreWords(), (std::vector<std::uint16_t>{0x0102, 0xF00D}));
-}
-
-TEST_F(Upgrade, StartsAtTheOneTimeAddressUntilRestarted)
-{
-    write({{reg::UpgradeCommand, Bootloader::Erase},
-           {reg::UpgradePipe, 1},
-           {reg::UpgradeCommand, Bootloader::Program},
-           {reg::UpgradeCommand, Bootloader::Verify},
-           {reg::UpgradeCommand, Bootloader::Start}});
-    EXPECT_FALSE(drive.isInUpgradeMode());
-    EXPECT_EQ(drive.address(), 16);
-    EXPECT_EQ(drive.read(6010), 1078);
-    drive.write(reg::Command, 2);
-    EXPECT_EQ(drive.address(), 5);
-}
-
-TEST_F(Upgrade, CutOffUpgradeComesUpInUpgradeModeAndCanBeRescued)
-{
-    write(
-        {{reg::UpgradeCommand, Bootloader::Erase}, {reg::UpgradePipe, 1}, {reg::UpgradeCommand, Bootloader::Program}});
-    const Flash kept = drive.flash();
-    VirtualDrive again(*findProfile("keta"));
-    again.powerUp(kept);
-    EXPECT_EQ(again.address(), 255);
-    EXPECT_EQ(again.read(552), 0x120);
-    again.write(reg::UpgradeCommand, Bootloader::Erase);
-    EXPECT_EQ(again.read(552), 0);
-    again.write(reg::UpgradePipe, 7);
-    again.write(reg::UpgradeCommand, Bootloader::Program);
-    again.write(reg::UpgradeCommand, Bootloader::Verify);
-    again.powerUp(again.flash());
-    EXPECT_EQ(again.address(), 5);
-}
-
 TEST_F(Upgrade, FactoryEraseResetsTheSettings)
 {
     Flash flash = drive.flash();

@@ -1,6 +1,8 @@
 // When the window asks for news, and how it shows them.
 #include "windowfixture.h"
 
+#include "testfiles.h"
+
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
@@ -14,21 +16,24 @@ class News : public WindowFixture
 
 } // namespace
 
-TEST_F(News, AreNotAskedForBecauseAFileWasLoaded)
+TEST_F(News, AreAskedForOnceADriveWasReadAndNotBecauseAFileWasLoaded)
 {
-    openConnectedWindow();
+    openWindow();
+    QTest::qWait(50);
+    EXPECT_TRUE(m_updates.requests.isEmpty()) << "nothing is known of any drive yet";
+    connectToDrive();
     ASSERT_TRUE(waitFor([this] { return m_updates.requests.size() == 1; }));
-    QFile file(QDir::current().filePath("other.drc"));
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write("[Header]\nDRCVersion=110\n[TDT3Params]\n1\\name=KVP\n1\\scaling=1\n1\\value=432\n1\\max=32767\n"
-               "2\\name=UID\n2\\scaling=1\n2\\value=77\nsize=2\n");
-    file.close();
-    m_answers.chooseFile(file.fileName());
+    EXPECT_TRUE(m_updates.requests.first().startsWith("GET /velbrinmessage.php?vv=1.9.0&did=11000&snr=240117&"));
+    QTest::qWait(50);
+    EXPECT_EQ(shownMessage(m_window.get()), QString()) << "an empty notice is not worth a box";
+    const QString file = QDir::current().filePath("other.drc");
+    put(file, "[Header]\nDRCVersion=110\n[TDT3Params]\n1\\name=KVP\n1\\scaling=1\n1\\value=432\n1\\max=32767\n"
+              "2\\name=UID\n2\\scaling=1\n2\\value=77\nsize=2\n");
+    m_answers.chooseFile(file);
     click("load_settings_from_file");
     ASSERT_TRUE(waitFor([this] { return control<QSpinBox>("KVP")->value() == 432; }));
     m_answers.press("Continue without applying");
-    click("disconnect_button");
-    ASSERT_TRUE(waitFor([this] { return connectionText() == "Disconnected"; }));
+    disconnectFromDrive();
     connectToDrive();
     ASSERT_TRUE(waitFor([this] { return m_updates.requests.size() == 2; }));
     for (const QByteArray &request : m_updates.requests)

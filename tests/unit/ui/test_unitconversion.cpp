@@ -19,36 +19,28 @@ UnitConversion screwAxis()
 
 } // namespace
 
-TEST(UnitConversion, OneCountPerCycleOnATenMillimetreScrewIsSixAndAQuarterMillimetresASecond)
-{
-    EXPECT_EQ(screwAxis().velocityLabel(1), "= 6.25 mm/s");
-}
-
-TEST(UnitConversion, VelocityOfASetpointIsDividedTwiceAndMultipliedOnce)
+TEST(UnitConversion, CountsAndSetpointsBecomeUnitsOfTheAxis)
 {
     UnitConversion units = screwAxis();
+    EXPECT_EQ(units.velocityLabel(1), "= 6.25 mm/s");
     units.mul = 3;
     units.div = 4;
-    EXPECT_DOUBLE_EQ(units.velocity(64), 64 * 6.25 / 4);
+    EXPECT_DOUBLE_EQ(units.velocity(64), 64 * 6.25 / 4) << "a setpoint's is divided twice and multiplied once";
     EXPECT_DOUBLE_EQ(units.velocity(64, Scale::Setpoint), 64 * 6.25 / 4 * 3 / 4);
     EXPECT_DOUBLE_EQ(units.velocity(64, Scale::Raw), 64 * 6.25);
     EXPECT_DOUBLE_EQ(units.velocity(64, Scale::RawSetpoint), 64 * 6.25 * 3);
-}
-
-TEST(UnitConversion, PositionKnowsSetpointUnitsAndCounts)
-{
-    UnitConversion units = screwAxis();
-    units.mul = 3;
-    units.div = 4;
     EXPECT_EQ(units.positionLabel(4000), "= 7.5 mm");
     EXPECT_EQ(units.positionLabel(4000, Scale::Raw), "= 10 mm");
-}
-
-TEST(UnitConversion, AccelerationCountsInDividedCountsPerCycleSquared)
-{
-    UnitConversion units = screwAxis();
+    EXPECT_EQ(units.scalingText(), "Setpoint scaling factor:\n3/4=75%");
     units.div = 200;
     EXPECT_EQ(units.accelerationLabel(320), "= 25000 mm/s²"); // 320 * 2500 * 2500 / 200 / 400
+
+    // What is missing shows as such and not as a number.
+    units.div = 0;
+    EXPECT_EQ(units.velocityLabel(1), "= inf mm/s");
+    EXPECT_EQ(units.velocityLabel(0), "= nan mm/s");
+    units.fbr = 0;
+    EXPECT_EQ(units.positionLabel(-1), "= -inf mm");
 }
 
 TEST(UnitConversion, SuffixOfTheLabelChoosesTheConversion)
@@ -85,46 +77,23 @@ TEST(UnitConversion, SetpointIsShownAsWhatItCommandsInTheActiveMode)
     ActiveScale active;
     active.cvl = 1000;
     active.mmc = 20;
-    EXPECT_EQ(units.setpointLabel(8192, active), "= 10.24 mm"); // 8192 / 2 / 400
-    active.controlMode = 1;
-    EXPECT_EQ(units.setpointLabel(8192, active), "= 781.25 mm/s"); // 500 / 2 * 6.25 * 1 / 2
-    active.controlMode = 2;
-    EXPECT_EQ(units.setpointLabel(8192, active), "= 5 A"); // half of 20 A, halved again
-    active.controlMode = 3;
-    EXPECT_EQ(units.setpointLabel(8192, active), "no mode");
-    active.controlMode = -1;
-    EXPECT_EQ(units.setpointLabel(8192, active), "no mode");
-}
-
-TEST(UnitConversion, MissingDividerOrResolutionShowsAsSuchAndNotAsANumber)
-{
-    UnitConversion units = screwAxis();
-    units.div = 0;
-    EXPECT_EQ(units.velocityLabel(1), "= inf mm/s");
-    EXPECT_EQ(units.velocityLabel(0), "= nan mm/s");
-    units = screwAxis();
-    units.fbr = 0;
-    EXPECT_EQ(units.positionLabel(-1), "= -inf mm");
-}
-
-TEST(UnitConversion, ScalingFactorIsShownAsAFractionAndInPercent)
-{
-    UnitConversion units;
-    units.mul = 50;
-    units.div = 400;
-    EXPECT_EQ(units.scalingText(), "Setpoint scaling factor:\n50/400=12.5%");
+    const std::pair<int, const char *> modes[] = {{0, "= 10.24 mm"},    // 8192 / 2 / 400
+                                                  {1, "= 781.25 mm/s"}, // 500 / 2 * 6.25 * 1 / 2
+                                                  {2, "= 5 A"},         // half of 20 A, halved again
+                                                  {3, "no mode"},
+                                                  {-1, "no mode"}};
+    for (const auto &[mode, text] : modes) {
+        active.controlMode = mode;
+        EXPECT_EQ(units.setpointLabel(8192, active), text) << mode;
+    }
 }
 
 TEST(AxisUnits, NamesOfAllAxisTypesAndOfNone)
 {
-    const char *plurals[] = {"mm", "µm", "inches", "revolutions", "degrees"};
-    const char *singulars[] = {"mm", "µm", "inch", "revolution", "degree"};
-    for (int type = 0; type < 5; ++type) {
-        EXPECT_EQ(axisUnits(type).plural, plurals[type]);
-        EXPECT_EQ(axisUnits(type).singular, singulars[type]);
-    }
-    for (int type : {-1, 5}) {
-        EXPECT_EQ(axisUnits(type).plural, "error");
-        EXPECT_EQ(axisUnits(type).singular, "error");
+    const char *plurals[] = {"error", "mm", "µm", "inches", "revolutions", "degrees", "error"};
+    const char *singulars[] = {"error", "mm", "µm", "inch", "revolution", "degree", "error"};
+    for (int type = -1; type <= 5; ++type) {
+        EXPECT_EQ(axisUnits(type).plural, plurals[type + 1]);
+        EXPECT_EQ(axisUnits(type).singular, singulars[type + 1]);
     }
 }

@@ -1,6 +1,8 @@
 // Tries without leaving the Testing page, captures that are opened again, and charts that have the window.
 #include "testingfixture.h"
 
+#include "testfiles.h"
+
 #include "scopedesk.h"
 
 #include <QTableWidget>
@@ -132,25 +134,11 @@ TEST_F(Scope, ASavedPageShowsTheSamePictureAndFiguresWithoutADriveAndBadFilesCha
     EXPECT_EQ(tries()->rowCount(), 1);
     EXPECT_EQ(cell(0, "Note"), "belt <b>loose");
 
-    const struct { const char *name; QByteArray text; const char *says; } bad[] = {
-        {"empty.html", "", "is empty"},
-        {"foreign.html", "<html><script>alert(1)</script></html>", "holds no capture"},
-        {"cut.json", "{\"format\":\"velbrin-capture\",\"ver", "capture"},
-        {"newer.json", "{\"format\":\"velbrin-capture\",\"version\":99}", "newer"},
-        {"huge.csv", QByteArray(9 << 20, '1'), "too large"},
-    };
-    for (const auto &row : bad) {
-        SCOPED_TRACE(row.name);
-        QFile out(path(row.name));
-        ASSERT_TRUE(out.open(QIODevice::WriteOnly));
-        out.write(row.text);
-        out.close();
-        open(path(row.name));
-        ASSERT_TRUE(waitFor([this] { return !shownMessage(m_window.get()).isEmpty(); }));
-        EXPECT_TRUE(shownMessage(m_window.get()).contains(row.says)) << qPrintable(shownMessage(m_window.get()));
-        control<QDialog>("errorWindow")->close();
-        EXPECT_EQ(tries()->rowCount(), 1);
-    }
+    put(path("cut.json"), "{\"format\":\"velbrin-capture\",\"ver");
+    open(path("cut.json"));
+    ASSERT_TRUE(waitFor([this] { return shownMessage(m_window.get()).contains("capture"); }));
+    control<QDialog>("errorWindow")->close();
+    EXPECT_EQ(tries()->rowCount(), 1);
     EXPECT_EQ(samples("Position", 1), then);
 }
 

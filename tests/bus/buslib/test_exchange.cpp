@@ -71,14 +71,6 @@ TEST_F(Exchange, UploadsForTimedExecutionUnderItsOwnId)
     EXPECT_EQ(count, 0);
 }
 
-TEST_F(Exchange, AcceptsAReplyFromAnotherAddress)
-{
-    line.write({0x53, 0x33, 0x34, 0x12, 0x77, 0x86});
-    std::uint16_t clock = 0;
-    EXPECT_EQ(zbGetBufferClock(bus, 3, &clock), ZB_OK);
-    EXPECT_EQ(clock, 0x1234);
-}
-
 TEST_F(Exchange, CarriesAFullPayloadBothWays)
 {
     Bytes reply = {0x25, 120, 3};
@@ -95,15 +87,6 @@ TEST_F(Exchange, CarriesAFullPayloadBothWays)
         ASSERT_EQ(value, 256 + i);
     }
     EXPECT_EQ(zbGetQueuedZBCommandReturnValue(bus, nullptr), ZB_ERR_LENGTH);
-}
-
-TEST_F(Exchange, AfterAnOverflowPutsNothingOnTheLine)
-{
-    for (int i = 0; i < 12; ++i)
-        ASSERT_EQ(zbAppendGetParamCommandToQueue(bus, 100), ZB_OK);
-    ASSERT_EQ(zbAppendSetParamCommandToQueue(bus, 404, 1), ZB_ERR_LENGTH);
-    EXPECT_EQ(zbExecuteCommandQueue(bus, 3), ZB_OK);
-    EXPECT_TRUE(line.isQuiet());
 }
 
 TEST_F(Exchange, APacketThatDoesNotFitTheTransmitBufferIsDroppedWhole)

@@ -157,20 +157,3 @@ TEST_F(Port, TransmitBufferTakes128BytesAndLeavesInOneWrite)
         EXPECT_EQ(zbIsBDHandleOpen(bad), 0);
     }
 }
-
-TEST_F(Port, ALongNameIsCutForTheDebugLinesOnly)
-{
-    const std::string name = "COM" + std::string(80, 'x');
-    RawLine longLine(name);
-    char *text = nullptr;
-    std::size_t size = 0;
-    std::FILE *stream = open_memstream(&text, &size);
-    zbSetDebugOutput(3, stream);
-    const ZbHandle handle = zbOpenBus(name.c_str());
-    zbSetDebugOutput(4, nullptr);
-    std::fclose(stream);
-    EXPECT_EQ(handle, 0);
-    EXPECT_THAT(text, StartsWith(name.substr(0, 63) + ": "));
-    std::free(text);
-    zbCloseBus(handle);
-}

@@ -1,78 +1,18 @@
 // The forms against the parameter catalogue: what a slip in Designer would break without a compiler's word.
 #include "bitfields.h"
 #include "catalogue.h"
+#include "formreader.h"
 #include "pagetable.h"
 #include "printqt.h"
 #include "visibility.h"
 
-#include <QDir>
 #include <QDoubleSpinBox>
 #include <QFile>
 #include <QIcon>
-#include <QMap>
 #include <QSet>
-#include <QXmlStreamReader>
 #include <gtest/gtest.h>
 
 namespace {
-
-struct Widget
-{
-    QString kind;
-    QMap<QString, QString> properties; ///< as texts
-    int items = 0;
-};
-struct Form
-{
-    QMap<QString, Widget> widgets;
-    QStringList names; ///< of widgets and layouts, with repetitions
-    QStringList tabStops;
-};
-
-Form readForm(const QString &path)
-{
-    Form form;
-    QFile file(path);
-    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << qPrintable(path);
-    QXmlStreamReader xml(&file);
-    QStringList open; // enclosing widgets
-    QString property;
-    while (!xml.atEnd()) {
-        xml.readNext();
-        const QString name = xml.attributes().value("name").toString();
-        if (xml.isEndElement() && xml.name() == QLatin1String("widget"))
-            open.removeLast();
-        if (!xml.isStartElement())
-            continue;
-        if (xml.name() == QLatin1String("widget")) {
-            open.append(name);
-            form.names.append(name);
-            form.widgets[name].kind = xml.attributes().value("class").toString();
-        } else if (xml.name() == QLatin1String("layout")) {
-            form.names.append(name);
-        } else if (xml.name() == QLatin1String("item") &&
-                   form.widgets[open.last()].kind == QLatin1String("QComboBox")) {
-            ++form.widgets[open.last()].items;
-        } else if (xml.name() == QLatin1String("property")) {
-            property = name;
-        } else if (xml.name() == QLatin1String("tabstop")) {
-            form.tabStops.append(xml.readElementText());
-        } else if (!open.isEmpty() && !property.isEmpty()) {
-            const QString text = xml.readElementText(QXmlStreamReader::IncludeChildElements);
-            if (form.widgets[open.last()].items == 0)
-                form.widgets[open.last()].properties[property] = text;
-            property.clear();
-        }
-    }
-    EXPECT_FALSE(xml.hasError()) << qPrintable(path + ": " + xml.errorString());
-    return form;
-}
-
-const QDir &formsFolder()
-{
-    static const QDir folder(QStringLiteral(VELBRIN_SOURCE_DIR "/ui/forms"));
-    return folder;
-}
 
 /// The forms that end up in one window: the shell and the pages, and the dialog that holds parameters.
 const QMap<QString, Form> &windowForms()
@@ -83,7 +23,7 @@ const QMap<QString, Form> &windowForms()
         files << "mw.ui"
               << "overrideparams.ui";
         for (const QString &file : qAsConst(files))
-            all.insert(file, readForm(formsFolder().filePath(file)));
+            all.insert(file, readForm(file));
         return all;
     }();
     return forms;
@@ -129,7 +69,7 @@ TEST(Forms, EveryParameterThatCanBeEditedHasItsControl)
             const Widget *control = findWidget(QString::fromLatin1(part.name));
             ASSERT_TRUE(control) << part.name;
             EXPECT_EQ(control->kind, part.choices == 2 ? "QCheckBox" : "QComboBox") << part.name;
-            EXPECT_EQ(control->items, part.choices == 2 ? 0 : part.choices) << part.name;
+            EXPECT_EQ(control->choices.size(), part.choices == 2 ? 0 : part.choices) << part.name;
         }
         if (!bitField.isEmpty() || withoutControl.contains(p.name))
             continue;

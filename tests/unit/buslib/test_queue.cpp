@@ -88,14 +88,6 @@ TEST_F(Queue, TakesItemsUpToExactlyOneHundredTwentyBytes)
     EXPECT_EQ(getCumulativeStatus(handle), ZB_OK | ZB_ERR_LENGTH);
 }
 
-TEST_F(Queue, HoldsTwelveReadsAndNoThirteenth)
-{
-    for (int i = 0; i < 12; ++i)
-        ASSERT_EQ(zbAppendGetParamCommandToQueue(handle, 100), ZB_OK);
-    EXPECT_EQ(zbAppendGetParamCommandToQueue(handle, 100), ZB_ERR_LENGTH);
-    EXPECT_EQ(bus().queueWriteLength, 120);
-}
-
 TEST_F(Queue, RefusesAnUnknownItemKindAndAClosedHandle)
 {
     for (int kind : {-1, 3})

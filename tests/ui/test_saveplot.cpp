@@ -87,19 +87,6 @@ TEST_F(SavePlot, ClosingWaitsForThePicture)
     EXPECT_EQ(QImage(path("late.png")).width(), 1100);
 }
 
-TEST_F(SavePlot, NumbersHaveARowASample)
-{
-    save(path("graphs.csv"));
-    QFile file(path("graphs.csv"));
-    ASSERT_TRUE(waitFor([&] { return file.exists(); }));
-    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-    const QList<QByteArray> lines = file.readAll().split('\n');
-    EXPECT_EQ(lines.size(), 1 + 2000 / 3 + 1) << "a heading, the rows, and nothing behind the last line feed";
-    EXPECT_EQ(lines.first(), "Time;Torque setpoint [A];Velocity achieved;Position achieved");
-    EXPECT_EQ(lines.at(2).count(';'), 3);
-    EXPECT_TRUE(lines.last().isEmpty());
-}
-
 TEST_F(SavePlot, WhatCannotBeWrittenIsSaid)
 {
     ASSERT_TRUE(QFile::link("/dev/full", path("full.png")));

@@ -16,12 +16,7 @@ class Connecting : public WindowFixture
 
 class TwoFamilies : public WindowFixture
 {
-    sim::BusOptions busOptions() const override
-    {
-        sim::BusOptions options;
-        options.drives = {{"keta", 5}, {"torva", 7}};
-        return options;
-    }
+    sim::BusOptions busOptions() const override { return {{{"keta", 5}, {"torva", 7}}}; }
 };
 
 } // namespace
@@ -31,15 +26,7 @@ TEST_F(TwoFamilies, SearchListsBothDrivesAndOpensTheChosenOne)
     openWindow();
     goTo(1);
     QStringList rows;
-    m_answers.expect([&rows](QWidget *dialog) {
-        EXPECT_EQ(dialog->windowTitle(), "Connect device");
-        auto *nodes = dialog->findChild<QListWidget *>("nodeList");
-        for (int i = 0; i < nodes->count(); ++i)
-            rows << nodes->item(i)->text();
-        nodes->setCurrentRow(1);
-        dialog->findChild<QDialogButtonBox *>("buttonBox")->button(QDialogButtonBox::Open)->click();
-        return true;
-    });
+    m_answers.chooseNode(1, &rows);
     press(Qt::Key_O, Qt::AltModifier);
     EXPECT_EQ(button("connect_button")->text(), "Searching devices...");
     ASSERT_TRUE(waitFor([this] { return connectionText() == "Connected"; }));
@@ -87,9 +74,7 @@ TEST_F(Connecting, CancellingTheNodeListLeavesEverythingAsItWas)
         dialog->findChild<QDialogButtonBox *>("buttonBox")->button(QDialogButtonBox::Cancel)->click();
         return true;
     });
-    NodeType node;
-    node.address = DriveAddress;
-    node.deviceType = 11000;
+    const NodeType node{DriveAddress, false, 11000, false};
     button("connect_button")->setText("Searching devices...");
     QMetaObject::invokeMethod(m_window.get(), "availableBusNodesListReceived", Q_ARG(QList<NodeType>, {node}));
     EXPECT_EQ(button("connect_button")->text(), "Connect to drive");
@@ -131,13 +116,11 @@ TEST_F(TwoFamilies, NoRowOfTheNodeListIsChosenButASingleOrTheLastDrives)
     });
     QMetaObject::invokeMethod(m_window.get(), "availableBusNodesListReceived", Q_ARG(QList<NodeType>, both));
     ASSERT_TRUE(waitFor([this] { return label("HWMODEL")->text() == "Tarnwell Devices TORVA"; }));
-    click("disconnect_button");
-    ASSERT_TRUE(waitFor([this] { return connectionText() == "Disconnected"; }));
+    disconnectFromDrive();
     for (const QList<NodeType> &nodes : {QList<NodeType>{keta, torva, damaged}, QList<NodeType>{torva}}) {
         pressReturn(nodes, true);
         ASSERT_TRUE(waitFor([this] { return label("HWMODEL")->text() == "Tarnwell Devices TORVA"; }));
-        click("disconnect_button");
-        ASSERT_TRUE(waitFor([this] { return connectionText() == "Disconnected"; }));
+        disconnectFromDrive();
     }
 }
 
@@ -201,8 +184,7 @@ TEST_F(TwoFamilies, ModelDecidesWhatIsShownAndWhatCanBeEdited)
     EXPECT_TRUE(waitForPending(true));
 
     m_answers.press("Continue without applying");
-    click("disconnect_button");
-    ASSERT_TRUE(waitFor([this] { return connectionText() == "Disconnected"; }));
+    disconnectFromDrive();
     EXPECT_TRUE(label("FUVwarning")->isHidden());
     connectToDrive();
     EXPECT_TRUE(control<QSpinBox>("ZBO")->isEnabled());
@@ -228,44 +210,10 @@ TEST_F(Connecting, ValueWithoutAnItemIsShownAndWrittenBackAsItIs)
     EXPECT_EQ(bus().read(DriveAddress, FEEDBACK_DEVICE), 9);
 }
 
-TEST_F(Connecting, AsksForNewsOnceADriveWasReadAndObeysTheServer)
-{
-    openWindow();
-    QTest::qWait(50);
-    EXPECT_TRUE(m_updates.requests.isEmpty()); // nothing is known of any drive yet
-    connectToDrive();
-    ASSERT_TRUE(waitFor([this] { return m_updates.requests.size() == 1; }));
-    EXPECT_TRUE(m_updates.requests.first().startsWith("GET /velbrinmessage.php?vv=1.9.0&did=11000&snr=240117&"));
-    QTest::qWait(50);
-    EXPECT_EQ(shownMessage(m_window.get()), QString()); // an empty notice is not worth a box
-    click("disconnect_button");
-    ASSERT_TRUE(waitFor([this] { return connectionText() == "Disconnected"; }));
-
-    m_updates.answer("VELBRINREPLY<b>Update</b> requiredMUSTDISCONNECT");
-    connectToDrive();
-    ASSERT_TRUE(waitFor([this] { return connectionText() == "Disconnected"; }));
-    EXPECT_EQ(shownMessage(m_window.get()), "Update required");
-}
-
-TEST_F(Connecting, RestartingDisconnectsAndComesBackToTheSameDrive)
-{
-    openWindow();
-    connectToDrive();
-    bus().clearReceived();
-    click("restartDrive"); // comes back to the same drive without asking
-    EXPECT_EQ(connectionText(), "Restarting device");
-    EXPECT_FALSE(button("apply_button")->isEnabled());
-    EXPECT_EQ(button("connect_button")->text(), "Searching devices...");
-    EXPECT_TRUE(waitFor([this] { return connectionText() == "Connected"; }));
-}
-
 TEST_F(Connecting, ANewerListTakesTheOlderOnesPlace)
 {
     openWindow();
-    NodeType older, newer;
-    older.address = 3;
-    newer.address = DriveAddress;
-    newer.deviceType = older.deviceType = 11000;
+    const NodeType older{3, false, 11000, false}, newer{DriveAddress, false, 11000, false};
     m_answers.expect([&](QWidget *) { // while the older one is open
         return QMetaObject::invokeMethod(m_window.get(), "availableBusNodesListReceived", Qt::QueuedConnection,
                                          Q_ARG(QList<NodeType>, {newer}));

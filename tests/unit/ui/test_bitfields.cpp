@@ -15,40 +15,25 @@ int choice(const char *parameter, const char *control, int registerValue)
 
 } // namespace
 
-TEST(BitFields, CheckBoxesHaveOneBitEach)
+TEST(BitFields, EveryControlReadsItsBits)
 {
     const struct
     {
-        const char *control;
-        int bit;
-    } boxes[] = {{"CEN", 0x0001}, {"CED", 0x0004}, {"FBI", 0x0008}, {"AXI", 0x0010},
-                 {"CEP", 0x0020}, {"CIS", 0x0800}, {"BAP", 0x8000}};
-    for (const auto &box : boxes) {
-        EXPECT_EQ(choice("FLAGS", box.control, box.bit), 1) << box.control;
-        EXPECT_EQ(choice("FLAGS", box.control, 0xFFFF & ~box.bit), 0) << box.control;
+        const char *parameter, *control;
+        std::vector<int> bits; ///< of each choice but "off"
+        int none;              ///< bits that choose nothing
+    } rows[] = {{"FLAGS", "CEN", {0x0001}, 0xFFFE},          {"FLAGS", "CED", {0x0004}, 0xFFFB},
+                {"FLAGS", "FBI", {0x0008}, 0xFFF7},          {"FLAGS", "AXI", {0x0010}, 0xFFEF},
+                {"FLAGS", "CEP", {0x0020}, 0xFFDF},          {"FLAGS", "CIS", {0x0800}, 0xF7FF},
+                {"FLAGS", "BAP", {0x8000}, 0x7FFF},          {"HOMING", "HFO", {0x40}, 0xBF},
+                {"FLAGS", "FBH", {0x4000, 0x6000}, 0x2000}, // inversion alone switches nothing on
+                {"HOMING", "HME", {128, 160}, 32},           {"HOMING", "HMS", {8, 12}, 4},
+                {"HOMING", "HMI", {16, 18}, 2}};
+    for (const auto &row : rows) {
+        EXPECT_EQ(choice(row.parameter, row.control, row.none), 0) << row.control;
+        for (std::size_t i = 0; i < row.bits.size(); ++i)
+            EXPECT_EQ(choice(row.parameter, row.control, row.bits[i]), int(i) + 1) << row.control;
     }
-    EXPECT_EQ(choice("HOMING", "HFO", 0x40), 1);
-    EXPECT_EQ(choice("HOMING", "HFO", 0xBF), 0);
-}
-
-TEST(BitFields, HallSensorsNeedTheirFirstBit)
-{
-    EXPECT_EQ(choice("FLAGS", "FBH", 0x4000), 1);
-    EXPECT_EQ(choice("FLAGS", "FBH", 0x6000), 2);
-    EXPECT_EQ(choice("FLAGS", "FBH", 0x2000), 0); // inversion alone switches nothing on
-}
-
-TEST(BitFields, HomingChoices)
-{
-    EXPECT_EQ(choice("HOMING", "HME", 160), 2);
-    EXPECT_EQ(choice("HOMING", "HME", 128), 1);
-    EXPECT_EQ(choice("HOMING", "HME", 32), 0);
-    EXPECT_EQ(choice("HOMING", "HMS", 12), 2);
-    EXPECT_EQ(choice("HOMING", "HMS", 8), 1);
-    EXPECT_EQ(choice("HOMING", "HMS", 4), 0);
-    EXPECT_EQ(choice("HOMING", "HMI", 18), 2);
-    EXPECT_EQ(choice("HOMING", "HMI", 16), 1);
-    EXPECT_EQ(choice("HOMING", "HMI", 2), 0);
 }
 
 TEST(BitFields, EveryChoiceComesBackFromItsBitsWhateverElseIsSet)
