@@ -1,7 +1,7 @@
 /// \file
 /// Texts of this room that a user sees.
-#ifndef ANALYSISTEXT_H
-#define ANALYSISTEXT_H
+#ifndef VELBRIN_ANALYSIS_ANALYSISTEXT_H
+#define VELBRIN_ANALYSIS_ANALYSISTEXT_H
 
 #include <QCoreApplication>
 

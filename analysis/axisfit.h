@@ -1,7 +1,7 @@
 /// \file
 /// The regression behind the axis sheet. See axissheet.h for the model.
-#ifndef AXISFIT_H
-#define AXISFIT_H
+#ifndef VELBRIN_ANALYSIS_AXISFIT_H
+#define VELBRIN_ANALYSIS_AXISFIT_H
 
 #include "axissheet.h"
 

@@ -19,8 +19,8 @@
 /// may use what only a springy axis has, when a load that swings slowly explains the record better, and when the speed
 /// that the fitted model makes of the recorded current is not the measured one. How well the regression fits its own
 /// data is not asked. A resonance just above what the record shows can stay hidden: see the README of this room.
-#ifndef AXISSHEET_H
-#define AXISSHEET_H
+#ifndef VELBRIN_ANALYSIS_AXISSHEET_H
+#define VELBRIN_ANALYSIS_AXISSHEET_H
 
 #include "capture.h"
 

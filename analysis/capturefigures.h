@@ -1,7 +1,7 @@
 /// \file
 /// Everything that is told about a capture: what it shows, in JSON and as lines, is the same wherever it is shown.
-#ifndef CAPTUREFIGURES_H
-#define CAPTUREFIGURES_H
+#ifndef VELBRIN_ANALYSIS_CAPTUREFIGURES_H
+#define VELBRIN_ANALYSIS_CAPTUREFIGURES_H
 
 #include "figurelines.h"
 

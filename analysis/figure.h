@@ -1,7 +1,7 @@
 /// \file
 /// A figure that was worked out of a capture.
-#ifndef FIGURE_H
-#define FIGURE_H
+#ifndef VELBRIN_ANALYSIS_FIGURE_H
+#define VELBRIN_ANALYSIS_FIGURE_H
 
 #include <QString>
 

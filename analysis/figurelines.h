@@ -1,7 +1,7 @@
 /// \file
 /// Figures and axis sheet as lines to show: in a table beside the charts, on a terminal, in a report.
-#ifndef FIGURELINES_H
-#define FIGURELINES_H
+#ifndef VELBRIN_ANALYSIS_FIGURELINES_H
+#define VELBRIN_ANALYSIS_FIGURELINES_H
 
 #include "axissheet.h"
 #include "stepfigures.h"

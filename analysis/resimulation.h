@@ -1,7 +1,7 @@
 /// \file
 /// Whether a fitted axis model, driven by the recorded current, moves as the axis did.
-#ifndef RESIMULATION_H
-#define RESIMULATION_H
+#ifndef VELBRIN_ANALYSIS_RESIMULATION_H
+#define VELBRIN_ANALYSIS_RESIMULATION_H
 
 #include "axisfit.h"
 

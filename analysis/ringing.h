@@ -1,7 +1,7 @@
 /// \file
 /// The frequency at which the tail of a record swings.
-#ifndef RINGING_H
-#define RINGING_H
+#ifndef VELBRIN_ANALYSIS_RINGING_H
+#define VELBRIN_ANALYSIS_RINGING_H
 
 #include <optional>
 #include <vector>

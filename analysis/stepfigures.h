@@ -26,8 +26,8 @@
 ///     that is cut off in the middle is inside, too);
 ///   - ringing: fewer than four half waves larger than two steps of the encoder and a tenth of the tail's largest, or
 ///     no frequency that holds half of the tail's power, or fewer than three periods of it.
-#ifndef STEPFIGURES_H
-#define STEPFIGURES_H
+#ifndef VELBRIN_ANALYSIS_STEPFIGURES_H
+#define VELBRIN_ANALYSIS_STEPFIGURES_H
 
 #include "figure.h"
 #include "steprecord.h"

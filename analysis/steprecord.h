@@ -1,7 +1,7 @@
 /// \file
 /// The one move of a capture that step figures are worked out of.
-#ifndef STEPRECORD_H
-#define STEPRECORD_H
+#ifndef VELBRIN_ANALYSIS_STEPRECORD_H
+#define VELBRIN_ANALYSIS_STEPRECORD_H
 
 #include "capture.h"
 

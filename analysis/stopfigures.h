@@ -8,8 +8,8 @@
 ///   distance  |p - p(0)| there, counts; the farthest point, should it have been farther, is `farthest`
 /// There is no number when it does not stand for the last tenth of the record (it may still be moving), nor when it did
 /// not move at all.
-#ifndef STOPFIGURES_H
-#define STOPFIGURES_H
+#ifndef VELBRIN_ANALYSIS_STOPFIGURES_H
+#define VELBRIN_ANALYSIS_STOPFIGURES_H
 
 #include "stepfigures.h"
 

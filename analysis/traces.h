@@ -1,7 +1,7 @@
 /// \file
 /// A capture's channels as plain columns.
-#ifndef TRACES_H
-#define TRACES_H
+#ifndef VELBRIN_ANALYSIS_TRACES_H
+#define VELBRIN_ANALYSIS_TRACES_H
 
 #include "capture.h"
 

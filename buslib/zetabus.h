@@ -7,8 +7,8 @@
 ///
 /// **Threads**: none inside. The tables behind the handles are unguarded globals; make all calls from one thread at a
 /// time. **Errors**: nothing throws and nothing is retried; every call returns a ZbStatus.
-#ifndef ZETABUS_H
-#define ZETABUS_H
+#ifndef VELBRIN_BUSLIB_ZETABUS_H
+#define VELBRIN_BUSLIB_ZETABUS_H
 
 #include <cstdint>
 #include <cstdio>

@@ -1,8 +1,8 @@
 /// \file
 /// Where the plot page's scripts ("flot") and the offline help ("help") are. The window addresses both through the
 /// working directory, so it works in a folder that has them.
-#ifndef DATAFOLDER_H
-#define DATAFOLDER_H
+#ifndef VELBRIN_DESK_DATAFOLDER_H
+#define VELBRIN_DESK_DATAFOLDER_H
 
 #include <QString>
 

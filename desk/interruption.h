@@ -1,7 +1,7 @@
 /// \file
 /// Ctrl+C, and the other ways of being asked to stop, as a call on the main thread.
-#ifndef INTERRUPTION_H
-#define INTERRUPTION_H
+#ifndef VELBRIN_DESK_INTERRUPTION_H
+#define VELBRIN_DESK_INTERRUPTION_H
 
 #include "signalpipe.h"
 

@@ -2,8 +2,8 @@
 /// The language that the window speaks: English, which the sources are written in, or a translation that the build has
 /// put into the program (see translations/README.md). Numbers are not a matter of language: number fields follow the
 /// desktop's regional format, everything else has the decimal point.
-#ifndef LANGUAGE_H
-#define LANGUAGE_H
+#ifndef VELBRIN_DESK_LANGUAGE_H
+#define VELBRIN_DESK_LANGUAGE_H
 
 #include <QString>
 #include <QStringList>

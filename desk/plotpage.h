@@ -1,7 +1,7 @@
 /// \file
 /// The plot page as a file of its own, for any browser.
-#ifndef PLOTPAGE_H
-#define PLOTPAGE_H
+#ifndef VELBRIN_DESK_PLOTPAGE_H
+#define VELBRIN_DESK_PLOTPAGE_H
 
 #include <QString>
 

@@ -1,8 +1,8 @@
 /// \file
 /// SIGTERM, SIGINT, SIGHUP and SIGQUIT end the program as a closed window would: the drive is left properly, links are
 /// removed.
-#ifndef QUITSIGNALS_H
-#define QUITSIGNALS_H
+#ifndef VELBRIN_DESK_QUITSIGNALS_H
+#define VELBRIN_DESK_QUITSIGNALS_H
 
 #include "signalpipe.h"
 

@@ -1,7 +1,7 @@
 /// \file
 /// From a signal handler, or a thread without an event loop, into the event loop.
-#ifndef SIGNALPIPE_H
-#define SIGNALPIPE_H
+#ifndef VELBRIN_DESK_SIGNALPIPE_H
+#define VELBRIN_DESK_SIGNALPIPE_H
 
 #include <functional>
 #include <memory>

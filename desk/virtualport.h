@@ -1,7 +1,7 @@
 /// \file
 /// The built-in virtual drives, behind a port name that the bus accepts.
-#ifndef VIRTUALPORT_H
-#define VIRTUALPORT_H
+#ifndef VELBRIN_DESK_VIRTUALPORT_H
+#define VELBRIN_DESK_VIRTUALPORT_H
 
 #include "workfolder.h"
 

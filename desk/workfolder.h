@@ -1,7 +1,7 @@
 /// \file
 /// A private temporary folder, and the ones that killed programs have left behind.
-#ifndef WORKFOLDER_H
-#define WORKFOLDER_H
+#ifndef VELBRIN_DESK_WORKFOLDER_H
+#define VELBRIN_DESK_WORKFOLDER_H
 
 #include <QTemporaryDir>
 

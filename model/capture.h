@@ -1,7 +1,7 @@
 /// \file
 /// A capture as one value: what was recorded, of which drive, with which settings, and when.
-#ifndef CAPTURE_H
-#define CAPTURE_H
+#ifndef VELBRIN_MODEL_CAPTURE_H
+#define VELBRIN_MODEL_CAPTURE_H
 
 #include "capturedata.h"
 #include "parameters.h"

@@ -1,7 +1,7 @@
 /// \file
 /// One scope channel with its samples.
-#ifndef CAPTUREDATA_H
-#define CAPTUREDATA_H
+#ifndef VELBRIN_MODEL_CAPTUREDATA_H
+#define VELBRIN_MODEL_CAPTUREDATA_H
 
 #include <QList>
 #include <QMetaType>

@@ -1,7 +1,7 @@
 /// \file
 /// Opening a saved capture, whatever kind of file it is in.
-#ifndef CAPTUREFILE_H
-#define CAPTUREFILE_H
+#ifndef VELBRIN_MODEL_CAPTUREFILE_H
+#define VELBRIN_MODEL_CAPTUREFILE_H
 
 #include "capture.h"
 

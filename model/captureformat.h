@@ -1,7 +1,7 @@
 /// \file
 /// Names of the block's members that come in rows: shared by its writer and its reader, nobody else's business.
-#ifndef CAPTUREFORMAT_H
-#define CAPTUREFORMAT_H
+#ifndef VELBRIN_MODEL_CAPTUREFORMAT_H
+#define VELBRIN_MODEL_CAPTUREFORMAT_H
 
 #include "capture.h"
 

@@ -1,7 +1,7 @@
 /// \file
 /// A capture as one block of JSON. The members are described in docs/capture-format.md.
-#ifndef CAPTUREJSON_H
-#define CAPTUREJSON_H
+#ifndef VELBRIN_MODEL_CAPTUREJSON_H
+#define VELBRIN_MODEL_CAPTUREJSON_H
 
 #include "capture.h"
 

@@ -1,7 +1,7 @@
 /// \file
 /// The capture inside the plot page: one HTML file that shows the charts and can be opened again.
-#ifndef CAPTUREPAGE_H
-#define CAPTUREPAGE_H
+#ifndef VELBRIN_MODEL_CAPTUREPAGE_H
+#define VELBRIN_MODEL_CAPTUREPAGE_H
 
 #include "capturejson.h"
 

@@ -1,7 +1,7 @@
 /// \file
 /// Turns a finished capture into a page with one zoomable chart per channel group, and into a CSV file.
-#ifndef CAPTUREPLOTTER_H
-#define CAPTUREPLOTTER_H
+#ifndef VELBRIN_MODEL_CAPTUREPLOTTER_H
+#define VELBRIN_MODEL_CAPTUREPLOTTER_H
 
 #include "capturedata.h"
 

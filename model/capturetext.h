@@ -1,7 +1,7 @@
 /// \file
 /// Captures as columns of text: the semicolon-separated file of the plotter, and one for spreadsheets.
-#ifndef CAPTURETEXT_H
-#define CAPTURETEXT_H
+#ifndef VELBRIN_MODEL_CAPTURETEXT_H
+#define VELBRIN_MODEL_CAPTURETEXT_H
 
 #include "capture.h"
 

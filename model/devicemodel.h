@@ -1,8 +1,8 @@
 /// \file
 /// Drive models by type id: names, families, capabilities. Pure functions, so that the session, the settings file and
 /// the window can all ask.
-#ifndef DEVICEMODEL_H
-#define DEVICEMODEL_H
+#ifndef VELBRIN_MODEL_DEVICEMODEL_H
+#define VELBRIN_MODEL_DEVICEMODEL_H
 
 #include <QString>
 

@@ -1,7 +1,7 @@
 /// \file
 /// The settings while somebody works on them: as the drive holds them, as they are shown, as they are edited.
-#ifndef EDITEDSETTINGS_H
-#define EDITEDSETTINGS_H
+#ifndef VELBRIN_MODEL_EDITEDSETTINGS_H
+#define VELBRIN_MODEL_EDITEDSETTINGS_H
 
 #include "parameters.h"
 

@@ -3,8 +3,8 @@
 ///
 /// Little-endian: "TDFW", version (16 bit, 300), device type (16 bit), I/O image length and TC image length (32 bit
 /// each, bytes), I/O image, TC image (16-bit words both), checksum (32 bit: the sum of all bytes before it).
-#ifndef FIRMWAREFILE_H
-#define FIRMWAREFILE_H
+#ifndef VELBRIN_MODEL_FIRMWAREFILE_H
+#define VELBRIN_MODEL_FIRMWAREFILE_H
 
 #include <QList>
 #include <QObject>

@@ -3,8 +3,8 @@
 ///
 /// QSettings itself is not used for files that a user picks: it leaves lock files beside them, keeps what it has read,
 /// takes a missing file for an empty one, waits for ever on a pipe, and rebuilds any object that a file asks for.
-#ifndef INITEXT_H
-#define INITEXT_H
+#ifndef VELBRIN_MODEL_INITEXT_H
+#define VELBRIN_MODEL_INITEXT_H
 
 #include <QByteArray>
 #include <QHash>

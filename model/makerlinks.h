@@ -1,7 +1,7 @@
 /// \file
 /// Where the maker's servers are. The one place that knows; everything else asks.
-#ifndef MAKERLINKS_H
-#define MAKERLINKS_H
+#ifndef VELBRIN_MODEL_MAKERLINKS_H
+#define VELBRIN_MODEL_MAKERLINKS_H
 
 #include <QString>
 

@@ -1,7 +1,7 @@
 /// \file
 /// How the value of a setting is written in a sentence.
-#ifndef NUMBERTEXT_H
-#define NUMBERTEXT_H
+#ifndef VELBRIN_MODEL_NUMBERTEXT_H
+#define VELBRIN_MODEL_NUMBERTEXT_H
 
 #include <QString>
 

@@ -1,7 +1,7 @@
 /// \file
 /// A file that is opened before the work that fills it begins, and that is there as a whole or not at all.
-#ifndef OUTPUTFILE_H
-#define OUTPUTFILE_H
+#ifndef VELBRIN_MODEL_OUTPUTFILE_H
+#define VELBRIN_MODEL_OUTPUTFILE_H
 
 #include <QFileDevice>
 #include <QString>

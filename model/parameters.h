@@ -1,7 +1,7 @@
 /// \file
 /// The ordered list of drive parameters, and the settings file (*.drc) that stores it.
-#ifndef PARAMETERS_H
-#define PARAMETERS_H
+#ifndef VELBRIN_MODEL_PARAMETERS_H
+#define VELBRIN_MODEL_PARAMETERS_H
 
 #include "singleparam.h"
 

@@ -1,8 +1,8 @@
 /// \file
 /// What the rooms with Qt's core are compiled with, compiled once: headers that do not change. A source still names what
 /// it uses.
-#ifndef MODEL_PRECOMPILED_H
-#define MODEL_PRECOMPILED_H
+#ifndef VELBRIN_MODEL_PRECOMPILED_H
+#define VELBRIN_MODEL_PRECOMPILED_H
 
 #include <QCoreApplication>
 #include <QDebug>

@@ -1,7 +1,7 @@
 /// \file
 /// One drive setting: its identity on the bus, its scaling and its value in display units.
-#ifndef SINGLEPARAM_H
-#define SINGLEPARAM_H
+#ifndef VELBRIN_MODEL_SINGLEPARAM_H
+#define VELBRIN_MODEL_SINGLEPARAM_H
 
 #include <QMetaType>
 #include <QString>

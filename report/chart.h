@@ -1,7 +1,7 @@
 /// \file
 /// A capture as a picture that needs no script.
-#ifndef CHART_H
-#define CHART_H
+#ifndef VELBRIN_REPORT_CHART_H
+#define VELBRIN_REPORT_CHART_H
 
 #include "capture.h"
 

@@ -1,7 +1,7 @@
 /// \file
 /// A checksum of the settings in a report, from the numbers that the reader sees.
-#ifndef CHECKSUM_H
-#define CHECKSUM_H
+#ifndef VELBRIN_REPORT_CHECKSUM_H
+#define VELBRIN_REPORT_CHECKSUM_H
 
 #include <QByteArray>
 #include <QList>

@@ -1,7 +1,7 @@
 /// \file
 /// Pieces of HTML that the pages of this room are made of. Texts go in as text and are escaped here.
-#ifndef HTML_H
-#define HTML_H
+#ifndef VELBRIN_REPORT_HTML_H
+#define VELBRIN_REPORT_HTML_H
 
 #include "capture.h"
 

@@ -1,7 +1,7 @@
 /// \file
 /// The commissioning report: one self-contained HTML page that can be read without scripts and printed.
-#ifndef REPORT_H
-#define REPORT_H
+#ifndef VELBRIN_REPORT_REPORT_H
+#define VELBRIN_REPORT_REPORT_H
 
 #include "capture.h"
 #include "stopfigures.h"

@@ -1,7 +1,7 @@
 /// \file
 /// A capture as a page to keep: the charts, what a reader wants to know of them in words, and the capture itself.
-#ifndef SAVEDPAGE_H
-#define SAVEDPAGE_H
+#ifndef VELBRIN_REPORT_SAVEDPAGE_H
+#define VELBRIN_REPORT_SAVEDPAGE_H
 
 #include "capturefigures.h"
 

@@ -1,7 +1,7 @@
 /// \file
 /// What a report says of a setting beside its value: what it is called, its unit, and what a new drive has.
-#ifndef SETTINGFACTS_H
-#define SETTINGFACTS_H
+#ifndef VELBRIN_REPORT_SETTINGFACTS_H
+#define VELBRIN_REPORT_SETTINGFACTS_H
 
 #include "parameters.h"
 

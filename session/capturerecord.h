@@ -1,7 +1,7 @@
 /// \file
 /// A capture's samples together with everything that the session knows about how they came to be.
-#ifndef CAPTURERECORD_H
-#define CAPTURERECORD_H
+#ifndef VELBRIN_SESSION_CAPTURERECORD_H
+#define VELBRIN_SESSION_CAPTURERECORD_H
 
 #include "capture.h"
 #include "connection.h"

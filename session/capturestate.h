@@ -1,7 +1,7 @@
 /// \file
 /// Where a capture stands.
-#ifndef CAPTURESTATE_H
-#define CAPTURESTATE_H
+#ifndef VELBRIN_SESSION_CAPTURESTATE_H
+#define VELBRIN_SESSION_CAPTURESTATE_H
 
 #include <QMetaType>
 

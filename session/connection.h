@@ -1,7 +1,7 @@
 /// \file
 /// The drive session: a worker thread that owns the bus, runs queued tasks and reports through signals.
-#ifndef CONNECTION_H
-#define CONNECTION_H
+#ifndef VELBRIN_SESSION_CONNECTION_H
+#define VELBRIN_SESSION_CONNECTION_H
 
 #include "capturedata.h"
 #include "capturestate.h"

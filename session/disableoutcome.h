@@ -1,7 +1,7 @@
 /// \file
 /// How a disable ended.
-#ifndef DISABLEOUTCOME_H
-#define DISABLEOUTCOME_H
+#ifndef VELBRIN_SESSION_DISABLEOUTCOME_H
+#define VELBRIN_SESSION_DISABLEOUTCOME_H
 
 #include <QMetaType>
 

@@ -1,7 +1,7 @@
 /// \file
 /// What the session has to say to the user, with the kind of event that it arose from.
-#ifndef MESSAGE_H
-#define MESSAGE_H
+#ifndef VELBRIN_SESSION_MESSAGE_H
+#define VELBRIN_SESSION_MESSAGE_H
 
 #include <QMetaType>
 #include <QString>

@@ -1,7 +1,7 @@
 /// \file
 /// What a bus scan finds.
-#ifndef NODETYPE_H
-#define NODETYPE_H
+#ifndef VELBRIN_SESSION_NODETYPE_H
+#define VELBRIN_SESSION_NODETYPE_H
 
 #include <QList>
 #include <QMetaType>

@@ -1,7 +1,7 @@
 /// \file
 /// What the threads of a session share: the requests of the setters, and what is known about the drive.
-#ifndef SESSIONDATA_H
-#define SESSIONDATA_H
+#ifndef VELBRIN_SESSION_SESSIONDATA_H
+#define VELBRIN_SESSION_SESSIONDATA_H
 
 #include "drivestate.h"
 #include "squarewave.h"

@@ -1,8 +1,8 @@
 /// \file
 /// What the operations of a session have to tell. Connection passes all of it on under the same names, which its header
 /// explains; a test listens here.
-#ifndef SESSIONEVENTS_H
-#define SESSIONEVENTS_H
+#ifndef VELBRIN_SESSION_SESSIONEVENTS_H
+#define VELBRIN_SESSION_SESSIONEVENTS_H
 
 #include "capturedata.h"
 #include "capturestate.h"

@@ -1,8 +1,8 @@
 /// \file
 /// The worker's side of a session: takes the queued tasks and hands each to its operation. Lives on Connection's
 /// thread.
-#ifndef SESSIONWORKER_H
-#define SESSIONWORKER_H
+#ifndef VELBRIN_SESSION_SESSIONWORKER_H
+#define VELBRIN_SESSION_SESSIONWORKER_H
 
 #include "operations/bussearch.h"
 #include "operations/capturerun.h"

@@ -1,7 +1,7 @@
 /// \file
 /// What may be written to a drive, and what became of a write: plain functions over parameter lists.
-#ifndef SETTINGSCHECKS_H
-#define SETTINGSCHECKS_H
+#ifndef VELBRIN_SESSION_SETTINGSCHECKS_H
+#define VELBRIN_SESSION_SETTINGSCHECKS_H
 
 #include "editedsettings.h"
 

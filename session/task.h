@@ -1,7 +1,7 @@
 /// \file
 /// The tasks of a session, and what each of them takes along.
-#ifndef TASK_H
-#define TASK_H
+#ifndef VELBRIN_SESSION_TASK_H
+#define VELBRIN_SESSION_TASK_H
 
 #include "capturedata.h"
 #include "parameters.h"

@@ -1,7 +1,7 @@
 /// \file
 /// The tasks that wait for the session's worker, in the order in which they will run.
-#ifndef TASKQUEUE_H
-#define TASKQUEUE_H
+#ifndef VELBRIN_SESSION_TASKQUEUE_H
+#define VELBRIN_SESSION_TASKQUEUE_H
 
 #include "task.h"
 

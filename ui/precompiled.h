@@ -1,7 +1,7 @@
 /// \file
 /// What the window is compiled with, compiled once: the toolkit's headers. A source still names what it uses.
-#ifndef UI_PRECOMPILED_H
-#define UI_PRECOMPILED_H
+#ifndef VELBRIN_UI_PRECOMPILED_H
+#define VELBRIN_UI_PRECOMPILED_H
 
 #include <QtWidgets>
 

@@ -1,7 +1,7 @@
 /// \file
 /// Where a capture goes to, and what is told about it.
-#ifndef CAPTUREFILES_H
-#define CAPTUREFILES_H
+#ifndef VELBRIN_CLI_CAPTUREFILES_H
+#define VELBRIN_CLI_CAPTUREFILES_H
 
 #include "capture.h"
 #include "outputfile.h"

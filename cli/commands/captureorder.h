@@ -1,7 +1,7 @@
 /// \file
 /// What "capture" was asked for: a plain value, taken from the command line and checked without a drive.
-#ifndef CAPTUREORDER_H
-#define CAPTUREORDER_H
+#ifndef VELBRIN_CLI_CAPTUREORDER_H
+#define VELBRIN_CLI_CAPTUREORDER_H
 
 #include "capturefiles.h"
 #include "drivemotion.h"

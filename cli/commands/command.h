@@ -1,7 +1,7 @@
 /// \file
 /// What a command of velbrin-cli is made of.
-#ifndef COMMAND_H
-#define COMMAND_H
+#ifndef VELBRIN_CLI_COMMAND_H
+#define VELBRIN_CLI_COMMAND_H
 
 #include "outcome.h"
 

@@ -1,8 +1,8 @@
 /// \file
 /// The groups of commands. Each stands in a file of its own (settingscommands.cpp, ...), functions and rows together.
 /// To add a command: a function and a row there. To add a group: its list here and in commands.cpp.
-#ifndef COMMANDGROUPS_H
-#define COMMANDGROUPS_H
+#ifndef VELBRIN_CLI_COMMANDGROUPS_H
+#define VELBRIN_CLI_COMMANDGROUPS_H
 
 #include "command.h"
 

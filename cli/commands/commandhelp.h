@@ -1,7 +1,7 @@
 /// \file
 /// The texts of --help: of the program, and of each command.
-#ifndef COMMANDHELP_H
-#define COMMANDHELP_H
+#ifndef VELBRIN_CLI_COMMANDHELP_H
+#define VELBRIN_CLI_COMMANDHELP_H
 
 #include "command.h"
 

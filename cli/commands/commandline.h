@@ -1,7 +1,7 @@
 /// \file
 /// The command line of velbrin-cli, taken apart and checked before anything is opened.
-#ifndef COMMANDLINE_H
-#define COMMANDLINE_H
+#ifndef VELBRIN_CLI_COMMANDLINE_H
+#define VELBRIN_CLI_COMMANDLINE_H
 
 #include <QHash>
 #include <QString>

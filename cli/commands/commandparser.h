@@ -1,7 +1,7 @@
 /// \file
 /// Taking the command line apart.
-#ifndef COMMANDPARSER_H
-#define COMMANDPARSER_H
+#ifndef VELBRIN_CLI_COMMANDPARSER_H
+#define VELBRIN_CLI_COMMANDPARSER_H
 
 #include "commandline.h"
 

@@ -1,7 +1,7 @@
 /// \file
 /// All commands of velbrin-cli, in the order of its help.
-#ifndef COMMANDS_H
-#define COMMANDS_H
+#ifndef VELBRIN_CLI_COMMANDS_H
+#define VELBRIN_CLI_COMMANDS_H
 
 #include "command.h"
 

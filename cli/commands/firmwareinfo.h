@@ -1,7 +1,7 @@
 /// \file
 /// What a firmware file holds, whatever drive it is for.
-#ifndef FIRMWAREINFO_H
-#define FIRMWAREINFO_H
+#ifndef VELBRIN_CLI_FIRMWAREINFO_H
+#define VELBRIN_CLI_FIRMWAREINFO_H
 
 #include "results.h"
 

@@ -1,7 +1,7 @@
 /// \file
 /// A terminal that shows a report which is redrawn in place.
-#ifndef LIVESCREEN_H
-#define LIVESCREEN_H
+#ifndef VELBRIN_CLI_LIVESCREEN_H
+#define VELBRIN_CLI_LIVESCREEN_H
 
 #include "statusreport.h"
 

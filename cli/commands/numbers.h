@@ -1,7 +1,7 @@
 /// \file
 /// Numbers on the command line: decimal, with a point whatever the locale.
-#ifndef NUMBERS_H
-#define NUMBERS_H
+#ifndef VELBRIN_CLI_NUMBERS_H
+#define VELBRIN_CLI_NUMBERS_H
 
 #include <QString>
 

@@ -1,7 +1,7 @@
 /// \file
 /// What "status" shows: the connection, the drive's identity, and its registers in words.
-#ifndef STATUSREPORT_H
-#define STATUSREPORT_H
+#ifndef VELBRIN_CLI_STATUSREPORT_H
+#define VELBRIN_CLI_STATUSREPORT_H
 
 #include "drivestate.h"
 #include "results.h"

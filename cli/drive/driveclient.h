@@ -1,7 +1,7 @@
 /// \file
 /// A conversation with one drive, one step after the other: the session's questions and signals as calls that wait.
-#ifndef DRIVECLIENT_H
-#define DRIVECLIENT_H
+#ifndef VELBRIN_CLI_DRIVECLIENT_H
+#define VELBRIN_CLI_DRIVECLIENT_H
 
 #include "connection.h"
 #include "interruption.h"

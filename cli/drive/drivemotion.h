@@ -1,7 +1,7 @@
 /// \file
 /// Steps that move a drive, and those that stop it.
-#ifndef DRIVEMOTION_H
-#define DRIVEMOTION_H
+#ifndef VELBRIN_CLI_DRIVEMOTION_H
+#define VELBRIN_CLI_DRIVEMOTION_H
 
 #include "drivesteps.h"
 

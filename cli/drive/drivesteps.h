@@ -1,7 +1,7 @@
 /// \file
 /// What several commands do with a drive: find it, read it, load a file over what was read, apply.
-#ifndef DRIVESTEPS_H
-#define DRIVESTEPS_H
+#ifndef VELBRIN_CLI_DRIVESTEPS_H
+#define VELBRIN_CLI_DRIVESTEPS_H
 
 #include "editedsettings.h"
 #include "outcome.h"

@@ -1,7 +1,7 @@
 /// \file
 /// Words for what a drive's state says, as messages and scripts need them.
-#ifndef DRIVEWORDS_H
-#define DRIVEWORDS_H
+#ifndef VELBRIN_CLI_DRIVEWORDS_H
+#define VELBRIN_CLI_DRIVEWORDS_H
 
 #include "drivestate.h"
 

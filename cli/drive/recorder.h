@@ -1,7 +1,7 @@
 /// \file
 /// The drive's recorder, step by step: arm it, wait until it is full, fetch what it holds. Nothing here moves an axis.
-#ifndef RECORDER_H
-#define RECORDER_H
+#ifndef VELBRIN_CLI_RECORDER_H
+#define VELBRIN_CLI_RECORDER_H
 
 #include "capturedata.h"
 

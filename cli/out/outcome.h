@@ -1,7 +1,7 @@
 /// \file
 /// What a command came to.
-#ifndef OUTCOME_H
-#define OUTCOME_H
+#ifndef VELBRIN_CLI_OUTCOME_H
+#define VELBRIN_CLI_OUTCOME_H
 
 #include "results.h"
 

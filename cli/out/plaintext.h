@@ -1,7 +1,7 @@
 /// \file
 /// The session's texts are small HTML fragments; a terminal shows plain text.
-#ifndef PLAINTEXT_H
-#define PLAINTEXT_H
+#ifndef VELBRIN_CLI_PLAINTEXT_H
+#define VELBRIN_CLI_PLAINTEXT_H
 
 #include <QString>
 

@@ -1,7 +1,7 @@
 /// \file
 /// One line on the terminal that says what is going on, for work that takes longer than a moment.
-#ifndef PROGRESS_H
-#define PROGRESS_H
+#ifndef VELBRIN_CLI_PROGRESS_H
+#define VELBRIN_CLI_PROGRESS_H
 
 #include <QElapsedTimer>
 #include <QString>

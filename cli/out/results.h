@@ -1,7 +1,7 @@
 /// \file
 /// What a command found, and its two forms on standard output: tab-separated lines, or one JSON document.
-#ifndef RESULTS_H
-#define RESULTS_H
+#ifndef VELBRIN_CLI_RESULTS_H
+#define VELBRIN_CLI_RESULTS_H
 
 #include "numbertext.h"
 

@@ -1,7 +1,7 @@
 /// \file
 /// A small line chart as SVG, legible in a pane 300 pixels wide.
-#ifndef HELPPLOTS_CHART_H
-#define HELPPLOTS_CHART_H
+#ifndef VELBRIN_DOCS_CHART_H
+#define VELBRIN_DOCS_CHART_H
 
 #include <string>
 #include <vector>

@@ -1,7 +1,7 @@
 /// \file
 /// One run of the virtual motor with some settings changed, cycle by cycle.
-#ifndef HELPPLOTS_TRIAL_H
-#define HELPPLOTS_TRIAL_H
+#ifndef VELBRIN_DOCS_TRIAL_H
+#define VELBRIN_DOCS_TRIAL_H
 
 #include "axisstate.h"
 

@@ -1,7 +1,7 @@
 /// \file
 /// The session's end of the bus: one open bus handle, the address it talks to, and what went wrong on it.
-#ifndef BUSLINE_H
-#define BUSLINE_H
+#ifndef VELBRIN_SESSION_BUSLINE_H
+#define VELBRIN_SESSION_BUSLINE_H
 
 #include "drivestate.h"
 #include "queueitem.h"

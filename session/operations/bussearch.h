@@ -1,7 +1,7 @@
 /// \file
 /// Finding the drives on a bus.
-#ifndef BUSSEARCH_H
-#define BUSSEARCH_H
+#ifndef VELBRIN_SESSION_BUSSEARCH_H
+#define VELBRIN_SESSION_BUSSEARCH_H
 
 #include "nodetype.h"
 #include "operation.h"

@@ -1,7 +1,7 @@
 /// \file
 /// The drive's recorder: arming it and reading what it caught.
-#ifndef CAPTURERUN_H
-#define CAPTURERUN_H
+#ifndef VELBRIN_SESSION_CAPTURERUN_H
+#define VELBRIN_SESSION_CAPTURERUN_H
 
 #include "operation.h"
 

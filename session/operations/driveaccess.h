@@ -1,7 +1,7 @@
 /// \file
 /// Registers of the connected drive: reading and writing them, and asking again where that does no harm.
-#ifndef DRIVEACCESS_H
-#define DRIVEACCESS_H
+#ifndef VELBRIN_SESSION_DRIVEACCESS_H
+#define VELBRIN_SESSION_DRIVEACCESS_H
 
 #include "busline.h"
 #include "pauses.h"

@@ -1,7 +1,7 @@
 /// \file
 /// Commands to the drive that are a write or two, and the pauses that some of them need.
-#ifndef DRIVECOMMANDS_H
-#define DRIVECOMMANDS_H
+#ifndef VELBRIN_SESSION_DRIVECOMMANDS_H
+#define VELBRIN_SESSION_DRIVECOMMANDS_H
 
 #include "operation.h"
 

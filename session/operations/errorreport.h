@@ -1,7 +1,7 @@
 /// \file
 /// What went wrong: the drive's error bits, and the one text that ends a connection.
-#ifndef ERRORREPORT_H
-#define ERRORREPORT_H
+#ifndef VELBRIN_SESSION_ERRORREPORT_H
+#define VELBRIN_SESSION_ERRORREPORT_H
 
 #include "driveaccess.h"
 #include "message.h"

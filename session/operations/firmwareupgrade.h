@@ -1,8 +1,8 @@
 /// \file
 /// Firmware upgrade of a drive that runs its bootloader. No disable is served in here: a bootloader has no enable
 /// register, and nothing turns.
-#ifndef FIRMWAREUPGRADE_H
-#define FIRMWAREUPGRADE_H
+#ifndef VELBRIN_SESSION_FIRMWAREUPGRADE_H
+#define VELBRIN_SESSION_FIRMWAREUPGRADE_H
 
 #include "operation.h"
 

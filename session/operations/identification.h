@@ -1,7 +1,7 @@
 /// \file
 /// Finding out what answers.
-#ifndef IDENTIFICATION_H
-#define IDENTIFICATION_H
+#ifndef VELBRIN_SESSION_IDENTIFICATION_H
+#define VELBRIN_SESSION_IDENTIFICATION_H
 
 #include "operation.h"
 #include "versioncheck.h"

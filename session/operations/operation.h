@@ -1,8 +1,8 @@
 /// \file
 /// What the operations of a session work with. Each operation is a class of its own with a small state; this is what
 /// they have in common. Worker thread; a test makes one without a thread.
-#ifndef OPERATION_H
-#define OPERATION_H
+#ifndef VELBRIN_SESSION_OPERATION_H
+#define VELBRIN_SESSION_OPERATION_H
 
 #include "busline.h"
 #include "driveaccess.h"

@@ -1,7 +1,7 @@
 /// \file
 /// The session's list of parameters: reading it from the drive, writing it.
-#ifndef PARAMETERTRANSFER_H
-#define PARAMETERTRANSFER_H
+#ifndef VELBRIN_SESSION_PARAMETERTRANSFER_H
+#define VELBRIN_SESSION_PARAMETERTRANSFER_H
 
 #include "operation.h"
 

@@ -1,7 +1,7 @@
 /// \file
 /// Waiting, in which a stop always gets through.
-#ifndef PAUSES_H
-#define PAUSES_H
+#ifndef VELBRIN_SESSION_PAUSES_H
+#define VELBRIN_SESSION_PAUSES_H
 
 #include "sessiondata.h"
 #include "taskqueue.h"

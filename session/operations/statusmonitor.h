@@ -1,7 +1,7 @@
 /// \file
 /// The periodic poll: three panels, and what follows from the values.
-#ifndef STATUSMONITOR_H
-#define STATUSMONITOR_H
+#ifndef VELBRIN_SESSION_STATUSMONITOR_H
+#define VELBRIN_SESSION_STATUSMONITOR_H
 
 #include "operation.h"
 

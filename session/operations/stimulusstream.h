@@ -1,7 +1,7 @@
 /// \file
 /// Keeping the drive's command buffer filled with setpoints of the test stimulus.
-#ifndef STIMULUSSTREAM_H
-#define STIMULUSSTREAM_H
+#ifndef VELBRIN_SESSION_STIMULUSSTREAM_H
+#define VELBRIN_SESSION_STIMULUSSTREAM_H
 
 #include "operation.h"
 

@@ -1,7 +1,7 @@
 /// \file
 /// What stops a drive, and how sure it is that it did: also without a connection, and where enabling went wrong.
-#ifndef STOPSERVICE_H
-#define STOPSERVICE_H
+#ifndef VELBRIN_SESSION_STOPSERVICE_H
+#define VELBRIN_SESSION_STOPSERVICE_H
 
 #include "operation.h"
 

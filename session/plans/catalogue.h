@@ -1,7 +1,7 @@
 /// \file
 /// The catalogue of drive settings: the one list of the parameters that the program knows.
-#ifndef CATALOGUE_H
-#define CATALOGUE_H
+#ifndef VELBRIN_SESSION_CATALOGUE_H
+#define VELBRIN_SESSION_CATALOGUE_H
 
 #include "parameters.h"
 

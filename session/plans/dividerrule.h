@@ -1,7 +1,7 @@
 /// \file
 /// The rule for the divider setting DIV. Pure functions, any thread.
-#ifndef DIVIDERRULE_H
-#define DIVIDERRULE_H
+#ifndef VELBRIN_SESSION_DIVIDERRULE_H
+#define VELBRIN_SESSION_DIVIDERRULE_H
 
 class Parameters;
 

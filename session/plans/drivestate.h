@@ -1,8 +1,8 @@
 /// \file
 /// What the status poll knows about the drive, and the plan of the poll: which registers it reads, in which items, and
 /// where each return value goes.
-#ifndef DRIVESTATE_H
-#define DRIVESTATE_H
+#ifndef VELBRIN_SESSION_DRIVESTATE_H
+#define VELBRIN_SESSION_DRIVESTATE_H
 
 #include "queueitem.h"
 

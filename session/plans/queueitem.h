@@ -1,7 +1,7 @@
 /// \file
 /// One item of a request to the drive, as plain data: what the plans of the poll, the scope and the stream are made of.
-#ifndef QUEUEITEM_H
-#define QUEUEITEM_H
+#ifndef VELBRIN_SESSION_QUEUEITEM_H
+#define VELBRIN_SESSION_QUEUEITEM_H
 
 /// Kinds have the numbers that the bus library's queue takes. Every item yields exactly one return value.
 struct QueueItem

@@ -1,7 +1,7 @@
 /// \file
 /// The drive's recorder: its channels, its rates, and how its words become samples. Pure functions, any thread.
-#ifndef SCOPECHANNELS_H
-#define SCOPECHANNELS_H
+#ifndef VELBRIN_SESSION_SCOPECHANNELS_H
+#define VELBRIN_SESSION_SCOPECHANNELS_H
 
 #include "capturedata.h"
 #include "queueitem.h"

@@ -1,8 +1,8 @@
 /// \file
 /// Names for the drive registers that the session itself uses, and for the codes written to them. The registers behind
 /// the drive's settings stand in the parameter catalogue (catalogue.h).
-#ifndef SESSIONREGISTERS_H
-#define SESSIONREGISTERS_H
+#ifndef VELBRIN_SESSION_SESSIONREGISTERS_H
+#define VELBRIN_SESSION_SESSIONREGISTERS_H
 
 namespace reg {
 

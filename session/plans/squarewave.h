@@ -1,7 +1,7 @@
 /// \file
 /// The test stimulus: a square wave between two setpoints. No lock of its own: the session's mutex guards it.
-#ifndef SQUAREWAVE_H
-#define SQUAREWAVE_H
+#ifndef VELBRIN_SESSION_SQUAREWAVE_H
+#define VELBRIN_SESSION_SQUAREWAVE_H
 
 class SquareWave
 {

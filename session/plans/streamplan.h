@@ -1,7 +1,7 @@
 /// \file
 /// The stimulus stream: how much is sent to the drive's command buffer, and what. Pure functions, any thread.
-#ifndef STREAMPLAN_H
-#define STREAMPLAN_H
+#ifndef VELBRIN_SESSION_STREAMPLAN_H
+#define VELBRIN_SESSION_STREAMPLAN_H
 
 #include "queueitem.h"
 

@@ -1,7 +1,7 @@
 /// \file
 /// Whether this program may work with a drive: identity numbers in, verdict out. Pure functions, any thread.
-#ifndef VERSIONCHECK_H
-#define VERSIONCHECK_H
+#ifndef VELBRIN_SESSION_VERSIONCHECK_H
+#define VELBRIN_SESSION_VERSIONCHECK_H
 
 #include <QString>
 

@@ -1,7 +1,7 @@
 /// \file
 /// The wording of bus and drive errors. Pure functions without side effects, any thread.
-#ifndef ERRORTEXTS_H
-#define ERRORTEXTS_H
+#ifndef VELBRIN_SESSION_ERRORTEXTS_H
+#define VELBRIN_SESSION_ERRORTEXTS_H
 
 #include "disableoutcome.h"
 #include "singleparam.h"

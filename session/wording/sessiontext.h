@@ -1,7 +1,7 @@
 /// \file
 /// Translation of the session's texts: SessionText::tr("...") has the context "Connection", also in plain functions.
-#ifndef SESSIONTEXT_H
-#define SESSIONTEXT_H
+#ifndef VELBRIN_SESSION_SESSIONTEXT_H
+#define VELBRIN_SESSION_SESSIONTEXT_H
 
 #include <QCoreApplication>
 

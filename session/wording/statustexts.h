@@ -4,8 +4,8 @@
 /// A flag that keeps the drive from running is marked "!" while the drive does not run. Each function sets
 /// `inactivityReason` when it has placed a mark and never clears it: clear it before a refresh, then word the inputs,
 /// the status and the faults in this order, since the fault panel ends with the legend for the marks of all three.
-#ifndef STATUSTEXTS_H
-#define STATUSTEXTS_H
+#ifndef VELBRIN_SESSION_STATUSTEXTS_H
+#define VELBRIN_SESSION_STATUSTEXTS_H
 
 #include "drivestate.h"
 

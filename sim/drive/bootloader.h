@@ -1,7 +1,7 @@
 /// \file
 /// Firmware-upgrade mode: the flash that is erased, filled word by word, verified and protected.
-#ifndef SIM_BOOTLOADER_H
-#define SIM_BOOTLOADER_H
+#ifndef VELBRIN_SIM_BOOTLOADER_H
+#define VELBRIN_SIM_BOOTLOADER_H
 
 #include <cstdint>
 #include <vector>

@@ -1,7 +1,7 @@
 /// \file
 /// The buffer from which timed commands are executed at the drive's own pace.
-#ifndef SIM_COMMANDBUFFER_H
-#define SIM_COMMANDBUFFER_H
+#ifndef VELBRIN_SIM_COMMANDBUFFER_H
+#define VELBRIN_SIM_COMMANDBUFFER_H
 
 #include "itemcodec.h"
 

@@ -1,7 +1,7 @@
 /// \file
 /// Which drives stand on a bus, and how they are written on a command line: the same everywhere.
-#ifndef SIM_DRIVEOPTIONS_H
-#define SIM_DRIVEOPTIONS_H
+#ifndef VELBRIN_SIM_DRIVEOPTIONS_H
+#define VELBRIN_SIM_DRIVEOPTIONS_H
 
 #include "machine.h"
 

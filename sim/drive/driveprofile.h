@@ -1,7 +1,7 @@
 /// \file
 /// The models that the virtual drive can be: identity, hardware and the registers that hold settings.
-#ifndef SIM_DRIVEPROFILE_H
-#define SIM_DRIVEPROFILE_H
+#ifndef VELBRIN_SIM_DRIVEPROFILE_H
+#define VELBRIN_SIM_DRIVEPROFILE_H
 
 #include <cstdint>
 #include <string>

@@ -1,7 +1,7 @@
 /// \file
 /// Registers that show what the drive is doing: read-only on the line, and held at a value from outside if wanted.
-#ifndef SIM_LIVEREGISTERS_H
-#define SIM_LIVEREGISTERS_H
+#ifndef VELBRIN_SIM_LIVEREGISTERS_H
+#define VELBRIN_SIM_LIVEREGISTERS_H
 
 #include "virtualdrive.h"
 

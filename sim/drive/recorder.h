@@ -1,7 +1,7 @@
 /// \file
 /// The drive's recorder ("scope"): samples up to sixteen signals into 2000 words after a trigger.
-#ifndef SIM_RECORDER_H
-#define SIM_RECORDER_H
+#ifndef VELBRIN_SIM_RECORDER_H
+#define VELBRIN_SIM_RECORDER_H
 
 #include "servoaxis.h"
 

@@ -1,7 +1,7 @@
 /// \file
 /// The registers that hold plain values: identity and settings, with their limits.
-#ifndef SIM_REGISTERFILE_H
-#define SIM_REGISTERFILE_H
+#ifndef VELBRIN_SIM_REGISTERFILE_H
+#define VELBRIN_SIM_REGISTERFILE_H
 
 #include "driveprofile.h"
 

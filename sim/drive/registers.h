@@ -1,8 +1,8 @@
 /// \file
 /// Register numbers that the virtual drive's own code refers to. Settings that only rest in the table have no name
 /// here.
-#ifndef SIM_REGISTERS_H
-#define SIM_REGISTERS_H
+#ifndef VELBRIN_SIM_REGISTERS_H
+#define VELBRIN_SIM_REGISTERS_H
 
 namespace sim::reg {
 

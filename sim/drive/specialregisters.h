@@ -1,7 +1,7 @@
 /// \file
 /// Registers that do something when they are read or written: one table, one row a register.
-#ifndef SIM_SPECIALREGISTERS_H
-#define SIM_SPECIALREGISTERS_H
+#ifndef VELBRIN_SIM_SPECIALREGISTERS_H
+#define VELBRIN_SIM_SPECIALREGISTERS_H
 
 #include "virtualdrive.h"
 

@@ -3,8 +3,8 @@
 ///
 /// Plain text, one "drive PROFILE ADDRESS" section a drive with its settings as "REGISTER=VALUE" lines and, while an
 /// upgrade is unfinished, "firmware=cut-off".
-#ifndef SIM_STATEFILE_H
-#define SIM_STATEFILE_H
+#ifndef VELBRIN_SIM_STATEFILE_H
+#define VELBRIN_SIM_STATEFILE_H
 
 #include "virtualdrive.h"
 

@@ -3,8 +3,8 @@
 ///
 /// No port, no thread and no clock of its own: packets and time come from the caller (VirtualBus for a live drive, a
 /// test for an exact one). Not thread-safe; whoever shares it between threads holds a lock around every call.
-#ifndef SIM_VIRTUALDRIVE_H
-#define SIM_VIRTUALDRIVE_H
+#ifndef VELBRIN_SIM_VIRTUALDRIVE_H
+#define VELBRIN_SIM_VIRTUALDRIVE_H
 
 #include "bootloader.h"
 #include "commandbuffer.h"

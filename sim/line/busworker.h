@@ -1,8 +1,8 @@
 /// \file
 /// The thread behind VirtualBus: serves the port, lets the drives' time follow the wall clock, sends replies when they
 /// are due.
-#ifndef SIM_BUSWORKER_H
-#define SIM_BUSWORKER_H
+#ifndef VELBRIN_SIM_BUSWORKER_H
+#define VELBRIN_SIM_BUSWORKER_H
 
 #include "portlink.h"
 #include "pseudoterminal.h"

@@ -3,8 +3,8 @@
 ///
 /// Deliberately not shared with the master's bus library: a mistake on one side of the line must not be repeated on
 /// the other. Only the checksum routine is common to both.
-#ifndef SIM_DRIVEPACKET_H
-#define SIM_DRIVEPACKET_H
+#ifndef VELBRIN_SIM_DRIVEPACKET_H
+#define VELBRIN_SIM_DRIVEPACKET_H
 
 #include <cstdint>
 #include <optional>

@@ -1,8 +1,8 @@
 /// \file
 /// Items of a request and the return values of a reply. The top two bits of the first byte give the length; values are
 /// big-endian, two's complement in their field.
-#ifndef SIM_ITEMCODEC_H
-#define SIM_ITEMCODEC_H
+#ifndef VELBRIN_SIM_ITEMCODEC_H
+#define VELBRIN_SIM_ITEMCODEC_H
 
 #include "drivepacket.h"
 

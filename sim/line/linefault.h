@@ -1,7 +1,7 @@
 /// \file
 /// What can go wrong between a drive and the PC, and the tools to make it happen.
-#ifndef SIM_LINEFAULT_H
-#define SIM_LINEFAULT_H
+#ifndef VELBRIN_SIM_LINEFAULT_H
+#define VELBRIN_SIM_LINEFAULT_H
 
 #include "drivepacket.h"
 

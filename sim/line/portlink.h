@@ -1,7 +1,7 @@
 /// \file
 /// A symbolic link to the bus's port, under a name that a program is willing to open.
-#ifndef SIM_PORTLINK_H
-#define SIM_PORTLINK_H
+#ifndef VELBRIN_SIM_PORTLINK_H
+#define VELBRIN_SIM_PORTLINK_H
 
 #include <string>
 

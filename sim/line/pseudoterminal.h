@@ -1,7 +1,7 @@
 /// \file
 /// The port that the virtual bus offers: a pseudo terminal whose far end the PC's program opens.
-#ifndef SIM_PSEUDOTERMINAL_H
-#define SIM_PSEUDOTERMINAL_H
+#ifndef VELBRIN_SIM_PSEUDOTERMINAL_H
+#define VELBRIN_SIM_PSEUDOTERMINAL_H
 
 #include "drivepacket.h"
 

@@ -1,7 +1,7 @@
 /// \file
 /// Replies on their way: each leaves when it is due, whatever was asked for meanwhile.
-#ifndef SIM_REPLYQUEUE_H
-#define SIM_REPLYQUEUE_H
+#ifndef VELBRIN_SIM_REPLYQUEUE_H
+#define VELBRIN_SIM_REPLYQUEUE_H
 
 #include "drivepacket.h"
 

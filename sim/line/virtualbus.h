@@ -4,8 +4,8 @@
 /// start() opens a pseudo terminal and serves it on a thread of its own until stop(). Everything public may be called
 /// from any thread; calls that look into a drive or at the line wait for at most one packet's work. Nothing throws:
 /// what can fail returns an error text, empty on success.
-#ifndef SIM_VIRTUALBUS_H
-#define SIM_VIRTUALBUS_H
+#ifndef VELBRIN_SIM_VIRTUALBUS_H
+#define VELBRIN_SIM_VIRTUALBUS_H
 
 #include "driveoptions.h"
 #include "linefault.h"

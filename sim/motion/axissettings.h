@@ -1,7 +1,7 @@
 /// \file
 /// The axis' settings in the units in which the loops calculate: counts, control cycles, amperes (peak of sine).
-#ifndef SIM_AXISSETTINGS_H
-#define SIM_AXISSETTINGS_H
+#ifndef VELBRIN_SIM_AXISSETTINGS_H
+#define VELBRIN_SIM_AXISSETTINGS_H
 
 #include <cstdint>
 

@@ -1,7 +1,7 @@
 /// \file
 /// What goes into an axis and what can be seen of it: inputs, signals, and the bits of the status and fault registers.
-#ifndef SIM_AXISSTATE_H
-#define SIM_AXISSTATE_H
+#ifndef VELBRIN_SIM_AXISSTATE_H
+#define VELBRIN_SIM_AXISSTATE_H
 
 #include <cstdint>
 

@@ -1,7 +1,7 @@
 /// \file
 /// The cascade: position P with feed-forward, velocity PI with feed-forward, and their limits. One call a cycle.
-#ifndef SIM_CONTROLLOOP_H
-#define SIM_CONTROLLOOP_H
+#ifndef VELBRIN_SIM_CONTROLLOOP_H
+#define VELBRIN_SIM_CONTROLLOOP_H
 
 #include "axissettings.h"
 

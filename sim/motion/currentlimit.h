@@ -1,7 +1,7 @@
 /// \file
 /// How much current the motor may have now, and why not more.
-#ifndef SIM_CURRENTLIMIT_H
-#define SIM_CURRENTLIMIT_H
+#ifndef VELBRIN_SIM_CURRENTLIMIT_H
+#define VELBRIN_SIM_CURRENTLIMIT_H
 
 #include "axissettings.h"
 

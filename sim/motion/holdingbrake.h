@@ -1,8 +1,8 @@
 /// \file
 /// The holding brake's timing: it opens a while after the motor is powered and closes before the power goes. With all
 /// delays at 0 there is no brake.
-#ifndef SIM_HOLDINGBRAKE_H
-#define SIM_HOLDINGBRAKE_H
+#ifndef VELBRIN_SIM_HOLDINGBRAKE_H
+#define VELBRIN_SIM_HOLDINGBRAKE_H
 
 #include "axissettings.h"
 

@@ -4,8 +4,8 @@
 /// The simulated machine always has something to find: while homing runs, a switch closes at the next even revolution
 /// in the direction of the search and a stop pin stands one revolution behind it. Both are gone afterwards, so that
 /// the axis turns freely.
-#ifndef SIM_HOMING_H
-#define SIM_HOMING_H
+#ifndef VELBRIN_SIM_HOMING_H
+#define VELBRIN_SIM_HOMING_H
 
 #include "axissettings.h"
 #include "motormodel.h"

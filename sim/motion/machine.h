@@ -3,8 +3,8 @@
 ///
 /// Torques in Nm at the shaft, angles in counts (10000 a revolution). The whole inertia stays the same when a part of
 /// it hangs on a spring, so that gains mean the same on every axis.
-#ifndef SIM_MACHINE_H
-#define SIM_MACHINE_H
+#ifndef VELBRIN_SIM_MACHINE_H
+#define VELBRIN_SIM_MACHINE_H
 
 #include <string>
 

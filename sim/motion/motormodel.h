@@ -3,8 +3,8 @@
 ///
 /// A 400 W, 3000 rpm, 8 pole AC servo motor. Angles and speeds are in counts (10000 a revolution) and counts per
 /// control cycle, as the drive sees them.
-#ifndef SIM_MOTORMODEL_H
-#define SIM_MOTORMODEL_H
+#ifndef VELBRIN_SIM_MOTORMODEL_H
+#define VELBRIN_SIM_MOTORMODEL_H
 
 #include "driveprofile.h"
 #include "machine.h"

@@ -1,7 +1,7 @@
 /// \file
 /// Noise that is the same each time: its own generator and shape, so that it does not depend on the standard library.
-#ifndef SIM_NOISE_H
-#define SIM_NOISE_H
+#ifndef VELBRIN_SIM_NOISE_H
+#define VELBRIN_SIM_NOISE_H
 
 #include <cstdint>
 

@@ -3,8 +3,8 @@
 ///
 /// Time is the caller's: tick() is one base period of the recorder, and every few of them make a control cycle of
 /// 0.4 ms. Positions are counts (a quarter of an encoder line), velocities counts per control cycle.
-#ifndef SIM_SERVOAXIS_H
-#define SIM_SERVOAXIS_H
+#ifndef VELBRIN_SIM_SERVOAXIS_H
+#define VELBRIN_SIM_SERVOAXIS_H
 
 #include "axissettings.h"
 #include "axisstate.h"

@@ -4,8 +4,8 @@
 /// Two masses J1 (motor) and J2 = ratio J1 swing against each other at w = sqrt(k (1/J1 + 1/J2)); with the motor held,
 /// the load alone swings at w / sqrt(1 + ratio). Integrated semi-implicitly (first the speeds, then the angles with the
 /// new speeds), which keeps an undamped swing from growing, in steps short against it.
-#ifndef SIM_SWINGINGLOAD_H
-#define SIM_SWINGINGLOAD_H
+#ifndef VELBRIN_SIM_SWINGINGLOAD_H
+#define VELBRIN_SIM_SWINGINGLOAD_H
 
 #include "machine.h"
 

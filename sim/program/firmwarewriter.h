@@ -1,7 +1,7 @@
 /// \file
 /// Makes firmware files, so that an upgrade can be tried without the maker's.
-#ifndef SIM_FIRMWAREWRITER_H
-#define SIM_FIRMWAREWRITER_H
+#ifndef VELBRIN_SIM_FIRMWAREWRITER_H
+#define VELBRIN_SIM_FIRMWAREWRITER_H
 
 #include "drivepacket.h"
 #include "driveprofile.h"

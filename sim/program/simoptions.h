@@ -1,7 +1,7 @@
 /// \file
 /// The command line of velbrin-sim.
-#ifndef SIM_SIMOPTIONS_H
-#define SIM_SIMOPTIONS_H
+#ifndef VELBRIN_SIM_SIMOPTIONS_H
+#define VELBRIN_SIM_SIMOPTIONS_H
 
 #include "virtualbus.h"
 

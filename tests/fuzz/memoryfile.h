@@ -1,7 +1,7 @@
 /// \file
 /// What the fuzzing targets share: a file that is only in memory, and a check that ends the run.
-#ifndef MEMORYFILE_H
-#define MEMORYFILE_H
+#ifndef VELBRIN_TESTS_MEMORYFILE_H
+#define VELBRIN_TESTS_MEMORYFILE_H
 
 #include <QByteArray>
 #include <QString>

@@ -1,7 +1,7 @@
 /// \file
 /// The "flot" folder of the plot page, as a build puts it together.
-#ifndef FLOTFOLDER_H
-#define FLOTFOLDER_H
+#ifndef VELBRIN_TESTS_FLOTFOLDER_H
+#define VELBRIN_TESTS_FLOTFOLDER_H
 
 #include <QDir>
 #include <QFile>

@@ -1,7 +1,7 @@
 /// \file
 /// A .ui file as Designer writes it, taken apart for tests.
-#ifndef FORMREADER_H
-#define FORMREADER_H
+#ifndef VELBRIN_TESTS_FORMREADER_H
+#define VELBRIN_TESTS_FORMREADER_H
 
 #include <QDir>
 #include <QFile>

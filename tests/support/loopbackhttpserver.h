@@ -1,7 +1,7 @@
 /// \file
 /// A small HTTP server on the loopback address that gives whatever answer a test wants, broken ones too.
-#ifndef LOOPBACKHTTPSERVER_H
-#define LOOPBACKHTTPSERVER_H
+#ifndef VELBRIN_TESTS_LOOPBACKHTTPSERVER_H
+#define VELBRIN_TESTS_LOOPBACKHTTPSERVER_H
 
 #include <QTcpServer>
 #include <QTcpSocket>

@@ -1,7 +1,7 @@
 /// \file
 /// Looks into the page of a HelpView, whose engine answers through the event loop.
-#ifndef PAGESCRIPT_H
-#define PAGESCRIPT_H
+#ifndef VELBRIN_TESTS_PAGESCRIPT_H
+#define VELBRIN_TESTS_PAGESCRIPT_H
 
 #include "helpview.h"
 #include "waitfor.h"

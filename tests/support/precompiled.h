@@ -1,8 +1,8 @@
 /// \file
 /// What every test program is compiled with, compiled once: the test framework, the standard library and Qt's core.
 /// A source still names what it uses.
-#ifndef PRECOMPILED_H
-#define PRECOMPILED_H
+#ifndef VELBRIN_TESTS_PRECOMPILED_H
+#define VELBRIN_TESTS_PRECOMPILED_H
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -1,7 +1,7 @@
 /// \file
 /// Beside what every test program is compiled with: the widgets that tests of the window look at.
-#ifndef PRECOMPILEDWIDGETS_H
-#define PRECOMPILEDWIDGETS_H
+#ifndef VELBRIN_TESTS_PRECOMPILEDWIDGETS_H
+#define VELBRIN_TESTS_PRECOMPILEDWIDGETS_H
 
 #include "precompiled.h"
 

@@ -1,7 +1,7 @@
 /// \file
 /// Makes GoogleTest print Qt's strings as text instead of bytes.
-#ifndef PRINTQT_H
-#define PRINTQT_H
+#ifndef VELBRIN_TESTS_PRINTQT_H
+#define VELBRIN_TESTS_PRINTQT_H
 
 #include <QString>
 #include <ostream>

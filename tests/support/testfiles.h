@@ -1,7 +1,7 @@
 /// \file
 /// Small files that tests put somewhere and look into, and a disk that is full.
-#ifndef TESTFILES_H
-#define TESTFILES_H
+#ifndef VELBRIN_TESTS_TESTFILES_H
+#define VELBRIN_TESTS_TESTFILES_H
 
 #include <QFile>
 #include <csignal>

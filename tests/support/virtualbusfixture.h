@@ -9,8 +9,8 @@
 ///     };
 ///
 /// Header only, so that every test executable can use it. The working folder belongs to the process: one at a time.
-#ifndef VIRTUALBUSFIXTURE_H
-#define VIRTUALBUSFIXTURE_H
+#ifndef VELBRIN_TESTS_VIRTUALBUSFIXTURE_H
+#define VELBRIN_TESTS_VIRTUALBUSFIXTURE_H
 
 #include "virtualbus.h"
 

@@ -1,7 +1,7 @@
 /// \file
 /// Waiting for a condition while the event loop really runs.
-#ifndef WAITFOR_H
-#define WAITFOR_H
+#ifndef VELBRIN_TESTS_WAITFOR_H
+#define VELBRIN_TESTS_WAITFOR_H
 
 #include <QElapsedTimer>
 #include <QEventLoop>

@@ -1,7 +1,7 @@
 /// \file
 /// The Testing page of the real window: captures that are armed, awaited and looked at in the page's own charts.
-#ifndef TESTINGFIXTURE_H
-#define TESTINGFIXTURE_H
+#ifndef VELBRIN_TESTS_TESTINGFIXTURE_H
+#define VELBRIN_TESTS_TESTINGFIXTURE_H
 
 #include "windowfixture.h" // before Qt, whose keywords it uses as names
 

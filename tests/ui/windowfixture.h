@@ -1,7 +1,7 @@
 /// \file
 /// The real window with a virtual drive to connect to, a wiki on the loopback address, and somebody who answers boxes.
-#ifndef WINDOWFIXTURE_H
-#define WINDOWFIXTURE_H
+#ifndef VELBRIN_TESTS_WINDOWFIXTURE_H
+#define VELBRIN_TESTS_WINDOWFIXTURE_H
 
 #include "itemcodec.h"
 #include "virtualbusfixture.h" // before Qt, whose keywords it uses as names

@@ -1,7 +1,7 @@
 /// \file
 /// A page of the window that is made from one form.
-#ifndef FORMPAGE_H
-#define FORMPAGE_H
+#ifndef VELBRIN_UI_FORMPAGE_H
+#define VELBRIN_UI_FORMPAGE_H
 
 #include <QWidget>
 

@@ -1,8 +1,8 @@
 /// \file
 /// The pages of the window, in the order of the page list and of the stack `pages`: the one place that names them. Page
 /// list, stack, help, tour and tests follow from it.
-#ifndef PAGETABLE_H
-#define PAGETABLE_H
+#ifndef VELBRIN_UI_PAGETABLE_H
+#define VELBRIN_UI_PAGETABLE_H
 
 #include <vector>
 

@@ -1,7 +1,7 @@
 /// \file
 /// What the web engine needs before it can start, and whether it can.
-#ifndef ENGINESTART_H
-#define ENGINESTART_H
+#ifndef VELBRIN_UI_ENGINESTART_H
+#define VELBRIN_UI_ENGINESTART_H
 
 #include <QString>
 

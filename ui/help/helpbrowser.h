@@ -1,7 +1,7 @@
 /// \file
 /// What the pane beside the pages shows: help from the network, its offline copy, or the plot of a capture.
-#ifndef HELPBROWSER_H
-#define HELPBROWSER_H
+#ifndef VELBRIN_UI_HELPBROWSER_H
+#define VELBRIN_UI_HELPBROWSER_H
 
 #include "helpview.h"
 

@@ -1,7 +1,7 @@
 /// \file
 /// The web engine of the pane and what belongs to it.
-#ifndef HELPENGINE_H
-#define HELPENGINE_H
+#ifndef VELBRIN_UI_HELPENGINE_H
+#define VELBRIN_UI_HELPENGINE_H
 
 #include "helppage.h"
 #include "plotpicture.h"

@@ -1,7 +1,7 @@
 /// \file
 /// A page in the pane, with as few rights as help and plots can do with.
-#ifndef HELPPAGE_H
-#define HELPPAGE_H
+#ifndef VELBRIN_UI_HELPPAGE_H
+#define VELBRIN_UI_HELPPAGE_H
 
 #include <QWebEnginePage>
 

@@ -1,7 +1,7 @@
 /// \file
 /// The pane beside the pages: help, or the plot of a capture. No header that others include knows the web engine.
-#ifndef HELPVIEW_H
-#define HELPVIEW_H
+#ifndef VELBRIN_UI_HELPVIEW_H
+#define VELBRIN_UI_HELPVIEW_H
 
 #include <QJsonObject>
 #include <QUrl>

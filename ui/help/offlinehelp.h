@@ -1,8 +1,8 @@
 /// \file
 /// The offline help pages on disk: English ones in "help", those of another language in a folder of its name below,
 /// under the same file names and with the same anchors. A page that a language lacks is shown in English.
-#ifndef OFFLINEHELP_H
-#define OFFLINEHELP_H
+#ifndef VELBRIN_UI_OFFLINEHELP_H
+#define VELBRIN_UI_OFFLINEHELP_H
 
 #include <QHash>
 #include <QString>

@@ -1,7 +1,7 @@
 /// \file
 /// The picture of a plot page, drawn by a view that is not on the screen.
-#ifndef PLOTPICTURE_H
-#define PLOTPICTURE_H
+#ifndef VELBRIN_UI_PLOTPICTURE_H
+#define VELBRIN_UI_PLOTPICTURE_H
 
 #include "helppage.h"
 

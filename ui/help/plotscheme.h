@@ -3,8 +3,8 @@
 ///
 /// Plot pages have a scheme of their own, "velbrin-plot:": a text of several megabytes, which setHtml() would refuse, and
 /// next to it the scripts of the "flot" folder under the addresses that the page gives them.
-#ifndef PLOTSCHEME_H
-#define PLOTSCHEME_H
+#ifndef VELBRIN_UI_PLOTSCHEME_H
+#define VELBRIN_UI_PLOTSCHEME_H
 
 #include <QUrl>
 #include <QWebEngineUrlRequestInterceptor>

@@ -1,7 +1,7 @@
 /// \file
 /// What the program puts into a plot page: scripts, and values that no text in them turns into markup or script.
-#ifndef PLOTTEXTS_H
-#define PLOTTEXTS_H
+#ifndef VELBRIN_UI_PLOTTEXTS_H
+#define VELBRIN_UI_PLOTTEXTS_H
 
 #include <QJsonObject>
 #include <QString>

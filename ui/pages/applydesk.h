@@ -1,7 +1,7 @@
 /// \file
 /// From the controls to the drive, to its flash, to a settings file; and the questions before edits would be lost.
-#ifndef APPLYDESK_H
-#define APPLYDESK_H
+#ifndef VELBRIN_UI_APPLYDESK_H
+#define VELBRIN_UI_APPLYDESK_H
 
 #include "reports.h"
 

@@ -1,7 +1,7 @@
 /// \file
 /// The Connect page: choosing a port, searching the bus, connecting, and what the page shows of the drive.
-#ifndef CONNECTPAGE_H
-#define CONNECTPAGE_H
+#ifndef VELBRIN_UI_CONNECTPAGE_H
+#define VELBRIN_UI_CONNECTPAGE_H
 
 #include "message.h"
 #include "nodechooser.h"

@@ -1,7 +1,7 @@
 /// \file
 /// What happens when the drive changes its control mode by itself: a question, once or for good.
-#ifndef CONTROLMODERULE_H
-#define CONTROLMODERULE_H
+#ifndef VELBRIN_UI_CONTROLMODERULE_H
+#define VELBRIN_UI_CONTROLMODERULE_H
 
 #include <QObject>
 

@@ -1,7 +1,7 @@
 /// \file
 /// Buttons and shortcuts that act on the connected drive at once.
-#ifndef DRIVEDESK_H
-#define DRIVEDESK_H
+#ifndef VELBRIN_UI_DRIVEDESK_H
+#define VELBRIN_UI_DRIVEDESK_H
 
 #include "disablewatch.h"
 #include "reports.h"

@@ -1,7 +1,7 @@
 /// \file
 /// The number that is just being typed, before something is done with what the fields hold.
-#ifndef EDITEDFIELD_H
-#define EDITEDFIELD_H
+#ifndef VELBRIN_UI_EDITEDFIELD_H
+#define VELBRIN_UI_EDITEDFIELD_H
 
 #include <initializer_list>
 

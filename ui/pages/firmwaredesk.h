@@ -1,7 +1,7 @@
 /// \file
 /// Firmware upgrades, and restarting the drive with or without one.
-#ifndef FIRMWAREDESK_H
-#define FIRMWAREDESK_H
+#ifndef VELBRIN_UI_FIRMWAREDESK_H
+#define VELBRIN_UI_FIRMWAREDESK_H
 
 #include "connection.h"
 

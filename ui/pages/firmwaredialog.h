@@ -1,7 +1,7 @@
 /// \file
 /// The log and the buttons of a firmware upgrade.
-#ifndef FIRMWAREDIALOG_H
-#define FIRMWAREDIALOG_H
+#ifndef VELBRIN_UI_FIRMWAREDIALOG_H
+#define VELBRIN_UI_FIRMWAREDIALOG_H
 
 #include "ui_firmwareupgradedlg.h"
 

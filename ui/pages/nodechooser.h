@@ -1,7 +1,7 @@
 /// \file
 /// From the answer of a bus search to the drive that the user chooses.
-#ifndef NODECHOOSER_H
-#define NODECHOOSER_H
+#ifndef VELBRIN_UI_NODECHOOSER_H
+#define VELBRIN_UI_NODECHOOSER_H
 
 #include "connection.h"
 

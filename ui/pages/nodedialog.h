@@ -1,7 +1,7 @@
 /// \file
 /// The list of drives that a bus search found.
-#ifndef NODEDIALOG_H
-#define NODEDIALOG_H
+#ifndef VELBRIN_UI_NODEDIALOG_H
+#define VELBRIN_UI_NODEDIALOG_H
 
 #include "connection.h"
 

@@ -1,7 +1,7 @@
 /// \file
 /// The pages that hold settings: values into their controls and back, units beside them, rules between them.
-#ifndef PARAMETERPAGES_H
-#define PARAMETERPAGES_H
+#ifndef VELBRIN_UI_PARAMETERPAGES_H
+#define VELBRIN_UI_PARAMETERPAGES_H
 
 #include "controlbinding.h"
 #include "reach.h"

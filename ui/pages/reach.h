@@ -1,7 +1,7 @@
 /// \file
 /// How far the window reaches, and which controls that leaves usable.
-#ifndef REACH_H
-#define REACH_H
+#ifndef VELBRIN_UI_REACH_H
+#define VELBRIN_UI_REACH_H
 
 class Connection;
 class QWidget;

@@ -1,7 +1,7 @@
 /// \file
 /// Takes the user to a setting that was found.
-#ifndef SETTINGGUIDE_H
-#define SETTINGGUIDE_H
+#ifndef VELBRIN_UI_SETTINGGUIDE_H
+#define VELBRIN_UI_SETTINGGUIDE_H
 
 #include <QObject>
 

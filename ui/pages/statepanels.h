@@ -1,7 +1,7 @@
 /// \file
 /// The three panels of the Testing page that word the drive's inputs, status and faults three times a second.
-#ifndef STATEPANELS_H
-#define STATEPANELS_H
+#ifndef VELBRIN_UI_STATEPANELS_H
+#define VELBRIN_UI_STATEPANELS_H
 
 #include <QObject>
 #include <QString>

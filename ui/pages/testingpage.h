@@ -1,7 +1,7 @@
 /// \file
 /// The Testing page: stimulus and single setpoints, captures and their plots, and the panels of the drive's state.
-#ifndef TESTINGPAGE_H
-#define TESTINGPAGE_H
+#ifndef VELBRIN_UI_TESTINGPAGE_H
+#define VELBRIN_UI_TESTINGPAGE_H
 
 #include "capturerecord.h"
 #include "statepanels.h"

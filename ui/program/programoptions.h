@@ -1,7 +1,7 @@
 /// \file
 /// The program's command line.
-#ifndef PROGRAMOPTIONS_H
-#define PROGRAMOPTIONS_H
+#ifndef VELBRIN_UI_PROGRAMOPTIONS_H
+#define VELBRIN_UI_PROGRAMOPTIONS_H
 
 #include <QString>
 #include <QStringList>

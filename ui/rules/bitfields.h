@@ -1,7 +1,7 @@
 /// \file
 /// The two registers that hold several controls each: FLAGS and HOMING.
-#ifndef BITFIELDS_H
-#define BITFIELDS_H
+#ifndef VELBRIN_UI_BITFIELDS_H
+#define VELBRIN_UI_BITFIELDS_H
 
 #include <QString>
 #include <QVector>

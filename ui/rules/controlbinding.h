@@ -1,7 +1,7 @@
 /// \file
 /// Parameters into controls and back. A control belongs to the parameter whose mnemonic is its object name.
-#ifndef CONTROLBINDING_H
-#define CONTROLBINDING_H
+#ifndef VELBRIN_UI_CONTROLBINDING_H
+#define VELBRIN_UI_CONTROLBINDING_H
 
 #include "editedsettings.h"
 

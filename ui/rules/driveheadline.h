@@ -1,7 +1,7 @@
 /// \file
 /// What the strip along the window says about the drive: one word, one sentence, from the session's values.
-#ifndef DRIVEHEADLINE_H
-#define DRIVEHEADLINE_H
+#ifndef VELBRIN_UI_DRIVEHEADLINE_H
+#define VELBRIN_UI_DRIVEHEADLINE_H
 
 #include "drivestate.h"
 

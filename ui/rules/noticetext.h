@@ -1,7 +1,7 @@
 /// \file
 /// Makes a notice from the network safe to show.
-#ifndef NOTICETEXT_H
-#define NOTICETEXT_H
+#ifndef VELBRIN_UI_NOTICETEXT_H
+#define VELBRIN_UI_NOTICETEXT_H
 
 #include <QString>
 

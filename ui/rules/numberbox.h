@@ -1,7 +1,7 @@
 /// \file
 /// The number fields of every page and dialog: one rule for what may be typed, and what becomes of the rest.
-#ifndef NUMBERBOX_H
-#define NUMBERBOX_H
+#ifndef VELBRIN_UI_NUMBERBOX_H
+#define VELBRIN_UI_NUMBERBOX_H
 
 #include <QDoubleSpinBox>
 #include <QSpinBox>

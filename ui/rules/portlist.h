@@ -1,8 +1,8 @@
 /// \file
 /// What the list of serial ports on the Connect page shows, and which entry is chosen at first. A pure function over
 /// plain values, so that two adapters, a Windows name or no port at all can be tried without hardware.
-#ifndef PORTLIST_H
-#define PORTLIST_H
+#ifndef VELBRIN_UI_PORTLIST_H
+#define VELBRIN_UI_PORTLIST_H
 
 #include <QList>
 #include <QString>

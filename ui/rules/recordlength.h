@@ -1,7 +1,7 @@
 /// \file
 /// How much of a move the drive's recorder holds.
-#ifndef RECORDLENGTH_H
-#define RECORDLENGTH_H
+#ifndef VELBRIN_UI_RECORDLENGTH_H
+#define VELBRIN_UI_RECORDLENGTH_H
 
 #include <QString>
 

@@ -1,7 +1,7 @@
 /// \file
 /// What the window says about settings that do not go together, and the rules that keep pairs of settings in order.
-#ifndef SANITYCHECKS_H
-#define SANITYCHECKS_H
+#ifndef VELBRIN_UI_SANITYCHECKS_H
+#define VELBRIN_UI_SANITYCHECKS_H
 
 #include <QString>
 #include <utility>

@@ -1,7 +1,7 @@
 /// \file
 /// What an Apply is about to change, and what is worth a word before it does.
-#ifndef SETTINGCHANGES_H
-#define SETTINGCHANGES_H
+#ifndef VELBRIN_UI_SETTINGCHANGES_H
+#define VELBRIN_UI_SETTINGCHANGES_H
 
 #include <QList>
 #include <QString>

@@ -1,7 +1,7 @@
 /// \file
 /// Drive units to machine units, as shown beside the controls. Plain values; nothing here knows a window.
-#ifndef UNITCONVERSION_H
-#define UNITCONVERSION_H
+#ifndef VELBRIN_UI_UNITCONVERSION_H
+#define VELBRIN_UI_UNITCONVERSION_H
 
 #include <QString>
 

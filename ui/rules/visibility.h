@@ -1,7 +1,7 @@
 /// \file
 /// Which controls are shown, by what has been chosen. One table; the window only applies it.
-#ifndef VISIBILITY_H
-#define VISIBILITY_H
+#ifndef VELBRIN_UI_VISIBILITY_H
+#define VELBRIN_UI_VISIBILITY_H
 
 #include <QString>
 #include <QVector>

@@ -1,7 +1,7 @@
 /// \file
 /// The captures of this session: which one is shown, which one lies under it, and the figures of each.
-#ifndef CAPTUREHISTORY_H
-#define CAPTUREHISTORY_H
+#ifndef VELBRIN_UI_CAPTUREHISTORY_H
+#define VELBRIN_UI_CAPTUREHISTORY_H
 
 #include "capturefigures.h"
 

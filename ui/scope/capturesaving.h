@@ -1,7 +1,7 @@
 /// \file
 /// A capture as a file: which formats there are, and how they are written. Pictures are drawn by the plot view.
-#ifndef CAPTURESAVING_H
-#define CAPTURESAVING_H
+#ifndef VELBRIN_UI_CAPTURESAVING_H
+#define VELBRIN_UI_CAPTURESAVING_H
 
 #include "capturehistory.h"
 

@@ -1,7 +1,7 @@
 /// \file
 /// Works out figures and axis sheets beside the window's thread.
-#ifndef CAPTURESTUDIES_H
-#define CAPTURESTUDIES_H
+#ifndef VELBRIN_UI_CAPTURESTUDIES_H
+#define VELBRIN_UI_CAPTURESTUDIES_H
 
 #include "capturehistory.h"
 

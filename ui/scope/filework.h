@@ -1,7 +1,7 @@
 /// \file
 /// Writes files beside the window's thread.
-#ifndef FILEWORK_H
-#define FILEWORK_H
+#ifndef VELBRIN_UI_FILEWORK_H
+#define VELBRIN_UI_FILEWORK_H
 
 #include <QObject>
 #include <QThreadPool>

@@ -1,7 +1,7 @@
 /// \file
 /// The gains on the Testing page: the same settings as on the Tuning page, a hand's breadth from the step.
-#ifndef GAINSPANEL_H
-#define GAINSPANEL_H
+#ifndef VELBRIN_UI_GAINSPANEL_H
+#define VELBRIN_UI_GAINSPANEL_H
 
 #include <QGroupBox>
 #include <QList>

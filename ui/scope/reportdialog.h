@@ -1,7 +1,7 @@
 /// \file
 /// What goes into a commissioning report: the machine's name, notes on changed settings, captures, the stop test.
-#ifndef REPORTDIALOG_H
-#define REPORTDIALOG_H
+#ifndef VELBRIN_UI_REPORTDIALOG_H
+#define VELBRIN_UI_REPORTDIALOG_H
 
 #include "capturehistory.h"
 #include "report.h"

@@ -1,8 +1,8 @@
 /// \file
 /// What the scripts around the charts are told: the members of the page's element "velbrin-scope", which
 /// HelpView::showPlot and updateScope hand over.
-#ifndef SCOPECONTEXT_H
-#define SCOPECONTEXT_H
+#ifndef VELBRIN_UI_SCOPECONTEXT_H
+#define VELBRIN_UI_SCOPECONTEXT_H
 
 #include "capturehistory.h"
 

@@ -1,7 +1,7 @@
 /// \file
 /// What becomes of captures in the window: kept, shown, laid under each other, worked out, opened from files.
-#ifndef SCOPEDESK_H
-#define SCOPEDESK_H
+#ifndef VELBRIN_UI_SCOPEDESK_H
+#define VELBRIN_UI_SCOPEDESK_H
 
 #include "capturestudies.h"
 

@@ -1,7 +1,7 @@
 /// \file
 /// Texts of the scope's bar and tables in the language of the program.
-#ifndef SCOPETEXTS_H
-#define SCOPETEXTS_H
+#ifndef VELBRIN_UI_SCOPETEXTS_H
+#define VELBRIN_UI_SCOPETEXTS_H
 
 #include <QCoreApplication>
 #include <QJsonObject>

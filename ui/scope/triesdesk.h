@@ -1,7 +1,7 @@
 /// \file
 /// The scope in the window: tries and gains on the Testing page, the plot view over the pages, files and the report.
-#ifndef TRIESDESK_H
-#define TRIESDESK_H
+#ifndef VELBRIN_UI_TRIESDESK_H
+#define VELBRIN_UI_TRIESDESK_H
 
 #include "capturehistory.h"
 #include "reports.h"

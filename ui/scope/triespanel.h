@@ -1,7 +1,7 @@
 /// \file
 /// The table of tries on the Testing page: a capture a row, with the settings that differ and the figures that matter.
-#ifndef TRIESPANEL_H
-#define TRIESPANEL_H
+#ifndef VELBRIN_UI_TRIESPANEL_H
+#define VELBRIN_UI_TRIESPANEL_H
 
 #include "capturehistory.h"
 

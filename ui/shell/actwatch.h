@@ -1,7 +1,7 @@
 /// \file
 /// What became of what the user has just asked for, in words for the status bar.
-#ifndef ACTWATCH_H
-#define ACTWATCH_H
+#ifndef VELBRIN_UI_ACTWATCH_H
+#define VELBRIN_UI_ACTWATCH_H
 
 #include "capturestate.h"
 #include "drivestate.h"

@@ -1,7 +1,7 @@
 /// \file
 /// The box before an Apply: what will change, what is worth a second look, and the way back.
-#ifndef APPLYBOX_H
-#define APPLYBOX_H
+#ifndef VELBRIN_UI_APPLYBOX_H
+#define VELBRIN_UI_APPLYBOX_H
 
 #include "settingchanges.h"
 

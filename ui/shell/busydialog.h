@@ -1,7 +1,7 @@
 /// \file
 /// The box that stands over the window while the drive must not be disturbed.
-#ifndef BUSYDIALOG_H
-#define BUSYDIALOG_H
+#ifndef VELBRIN_UI_BUSYDIALOG_H
+#define VELBRIN_UI_BUSYDIALOG_H
 
 #include "ui_busydialog.h"
 

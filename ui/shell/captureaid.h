@@ -1,7 +1,7 @@
 /// \file
 /// Beside the capture button: how much the record holds, and the way out of a capture that waits.
-#ifndef CAPTUREAID_H
-#define CAPTUREAID_H
+#ifndef VELBRIN_UI_CAPTUREAID_H
+#define VELBRIN_UI_CAPTUREAID_H
 
 #include "capturestate.h"
 #include "recordlength.h"

@@ -1,7 +1,7 @@
 /// \file
 /// Greyed texts that can still be read.
-#ifndef DISABLEDINK_H
-#define DISABLEDINK_H
+#ifndef VELBRIN_UI_DISABLEDINK_H
+#define VELBRIN_UI_DISABLEDINK_H
 
 #include <QObject>
 

@@ -1,7 +1,7 @@
 /// \file
 /// What the user is told after pressing Esc: that the drive is disabled, or that nothing has confirmed it.
-#ifndef DISABLEWATCH_H
-#define DISABLEWATCH_H
+#ifndef VELBRIN_UI_DISABLEWATCH_H
+#define VELBRIN_UI_DISABLEWATCH_H
 
 #include "disableoutcome.h"
 

@@ -1,7 +1,7 @@
 /// \file
 /// The safety notice that stands before every start.
-#ifndef DISCLAIMER_H
-#define DISCLAIMER_H
+#ifndef VELBRIN_UI_DISCLAIMER_H
+#define VELBRIN_UI_DISCLAIMER_H
 
 #include <QCoreApplication>
 

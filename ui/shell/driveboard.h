@@ -1,7 +1,7 @@
 /// \file
 /// The drive at a glance: the strip, the marks at fields and values, undo, and what an Apply came to.
-#ifndef DRIVEBOARD_H
-#define DRIVEBOARD_H
+#ifndef VELBRIN_UI_DRIVEBOARD_H
+#define VELBRIN_UI_DRIVEBOARD_H
 
 #include "connection.h"
 #include "editedsettings.h"

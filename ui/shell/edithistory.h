@@ -1,7 +1,7 @@
 /// \file
 /// Undo and redo over all pages: pending edits only, never the drive.
-#ifndef EDITHISTORY_H
-#define EDITHISTORY_H
+#ifndef VELBRIN_UI_EDITHISTORY_H
+#define VELBRIN_UI_EDITHISTORY_H
 
 #include "settingfields.h"
 

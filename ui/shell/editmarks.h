@@ -1,7 +1,7 @@
 /// \file
 /// The marks at edited fields: the drive's value beside each, and what was corrected in silence.
-#ifndef EDITMARKS_H
-#define EDITMARKS_H
+#ifndef VELBRIN_UI_EDITMARKS_H
+#define VELBRIN_UI_EDITMARKS_H
 
 #include "settingchanges.h"
 #include "settingfields.h"

@@ -1,7 +1,7 @@
 /// \file
 /// Texts that give way: what does not fit ends in an ellipsis, and the tool tip has the whole of it.
-#ifndef ELIDED_H
-#define ELIDED_H
+#ifndef VELBRIN_UI_ELIDED_H
+#define VELBRIN_UI_ELIDED_H
 
 #include <QLabel>
 #include <QToolButton>

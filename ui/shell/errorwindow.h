@@ -1,7 +1,7 @@
 /// \file
 /// The window for messages that need no answer.
-#ifndef ERRORWINDOW_H
-#define ERRORWINDOW_H
+#ifndef VELBRIN_UI_ERRORWINDOW_H
+#define VELBRIN_UI_ERRORWINDOW_H
 
 #include "message.h"
 

@@ -1,7 +1,7 @@
 /// \file
 /// "Esc disables the drive", whatever window, box, menu or popup of the program has the keyboard.
-#ifndef ESCAPEFILTER_H
-#define ESCAPEFILTER_H
+#ifndef VELBRIN_UI_ESCAPEFILTER_H
+#define VELBRIN_UI_ESCAPEFILTER_H
 
 #include <QObject>
 

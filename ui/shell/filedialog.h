@@ -1,8 +1,8 @@
 /// \file
 /// Asking for the name of a file. The toolkit's own dialog, never the desktop's, which would keep Esc to itself: Esc
 /// has to reach the drive from here as well.
-#ifndef FILEDIALOG_H
-#define FILEDIALOG_H
+#ifndef VELBRIN_UI_FILEDIALOG_H
+#define VELBRIN_UI_FILEDIALOG_H
 
 #include <QString>
 

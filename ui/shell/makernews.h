@@ -1,7 +1,7 @@
 /// \file
 /// What the maker's server has to say about this program and this drive.
-#ifndef MAKERNEWS_H
-#define MAKERNEWS_H
+#ifndef VELBRIN_UI_MAKERNEWS_H
+#define VELBRIN_UI_MAKERNEWS_H
 
 #include "updatechecker.h"
 

@@ -1,7 +1,7 @@
 /// \file
 /// The keyboard's way about the window: F6 walks the panes, Ctrl+1 to Ctrl+7 show the pages, F1 folds the help away.
-#ifndef PANEKEYS_H
-#define PANEKEYS_H
+#ifndef VELBRIN_UI_PANEKEYS_H
+#define VELBRIN_UI_PANEKEYS_H
 
 #include <QHash>
 #include <QObject>

@@ -1,7 +1,7 @@
 /// \file
 /// Questions that the program raises, one at a time.
-#ifndef QUESTIONQUEUE_H
-#define QUESTIONQUEUE_H
+#ifndef VELBRIN_UI_QUESTIONQUEUE_H
+#define VELBRIN_UI_QUESTIONQUEUE_H
 
 #include <QList>
 #include <QObject>

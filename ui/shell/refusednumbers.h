@@ -1,7 +1,7 @@
 /// \file
 /// Says why a number field has not taken what was typed.
-#ifndef REFUSEDNUMBERS_H
-#define REFUSEDNUMBERS_H
+#ifndef VELBRIN_UI_REFUSEDNUMBERS_H
+#define VELBRIN_UI_REFUSEDNUMBERS_H
 
 class QStatusBar;
 class QWidget;

@@ -1,7 +1,7 @@
 /// \file
 /// Where the pages and desks say what they did, or did not do.
-#ifndef REPORTS_H
-#define REPORTS_H
+#ifndef VELBRIN_UI_REPORTS_H
+#define VELBRIN_UI_REPORTS_H
 
 class ErrorWindow;
 class QStatusBar;

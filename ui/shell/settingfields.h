@@ -1,7 +1,7 @@
 /// \file
 /// Every setting with the control that stands for it: what it is called, where it is, how its value reads.
-#ifndef SETTINGFIELDS_H
-#define SETTINGFIELDS_H
+#ifndef VELBRIN_UI_SETTINGFIELDS_H
+#define VELBRIN_UI_SETTINGFIELDS_H
 
 #include "bitfields.h"
 

@@ -1,7 +1,7 @@
 /// \file
 /// Ctrl+F: finds any setting by what somebody remembers of it.
-#ifndef SETTINGFINDER_H
-#define SETTINGFINDER_H
+#ifndef VELBRIN_UI_SETTINGFINDER_H
+#define VELBRIN_UI_SETTINGFINDER_H
 
 #include "settingfields.h"
 

@@ -1,7 +1,7 @@
 /// \file
 /// The sign before the drive's state: a form of its own for each state, so that nobody needs its colour.
-#ifndef STATESHAPE_H
-#define STATESHAPE_H
+#ifndef VELBRIN_UI_STATESHAPE_H
+#define VELBRIN_UI_STATESHAPE_H
 
 #include "driveheadline.h"
 

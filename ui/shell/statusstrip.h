@@ -1,7 +1,7 @@
 /// \file
 /// The strip along the whole window: which drive, in which state, and the three buttons for it.
-#ifndef STATUSSTRIP_H
-#define STATUSSTRIP_H
+#ifndef VELBRIN_UI_STATUSSTRIP_H
+#define VELBRIN_UI_STATUSSTRIP_H
 
 #include "driveheadline.h"
 

@@ -1,7 +1,7 @@
 /// \file
 /// Asks the maker's update server whether there is news for this program and this drive.
-#ifndef UPDATECHECKER_H
-#define UPDATECHECKER_H
+#ifndef VELBRIN_UI_UPDATECHECKER_H
+#define VELBRIN_UI_UPDATECHECKER_H
 
 #include <QObject>
 #include <QString>

@@ -1,7 +1,7 @@
 /// \file
 /// Where the values live: four marks, and the button that saves what a power-off would take.
-#ifndef VALUEMARKS_H
-#define VALUEMARKS_H
+#ifndef VELBRIN_UI_VALUEMARKS_H
+#define VELBRIN_UI_VALUEMARKS_H
 
 #include "parameters.h"
 

@@ -1,7 +1,7 @@
 /// \file
 /// Scrolling a page must not change the settings that happen to pass under the pointer.
-#ifndef WHEELGUARD_H
-#define WHEELGUARD_H
+#ifndef VELBRIN_UI_WHEELGUARD_H
+#define VELBRIN_UI_WHEELGUARD_H
 
 #include <QObject>
 

@@ -1,7 +1,7 @@
 /// \file
 /// Where the window stood and how large it was, kept for the next start.
-#ifndef WINDOWLAYOUT_H
-#define WINDOWLAYOUT_H
+#ifndef VELBRIN_UI_WINDOWLAYOUT_H
+#define VELBRIN_UI_WINDOWLAYOUT_H
 
 class QMainWindow;
 

@@ -1,7 +1,7 @@
 /// \file
 /// The main window: its frame, and the switchboard between controls, session and the pages.
-#ifndef MW_H
-#define MW_H
+#ifndef VELBRIN_UI_MW_H
+#define VELBRIN_UI_MW_H
 
 #include "capturedata.h"
 #include "catalogue.h"

@@ -1,8 +1,8 @@
 /// \file
 /// The program shows itself: a walk through the window with its own widgets, leaving a screenshot of every page. For
 /// machines without a display, for the documentation, and as a check that the whole road is open.
-#ifndef TOUR_H
-#define TOUR_H
+#ifndef VELBRIN_UI_TOUR_H
+#define VELBRIN_UI_TOUR_H
 
 #include "drivestate.h"
 

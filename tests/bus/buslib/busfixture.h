@@ -1,7 +1,7 @@
 /// \file
 /// A bus that is open on a raw line.
-#ifndef BUSFIXTURE_H
-#define BUSFIXTURE_H
+#ifndef VELBRIN_TESTS_BUSFIXTURE_H
+#define VELBRIN_TESTS_BUSFIXTURE_H
 
 #include "rawline.h"
 #include "zetabus.h"

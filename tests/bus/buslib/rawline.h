@@ -1,8 +1,8 @@
 /// \file
 /// The far end of a serial line as plain bytes: a pseudo terminal, its other side linked to a port name in the home
 /// folder of the tests. What the test writes here is what the bus library receives.
-#ifndef RAWLINE_H
-#define RAWLINE_H
+#ifndef VELBRIN_TESTS_RAWLINE_H
+#define VELBRIN_TESTS_RAWLINE_H
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
 /// \file
 /// The real velbrin-cli, run against the virtual bus of the test.
-#ifndef CLIPROCESS_H
-#define CLIPROCESS_H
+#ifndef VELBRIN_TESTS_CLIPROCESS_H
+#define VELBRIN_TESTS_CLIPROCESS_H
 
 #include "virtualbusfixture.h"
 

@@ -1,7 +1,7 @@
 /// \file
 /// A session on the virtual bus: a Connection, everything it has signalled, and words for the wire.
-#ifndef SESSIONFIXTURE_H
-#define SESSIONFIXTURE_H
+#ifndef VELBRIN_TESTS_SESSIONFIXTURE_H
+#define VELBRIN_TESTS_SESSIONFIXTURE_H
 
 // Before Qt, which makes a keyword of a name that the virtual drive uses.
 #include "virtualbusfixture.h"

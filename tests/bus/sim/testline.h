@@ -1,7 +1,7 @@
 /// \file
 /// The PC's end of the line for tests: bytes out, bytes in, nothing understood.
-#ifndef TESTLINE_H
-#define TESTLINE_H
+#ifndef VELBRIN_TESTS_TESTLINE_H
+#define VELBRIN_TESTS_TESTLINE_H
 
 #include "drivepacket.h"
 

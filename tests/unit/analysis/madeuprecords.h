@@ -1,7 +1,7 @@
 /// \file
 /// Steps that never happened: second-order answers with all that can be wrong with a record.
-#ifndef MADEUPRECORDS_H
-#define MADEUPRECORDS_H
+#ifndef VELBRIN_TESTS_MADEUPRECORDS_H
+#define VELBRIN_TESTS_MADEUPRECORDS_H
 
 #include "stepfigures.h"
 

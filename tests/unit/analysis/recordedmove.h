@@ -1,7 +1,7 @@
 /// \file
 /// Back-and-forth moves of the virtual drive, as its recorder sees them.
-#ifndef RECORDEDMOVE_H
-#define RECORDEDMOVE_H
+#ifndef VELBRIN_TESTS_RECORDEDMOVE_H
+#define VELBRIN_TESTS_RECORDEDMOVE_H
 
 #include "capture.h"
 #include "registers.h"

@@ -1,8 +1,8 @@
 /// \file
 /// A bus handle that is open without a port: enough for the queue and the receive state machine. Sends fail on it and
 /// nothing is ever received.
-#ifndef OPENRECORD_H
-#define OPENRECORD_H
+#ifndef VELBRIN_TESTS_OPENRECORD_H
+#define VELBRIN_TESTS_OPENRECORD_H
 
 #include "busrecord.h"
 

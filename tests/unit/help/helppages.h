@@ -1,7 +1,7 @@
 /// \file
 /// The help pages and the forms, taken apart for the tests: in one language at a time.
-#ifndef TESTS_HELPPAGES_H
-#define TESTS_HELPPAGES_H
+#ifndef VELBRIN_TESTS_HELPPAGES_H
+#define VELBRIN_TESTS_HELPPAGES_H
 
 #include <QMap>
 #include <QSet>

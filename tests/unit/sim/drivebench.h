@@ -1,7 +1,7 @@
 /// \file
 /// A virtual drive on the bench: requests go in as the items of a payload, typed out, and come back the same way.
-#ifndef DRIVEBENCH_H
-#define DRIVEBENCH_H
+#ifndef VELBRIN_TESTS_DRIVEBENCH_H
+#define VELBRIN_TESTS_DRIVEBENCH_H
 
 #include "registers.h"
 #include "virtualdrive.h"

@@ -1,7 +1,7 @@
 /// \file
 /// An axis that misbehaves on the bench, and figures of what it does.
-#ifndef MACHINEBENCH_H
-#define MACHINEBENCH_H
+#ifndef VELBRIN_TESTS_MACHINEBENCH_H
+#define VELBRIN_TESTS_MACHINEBENCH_H
 
 #include "drivebench.h"
 

@@ -1,7 +1,7 @@
 /// \file
 /// A drive on the bench whose axis is enabled and watched.
-#ifndef RUNNINGAXIS_H
-#define RUNNINGAXIS_H
+#ifndef VELBRIN_TESTS_RUNNINGAXIS_H
+#define VELBRIN_TESTS_RUNNINGAXIS_H
 
 #include "drivebench.h"
 

@@ -1,7 +1,7 @@
 /// \file
 /// The web engine's processes, for tests that end them.
-#ifndef PAGEPROCESSES_H
-#define PAGEPROCESSES_H
+#ifndef VELBRIN_TESTS_PAGEPROCESSES_H
+#define VELBRIN_TESTS_PAGEPROCESSES_H
 
 #include <QDir>
 #include <QFile>
