@@ -46,7 +46,7 @@ inline Form readForm(const QString &name)
         if (!xml.isStartElement())
             continue;
         Widget *widget = open.isEmpty() ? nullptr : &form.widgets[open.last()];
-        if (element == QLatin1String("class")) {
+        if (element == QLatin1String("class") && open.isEmpty() && form.names.isEmpty()) {
             form.className = xml.readElementText();
         } else if (element == QLatin1String("widget")) {
             open.append(name);
