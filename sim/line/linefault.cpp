@@ -54,19 +54,19 @@ const KindRow *find(LineFault::Kind kind)
 constexpr int defaultLateness = 100; // ms
 constexpr std::size_t mostDigits = 6;
 
-/// Takes a number that stands behind `mark` off the text's end. False when there is a mark without one.
-bool takeNumber(std::string &text, char mark, int &number)
+/// Takes a number that stands behind `mark` off the text's end, where there is one. An "x" may also be part of a name.
+void takeNumber(std::string &text, char mark, int &number)
 {
     const std::size_t at = text.rfind(mark);
     if (at == std::string::npos)
-        return true;
+        return;
     const std::string digits = text.substr(at + 1);
     const bool isNumber = !digits.empty() && digits.size() <= mostDigits &&
                           std::all_of(digits.begin(), digits.end(), [](unsigned char c) { return std::isdigit(c); });
-    if (isNumber)
-        number = std::stoi(digits);
+    if (!isNumber)
+        return;
+    number = std::stoi(digits);
     text.erase(at);
-    return isNumber;
 }
 
 } // namespace
@@ -92,12 +92,12 @@ std::string parseLineFault(const std::string &text, LineFault &fault)
 {
     LineFault parsed;
     std::string name = text;
-    // From the end: no kind's name has an x or a mark in it.
-    const bool isForm =
-        takeNumber(name, 'x', parsed.count) && takeNumber(name, '+', parsed.skip) && takeNumber(name, '=', parsed.at);
+    takeNumber(name, 'x', parsed.count);
+    takeNumber(name, '+', parsed.skip);
+    takeNumber(name, '=', parsed.at);
     const bool isWord =
         !name.empty() && std::all_of(name.begin(), name.end(), [](char c) { return c >= 'a' && c <= 'z'; });
-    if (!isForm || !isWord)
+    if (!isWord)
         return "\"" + text + "\" is not of the form KIND[=AT][+SKIP][xCOUNT]";
     const auto known = std::find_if(std::begin(kindTable), std::end(kindTable),
                                     [&](const KindRow &candidate) { return name == candidate.name; });
@@ -110,9 +110,12 @@ std::string parseLineFault(const std::string &text, LineFault &fault)
 
 std::string lineFaultHelp()
 {
+    constexpr std::size_t column = 11;
     std::string help;
-    for (const KindRow &kind : kindTable)
-        help += "  " + std::string(kind.name) + std::string(11 - std::string(kind.name).size(), ' ') + kind.help + "\n";
+    for (const KindRow &kind : kindTable) {
+        const std::string name = kind.name;
+        help += "  " + name + std::string(std::max(column, name.size() + 1) - name.size(), ' ') + kind.help + "\n";
+    }
     return help;
 }
 

@@ -2,7 +2,7 @@
 // connection works.
 #include "sessionfixture.h"
 
-#include <map>
+#include <algorithm>
 
 using testing::HasSubstr;
 using testing::SizeIs;
@@ -44,8 +44,13 @@ const Moment testingMoments[] = {
     {"Measuring", 1, [](Connection &session) { session.command(Connection::TaskMeasure); }},
 };
 
-const Fault::Kind kinds[] = {Fault::Drop,    Fault::Flip, Fault::Cut,   Fault::Late,
-                             Fault::Missing, Fault::Deaf, Fault::Noise, Fault::Unplugged};
+/// All but a reply that arrives twice: the first one is good, the second is dropped.
+std::vector<Fault::Kind> kindsThatSpoilReplies()
+{
+    std::vector<Fault::Kind> kinds = Fault::allKinds();
+    kinds.erase(std::remove(kinds.begin(), kinds.end(), Fault::Twice), kinds.end());
+    return kinds;
+}
 
 std::string nameOf(const testing::TestParamInfo<std::tuple<Moment, Fault::Kind>> &info)
 {
@@ -97,8 +102,11 @@ TEST_P(BadLine, EndsInOneMessageAndTheNextConnectionWorks)
 }
 
 INSTANTIATE_TEST_SUITE_P(Transfer, BadLine,
-                         testing::Combine(testing::ValuesIn(transferMoments), testing::ValuesIn(kinds)), nameOf);
+                         testing::Combine(testing::ValuesIn(transferMoments),
+                                          testing::ValuesIn(kindsThatSpoilReplies())),
+                         nameOf);
 
+// One of each sort, as each combination takes its seconds.
 INSTANTIATE_TEST_SUITE_P(Testing, BadLine,
                          testing::Combine(testing::ValuesIn(testingMoments),
                                           testing::Values(Fault::Drop, Fault::Flip, Fault::Late, Fault::Missing,
