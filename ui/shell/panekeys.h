@@ -1,5 +1,5 @@
 /// \file
-/// The keyboard's way about the window: F6 walks the panes, Ctrl+1 to Ctrl+7 show the pages, F1 folds the help away.
+/// The keyboard's way about the window: F6 walks the panes, Ctrl+1, Ctrl+2, ... show the pages, F1 folds the help away.
 #ifndef VELBRIN_UI_PANEKEYS_H
 #define VELBRIN_UI_PANEKEYS_H
 

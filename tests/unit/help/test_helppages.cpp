@@ -185,9 +185,12 @@ TEST_P(HelpPages, EverySettingIsExplainedOnce)
 TEST_P(HelpPages, ControlsAreNamedAsInTheWindowWithAllTheirChoices)
 {
     ASSERT_GT(formControls().size(), 60);
+    const QStringList index = helpPages().value("Parameter_index.htm").references;
     for (auto control = formControls().begin(); control != formControls().end(); ++control) {
         const Definition definition = definitionOf(control.key());
         EXPECT_EQ(definition.term, control->label);
+        EXPECT_TRUE(index.contains(QString(definition.page).append('#') + control.key()))
+            << "not in the index: " << qPrintable(control.key());
         for (const QString &choice : control->choices)
             EXPECT_TRUE(definition.range.contains(choice)) << qPrintable(control.key() + ": " + choice);
     }
