@@ -95,11 +95,13 @@ TEST_F(Accessibility, NoPageOfASmallWindowIsScrolledSidewaysAndTabLeavesEachOnce
     for (int page = 0; page < pages->count(); ++page) {
         goTo(page);
         QWidget *shown = pages->currentWidget();
+        const auto *area = shown->findChild<QScrollArea *>();
+        ASSERT_TRUE(area) << "what stands on page " << page << " has to stand in a scroll area";
         for (const bool withHelp : {false, true}) {
             if (control<QWidget>("helpPane")->isVisible() != withHelp)
                 press(Qt::Key_F1);
             QApplication::processEvents();
-            EXPECT_EQ(shown->findChild<QScrollArea *>()->horizontalScrollBar()->maximum(), 0) << page << withHelp;
+            EXPECT_EQ(area->horizontalScrollBar()->maximum(), 0) << page << withHelp;
         }
         int entered = 0;
         for (QWidget *stop = m_window.get(), *before = stop;; before = stop) {
