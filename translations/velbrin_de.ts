@@ -1488,6 +1488,13 @@
     </message>
 </context>
 <context>
+    <name>DeviceModel</name>
+    <message>
+        <source>Unknown device type: %1</source>
+        <translation>Unbekannter Gerätetyp: %1</translation>
+    </message>
+</context>
+<context>
     <name>DisableWatch</name>
     <message>
         <source>The disable is not confirmed: the drive may still be powered. Use the machine&apos;s hardware stop.</source>
@@ -1570,6 +1577,22 @@
     <message>
         <source>Saved to the file %1</source>
         <translation>In der Datei %1 gespeichert</translation>
+    </message>
+    <message>
+        <source>Edits that were not applied are gone: they were another drive&apos;s</source>
+        <translation>Nicht angewendete Änderungen sind verworfen: Sie galten einem anderen Antrieb</translation>
+    </message>
+    <message>
+        <source>the drive&apos;s values after the lost connection</source>
+        <translation>Werte des Antriebs nach dem Verbindungsabbruch</translation>
+    </message>
+    <message>
+        <source>1 edit was not applied when the connection was lost: Ctrl+Z brings it back</source>
+        <translation>1 Änderung war beim Verbindungsabbruch nicht angewendet: Strg+Z holt sie zurück</translation>
+    </message>
+    <message>
+        <source>%1 edits were not applied when the connection was lost: Ctrl+Z brings them back</source>
+        <translation>%1 Änderungen waren beim Verbindungsabbruch nicht angewendet: Strg+Z holt sie zurück</translation>
     </message>
 </context>
 <context>
@@ -4466,7 +4489,7 @@
     </message>
     <message>
         <source>Copy device state to clipboard</source>
-        <translation>Gerätezustand in Zwischenablage kopieren</translation>
+        <translation>Gerätezustand kopieren</translation>
     </message>
     <message>
         <source>Status info may be easily pasted to email or support request message</source>
