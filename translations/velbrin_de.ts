@@ -1097,7 +1097,7 @@
     </message>
     <message>
         <source>HV bus voltage&amp;nbsp;&amp;nbsp;%1 VDC&lt;br&gt;</source>
-        <translation>Zwischenkreisspannung&amp;nbsp;&amp;nbsp;%1 VDC&lt;br&gt;</translation>
+        <translation>Zwischenkreis&amp;nbsp;&amp;nbsp;%1 VDC&lt;br&gt;</translation>
     </message>
     <message>
         <source>Device temperature&amp;nbsp;&amp;nbsp;%1 &amp;deg;C&lt;br&gt;</source>

@@ -256,7 +256,7 @@ TEST_F(Board, EditsThatWaitedWhenTheLineWasLostCanBeBroughtBackToTheSameDriveOnl
     ASSERT_TRUE(waitForThreePolls());
     goTo(TUNING_PAGE);
     const auto loseTheLine = [this] {
-        bus().setFault({LineFault::Deaf});
+        bus().setFault({sim::LineFault::Deaf});
         ASSERT_TRUE(waitFor([this] { return connectionText() == "Disconnected"; }));
         bus().clearFaults();
         connectToDrive();
