@@ -1,7 +1,7 @@
 /// \file
 /// The language that the window speaks: English, which the sources are written in, or a translation that the build has
-/// put into the program (see translations/README.md). Numbers are not a matter of language: number fields follow the
-/// desktop's regional format, everything else has the decimal point.
+/// put into the program (see translations/README.md). Numbers are not a matter of language: everything shows the
+/// decimal point, and number fields take the comma as well.
 #ifndef VELBRIN_DESK_LANGUAGE_H
 #define VELBRIN_DESK_LANGUAGE_H
 

@@ -1,6 +1,13 @@
 #include "devicemodel.h"
 
+#include <QCoreApplication>
+
 namespace {
+
+struct Text
+{
+    Q_DECLARE_TR_FUNCTIONS(DeviceModel)
+};
 
 struct ModelName
 {
@@ -37,7 +44,7 @@ QString deviceModelName(int typeId, bool withMakerPrefix)
         const QString prefix = withMakerPrefix ? QStringLiteral("Tarnwell Devices ") : QString();
         return prefix + QLatin1String(m.name) + QLatin1String(suffix);
     }
-    return QStringLiteral("Unknown device type: ") + QString::number(typeId);
+    return Text::tr("Unknown device type: %1").arg(typeId);
 }
 
 bool isTorvaModel(int typeId)

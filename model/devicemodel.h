@@ -16,7 +16,8 @@ enum class DeviceCapability {
 };
 
 /// Name of the drive with this type id (register 6020; family = id / 1000, model = id / 100, submodel = id % 10),
-/// preceded by "Tarnwell Devices " when asked for. Unknown ids give "Unknown device type: " + id, never prefixed.
+/// preceded by "Tarnwell Devices " when asked for. Unknown ids give "Unknown device type: " + id in the
+/// language of the program, never prefixed.
 QString deviceModelName(int typeId, bool withMakerPrefix);
 
 bool isTorvaModel(int typeId);

@@ -248,7 +248,7 @@
     </message>
     <message>
         <source>The axis did not move when the stop was pressed.</source>
-        <translation>Die Achse stand, als der Halt gedrückt wurde.</translation>
+        <translation>Die Achse stand, als der Not-Halt gedrückt wurde.</translation>
     </message>
     <message>
         <source>It was still moving at the end of the record.</source>
@@ -416,7 +416,7 @@
     </message>
     <message>
         <source>The capture is damaged: its member &quot;%1&quot; is missing or is not what it should be.</source>
-        <translation>Die Aufzeichnung ist beschädigt: Ihr Element &quot;%1&quot; fehlt oder ist nicht, was es sein sollte.</translation>
+        <translation>Die Aufzeichnung ist beschädigt: Ihr Element „%1“ fehlt oder ist nicht, was es sein sollte.</translation>
     </message>
     <message>
         <source>The capture is damaged: its text breaks off or is no JSON.</source>
@@ -498,7 +498,7 @@
     </message>
     <message>
         <source>Zetabus2 USB adapter</source>
-        <translation>Zetabus2 USB-Adapter</translation>
+        <translation>Zetabus2-USB-Adapter</translation>
     </message>
     <message>
         <source>&lt;p&gt;Lists the serial ports again, for an adapter that has been plugged in meanwhile.&lt;/p&gt;</source>
@@ -506,7 +506,7 @@
     </message>
     <message>
         <source>Refresh list</source>
-        <translation>Liste auffrischen</translation>
+        <translation>Liste aktualisieren</translation>
     </message>
     <message>
         <source>&lt;p&gt;Searches the bus for drives and lets you choose one. Shortcut Alt+O&lt;/p&gt;</source>
@@ -837,7 +837,7 @@
     </message>
     <message>
         <source>There is no permission to use %1: ask for membership in the group that owns it, often &quot;dialout&quot;, and log in again.</source>
-        <translation>%1 darf nicht benutzt werden: Lassen Sie sich in die Gruppe aufnehmen, der die Schnittstelle gehört, oft &quot;dialout&quot;, und melden Sie sich neu an.</translation>
+        <translation>%1 darf nicht benutzt werden: Lassen Sie sich in die Gruppe aufnehmen, der die Schnittstelle gehört, oft „dialout“, und melden Sie sich neu an.</translation>
     </message>
     <message>
         <source>%1 is in use by another program.</source>
@@ -873,11 +873,11 @@
     </message>
     <message>
         <source>The drive did not confirm that it was enabled, so a disable was sent. It shows that it is still enabled: use the machine&apos;s own stop.</source>
-        <translation>Der Antrieb hat die Freigabe nicht bestätigt, deshalb wurde die Sperre gesendet. Er zeigt, dass er noch freigegeben ist: Benutzen Sie den eigenen Halt der Maschine.</translation>
+        <translation>Der Antrieb hat die Freigabe nicht bestätigt, deshalb wurde ein Sperrbefehl gesendet. Er zeigt, dass er noch freigegeben ist: Benutzen Sie den Not-Halt der Maschine.</translation>
     </message>
     <message>
         <source>The drive did not confirm that it was enabled, and does not answer to a disable either: it may be enabled. Use the machine&apos;s own stop.</source>
-        <translation>Der Antrieb hat die Freigabe nicht bestätigt und antwortet auch auf die Sperre nicht: Er kann freigegeben sein. Benutzen Sie den eigenen Halt der Maschine.</translation>
+        <translation>Der Antrieb hat die Freigabe nicht bestätigt und antwortet auch auf den Sperrbefehl nicht: Er kann freigegeben sein. Benutzen Sie den Not-Halt der Maschine.</translation>
     </message>
     <message>
         <source>The drive at address %2 on %1 was disabled without a connection. It shows that it is not enabled.</source>
@@ -885,15 +885,15 @@
     </message>
     <message>
         <source>The drive at address %2 on %1 answers, but shows that it is still enabled: use the machine&apos;s own stop.</source>
-        <translation>Der Antrieb mit Adresse %2 an %1 antwortet, zeigt aber, dass er noch freigegeben ist: Benutzen Sie den eigenen Halt der Maschine.</translation>
+        <translation>Der Antrieb mit Adresse %2 an %1 antwortet, zeigt aber, dass er noch freigegeben ist: Benutzen Sie den Not-Halt der Maschine.</translation>
     </message>
     <message>
         <source>The drive at address %2 on %1 did not confirm that it was disabled: it may still be powered. Use the machine&apos;s own stop.</source>
-        <translation>Der Antrieb mit Adresse %2 an %1 hat die Sperre nicht bestätigt: Er kann noch bestromt sein. Benutzen Sie den eigenen Halt der Maschine.</translation>
+        <translation>Der Antrieb mit Adresse %2 an %1 hat den Sperrbefehl nicht bestätigt: Er kann noch bestromt sein. Benutzen Sie den Not-Halt der Maschine.</translation>
     </message>
     <message>
         <source>The drive at address %2 on %1 could not be told to disable: it may still be powered. Use the machine&apos;s own stop.&lt;br&gt;</source>
-        <translation>Dem Antrieb mit Adresse %2 an %1 konnte die Sperre nicht mitgeteilt werden: Er kann noch bestromt sein. Benutzen Sie den eigenen Halt der Maschine.&lt;br&gt;</translation>
+        <translation>Der Sperrbefehl konnte dem Antrieb mit Adresse %2 an %1 nicht übermittelt werden: Er kann noch bestromt sein. Benutzen Sie den Not-Halt der Maschine.&lt;br&gt;</translation>
     </message>
     <message>
         <source>Initialized</source>
@@ -901,7 +901,7 @@
     </message>
     <message>
         <source>Error recovering</source>
-        <translation>Fehlerabbau</translation>
+        <translation>Rückkehr zum Sollwert</translation>
     </message>
     <message>
         <source>Tracking error warn</source>
@@ -1097,7 +1097,7 @@
     </message>
     <message>
         <source>HV bus voltage&amp;nbsp;&amp;nbsp;%1 VDC&lt;br&gt;</source>
-        <translation>Zwischenkreisspannung&amp;nbsp;&amp;nbsp;%1 VDC&lt;br&gt;</translation>
+        <translation>Zwischenkreis&amp;nbsp;&amp;nbsp;%1 VDC&lt;br&gt;</translation>
     </message>
     <message>
         <source>Device temperature&amp;nbsp;&amp;nbsp;%1 &amp;deg;C&lt;br&gt;</source>
@@ -1217,7 +1217,7 @@
     </message>
     <message>
         <source>Downloading..</source>
-        <translation>Lädt herunter..</translation>
+        <translation>Wird ausgelesen..</translation>
     </message>
     <message>
         <source>The drive refused to be enabled.&lt;br&gt;Device errors: &lt;br&gt;%1</source>
@@ -1245,11 +1245,11 @@
     </message>
     <message>
         <source>Measure function is available only in KETA drive models</source>
-        <translation>Das Messen gibt es nur bei Antrieben der Modelle KETA</translation>
+        <translation>Die Messfunktion gibt es nur bei KETA-Antrieben</translation>
     </message>
     <message>
         <source>Measure function requires newer firmware version</source>
-        <translation>Das Messen erfordert eine neuere Firmwareversion</translation>
+        <translation>Die Messfunktion erfordert eine neuere Firmwareversion</translation>
     </message>
     <message>
         <source>Measurement failed. Ensure that all required conditions are met. See &lt;i&gt;%1&lt;/i&gt;</source>
@@ -1257,7 +1257,7 @@
     </message>
     <message>
         <source>&lt;b&gt;The drive may still be powered.&lt;/b&gt; Esc tries to disable it; the sure way is the machine&apos;s own stop.&lt;br&gt;</source>
-        <translation>&lt;b&gt;Der Antrieb kann noch bestromt sein.&lt;/b&gt; Esc versucht, ihn zu sperren; der sichere Weg ist der eigene Halt der Maschine.&lt;br&gt;</translation>
+        <translation>&lt;b&gt;Der Antrieb kann noch bestromt sein.&lt;/b&gt; Esc versucht, ihn zu sperren; der sichere Weg ist der Not-Halt der Maschine.&lt;br&gt;</translation>
     </message>
     <message>
         <source>Error: %1</source>
@@ -1381,7 +1381,7 @@
     </message>
     <message>
         <source>The drive did not confirm the disable: it may still be powered. Esc tries again; the sure way is the machine&apos;s own stop.</source>
-        <translation>Der Antrieb hat die Sperre nicht bestätigt: Er kann noch bestromt sein. Esc versucht es noch einmal; der sichere Weg ist der eigene Halt der Maschine.</translation>
+        <translation>Der Antrieb hat den Sperrbefehl nicht bestätigt: Er kann noch bestromt sein. Esc versucht es noch einmal; der sichere Weg ist der Not-Halt der Maschine.</translation>
     </message>
     <message>
         <source>Unknown (%1)</source>
@@ -1488,14 +1488,21 @@
     </message>
 </context>
 <context>
+    <name>DeviceModel</name>
+    <message>
+        <source>Unknown device type: %1</source>
+        <translation>Unbekannter Gerätetyp: %1</translation>
+    </message>
+</context>
+<context>
     <name>DisableWatch</name>
     <message>
         <source>The disable is not confirmed: the drive may still be powered. Use the machine&apos;s hardware stop.</source>
-        <translation>Die Sperre ist nicht bestätigt: Der Antrieb kann noch bestromt sein. Benutzen Sie den Hardware-Halt der Maschine.</translation>
+        <translation>Das Sperren ist nicht bestätigt: Der Antrieb kann noch bestromt sein. Benutzen Sie den Not-Halt der Maschine.</translation>
     </message>
     <message>
         <source>No drive is connected, so none was disabled. Use the machine&apos;s hardware stop if one moves.</source>
-        <translation>Es ist kein Antrieb verbunden, also wurde keiner gesperrt. Benutzen Sie den Hardware-Halt der Maschine, falls sich einer bewegt.</translation>
+        <translation>Es ist kein Antrieb verbunden, also wurde keiner gesperrt. Benutzen Sie den Not-Halt der Maschine, falls sich einer bewegt.</translation>
     </message>
     <message>
         <source>No drive is connected: trying to disable the last one all the same...</source>
@@ -1511,7 +1518,7 @@
     </message>
     <message>
         <source>The disable is not confirmed: the connection was lost. The drive may still be powered. Use the machine&apos;s hardware stop.</source>
-        <translation>Die Sperre ist nicht bestätigt: Die Verbindung ging verloren. Der Antrieb kann noch bestromt sein. Benutzen Sie den Hardware-Halt der Maschine.</translation>
+        <translation>Das Sperren ist nicht bestätigt: Die Verbindung ging verloren. Der Antrieb kann noch bestromt sein. Benutzen Sie den Not-Halt der Maschine.</translation>
     </message>
 </context>
 <context>
@@ -1571,12 +1578,28 @@
         <source>Saved to the file %1</source>
         <translation>In der Datei %1 gespeichert</translation>
     </message>
+    <message>
+        <source>Edits that were not applied are gone: they were another drive&apos;s</source>
+        <translation>Nicht angewendete Änderungen sind verworfen: Sie galten einem anderen Antrieb</translation>
+    </message>
+    <message>
+        <source>the drive&apos;s values after the lost connection</source>
+        <translation>Werte des Antriebs nach dem Verbindungsabbruch</translation>
+    </message>
+    <message>
+        <source>1 edit was not applied when the connection was lost: Ctrl+Z brings it back</source>
+        <translation>1 Änderung war beim Verbindungsabbruch nicht angewendet: Strg+Z holt sie zurück</translation>
+    </message>
+    <message>
+        <source>%1 edits were not applied when the connection was lost: Ctrl+Z brings them back</source>
+        <translation>%1 Änderungen waren beim Verbindungsabbruch nicht angewendet: Strg+Z holt sie zurück</translation>
+    </message>
 </context>
 <context>
     <name>DriveDesk</name>
     <message>
         <source>Nothing to disable: the drive is in firmware upgrade mode, which drives no motor</source>
-        <translation>Nichts zu sperren: Der Antrieb ist im Firmware-Update-Modus, in dem er keinen Motor treibt</translation>
+        <translation>Nichts zu sperren: Der Antrieb ist im Firmware-Update-Modus, in dem er keinen Motor antreibt</translation>
     </message>
 </context>
 <context>
@@ -1627,7 +1650,7 @@
     </message>
     <message>
         <source>motor not powered yet</source>
-        <translation>noch stromlos</translation>
+        <translation>Motor noch nicht bestromt</translation>
     </message>
     <message>
         <source>disabled</source>
@@ -2131,7 +2154,7 @@
     </message>
     <message>
         <source>&lt;p&gt;The enable input must keep pulsing, so that a hung controller stops the drive. Without a controller that sends these pulses the drive never enables.&lt;/p&gt;</source>
-        <translation>&lt;p&gt;Der Freigabeeingang muss ständig pulsen, damit eine hängende Steuerung den Antrieb anhält. Ohne eine Steuerung, die diese Pulse sendet, gibt der Antrieb nie frei.&lt;/p&gt;</translation>
+        <translation>&lt;p&gt;Der Freigabeeingang muss ständig pulsen, damit eine hängende Steuerung den Antrieb anhält. Ohne eine Steuerung, die diese Pulse sendet, lässt sich der Antrieb nie freigeben.&lt;/p&gt;</translation>
     </message>
     <message>
         <source>[CEP] Require pulsing on enable input</source>
@@ -2260,7 +2283,7 @@
     </message>
     <message>
         <source>This info updated only after Connect</source>
-        <translation>Diese Angaben werden nur nach dem Verbinden erneuert</translation>
+        <translation>Diese Angaben werden nur beim Verbinden aktualisiert</translation>
     </message>
     <message>
         <source>Value %1</source>
@@ -2841,7 +2864,7 @@
     </message>
     <message>
         <source>&lt;p&gt;Time from switching the motor on to opening the brake, so that the motor holds the load first. Too short lets a hanging load drop, too long delays every start.&lt;/p&gt;</source>
-        <translation>&lt;p&gt;Zeit vom Einschalten des Motors bis zum Öffnen der Bremse, damit zuerst der Motor die Last hält. Zu kurz lässt eine hängende Last absacken, zu lang verzögert jeden Start.&lt;/p&gt;</translation>
+        <translation>&lt;p&gt;Zeit vom Einschalten des Motors bis zum Lüften der Bremse, damit zuerst der Motor die Last hält. Zu kurz lässt eine hängende Last absacken, zu lang verzögert jeden Start.&lt;/p&gt;</translation>
     </message>
     <message>
         <source>[BER] Brake release delay</source>
@@ -2861,7 +2884,7 @@
     </message>
     <message>
         <source>[BDD] Brake deceleration delay</source>
-        <translation>[BDD] Auslaufzeit vor dem Bremsen</translation>
+        <translation>[BDD] Auslaufzeit vor dem Schließen</translation>
     </message>
     <message>
         <source> ms</source>
@@ -2893,7 +2916,7 @@
     </message>
     <message>
         <source>Stop and hold</source>
-        <translation>Anhalten und halten</translation>
+        <translation>Anhalten und Position halten</translation>
     </message>
     <message>
         <source>Stop and disable (fault)</source>
@@ -2962,7 +2985,7 @@
     </message>
     <message>
         <source>&quot;%1&quot; is not a number; it stays at %2</source>
-        <translation>&quot;%1&quot; ist keine Zahl; es bleibt bei %2</translation>
+        <translation>„%1“ ist keine Zahl; es bleibt bei %2</translation>
     </message>
     <message>
         <source>%1 is beyond this drive&apos;s limit of %2; it stays at %3</source>
@@ -3071,7 +3094,7 @@
     </message>
     <message>
         <source>Attempt to load a file with unusable %1 of parameter %2: &quot;%3&quot;.</source>
-        <translation>Versuch, eine Datei mit unbrauchbarem %1 des Parameters %2 zu laden: &quot;%3&quot;.</translation>
+        <translation>Versuch, eine Datei mit unbrauchbarem %1 des Parameters %2 zu laden: „%3“.</translation>
     </message>
     <message>
         <source>Error writing settings to file %1</source>
@@ -3174,7 +3197,7 @@
     <name>Report</name>
     <message>
         <source>The machine&apos;s own emergency stop works, and does not depend on the program.</source>
-        <translation>Der eigene Not-Halt der Maschine wirkt und hängt nicht vom Programm ab.</translation>
+        <translation>Der Not-Halt der Maschine wirkt und hängt nicht vom Programm ab.</translation>
     </message>
     <message>
         <source>Directions of motor, feedback and axis are right.</source>
@@ -3310,7 +3333,7 @@
     </message>
     <message>
         <source>Checksum of the settings (SHA-256), which &quot;velbrin-cli report --verify FILE&quot; checks:</source>
-        <translation>Prüfsumme der Einstellungen (SHA-256), die &quot;velbrin-cli report --verify FILE&quot; prüft:</translation>
+        <translation>Prüfsumme der Einstellungen (SHA-256), die „velbrin-cli report --verify FILE“ prüft:</translation>
     </message>
     <message>
         <source>Settings</source>
@@ -3350,7 +3373,7 @@
     </message>
     <message>
         <source>Stop test</source>
-        <translation>Halteversuch</translation>
+        <translation>Stopptest</translation>
     </message>
     <message>
         <source>Not done.</source>
@@ -3374,7 +3397,7 @@
     </message>
     <message>
         <source>Farthest point on the way</source>
-        <translation>Fernster Punkt auf dem Weg</translation>
+        <translation>Entferntester Punkt auf dem Weg</translation>
     </message>
     <message>
         <source>Distance in revolutions</source>
@@ -3386,7 +3409,7 @@
     </message>
     <message>
         <source>Measured from the fault that the machine&apos;s stop raised, %1.</source>
-        <translation>Gemessen ab der Störung, die der Halt der Maschine ausgelöst hat, %1.</translation>
+        <translation>Gemessen ab der Störung, die der Not-Halt der Maschine ausgelöst hat, %1.</translation>
     </message>
     <message>
         <source>Name</source>
@@ -3445,7 +3468,7 @@
     </message>
     <message>
         <source>Stop test:</source>
-        <translation>Halteversuch:</translation>
+        <translation>Stopptest:</translation>
     </message>
     <message>
         <source>Setting</source>
@@ -3465,7 +3488,7 @@
     </message>
     <message>
         <source>none: capture on fault, press the machine&apos;s stop, and choose the capture here</source>
-        <translation>keiner: bei Störung aufzeichnen, den Halt der Maschine drücken und die Aufzeichnung hier wählen</translation>
+        <translation>keiner: bei Störung aufzeichnen, den Not-Halt der Maschine drücken und die Aufzeichnung hier wählen</translation>
     </message>
     <message>
         <source>%1: %2</source>
@@ -4009,7 +4032,7 @@
     </message>
     <message>
         <source>Brake deceleration delay</source>
-        <translation>Auslaufzeit vor dem Bremsen</translation>
+        <translation>Auslaufzeit vor dem Schließen der Bremse</translation>
     </message>
     <message>
         <source>counts</source>
@@ -4314,7 +4337,7 @@
     </message>
     <message>
         <source>Set zero</source>
-        <translation>Nullsetzen</translation>
+        <translation>Sollwert 0</translation>
     </message>
     <message>
         <source>Shortcut Alt+0</source>
@@ -4322,7 +4345,7 @@
     </message>
     <message>
         <source>When the cable or the connection is lost, up to five seconds of motion are still in the drive, and it stays enabled. Keep the machine&apos;s own stop within reach.</source>
-        <translation>Geht das Kabel oder die Verbindung verloren, sind noch bis zu fünf Sekunden Bewegung im Antrieb, und er bleibt freigegeben. Halten Sie den eigenen Halt der Maschine in Reichweite.</translation>
+        <translation>Geht das Kabel oder die Verbindung verloren, sind noch bis zu fünf Sekunden Bewegung im Antrieb, und er bleibt freigegeben. Halten Sie den Not-Halt der Maschine in Reichweite.</translation>
     </message>
     <message>
         <source>Stimulus presets</source>
@@ -4466,7 +4489,7 @@
     </message>
     <message>
         <source>Copy device state to clipboard</source>
-        <translation>Gerätezustand in Zwischenablage kopieren</translation>
+        <translation>Gerätezustand kopieren</translation>
     </message>
     <message>
         <source>Status info may be easily pasted to email or support request message</source>
@@ -4565,7 +4588,7 @@
     </message>
     <message>
         <source>Writing report...</source>
-        <translation>Bericht wird geschrieben...</translation>
+        <translation>Protokoll wird geschrieben...</translation>
     </message>
 </context>
 <context>
@@ -4640,7 +4663,7 @@
     </message>
     <message>
         <source>&lt;p&gt;Your own words on this try: double-click, or F2. They go into a saved page and into the report.&lt;/p&gt;</source>
-        <translation>&lt;p&gt;Ihre eigenen Worte zu diesem Versuch: Doppelklick oder F2. Sie kommen in eine gespeicherte Seite und in den Bericht.&lt;/p&gt;</translation>
+        <translation>&lt;p&gt;Ihre eigenen Worte zu diesem Versuch: Doppelklick oder F2. Sie kommen in eine gespeicherte Seite und in das Protokoll.&lt;/p&gt;</translation>
     </message>
 </context>
 <context>

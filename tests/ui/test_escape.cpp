@@ -185,6 +185,23 @@ TEST_F(Escape, WhatWasSaidAboutADisableGivesWayWhenTheDriveIsEnabledAgain)
     EXPECT_TRUE(waitFor([this] { return m_window->statusBar()->currentMessage() == "The drive is enabled again"; }));
 }
 
+using EscapeWithoutDrive = WindowFixture;
+
+TEST_F(EscapeWithoutDrive, IsAnsweredDuringABusSearch)
+{
+    openWindow();
+    QSignalSpy progress(&m_window->session(), &Connection::scanProgress);
+    click("connect_button");
+    ASSERT_TRUE(waitFor([&] { return progress.size() >= 2; }));
+    press(Qt::Key_Escape);
+    const auto asked = progress.size();
+    ASSERT_TRUE(waitFor([&] { return progress.size() >= asked + 3; }));
+    const QString said = m_window->statusBar()->currentMessage();
+    EXPECT_TRUE(said.startsWith("No drive is connected, so none was disabled.")) << qPrintable(said);
+    m_answers.expect([](QWidget *nodes) { return nodes->close(); });
+    EXPECT_TRUE(waitFor([this] { return m_answers.isDone(); }));
+}
+
 TEST_F(Escape, SetpointShortcutsCrossAsTheHintsSay)
 {
     control<QSpinBox>("stimulusTarget1")->setValue(11);

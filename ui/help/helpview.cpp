@@ -36,8 +36,11 @@ HelpView::~HelpView() = default;
 void HelpView::changeEvent(QEvent *event)
 {
     QWidget::changeEvent(event);
-    if (event->type() == QEvent::PaletteChange && m_engine)
-        m_engine->followPalette(palette());
+    if (event->type() != QEvent::PaletteChange || !m_engine)
+        return;
+    m_engine->followPalette(palette());
+    if (isRunning() && m_engine->plotStands)
+        redrawPlot(Zoom::Keep); // charts are painted: they do not follow the style sheet by themselves
 }
 
 void HelpView::paintEvent(QPaintEvent *event)
@@ -142,14 +145,19 @@ void HelpView::showPlot(const QString &html, const QUrl &base, Zoom zoom, const 
     m_plotBase = base;
     if (stands) {
         m_engine->plotFiles.page = m_plot.toUtf8();
-        runScript(QStringLiteral("velbrinView.replace(%1, %2); velbrinView.setSaving(%3)")
-                      .arg(scriptLiteral(m_plot), QLatin1String(zoom == Zoom::Keep ? "true" : "false"),
-                           QLatin1String(isSaving() ? "true" : "false")));
+        redrawPlot(zoom);
     } else if (isRunning()) {
         loadPlot();
     } else if (!m_noteText.isEmpty()) {
         showNote(m_noteText);
     }
+}
+
+void HelpView::redrawPlot(Zoom zoom)
+{
+    runScript(QStringLiteral("velbrinView.replace(%1, %2); velbrinView.setSaving(%3)")
+                  .arg(scriptLiteral(m_plot), QLatin1String(zoom == Zoom::Keep ? "true" : "false"),
+                       QLatin1String(isSaving() ? "true" : "false")));
 }
 
 void HelpView::updateScope(const QJsonObject &news)

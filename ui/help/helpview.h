@@ -76,6 +76,7 @@ private:
     void processEnded(const QString &how);
     void showNote(const QString &text);
     void loadPlot();
+    void redrawPlot(Zoom zoom);
     void pictureEnded(const QString &failure);
 
     Engine m_use;

@@ -17,6 +17,14 @@ QString withLitLinesBold(QString html)
     return html.replace(lit, QStringLiteral("<b>\\1</b>\\2"));
 }
 
+/// The red of the session's texts is too dark on a dark desktop.
+QString readableRed(QString html, const QPalette &palette)
+{
+    if (palette.color(QPalette::Window).lightness() < 128)
+        html.replace(QLatin1String("color:#e00"), QLatin1String("color:#ff7b7b"));
+    return html;
+}
+
 } // namespace
 
 StatePanels::StatePanels(QObject *parent) : QObject(parent) {}
@@ -39,7 +47,7 @@ void StatePanels::show(QLabel *panel, const QString &html)
         return;
     found->filled = true;
     setLive(*found, true);
-    found->waiting = withLitLinesBold(html);
+    found->waiting = readableRed(withLitLinesBold(html), panel->palette());
     // A new text would end the selecting or the click on a link that is going on, and make an open menu's "Copy" idle.
     const QWidget *popup = QApplication::activePopupWidget();
     if (m_pressed != panel && !(popup && popup->parentWidget() == panel))

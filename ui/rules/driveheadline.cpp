@@ -125,7 +125,8 @@ void makeLastKnown(const DriveNews &news, DriveHeadline &line)
     line.word = Text::tr("Last known: %1").arg(line.word);
     const QString age =
         news.connected ? agoText(news.secondsOld) : Text::tr("%1, not connected").arg(agoText(news.secondsOld));
-    line.detail = line.detail.isEmpty() ? age : Text::tr("%1, %2").arg(line.detail, age);
+    // The age first: in a narrow window the end gives way.
+    line.detail = line.detail.isEmpty() ? age : Text::tr("%1, %2").arg(age, line.detail);
 }
 
 void makeUnheard(DriveHeadline &line)

@@ -17,14 +17,6 @@ QColor markedColour(const QColor &base)
     return {mixed(base.red(), 255), mixed(base.green(), 40), mixed(base.blue(), 40)};
 }
 
-/// Decimal point as the desktop writes it.
-QString asShown(QString number)
-{
-    if (QLocale().decimalPoint() == QLatin1String(","))
-        number.replace(QLatin1Char('.'), QLatin1Char(','));
-    return number;
-}
-
 } // namespace
 
 TypedNumber readTypedNumber(const QString &text, int decimals)
@@ -68,7 +60,7 @@ QString NumberField::driveLimitsText() const
 {
     const Limits limits = m_limits();
     return tr("This drive: %1 to %2")
-        .arg(asShown(QString::number(limits.lowest, 'g', QLocale::FloatingPointShortest)), withUnit(limits.highest));
+        .arg(QString::number(limits.lowest, 'g', QLocale::FloatingPointShortest), withUnit(limits.highest));
 }
 
 QString NumberField::takeRefusal()
@@ -103,7 +95,7 @@ double NumberField::numberOf(const QString &text) const
 
 QString NumberField::textOf(double value) const
 {
-    return asShown(QString::number(value, 'f', m_limits().decimals));
+    return QString::number(value, 'f', m_limits().decimals);
 }
 
 void NumberField::replaceRefused(QString &text)
@@ -165,8 +157,7 @@ QString NumberField::why(const QString &typed, const TypedNumber &number) const
 
 QString NumberField::withUnit(double value) const
 {
-    return asShown(QString::number(value, 'f', QLocale::FloatingPointShortest)) +
-           m_box->property("suffix").toString();
+    return QString::number(value, 'f', QLocale::FloatingPointShortest) + m_box->property("suffix").toString();
 }
 
 bool NumberField::cannotBecomeValid(const QString &text) const

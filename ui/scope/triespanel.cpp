@@ -143,12 +143,14 @@ void TriesPanel::show(const CaptureHistory &history)
     m_under->setEnabled(all.size() > 1);
 }
 
-/// The note has the room that is left, and some where there is none.
+/// Numbers that are flush right need some air; the note has the room that is left, and some where there is none.
 void TriesPanel::fitColumns(int note)
 {
     QHeaderView *header = m_table->horizontalHeader();
     header->setStretchLastSection(false); // it would keep the width that it is given here
     m_table->resizeColumnsToContents();
+    for (int column = 0; column < note; ++column)
+        m_table->setColumnWidth(column, m_table->columnWidth(column) + m_table->fontMetrics().averageCharWidth());
     m_table->setColumnWidth(note, qMin(m_table->columnWidth(note), widestNote));
     header->setStretchLastSection(true);
 }

@@ -12,6 +12,7 @@
 #include <QBoxLayout>
 #include <QFileInfo>
 #include <QLineEdit>
+#include <utility>
 
 DriveBoard::DriveBoard(QWidget *window, QBoxLayout *layout, const Connection &session, const EditedSettings &settings)
     : QObject(window), m_session(session), m_settings(settings), m_fields(window), m_history(m_fields),
@@ -50,6 +51,40 @@ QString DriveBoard::model() const
 void DriveBoard::connectingTo(int address)
 {
     m_strip->setBusAddress(address);
+    rememberStranded();
+}
+
+// The read behind a connection replaces what the pages hold. Whoever left the drive was asked about it; whoever lost it
+// was not.
+void DriveBoard::rememberStranded()
+{
+    if (!m_settings.isPending())
+        return;
+    Stranded stranded;
+    stranded.serialNumber = m_settings.drive().getParam(QStringLiteral("HWSERIAL")).value;
+    for (const SettingField &field : m_fields.all()) {
+        const SingleParam held = m_settings.drive().getParam(field.parameter);
+        if (field.isEditable && held.name == field.parameter && !sameValue(field.shown(), field.valueOf(held.value)))
+            stranded.fields.insert(field.name, field.shown());
+    }
+    if (stranded.serialNumber > 0 && !stranded.fields.isEmpty())
+        m_stranded = stranded;
+}
+
+void DriveBoard::offerStranded()
+{
+    const Stranded stranded = std::exchange(m_stranded, Stranded());
+    if (stranded.fields.isEmpty())
+        return;
+    if (stranded.serialNumber != m_settings.drive().getParam(QStringLiteral("HWSERIAL")).value) {
+        emit report(tr("Edits that were not applied are gone: they were another drive's"));
+        return;
+    }
+    const int count = m_history.offerBack(stranded.fields, tr("the drive's values after the lost connection"));
+    if (count == 1)
+        emit report(tr("1 edit was not applied when the connection was lost: Ctrl+Z brings it back"));
+    else if (count > 1)
+        emit report(tr("%1 edits were not applied when the connection was lost: Ctrl+Z brings them back").arg(count));
 }
 
 void DriveBoard::connectionChanged(bool connected)
@@ -88,6 +123,8 @@ void DriveBoard::fillingEnds(const QString &fileName)
     }
     if (m_settings.driveWasRead())
         m_strip->setSerialNumber(int(m_settings.drive().getParam(QStringLiteral("HWSERIAL")).value));
+    if (m_settings.driveWasRead() && fileName.isEmpty())
+        offerStranded();
     if (m_apply.isArriving)
         tellApplied();
     m_newer.clear();

@@ -101,10 +101,18 @@ private:
         QString text;
         int cursor = 0;
     };
+    /// Edits that the drive had not been given when its connection was lost.
+    struct Stranded
+    {
+        double serialNumber = 0; ///< of that drive
+        QHash<QString, double> fields;
+    };
 
     QString model() const;
     void keepNewerEdits();
     void tellApplied();
+    void rememberStranded();
+    void offerStranded();
     void rememberTyping();
     void restoreTyping();
 
@@ -121,6 +129,7 @@ private:
     QList<SettingChange> m_changes;
     Apply m_apply;
     Typing m_typing;
+    Stranded m_stranded;
     QHash<QString, double> m_newer; ///< edits made while the read behind an apply was on its way
     ValueHomes::Flash m_flash = ValueHomes::Flash::Unknown;
     QString m_fileName;

@@ -150,6 +150,20 @@ void EditHistory::endFilling(const QString &step)
     emit edited();
 }
 
+int EditHistory::offerBack(const QHash<QString, double> &values, const QString &step)
+{
+    QVector<FieldChange> changes;
+    for (auto value = values.cbegin(); value != values.cend(); ++value) {
+        const SettingField *field = m_fields.find(value.key());
+        if (field && !sameValue(*value, field->shown()))
+            changes.append({field, *value, field->shown()});
+    }
+    m_open.clear();
+    if (!changes.isEmpty())
+        m_steps.push(new EditStep(this, changes, step));
+    return int(changes.size());
+}
+
 // A rule between controls may have gone further than the step.
 void EditHistory::lookAgain()
 {

@@ -25,6 +25,9 @@ public:
     /// With a name ("mine.drc loaded") what has changed since is one step; without one it is the new state, and old
     /// steps still lead from it to where they were.
     void endFilling(const QString &step = QString());
+    /// A step with this name whose undoing puts these values back, by name of field: what a read from the drive has
+    /// replaced. Returns how many fields that changes; with none there is no step.
+    int offerBack(const QHash<QString, double> &values, const QString &step);
     /// Another drive: no step of the former one must reach it.
     void clear() { m_steps.clear(); }
     void undo();

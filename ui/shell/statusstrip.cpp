@@ -13,6 +13,7 @@
 namespace {
 
 constexpr int ageIntervalMs = 500;
+constexpr int keptCharacters = 12; // of the words behind the state, in the narrowest window
 constexpr int stallMs = 1200; // a window that could not look has no right to say that nothing came
 
 void setTextOf(QLabel *label, const QString &text)
@@ -164,6 +165,7 @@ void StatusStrip::refresh()
     m_shape->setLook(line.look);
     setTextOf(m_word, line.word);
     setTextOf(m_detail, line.detail);
+    keepDetail(line);
     setTextOf(m_identity, line.identity);
     setTextOf(m_figures, line.figures);
     if (m_faultHelp->isHidden() != (line.faultBit == 0))
@@ -175,6 +177,14 @@ void StatusStrip::refresh()
     colourWord();
     QAccessibleEvent event(m_word, QAccessible::Alert); // spoken without being asked for: the state, not each figure
     QAccessible::updateAccessibility(&event);
+}
+
+// "standing" or "moving" is more than which drive it is: that gives way first. Behind a loss the words are longer than
+// a small window has room for.
+void StatusStrip::keepDetail(const DriveHeadline &line)
+{
+    const int kept = fontMetrics().averageCharWidth() * keptCharacters;
+    m_detail->setMinimumWidth(line.look == DriveLook::LastKnown ? 0 : qMin(m_detail->sizeHint().width(), kept));
 }
 
 void StatusStrip::colourWord()

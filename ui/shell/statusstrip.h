@@ -61,6 +61,7 @@ private:
     QPushButton *addButton(QHBoxLayout *row, const char *name, const QString &text, const QString &toolTip);
     void lookAtAge();
     void refresh();
+    void keepDetail(const DriveHeadline &line);
     void colourWord();
 
     DriveNews m_news;

@@ -174,6 +174,7 @@ private:
 
     DriveBoard *m_board = nullptr;
     PaneKeys *m_paneKeys = nullptr;
+    QString m_searchProgress; ///< as last said
     QuestionQueue *m_questions = nullptr;
     HelpBrowser *m_help = nullptr;
     ParameterPages *m_parameters = nullptr;

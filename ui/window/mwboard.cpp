@@ -110,7 +110,12 @@ void MW::connectBoard()
     connect(
         &m_connection, &Connection::scanProgress, this,
         [this](int asked, int total) {
-            statusBar()->showMessage(tr("Searching devices: address %1 of %2").arg(asked + 1).arg(total));
+            // What an Esc came to is not written over: it stays until the search has ended.
+            const QString now = statusBar()->currentMessage();
+            if (!now.isEmpty() && now != m_searchProgress && asked > 0)
+                return;
+            m_searchProgress = tr("Searching devices: address %1 of %2").arg(asked + 1).arg(total);
+            statusBar()->showMessage(m_searchProgress);
         },
         type);
 }

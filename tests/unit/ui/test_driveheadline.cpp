@@ -58,9 +58,9 @@ TEST(DriveHeadline, SaysWhatIsNotThePresentAnyMore)
                                           "position -12");
     news.secondsOld = 3.7;
     EXPECT_EQ(driveHeadline(news).word, "Last known: ENABLED");
-    EXPECT_EQ(driveHeadline(news).detail, "standing, 3 s ago");
+    EXPECT_EQ(driveHeadline(news).detail, "3 s ago, standing");
     news.connected = false;
-    EXPECT_EQ(driveHeadline(news).detail, "standing, 3 s ago, not connected");
+    EXPECT_EQ(driveHeadline(news).detail, "3 s ago, not connected, standing");
     EXPECT_EQ(driveHeadline(news).look, DriveLook::LastKnown);
     news.leftByUser = true;
     EXPECT_EQ(driveHeadline(news).spoken, "Not connected");
