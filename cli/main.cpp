@@ -1,4 +1,5 @@
 // velbrin-cli: the drive session without a window, for scripts and for benches with many machines.
+#include "clitext.h"
 #include "commandparser.h"
 #include "commands.h"
 #include "driveclient.h"
@@ -46,7 +47,7 @@ int main(int argc, char **argv)
     if (!line.answer.isEmpty())
         return writeOut(line.answer.toUtf8()) ? ExitDone : ExitFailed;
     if (!line.problem.isEmpty()) {
-        complain({line.problem, QCoreApplication::translate("main", "velbrin-cli --help tells more.")});
+        complain({line.problem, tr("velbrin-cli --help tells more.")});
         return ExitUsage;
     }
 
@@ -63,7 +64,7 @@ int main(int argc, char **argv)
     const Outcome outcome = runCommand(line, interruption);
     complain(outcome.messages);
     if (!writeOut(printed(outcome.results, line.json))) {
-        complain({QCoreApplication::translate("main", "The results could not be written.")});
+        complain({tr("The results could not be written.")});
         return ExitFailed;
     }
     return outcome.status;

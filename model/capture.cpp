@@ -1,6 +1,13 @@
 #include "capture.h"
 
+#include <QCoreApplication>
+
 #include <algorithm>
+
+QString shownName(const CaptureData &channel)
+{
+    return QCoreApplication::translate("Connection", channel.name.toUtf8().constData());
+}
 
 const CaptureData *CaptureRecord::channel(const QString &key) const
 {

@@ -65,4 +65,7 @@ struct CaptureRecord
 
 Q_DECLARE_METATYPE(CaptureRecord)
 
+/// The channel's name in the language of the program. For people only: files are read back by `name`.
+QString shownName(const CaptureData &channel);
+
 #endif

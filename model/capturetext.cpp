@@ -86,7 +86,8 @@ QString channelsOf(const QStringList &captions, const QList<CaptureData> &known,
     return QString();
 }
 
-/// Time between rows, or 0 when they are not evenly spaced or no drive records so. The file's times are rounded to six digits.
+/// Time between rows, or 0 when they are not evenly spaced or no drive records so. The file's times are rounded to six
+/// digits.
 double periodOf(const QList<double> &times)
 {
     const double span = times.last() - times.first();

@@ -1,6 +1,5 @@
 #include "chart.h"
 
-#include <QCoreApplication>
 #include <QMap>
 #include <QStringList>
 
@@ -100,7 +99,7 @@ QString chart(const QList<CaptureData> &channels, const Range &time, double top)
     double legend = left;
     for (int i = 0; i < channels.size(); ++i) {
         const char *colour = colours[i % std::size(colours)];
-        const QString name = QCoreApplication::translate("Connection", channels.at(i).name.toUtf8().constData());
+        const QString name = shownName(channels.at(i));
         svg +=
             label(legend, top - 5.0, "start", name, colour) + line(channels.at(i).samples, time, values, top, colour);
         legend += 7.0 * name.size() + 20.0;

@@ -52,7 +52,7 @@ QString captureSection(const CaptureRecord &capture)
     QStringList signalNames;
     for (const CaptureData &channel : capture.channels) {
         if (channel.enabled)
-            signalNames.append(channel.name);
+            signalNames.append(shownName(channel));
     }
     const bool isKnown = capture.trigger > 0 && capture.trigger < int(std::size(triggers));
     html::Facts rows = {{Text::tr("Recorded"), html::when(capture.time)}};

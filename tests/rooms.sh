@@ -18,6 +18,6 @@ outside=$(find analysis buslib cli desk docs model report session sim tests ui -
 # shellcheck disable=SC2086 # a word a file
 keep_out "The web engine is known outside ui/help (bench, which shows it bare, may)" "$engine" $outside
 keep_out "What others include of ui/help knows the web engine" "$engine" ui/help/help{view,browser}.h ui/help/enginestart.h ui/help/helpbrowser.cpp
-keep_out "The bus library is known to a program" '(zetabus|busdevice|bushandle|packet|serialport)\.h' ui cli
+keep_out "The bus library is known to a program" '(zetabus|busdevice|busrecord|packet|serialport)\.h' ui cli
 keep_out "Values and files know a widget or a port" 'QtWidgets|QWidget|QSerialPort|connection\.h' model analysis report
 exit $failed

@@ -4,22 +4,16 @@
 #include "capturefiles.h"
 #include "captureorder.h"
 #include "capturerecord.h"
+#include "clitext.h"
 #include "commandline.h"
 #include "driveclient.h"
 #include "drivewords.h"
 #include "recorder.h"
 
-#include <QCoreApplication>
-
 namespace {
 
 constexpr int readyLimitMs = 30000; // after enabling: the way to the setpoint, and homing where it is asked for
 constexpr double defaultExtraSeconds = 10.0; // for the trigger to come
-
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("CaptureCommand", text);
-}
 
 // --- The parts of a capture, in their order -----------------------------------------------------------------------
 
@@ -143,14 +137,7 @@ QString checkCapture(const CommandLine &line)
     return problem;
 }
 
-} // namespace
-
-QList<Command> captureCommands()
-{
-    return {
-        Command("capture", capture)
-            .takes("--channels KEY,... [OPTION...] (--csv FILE | --html FILE | --json)...")
-            .says(TEXT("record the drive's signals, with or without a motion, to CSV and plot page"), TEXT(R"(
+const char *const captureHelp = R"(
 Arms the drive's recorder, moves the axis if --step or --stimulus say so, waits until the recorder has 2000 words, which
 the channels share, and saves them. Time in the files begins at the first sample.
 
@@ -163,33 +150,41 @@ posreference, posmeas, posferror (counts); outputvolt, fluxvoltage (%); hvbusvol
 (no unit).
 
 Prints one line a channel, tab separated: key, unit, number of samples, first, lowest, highest and last value. With
---json the whole capture, with settings, drive, motion and time, and its figures (see "figures").)"))
-            .value("channels", "KEY,...", TEXT("What to record, one to sixteen of the channels above."))
+--json the whole capture, with settings, drive, motion and time, and its figures (see "figures").)";
+
+} // namespace
+
+QList<Command> captureCommands()
+{
+    return {
+        Command("capture", capture)
+            .takes("--channels KEY,... [OPTION...] (--csv FILE | --html FILE | --json)...")
+            .says("record the drive's signals, with or without a motion, to CSV and plot page", captureHelp)
+            .value("channels", "KEY,...", "What to record, one to sixteen of the channels above.")
             .value("rate", "HZ",
-                   TEXT("Samples a second of each channel; the drive takes the nearest that it has. Its highest if not "
-                        "given: 20000 (Keta), 17500 (Torva)."))
+                   "Samples a second of each channel; the drive takes the nearest that it has. Its highest if not "
+                   "given: 20000 (Keta), 17500 (Torva).")
             .value("trigger", "WHEN",
-                   TEXT("What starts the recording: rise (the setpoint rises), change (it changes), fault (a fault "
-                        "comes up), now. If not given: change with --step or --stimulus, otherwise now."))
-            .value("step", "SETPOINT", TEXT("When armed, give the drive this setpoint, in setpoint units."))
-            .flag("incremental", TEXT("--step is added to the setpoint in use."))
+                   "What starts the recording: rise (the setpoint rises), change (it changes), fault (a fault "
+                   "comes up), now. If not given: change with --step or --stimulus, otherwise now.")
+            .value("step", "SETPOINT", "When armed, give the drive this setpoint, in setpoint units.")
+            .flag("incremental", "--step is added to the setpoint in use.")
             .value("stimulus", "T1,D1,T2,D2",
-                   TEXT("When armed, switch between two setpoints, each held for its time in s, 0.02 to 100."))
-            .flag("enable", TEXT("Enable the drive before, and disable it at the end, whatever happens in between."))
+                   "When armed, switch between two setpoints, each held for its time in s, 0.02 to 100.")
+            .flag("enable", "Enable the drive before, and disable it at the end, whatever happens in between.")
             .value("time-out", "S",
-                   TEXT("Longest time in seconds from arming until the recorder is full; if not given, 10 s more than "
-                        "the recording takes."))
-            .value("csv", "FILE",
-                   TEXT("Save the samples as columns: a line of names, then time in s and a value a channel."),
+                   "Longest time in seconds from arming until the recorder is full; if not given, 10 s more than "
+                   "the recording takes.")
+            .value("csv", "FILE", "Save the samples as columns: a line of names, then time in s and a value a channel.",
                    Option::Kind::File)
             .value("format", "KIND",
-                   TEXT("How --csv writes them: semicolon (if not given), or comma, with a line of units below the "
-                        "names and fixed decimals, for spreadsheets and plotters in any language."))
+                   "How --csv writes them: semicolon (if not given), or comma, with a line of units below the "
+                   "names and fixed decimals, for spreadsheets and plotters in any language.")
             .value("html", "FILE",
-                   TEXT("Save the plot page. Scripts, style, settings and figures are put into the file, which can so "
-                        "be opened in any browser and by Velbrin, moved and sent; drag in a chart to zoom."),
+                   "Save the plot page. Scripts, style, settings and figures are put into the file, which can so "
+                   "be opened in any browser and by Velbrin, moved and sent; drag in a chart to zoom.",
                    Option::Kind::File)
-            .value("note", "TEXT", TEXT("Your own words, kept with the capture."))
+            .value("note", "TEXT", "Your own words, kept with the capture.")
             .checks(checkCapture),
     };
 }

@@ -4,11 +4,11 @@
 #include "capturejson.h"
 #include "captureplotter.h"
 #include "capturetext.h"
+#include "clitext.h"
 #include "datafolder.h"
 #include "plotpage.h"
 #include "savedpage.h"
 
-#include <QCoreApplication>
 #include <QJsonArray>
 #include <QJsonObject>
 
@@ -16,11 +16,6 @@
 #include <functional>
 
 namespace {
-
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("CaptureFiles", text);
-}
 
 QByteArray pageOf(const CaptureRecord &capture, const QString &flotFolder, QString &problem)
 {

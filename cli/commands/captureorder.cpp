@@ -1,17 +1,11 @@
 #include "captureorder.h"
 
+#include "clitext.h"
 #include "commandline.h"
 #include "numbers.h"
 #include "scopechannels.h"
 
-#include <QCoreApplication>
-
 namespace {
-
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("CaptureOrder", text);
-}
 
 const char *const triggerNames[] = {"rise", "change", "fault", "now"};
 constexpr int triggerChange = 1;

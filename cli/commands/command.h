@@ -20,8 +20,8 @@ struct Option
     bool mayRepeat() const { return kind == Kind::Repeated || kind == Kind::RepeatedFile; }
 };
 
-/// One command, written as Command("name", function).says(...).takes(...).flag(...) and so on. Texts are marked with
-/// TEXT for translation; line breaks in them count as spaces, an empty line begins a new paragraph.
+/// One command, written as Command("name", function).says(...).takes(...).flag(...) and so on. In its texts, line
+/// breaks count as spaces and an empty line begins a new paragraph.
 class Command
 {
 public:
@@ -61,7 +61,5 @@ public:
     const char *offlineOption = nullptr;
     Check check = nullptr;
 };
-
-#define TEXT(text) QT_TRANSLATE_NOOP("CommandHelp", text)
 
 #endif

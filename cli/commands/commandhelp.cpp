@@ -1,17 +1,11 @@
 #include "commandhelp.h"
 
+#include "clitext.h"
 #include "commands.h"
-
-#include <QCoreApplication>
 
 namespace {
 
 constexpr int lineWidth = 98;
-
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("CommandHelp", text);
-}
 
 /// `text` in lines that begin at `column`; the first of them begins with `line`, which is filled up to there.
 QString wrapped(QString line, const QString &text, int column)

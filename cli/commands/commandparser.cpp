@@ -1,5 +1,6 @@
 #include "commandparser.h"
 
+#include "clitext.h"
 #include "commandhelp.h"
 #include "commands.h"
 #include "version.h"
@@ -7,30 +8,24 @@
 
 #include <CLI/CLI.hpp>
 
-#include <QCoreApplication>
 #include <QFileInfo>
 
 namespace {
 
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("CommandLine", text);
-}
-
 const QList<Option> commonOptions = {
-    {"port", "NAME", TEXT("Serial port of the bus, such as /dev/ttyUSB0.")},
+    {"port", "NAME", "Serial port of the bus, such as /dev/ttyUSB0."},
     {"virtual-drive", "[=PROFILES]",
-     TEXT("Without hardware: virtual drives such as keta,torva; keta alone if none are named; keta:flexible=45+noise "
-          "on an axis that misbehaves (velbrin-sim --help lists how). They live as long as the command; velbrin-sim "
-          "keeps them.")},
+     "Without hardware: virtual drives such as keta,torva; keta alone if none are named; keta:flexible=45+noise "
+     "on an axis that misbehaves (velbrin-sim --help lists how). They live as long as the command; velbrin-sim "
+     "keeps them."},
     {"node", "N",
-     TEXT("Bus address, 1 to 255. Needed by every command that writes to a drive or moves it; the others find the only "
-          "drive by themselves.")},
-    {"json", nullptr, TEXT("Print results as JSON.")},
+     "Bus address, 1 to 255. Needed by every command that writes to a drive or moves it; the others find the only "
+     "drive by themselves."},
+    {"json", nullptr, "Print results as JSON."},
     // Not in the help: a real drive that is not waited for is lost in the middle of a restart or an erase.
     {"pause-scale", "FACTOR", nullptr},
-    {"help", nullptr, TEXT("This text; behind a command, all about the command. Also -h.")},
-    {"version", nullptr, TEXT("The program's version. Also -v.")},
+    {"help", nullptr, "This text; behind a command, all about the command. Also -h."},
+    {"version", nullptr, "The program's version. Also -v."},
 };
 
 const char *const operandsName = "operands";

@@ -1,13 +1,13 @@
 // Restarting a drive, replacing its firmware, and looking into firmware files.
 #include "commandgroups.h"
 
+#include "clitext.h"
 #include "commandline.h"
 #include "driveclient.h"
 #include "drivesteps.h"
 #include "firmwareinfo.h"
 #include "plaintext.h"
 
-#include <QCoreApplication>
 #include <QJsonArray>
 #include <QJsonObject>
 
@@ -18,11 +18,6 @@ namespace {
 constexpr int upgradeAddress = 255;
 constexpr int oneTimeAddress = 16;      // of a freshly upgraded drive, until its next restart
 constexpr int upgradeLimitMs = 3600000; // far beyond any image over any line
-
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("FirmwareCommands", text);
-}
 
 // --- flash --------------------------------------------------------------------------------------------------------
 
@@ -171,7 +166,7 @@ QList<Command> firmwareCommands()
     return {
         Command("flash", flash)
             .takesFile("FILE.tdf [--reset-to-factory]")
-            .says(TEXT("replace the firmware of a drive in firmware-upgrade mode"), TEXT(R"(
+            .says("replace the firmware of a drive in firmware-upgrade mode", R"(
 The file is checked before anything is erased. ALL SETTINGS ARE LOST: "save" them before. Takes the time of the upload
 and at least 3.5 s, 25 s more on a drive with two processors (Torva).
 
@@ -179,20 +174,19 @@ Prints what happens, line by line; the reason of a failure goes to standard erro
 address 16 until it is switched off and on. A failed or interrupted upgrade leaves a drive without firmware, which the
 next upgrade repairs: after Ctrl+C it goes on, the second one breaks it off.
 
-Drives in this mode answer at address 255 whatever their own, so have only one of them on the bus.)"))
-            .flag("reset-to-factory", TEXT("Reset the drive's settings with the erase (Keta).")),
+Drives in this mode answer at address 255 whatever their own, so have only one of them on the bus.)")
+            .flag("reset-to-factory", "Reset the drive's settings with the erase (Keta)."),
         Command("restart", restart)
             .takes("[--upgrade-mode]")
-            .says(TEXT("restart the drive, and see that it is back"), TEXT(R"(
+            .says("restart the drive, and see that it is back", R"(
 An enabled drive lets go of its motor. Settings that were not saved to flash are lost, faults cleared. Waits 3.5 s, then
 connects again and prints address, model, type id and mode, tab separated. A drive in firmware-upgrade mode comes back in
-normal mode if it has a firmware.)"))
-            .flag("upgrade-mode",
-                  TEXT("Restart into firmware-upgrade mode, at address 255, for \"flash\" (Keta only).")),
+normal mode if it has a firmware.)")
+            .flag("upgrade-mode", "Restart into firmware-upgrade mode, at address 255, for \"flash\" (Keta only)."),
         Command("firmware-info", firmwareInfo)
             .takesFile("FILE.tdf")
-            .says(TEXT("what a firmware file holds; needs no drive"), TEXT(R"(
+            .says("what a firmware file holds; needs no drive", R"(
 Format version, device type and family, sizes of the images, and whether the checksum is right; name and value tab
-separated. Exit status 1 when no drive would take the file.)")),
+separated. Exit status 1 when no drive would take the file.)"),
     };
 }

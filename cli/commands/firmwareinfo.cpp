@@ -1,9 +1,9 @@
 #include "firmwareinfo.h"
 
+#include "clitext.h"
 #include "devicemodel.h"
 #include "firmwarefile.h"
 
-#include <QCoreApplication>
 #include <QFileInfo>
 #include <QJsonObject>
 
@@ -13,11 +13,6 @@ namespace {
 
 constexpr qint64 headerBytes = 16;
 constexpr qint64 checksumBytes = 4;
-
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("FirmwareInfo", text);
-}
 
 /// Only the thousands count.
 QString familyName(int fileType)

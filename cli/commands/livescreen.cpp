@@ -1,6 +1,7 @@
 #include "livescreen.h"
 
-#include <QCoreApplication>
+#include "clitext.h"
+
 #include <QRegularExpression>
 
 #include <algorithm>
@@ -91,7 +92,7 @@ QStringList screenLines(const StatusReport &report, int width, int height)
     if (lines.size() > height) {
         const int left = lines.size() - height + 1;
         lines = lines.mid(0, height - 1);
-        lines.append(QCoreApplication::translate("LiveScreen", "(%1 more lines)").arg(left));
+        lines.append(tr("(%1 more lines)").arg(left));
     }
     for (QString &line : lines)
         line.truncate(width);

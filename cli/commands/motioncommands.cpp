@@ -1,6 +1,7 @@
 // Commands that let a drive move, and those that stop it.
 #include "commandgroups.h"
 
+#include "clitext.h"
 #include "commandline.h"
 #include "driveclient.h"
 #include "drivemotion.h"
@@ -8,7 +9,6 @@
 #include "drivewords.h"
 #include "numbers.h"
 
-#include <QCoreApplication>
 #include <QJsonArray>
 #include <QJsonObject>
 
@@ -17,11 +17,6 @@ namespace {
 constexpr int answerLimitMs = 2000; // for a register that the drive has just been told to change
 constexpr double defaultHomingSeconds = 60.0;
 constexpr double longestWaitSeconds = 3600.0;
-
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("MotionCommands", text);
-}
 
 Outcome done(const DriveState &drive)
 {
@@ -84,12 +79,13 @@ Outcome disableAll(DriveClient &client)
             table.rows.append({node.address, nodeName(node), state});
         }
     }
-    if (addresses.isEmpty())
+    if (addresses.isEmpty() && areDisabled)
         return failed({tr("No drive answers on %1, so none was disabled.").arg(client.port())});
+    if (addresses.isEmpty())
+        return failed({tr("The search for drives on %1 failed, so none was disabled.").arg(client.port())});
     return {areDisabled ? ExitDone : ExitFailed,
             toResults(table),
-            {tr("Without --node, what answered on %1 was disabled; a drive that did not answer was not.")
-                 .arg(client.port())}};
+            {tr("Without --node, only the drives that answered on %1 were told to disable.").arg(client.port())}};
 }
 
 /// The disable goes out first, before anything that a bad line could keep from succeeding.
@@ -228,42 +224,42 @@ QString checkTimeOut(const CommandLine &line)
 QList<Command> motionCommands()
 {
     return {
-        Command("enable", enable).says(TEXT("enable the drive, and wait until its motor is powered"), TEXT(R"(
+        Command("enable", enable).says("enable the drive, and wait until its motor is powered", R"(
 THE MOTOR IS POWERED FROM HERE ON, and the axis moves to the setpoint in use if it stands elsewhere. The drive stays
 enabled when the command has ended: nothing watches it then. "disable" ends it.
 
 Prints state, setpoint in use (setpoint units) and position feedback (counts), tab separated. When the motor is not
-powered within 3 s, or the drive does not confirm it, the enable is taken back and the reason told. Ctrl+C disables.)")),
-        Command("disable", disable).says(TEXT("disable the drive, and wait until its state shows it"), TEXT(R"(
+powered within 3 s, or the drive does not confirm it, the enable is taken back and the reason told. Ctrl+C disables.)"),
+        Command("disable", disable).says("disable the drive, and wait until its state shows it", R"(
 Goes out before anything else is asked. Give --node: without it the bus is searched, which takes 2.5 s, and every drive
 that answers is disabled; then it is searched once more, for a drive whose answer was lost. Exit status 1 when a drive
 has not confirmed that it is disabled; it may then still be running. This is no emergency stop.
 
 Prints state, setpoint in use (setpoint units) and position feedback (counts), tab separated; only the state when the
 drive could be disabled but not identified. Without --node, a line a drive: address, model and what became of it
-("disabled", "unconfirmed", or "upgrade" in firmware-upgrade mode, where nothing moves), tab separated.)")),
-        Command("clear-faults", clearFaults).says(TEXT("clear the drive's faults"), TEXT(R"(
+("disabled", "unconfirmed", or "upgrade" in firmware-upgrade mode, where nothing moves), tab separated.)"),
+        Command("clear-faults", clearFaults).says("clear the drive's faults", R"(
 A drive that is still enabled runs again when its faults are gone; "disable" it first if it must not. Exit status 1 when
 a fault is still there or comes back at once.
 
-Prints state, setpoint in use (setpoint units) and position feedback (counts), tab separated.)")),
+Prints state, setpoint in use (setpoint units) and position feedback (counts), tab separated.)"),
         Command("home", home)
             .takes("[--time-out S]")
-            .says(TEXT("run the homing that the drive's settings describe, and wait for its end"), TEXT(R"(
+            .says("run the homing that the drive's settings describe, and wait for its end", R"(
 THE AXIS MOVES. The drive must be enabled. Homing is aborted on Ctrl+C and after the time-out.
 
-Prints state, setpoint in use (setpoint units) and position feedback (counts), tab separated.)"))
-            .value("time-out", "S", TEXT("Longest time in seconds, 60 if not given."))
+Prints state, setpoint in use (setpoint units) and position feedback (counts), tab separated.)")
+            .value("time-out", "S", "Longest time in seconds, 60 if not given.")
             .checks(checkTimeOut),
         Command("setpoint", setpoint)
             .takes("VALUE [--incremental]", 1, 1)
-            .says(TEXT("give the drive a setpoint"), TEXT(R"(
+            .says("give the drive a setpoint", R"(
 THE AXIS MOVES if the drive is enabled, and otherwise when it is enabled next. VALUE is a whole number in setpoint
 units, -536870912 to 536870911; what it means (position, velocity, torque) is up to the control mode. Waits until the
 drive shows it as its setpoint in use, not until the axis is there.
 
-Prints state, setpoint in use (setpoint units) and position feedback (counts), tab separated.)"))
-            .flag("incremental", TEXT("VALUE is added to the setpoint in use."))
+Prints state, setpoint in use (setpoint units) and position feedback (counts), tab separated.)")
+            .flag("incremental", "VALUE is added to the setpoint in use.")
             .checks(checkSetpoint),
     };
 }

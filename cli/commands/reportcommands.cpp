@@ -6,6 +6,7 @@
 #include "capturerecord.h"
 #include "catalogue.h"
 #include "checksum.h"
+#include "clitext.h"
 #include "commandline.h"
 #include "driveclient.h"
 #include "drivesteps.h"
@@ -16,7 +17,6 @@
 #include "scopechannels.h"
 #include "version.h"
 
-#include <QCoreApplication>
 #include <QFileInfo>
 #include <QJsonObject>
 
@@ -27,11 +27,6 @@ constexpr double defaultStopSeconds = 2.0;
 constexpr double longestStopSeconds = 60.0;
 constexpr double defaultWaitSeconds = 120.0;
 constexpr double longestWaitSeconds = 3600.0;
-
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("ReportCommands", text);
-}
 
 // --- figures ------------------------------------------------------------------------------------------------------
 
@@ -180,17 +175,17 @@ QList<Command> reportCommands()
     return {
         Command("figures", figures)
             .takesFile("FILE")
-            .says(TEXT("figures and axis sheet of a saved capture; needs no drive"), TEXT(R"(
+            .says("figures and axis sheet of a saved capture; needs no drive", R"(
 FILE is a plot page or the JSON of "capture", or a file of columns. Prints each figure of the step and its value, tab
 separated: rise time 10 to 90 %, time to 90 %, overshoot, settling to 2 %, peak and RMS tracking error, time in the
 current limit, ringing and its resolution; or why there is no number. They are taken from the first change of the setpoint
 to the end of the record. A move there and back adds the axis sheet: acceleration per torque, friction, hanging load, each
 with its range, and the feed-forward that follows; or why there is none. Nothing of it is written to a drive.
 
-With --json they stand under "figures" (s, %, Hz; null where not defined, with the "reason") and "axisSheet".)")),
+With --json they stand under "figures" (s, %, Hz; null where not defined, with the "reason") and "axisSheet".)"),
         Command("report", makeReport)
             .takesFile("(FILE.html [OPTION...] | --verify FILE)", 0)
-            .says(TEXT("write the commissioning report of a drive, or check one"), TEXT(R"(
+            .says("write the commissioning report of a drive, or check one", R"(
 Reads the drive's settings and writes one HTML page to show, to print and to keep: identity and firmware, all settings with
 unit, limits and default, the captures that are named with their figures, a stop test, a checklist, lines to sign, and a
 checksum of the settings, which is printed, too. Nothing is written to the drive, and nothing moves.
@@ -198,15 +193,15 @@ checksum of the settings, which is printed, too. Nothing is written to the drive
 --stop-test waits for a fault, which the machine's own stop has to raise while the axis moves, and measures time and
 distance to standstill. It only listens: moving the axis, and stopping it, is yours.
 
---verify needs no drive: exit status 1 when the settings in the report are not those of its checksum.)"))
-            .value("machine", "TEXT", TEXT("What the report calls the machine or axis."))
-            .value("note", "NAME=TEXT", TEXT("Your words on a setting; may be repeated."), Option::Kind::Repeated)
-            .value("capture", "FILE", TEXT("A saved capture to show, as for \"figures\"; may be repeated."),
+--verify needs no drive: exit status 1 when the settings in the report are not those of its checksum.)")
+            .value("machine", "TEXT", "What the report calls the machine or axis.")
+            .value("note", "NAME=TEXT", "Your words on a setting; may be repeated.", Option::Kind::Repeated)
+            .value("capture", "FILE", "A saved capture to show, as for \"figures\"; may be repeated.",
                    Option::Kind::RepeatedFile)
-            .flag("stop-test", TEXT("Record how the axis comes to a standstill."))
-            .value("stop-seconds", "S", TEXT("How long the stop is recorded, 2 if not given."))
-            .value("time-out", "S", TEXT("Longest time in seconds to wait for the stop, 120 if not given."))
-            .value("verify", "FILE", TEXT("Check a report instead."), Option::Kind::File)
+            .flag("stop-test", "Record how the axis comes to a standstill.")
+            .value("stop-seconds", "S", "How long the stop is recorded, 2 if not given.")
+            .value("time-out", "S", "Longest time in seconds to wait for the stop, 120 if not given.")
+            .value("verify", "FILE", "Check a report instead.", Option::Kind::File)
             .checks(checkReportLine)
             .offlineWith("verify", verifyReport),
     };

@@ -2,21 +2,16 @@
 #include "commandgroups.h"
 
 #include "catalogue.h"
+#include "clitext.h"
 #include "commandline.h"
 #include "driveclient.h"
 #include "drivesteps.h"
 #include "plaintext.h"
 #include "settingschecks.h"
 
-#include <QCoreApplication>
 #include <QJsonObject>
 
 namespace {
-
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("Commands", text);
-}
 
 Table nodeTable(const QList<NodeType> &nodes)
 {
@@ -151,36 +146,36 @@ QString checkAssignments(const CommandLine &line)
 
 QList<Command> settingsCommands()
 {
-    static const char *const toFlash = TEXT("Save to the drive's flash what was applied.");
+    static const char *const toFlash = "Save to the drive's flash what was applied.";
     return {
-        Command("scan", scan).says(TEXT("the drives: address, model, type id, normal or upgrade"), TEXT(R"(
+        Command("scan", scan).says("the drives: address, model, type id, normal or upgrade", R"(
 Asks the bus addresses 1 to 20 and 251 to 255, which takes 2.5 s. One line a drive, tab separated: address, model, type
 id, "normal" or "upgrade" (in firmware-upgrade mode). An address whose answers cannot be read (two drives on it, a bad
-line) has neither model nor type id and is called "unreadable".)")),
+line) has neither model nor type id and is called "unreadable".)"),
         Command("read", read)
             .takes("[NAME...]", 0, Command::anyNumber)
-            .says(TEXT("all settings or those named: name, value, minimum, maximum"), TEXT(R"(
-One line a setting, tab separated: name, value, minimum, maximum; in display units, as in settings files.)"))
+            .says("all settings or those named: name, value, minimum, maximum", R"(
+One line a setting, tab separated: name, value, minimum, maximum; in display units, as in settings files.)")
             .checks(checkNames),
         Command("write", write)
             .takes("NAME=VALUE... [--to-flash]", 1, Command::anyNumber)
-            .says(TEXT("check, apply, read again, report what was not taken"), TEXT(R"(
+            .says("check, apply, read again, report what was not taken", R"(
 Values in display units. Nothing is written when one of them is read-only, not on this model or outside the limits that
 the drive gave. Prints what the drive holds then, as "read" does. Settings that are in effect on an enabled drive change
-how it moves at once.)"))
+how it moves at once.)")
             .flag("to-flash", toFlash)
             .checks(checkAssignments),
-        Command("save", save).takesFile("FILE.drc").says(TEXT("read the settings and save them to a file"), TEXT(R"(
-Reads all settings and saves them to a settings file, which the window opens too.)")),
+        Command("save", save).takesFile("FILE.drc").says("read the settings and save them to a file", R"(
+Reads all settings and saves them to a settings file, which the window opens too.)"),
         Command("load", load)
             .takesFile("FILE.drc [--to-flash]")
-            .says(TEXT("apply a file, read again, report what was not taken"), TEXT(R"(
+            .says("apply a file, read again, report what was not taken", R"(
 Applies a settings file and prints what has changed, as "read" does. A setting for which the file has no value keeps the
-drive's own.)"))
+drive's own.)")
             .flag("to-flash", toFlash),
         Command("compare", compare)
             .takesFile("FILE.drc")
-            .says(TEXT("what differs between drive and file: name, drive, file"), TEXT(R"(
-One line a difference, tab separated: name, the drive's value, the file's; exit status 3 when there is any.)")),
+            .says("what differs between drive and file: name, drive, file", R"(
+One line a difference, tab separated: name, the drive's value, the file's; exit status 3 when there is any.)"),
     };
 }

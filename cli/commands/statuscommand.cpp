@@ -1,20 +1,14 @@
 // The drive's state in words, once or again and again.
 #include "commandgroups.h"
 
+#include "clitext.h"
 #include "commandline.h"
 #include "driveclient.h"
 #include "drivesteps.h"
 #include "livescreen.h"
 #include "statusreport.h"
 
-#include <QCoreApplication>
-
 namespace {
-
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("StatusCommand", text);
-}
 
 Outcome unreadable()
 {
@@ -58,11 +52,11 @@ QList<Command> statusCommands()
     return {
         Command("status", status)
             .takes("[--watch]")
-            .says(TEXT("connection, model, versions, and the registers in words"), TEXT(R"(
+            .says("connection, model, versions, and the registers in words", R"(
 Who is connected, then the drive's inputs, status and faults, each flag on or off, with a "!" at whatever keeps a drive
-that does not run from running. Voltages in V, currents in A, velocity in revolutions a second, positions in counts.)"))
+that does not run from running. Voltages in V, currents in A, velocity in revolutions a second, positions in counts.)")
             .flag("watch",
-                  TEXT("Again and again, three times a second, until Ctrl+C: in place on a terminal; elsewhere block "
-                       "after block, a blank line behind each and none inside; with --json one object a line.")),
+                  "Again and again, three times a second, until Ctrl+C: in place on a terminal; elsewhere block "
+                  "after block, a blank line behind each and none inside; with --json one object a line."),
     };
 }

@@ -1,21 +1,16 @@
 #include "statusreport.h"
 
+#include "clitext.h"
 #include "driveclient.h"
 #include "drivesteps.h"
 #include "drivewords.h"
 #include "plaintext.h"
 #include "statustexts.h"
 
-#include <QCoreApplication>
 #include <QJsonArray>
 #include <QJsonObject>
 
 namespace {
-
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("StatusReport", text);
-}
 
 struct IdentityRow
 {
@@ -26,10 +21,10 @@ struct IdentityRow
 };
 
 const IdentityRow identityRows[] = {
-    {"HWSERIAL", "serialNumber", QT_TRANSLATE_NOOP("StatusReport", "Serial number"), 10},
-    {"TCFWVER", "coreFirmware", QT_TRANSLATE_NOOP("StatusReport", "TarnwellCore firmware version"), 10},
-    {"FWVER", "ioFirmware", QT_TRANSLATE_NOOP("StatusReport", "I/O side firmware version"), 10},
-    {"BUILDREVISION", "revision", QT_TRANSLATE_NOOP("StatusReport", "Firmware revision ID"), 16},
+    {"HWSERIAL", "serialNumber", "Serial number", 10},
+    {"TCFWVER", "coreFirmware", "TarnwellCore firmware version", 10},
+    {"FWVER", "ioFirmware", "I/O side firmware version", 10},
+    {"BUILDREVISION", "revision", "Firmware revision ID", 16},
 };
 
 QList<StatusReport::Line> identityLines(const DriveClient &client, const Parameters &list)

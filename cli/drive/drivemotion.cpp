@@ -1,10 +1,9 @@
 #include "drivemotion.h"
 
+#include "clitext.h"
 #include "driveclient.h"
 #include "drivesteps.h"
 #include "drivewords.h"
-
-#include <QCoreApplication>
 
 #include <utility>
 
@@ -13,11 +12,6 @@ namespace {
 constexpr int enableLimitMs = 3000;
 constexpr int disableLimitMs = 20000; // on a line that answers nothing: the session gives up before
 constexpr int stopLimitMs = 5000;     // a controlled stop takes its time
-
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("DriveMotion", text);
-}
 
 /// States in which an enable cannot help, however long one waits.
 bool isBlocked(const DriveState &drive)

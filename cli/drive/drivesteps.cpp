@@ -1,20 +1,15 @@
 #include "drivesteps.h"
 
 #include "catalogue.h"
+#include "clitext.h"
 #include "commandline.h"
 #include "driveclient.h"
 #include "plaintext.h"
 #include "settingschecks.h"
 
-#include <QCoreApplication>
 #include <QJsonObject>
 
 namespace {
-
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("DriveSteps", text);
-}
 
 QStringList found(const QString &verdict, const QList<NodeType> &nodes)
 {

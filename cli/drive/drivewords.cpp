@@ -1,8 +1,7 @@
 #include "drivewords.h"
 
+#include "clitext.h"
 #include "statustexts.h"
-
-#include <QCoreApplication>
 
 QStringList activeFaults(const DriveState &drive)
 {
@@ -30,8 +29,7 @@ QString inactivityText(const DriveState &drive)
     const QStringList reasons = inactivityReasons(drive);
     if (reasons.isEmpty())
         return QString();
-    return QCoreApplication::translate("DriveWords", "Reason for inactivity: %1.")
-        .arg(reasons.join(QLatin1String(", ")));
+    return tr("Reason for inactivity: %1.").arg(reasons.join(QLatin1String(", ")));
 }
 
 QString stateWord(const DriveState &drive)

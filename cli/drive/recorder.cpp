@@ -1,19 +1,13 @@
 #include "recorder.h"
 
+#include "clitext.h"
 #include "driveclient.h"
-
-#include <QCoreApplication>
 
 #include <cmath>
 
 namespace {
 
 constexpr int downloadLimitMs = 60000;
-
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("Recorder", text);
-}
 
 } // namespace
 

@@ -31,7 +31,11 @@ HelpView::HelpView(QWidget *parent, Engine engine) : QWidget(parent), m_use(engi
     m_stack->addWidget(m_note);
 }
 
-HelpView::~HelpView() = default;
+HelpView::~HelpView()
+{
+    // By hand: what the engine still reports while it ends finds none, instead of one that is half gone.
+    m_engine.reset();
+}
 
 void HelpView::changeEvent(QEvent *event)
 {

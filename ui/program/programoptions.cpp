@@ -6,15 +6,15 @@
 #include "virtualport.h"
 
 #include <QCommandLineParser>
-#include <QCoreApplication>
 #include <QDir>
 #include <QRegularExpression>
 
 namespace {
 
+/// English in every language, as what the other programs print.
 QString tr(const char *text)
 {
-    return QCoreApplication::translate("main", text);
+    return QString::fromUtf8(text);
 }
 
 QStringList knownProfiles()
@@ -25,48 +25,70 @@ QStringList knownProfiles()
     return names;
 }
 
-// The tour enables the drive and moves the axis: never a real one, and never with somebody's settings.
+const QString virtualDrive = QStringLiteral("virtual-drive");
+const QString port = QStringLiteral("port");
+const QString language = QStringLiteral("language");
+const QString debugValues = QStringLiteral("debug-values");
+const QString tour = QStringLiteral("tour");
+const QString help = QStringLiteral("help");
+const QString version = QStringLiteral("version");
+
+void describe(QCommandLineParser &parser)
+{
+    const QStringList profiles = knownProfiles();
+    parser.setApplicationDescription(tr("Configures, tunes and starts up Tarnwell servo drives."));
+    parser.addOptions({
+        {virtualDrive,
+         tr("Brings virtual drives up inside the program, on port COM1. Models, separated by commas: %1. With a load: "
+            "%2:flexible=45+noise (velbrin-sim --help lists them).")
+             .arg(profiles.join(QLatin1String(", ")), profiles.first()),
+         QStringLiteral("models")},
+        {port, tr("Chooses this serial port at first."), QStringLiteral("name")},
+        {language,
+         tr("Language of the window: %1. Without it that of the desktop, if it is one of them.")
+             .arg(spokenLanguages().join(QLatin1String(", "))),
+         QStringLiteral("name")},
+        {debugValues, tr("Shows the drive's debug values under the fault register.")},
+        {tour,
+         tr("Walks through the window by itself, with a test move of the virtual drive, and leaves screenshots in this "
+            "folder."),
+         QStringLiteral("folder")},
+        {{QStringLiteral("h"), help}, tr("Shows this text.")},
+        {{QStringLiteral("v"), version}, tr("Shows the version.")},
+    });
+    parser.addPositionalArgument(QStringLiteral("file"), tr("Settings file to load at first; needs no drive."),
+                                 QStringLiteral("[FILE.drc]"));
+}
+
+/// The tour enables the drive and moves the axis: never a real one, and never with somebody's settings.
 bool isTourSafe(const ProgramOptions &options)
 {
     return !options.virtualDrives.isEmpty() && options.port.isEmpty() && options.file.isEmpty();
+}
+
+QString problemOf(const QCommandLineParser &parser, const ProgramOptions &options)
+{
+    if (!options.tourFolder.isEmpty() && !isTourSafe(options))
+        return tr("--tour goes with --virtual-drive, and not with --port or a file.");
+    const QString drives = parser.isSet(virtualDrive) ? checkVirtualDrives(options.virtualDrives) : QString();
+    if (!drives.isEmpty())
+        return tr("--virtual-drive: %1. Models: %2.").arg(drives, knownProfiles().join(QLatin1String(", ")));
+    if (parser.isSet(language) && !spokenLanguages().contains(options.language))
+        return tr("--language: \"%1\" is not known. Languages: %2.")
+            .arg(options.language, spokenLanguages().join(QLatin1String(", ")));
+    const QStringList files = parser.positionalArguments();
+    return files.size() > 1 ? tr("Unexpected argument: %1").arg(files.at(1)) : QString();
 }
 
 } // namespace
 
 ProgramOptions parseProgramOptions(QStringList arguments)
 {
-    const QStringList profiles = knownProfiles();
     // The parser knows no optional values: without one the first model is meant.
     arguments.replaceInStrings(QRegularExpression(QStringLiteral("^--virtual-drive$")),
-                               QLatin1String("--virtual-drive=") + profiles.first());
-    const QCommandLineOption virtualDrive(
-        QStringLiteral("virtual-drive"),
-        tr("Brings virtual drives up inside the program, on port COM1. Models, separated by commas: %1. With a load: "
-           "%2:flexible=45+noise (velbrin-sim --help lists them).")
-            .arg(profiles.join(QLatin1String(", ")), profiles.first()),
-        QStringLiteral("models"));
-    const QCommandLineOption port(QStringLiteral("port"), tr("Chooses this serial port at first."),
-                                  QStringLiteral("name"));
-    const QString languages = spokenLanguages().join(QLatin1String(", "));
-    const QCommandLineOption language(
-        QStringLiteral("language"),
-        tr("Language of the window: %1. Without it that of the desktop, if it is one of them.").arg(languages),
-        QStringLiteral("name"));
-    const QCommandLineOption debugValues(QStringLiteral("debug-values"),
-                                         tr("Shows the drive's debug values under the fault register."));
-    const QCommandLineOption tour(
-        QStringLiteral("tour"),
-        tr("Walks through the window by itself, with a test move of the virtual drive, and leaves screenshots in this "
-           "folder."),
-        QStringLiteral("folder"));
-    const QCommandLineOption help({QStringLiteral("h"), QStringLiteral("help")}, tr("Shows this text."));
-    const QCommandLineOption version({QStringLiteral("v"), QStringLiteral("version")}, tr("Shows the version."));
+                               QLatin1String("--virtual-drive=") + knownProfiles().first());
     QCommandLineParser parser;
-    parser.setApplicationDescription(tr("Configures, tunes and starts up Tarnwell servo drives."));
-    parser.addOptions({virtualDrive, port, language, debugValues, tour, help, version});
-    parser.addPositionalArgument(QStringLiteral("file"), tr("Settings file to load at first; needs no drive."),
-                                 QStringLiteral("[FILE.drc]"));
-
+    describe(parser);
     ProgramOptions options;
     if (!parser.parse(arguments)) {
         options.error = parser.errorText();
@@ -76,25 +98,14 @@ ProgramOptions parseProgramOptions(QStringList arguments)
         options.text = parser.helpText();
     else if (parser.isSet(version))
         options.text = QStringLiteral("velbrin %1\n").arg(QLatin1String(VELBRIN_VERSION));
-    const QStringList files = parser.positionalArguments();
-    if (files.size() > 1)
-        options.error = tr("Unexpected argument: %1").arg(files.at(1));
-    else if (!files.isEmpty()) // the program works in a folder of its own
-        options.file = QDir::current().absoluteFilePath(files.first());
+    if (!parser.positionalArguments().isEmpty()) // the program works in a folder of its own
+        options.file = QDir::current().absoluteFilePath(parser.positionalArguments().constFirst());
     options.port = parser.value(port);
     options.language = parser.value(language);
-    if (parser.isSet(language) && !spokenLanguages().contains(options.language))
-        options.error = tr("--language: \"%1\" is not known. Languages: %2.").arg(options.language, languages);
     options.debugValues = parser.isSet(debugValues);
+    options.virtualDrives = parser.value(virtualDrive);
     if (parser.isSet(tour))
         options.tourFolder = QDir::current().absoluteFilePath(parser.value(tour));
-    if (parser.isSet(virtualDrive)) {
-        options.virtualDrives = parser.value(virtualDrive);
-        const QString error = checkVirtualDrives(options.virtualDrives);
-        if (!error.isEmpty())
-            options.error = tr("--virtual-drive: %1. Models: %2.").arg(error, profiles.join(QLatin1String(", ")));
-    }
-    if (!options.tourFolder.isEmpty() && !isTourSafe(options))
-        options.error = tr("--tour goes with --virtual-drive, and not with --port or a file.");
+    options.error = problemOf(parser, options);
     return options;
 }

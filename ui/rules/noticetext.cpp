@@ -8,7 +8,7 @@ namespace {
 
 constexpr int longestNotice = 4000;
 
-const char *const PLAIN_TAGS[] = {"b", "strong", "i", "em", "u", "br", "p", "h1", "h2", "h3", "h4", "ul", "ol", "li"};
+const char *const plainTags[] = {"b", "strong", "i", "em", "u", "br", "p", "h1", "h2", "h3", "h4", "ul", "ol", "li"};
 
 /// What stands between "<" and ">" as a tag of ours, or nothing.
 QString plainTag(const QString &inside)
@@ -16,7 +16,7 @@ QString plainTag(const QString &inside)
     QString name = inside.section(QLatin1Char(' '), 0, 0, QString::SectionSkipEmpty).toLower();
     const bool closes = name.startsWith(QLatin1Char('/'));
     name.remove(QLatin1Char('/'));
-    const bool known = std::any_of(std::begin(PLAIN_TAGS), std::end(PLAIN_TAGS),
+    const bool known = std::any_of(std::begin(plainTags), std::end(plainTags),
                                    [&name](const char *tag) { return name == QLatin1String(tag); });
     return known ? QLatin1String(closes ? "</" : "<") + name + QLatin1Char('>') : QString();
 }

@@ -4,7 +4,6 @@
 #include "scopetexts.h"
 #include "unitconversion.h"
 
-#include <QCoreApplication>
 #include <cmath>
 
 namespace {
@@ -27,12 +26,6 @@ double countsPerRevolution(const CaptureRecord &capture)
 {
     const double lines = capture.setting(QStringLiteral("FBR"), 0.0);
     return lines >= 1.0 ? 4.0 * lines : 0.0; // less than one is no encoder
-}
-
-/// In the window's language, while files keep the recorder's own names.
-QString shownName(const CaptureData &channel)
-{
-    return QCoreApplication::translate("Connection", channel.name.toUtf8().constData());
 }
 
 QJsonArray channels(const CaptureRecord &capture)

@@ -35,17 +35,7 @@ TriesPanel::TriesPanel(QWidget *parent) : QGroupBox(parent)
 {
     setTitle(tr("Tries"));
     setObjectName(QStringLiteral("triesGroup"));
-    m_table = new QTableWidget(this);
-    m_table->setObjectName(QStringLiteral("triesTable"));
-    m_table->setSelectionBehavior(QAbstractItemView::SelectRows);
-    m_table->setSelectionMode(QAbstractItemView::SingleSelection);
-    m_table->setEditTriggers(QAbstractItemView::DoubleClicked);
-    m_table->verticalHeader()->setMaximumSectionSize(3 * m_table->fontMetrics().height()); // notes may have many lines
-    m_table->verticalHeader()->hide();
-    m_table->setToolTip(tr("<p>Every capture of this session, the newest on top, with the settings in which they differ. "
-                           "A click shows it; a double click on its note, or F2, changes the note.</p>"));
-    m_table->setAccessibleName(tr("Tries"));
-    m_table->setTabKeyNavigation(false);
+    buildTable();
     auto *buttons = new QHBoxLayout;
     auto *layout = new QVBoxLayout(this);
     layout->addWidget(m_table);
@@ -73,6 +63,21 @@ TriesPanel::TriesPanel(QWidget *parent) : QGroupBox(parent)
     connect(report, &QPushButton::clicked, this, &TriesPanel::reportWanted);
     connectNotes();
     show(CaptureHistory());
+}
+
+void TriesPanel::buildTable()
+{
+    m_table = new QTableWidget(this);
+    m_table->setObjectName(QStringLiteral("triesTable"));
+    m_table->setSelectionBehavior(QAbstractItemView::SelectRows);
+    m_table->setSelectionMode(QAbstractItemView::SingleSelection);
+    m_table->setEditTriggers(QAbstractItemView::DoubleClicked);
+    m_table->verticalHeader()->setMaximumSectionSize(3 * m_table->fontMetrics().height()); // notes may have many lines
+    m_table->verticalHeader()->hide();
+    m_table->setToolTip(tr("<p>Every capture of this session, the newest on top, with the settings in which they differ. "
+                           "A click shows it; a double click on its note, or F2, changes the note.</p>"));
+    m_table->setAccessibleName(tr("Tries"));
+    m_table->setTabKeyNavigation(false);
 }
 
 void TriesPanel::connectNotes()

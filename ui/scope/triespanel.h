@@ -33,6 +33,7 @@ signals:
     void reportWanted();
 
 private:
+    void buildTable();
     void connectNotes();
     bool isTyping() const;
     void fitColumns(int note);

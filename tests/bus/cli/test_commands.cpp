@@ -54,7 +54,7 @@ TEST_F(CliTwoDrives, DisableWithoutAnAddressLeavesNoDriveRunning)
     Ran ran = run(disable);
     EXPECT_EQ(ran.status, 0) << ran.err.toStdString();
     EXPECT_EQ(ran.out, "7\tTORVA\tdisabled\n3\tKETA\tdisabled\n");
-    EXPECT_EQ(ran.err, "Without --node, what answered on COM1 was disabled; a drive that did not answer was not.\n");
+    EXPECT_EQ(ran.err, "Without --node, only the drives that answered on COM1 were told to disable.\n");
     EXPECT_EQ(bus().read(3, SoftEnable) + bus().read(7, SoftEnable), 0);
 
     enableBoth();

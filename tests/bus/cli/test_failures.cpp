@@ -39,6 +39,18 @@ TEST(CliUsage, EndsWithTwoAndAReasonAndHelpWithZero)
     EXPECT_THAT(help.out.toStdString(), testing::StartsWith("Usage: velbrin-cli ... scan\n"));
 }
 
+TEST(CliUsage, NothingIsSaidAboutABareLocale)
+{
+    QProcess process;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert("LC_ALL", "C"); // newer toolkits remark on it where the program does not see to it
+    process.setProcessEnvironment(environment);
+    start(process, {"--version"});
+    const Ran ran = finish(process);
+    EXPECT_EQ(ran.status, 0);
+    EXPECT_EQ(ran.err, "");
+}
+
 TEST_F(CliFailure, PortThatIsNotThereEndsWithOneReason)
 {
     for (const char *name : {"COM9", "/dev/ttyNOWHERE", "./COM1"}) {
@@ -47,6 +59,10 @@ TEST_F(CliFailure, PortThatIsNotThereEndsWithOneReason)
         EXPECT_EQ(ran.out, "");
         EXPECT_EQ(ran.err.count("Unable to connect. Possibly incompatible COM adapter selected"), 1);
     }
+    const Ran ran = run({"--port", "COM9", "disable"});
+    EXPECT_EQ(ran.status, 1);
+    EXPECT_THAT(ran.err.toStdString(),
+                testing::EndsWith("The search for drives on COM9 failed, so none was disabled.\n"));
 }
 
 TEST_F(CliFailure, SilentDriveIsRefusedInPlainWords)

@@ -1,6 +1,7 @@
 // The folder that a program works in, what it finds there, and how a signal ends it.
 #include "datafolder.h"
 #include "quitsignals.h"
+#include "utf8locale.h"
 #include "virtualport.h"
 
 #include "printqt.h"
@@ -10,9 +11,11 @@
 #include <QFileInfo>
 #include <QTemporaryDir>
 
+#include <clocale>
 #include <csignal>
 #include <fcntl.h>
 #include <gtest/gtest.h>
+#include <langinfo.h>
 #include <sys/stat.h>
 
 namespace {
@@ -111,5 +114,20 @@ TEST(QuitSignals, FirstSignalEndsTheEventLoopWhateverItIs)
         raise(signal);
         EXPECT_EQ(QCoreApplication::exec(), 0);
         EXPECT_EQ(std::signal(signal, SIG_DFL), SIG_DFL) << "the second one ends the program at once";
+    }
+}
+
+TEST(Utf8Locale, IsThereWhateverTheSystemSaysAndTheLanguageStays)
+{
+    for (const char *all : {"C", "POSIX", "C.UTF-8", "xx_XX"}) { // the last is not installed anywhere
+        const auto begin = [all] {
+            qputenv("LC_ALL", all);
+            useUtf8();
+            std::setlocale(LC_ALL, ""); // as the toolkit does
+            const bool isUtf8 = QByteArray(nl_langinfo(CODESET)) == "UTF-8";
+            const QByteArray language = qEnvironmentVariableIsSet("LC_ALL") ? qgetenv("LC_ALL") : qgetenv("LANG");
+            std::_Exit(isUtf8 && language == all ? 0 : 1);
+        };
+        EXPECT_EXIT(begin(), testing::ExitedWithCode(0), "") << all; // a process of its own keeps its locale
     }
 }
