@@ -59,7 +59,7 @@ void HelpBrowser::load()
     }
     qDebug() << "   try online";
     m_limit.start();
-    m_view->loadPage(QUrl(makerWikiPage(QLatin1String(m_page->wikiPath))));
+    m_view->loadPage(QUrl(makerWikiPage(QLatin1String(m_page->wikiPath))), HelpView::Failure::Replaced);
 }
 
 void HelpBrowser::loadFinished(bool ok)

@@ -10,6 +10,7 @@
 #include <QStackedLayout>
 #include <QTimer>
 #include <QWebEngineLoadingInfo>
+#include <QWebEngineSettings>
 #include <algorithm>
 
 HelpView::HelpView(QWidget *parent, Engine engine) : QWidget(parent), m_use(engine)
@@ -88,7 +89,7 @@ void HelpView::startEngine()
     if (!m_plot.isEmpty())
         loadPlot();
     else if (m_wantedUrl.isValid())
-        m_engine->page.load(m_wantedUrl);
+        loadWanted();
 }
 
 void HelpView::loadEnded(bool ok, const QUrl &url)
@@ -129,15 +130,22 @@ void HelpView::showNote(const QString &text)
     m_stack->setCurrentWidget(m_note);
 }
 
-void HelpView::loadPage(const QUrl &url)
+void HelpView::loadPage(const QUrl &url, Failure failure)
 {
     m_plot.clear();
     m_wantedUrl = url;
+    m_failure = failure;
     m_loading = true;
     if (isRunning())
-        m_engine->page.load(url);
+        loadWanted();
     else if (!m_noteText.isEmpty())
         showNote(m_noteText);
+}
+
+void HelpView::loadWanted()
+{
+    m_engine->page.settings()->setAttribute(QWebEngineSettings::ErrorPageEnabled, m_failure == Failure::Shown);
+    m_engine->page.load(m_wantedUrl);
 }
 
 void HelpView::showPlot(const QString &html, const QUrl &base, Zoom zoom, const QJsonObject &scope)

@@ -34,8 +34,13 @@ public:
     explicit HelpView(QWidget *parent = nullptr, Engine engine = Engine::Allowed);
     ~HelpView() override;
 
+    /// What is seen where an address cannot be loaded.
+    enum class Failure {
+        Shown,    ///< the engine's own page about it
+        Replaced, ///< nothing: whoever asked loads another page at once; the engine's own takes a quarter of a second
+    };
     /// Loads an address in place of whatever is loading.
-    void loadPage(const QUrl &url);
+    void loadPage(const QUrl &url, Failure failure = Failure::Shown);
     /// Shows a plot page. Relative addresses in it start at `base`, a folder of the working directory's "flot" folder.
     /// Over a plot that stands it is drawn into the page that is there; the zoom is kept for the same channels when
     /// asked for, cursors and units always.
@@ -75,6 +80,7 @@ private:
     void loadEnded(bool ok, const QUrl &url);
     void processEnded(const QString &how);
     void showNote(const QString &text);
+    void loadWanted();
     void loadPlot();
     void redrawPlot(Zoom zoom);
     void pictureEnded(const QString &failure);
@@ -87,6 +93,7 @@ private:
     bool m_begun = false;               ///< the start is on its way
     bool m_loading = false;             ///< whoever asked for the page waits for its end
     QUrl m_wantedUrl;                   ///< the page on display, or to be loaded as soon as the engine stands
+    Failure m_failure = Failure::Shown;
     QString m_plainPlot;                ///< text of the plot page as it was given
     QJsonObject m_scope;                ///< what stands in it for the scripts around the charts
     QString m_plot;                     ///< the two together; empty while help is shown
