@@ -63,7 +63,7 @@ QString settingRow(const SingleParam &setting, const Report &report)
     const std::optional<SettingFacts> about = settingFacts(setting.name, isTorvaModel(report.drive.type));
     const bool differs = about && differsFromStandard(setting, *about);
     const QString note = report.notes.value(setting.name);
-    QString caption = about ? about->caption.toHtmlEscaped() : QString();
+    QString caption = about ? settingCaption(setting, *about).toHtmlEscaped() : QString();
     if (!note.isEmpty())
         caption += QLatin1String("<br><span class=\"note\">") + note.toHtmlEscaped() + QLatin1String("</span>");
     const QString cells[] = {about ? about->unit.toHtmlEscaped() : QString(),
