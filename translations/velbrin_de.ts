@@ -254,6 +254,10 @@
         <source>It was still moving at the end of the record.</source>
         <translation>Am Ende der Aufzeichnung bewegte sie sich noch.</translation>
     </message>
+    <message>
+        <source>counts</source>
+        <translation>Ink</translation>
+    </message>
 </context>
 <context>
     <name>ApplyBox</name>
