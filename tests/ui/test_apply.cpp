@@ -296,7 +296,7 @@ TEST_F(Apply, HomingIsNotStartedWhenItsQuestionIsAborted)
 
 TEST_F(Apply, AReportCallsChoicesWhatThePagesCallThem)
 {
-    openConnectedWindow();
+    openWindow();
     for (const char *name : {"CM", "CRI", "AXT", "MT", "FBD", "FB2D", "LSF", "CEI", "TBW", "TRF1", "TRF2"}) {
         QStringList words;
         for (int i = 0; i < control<QComboBox>(name)->count(); ++i)
