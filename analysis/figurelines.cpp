@@ -2,6 +2,9 @@
 
 #include "analysistext.h"
 
+#include <algorithm>
+#include <cmath>
+
 namespace {
 
 QString text(double value)
@@ -14,10 +17,20 @@ QString withUnit(double value, const QString &unit)
     return unit.isEmpty() ? text(value) : AnalysisText::tr("%1 %2").arg(text(value), unit);
 }
 
+/// As many decimals as the range has: what is beyond it means nothing.
+QString decimals(double value, double plusMinus)
+{
+    constexpr double finest = 1e-4, coarsest = 1e3; // beyond these with an exponent
+    if (!(plusMinus >= finest && plusMinus < coarsest))
+        return text(value);
+    return QString::number(value, 'f', std::max(0, 1 - static_cast<int>(std::floor(std::log10(plusMinus)))));
+}
+
 QString withRange(const Estimate &estimate, double scale, const QString &unit)
 {
-    const QString range = AnalysisText::tr("%1 ± %2").arg(text(estimate.value * scale),
-                                                          QString::number(estimate.plusMinus * scale, 'g', 2));
+    const double value = estimate.value * scale, plusMinus = estimate.plusMinus * scale;
+    const QString range =
+        AnalysisText::tr("%1 ± %2").arg(decimals(value, plusMinus), QString::number(plusMinus, 'g', 2));
     return unit.isEmpty() ? range : AnalysisText::tr("%1 %2").arg(range, unit);
 }
 
@@ -25,6 +38,8 @@ QString withRange(const Estimate &estimate, double scale, const QString &unit)
 
 QList<FigureLine> figureLines(const StepFigures &figures)
 {
+    const bool isCounts = figures.unit == QLatin1String("cnts"); // the only unit of a channel that is a word
+    const QString unit = isCounts ? AnalysisText::tr("counts") : figures.unit;
     const struct
     {
         const char *name;
@@ -39,8 +54,8 @@ QList<FigureLine> figureLines(const StepFigures &figures)
         {"overshoot", QT_TRANSLATE_NOOP("Analysis", "Overshoot"), figures.overshoot, 1.0, QStringLiteral("%")},
         {"settlingTime", QT_TRANSLATE_NOOP("Analysis", "Settling time, within 2 %"), figures.settlingTime, 1000.0,
          AnalysisText::tr("ms")},
-        {"peakError", QT_TRANSLATE_NOOP("Analysis", "Peak tracking error"), figures.peakError, 1.0, figures.unit},
-        {"rmsError", QT_TRANSLATE_NOOP("Analysis", "RMS tracking error"), figures.rmsError, 1.0, figures.unit},
+        {"peakError", QT_TRANSLATE_NOOP("Analysis", "Peak tracking error"), figures.peakError, 1.0, unit},
+        {"rmsError", QT_TRANSLATE_NOOP("Analysis", "RMS tracking error"), figures.rmsError, 1.0, unit},
         {"timeInCurrentLimit", QT_TRANSLATE_NOOP("Analysis", "Limited by MMC for"), figures.timeInCurrentLimit, 1000.0,
          AnalysisText::tr("ms")},
         {"ringing", QT_TRANSLATE_NOOP("Analysis", "Ringing"), figures.ringing, 1.0, AnalysisText::tr("Hz")},

@@ -50,8 +50,7 @@ QString readCaptureFile(const QString &fileName, const QList<CaptureData> &known
         return captureFromText(bytes, known, capture);
     const QByteArray block = captureBlockOf(bytes);
     return block.isEmpty()
-               ? Text::tr("This page holds no capture. Pages that were saved by older versions of Velbrin cannot "
-                          "be opened again.")
+               ? Text::tr("This page holds no capture: it was cut off, or saved by an older version of Velbrin.")
                : captureFromJson(block, capture);
 }
 

@@ -75,6 +75,13 @@ QString label(double x, double y, const char *anchor, const QString &text, const
         .arg(number(x), number(y), QLatin1String(anchor), QLatin1String(colour), text.toHtmlEscaped());
 }
 
+/// Counts run into millions: whole ones instead of powers of ten.
+QString scaleText(double value)
+{
+    return std::abs(value) >= 1000.0 && std::abs(value) < 1e10 ? QString::number(value, 'f', 0)
+                                                               : QString::number(value, 'g', 4);
+}
+
 /// One group of channels, its upper edge at `top`.
 QString chart(const QList<CaptureData> &channels, const Range &time, double top)
 {
@@ -88,8 +95,7 @@ QString chart(const QList<CaptureData> &channels, const Range &time, double top)
                       .arg(number(left), number(top), number(width - left), number(chartHeight));
     for (const double share : {0.0, 0.5, 1.0}) {
         const double y = top + (1.0 - share) * chartHeight;
-        svg +=
-            label(left - 5.0, y + 4.0, "end", QString::number(values.low + share * (values.high - values.low), 'g', 4));
+        svg += label(left - 5.0, y + 4.0, "end", scaleText(values.low + share * (values.high - values.low)));
     }
     if (values.low < 0.0 && values.high > 0.0) {
         const QString zero = number(top + (1.0 - values.at(0.0)) * chartHeight);

@@ -47,7 +47,7 @@ tr.differs { font-weight: bold; background: #f3f3e0; } .note { font-weight: norm
 .sign td { height: 3em; border: 1px solid #999; }
 @media print {
   body { margin: 0; max-width: none; font-size: 9pt; } h2, thead { break-after: avoid; }
-  tr, svg, section.capture table { break-inside: avoid; } thead { display: table-header-group; }
+  tr, svg, section.capture table, .together { break-inside: avoid; } thead { display: table-header-group; }
 }
 )";
 
@@ -63,7 +63,7 @@ QString settingRow(const SingleParam &setting, const Report &report)
     const std::optional<SettingFacts> about = settingFacts(setting.name, isTorvaModel(report.drive.type));
     const bool differs = about && differsFromStandard(setting, *about);
     const QString note = report.notes.value(setting.name);
-    QString caption = about ? about->caption.toHtmlEscaped() : QString();
+    QString caption = about ? settingCaption(setting, *about).toHtmlEscaped() : QString();
     if (!note.isEmpty())
         caption += QLatin1String("<br><span class=\"note\">") + note.toHtmlEscaped() + QLatin1String("</span>");
     const QString cells[] = {about ? about->unit.toHtmlEscaped() : QString(),
@@ -144,6 +144,12 @@ QString figure(const Figure &figure, double scale, const QString &unit)
     return figure.value ? Text::tr("%1 %2").arg(QString::number(*figure.value * scale, 'g', 4), unit) : figure.reason;
 }
 
+QString counts(const Figure &figure)
+{
+    return figure.value ? Text::tr("%1 %2").arg(QString::number(*figure.value, 'f', 0), Text::tr("counts"))
+                        : figure.reason;
+}
+
 QString stopTest(const Report &report)
 {
     if (!report.stopTest)
@@ -152,17 +158,16 @@ QString stopTest(const Report &report)
     const double countsPerRevolution = 4.0 * report.settings.getParam(QStringLiteral("FBR")).value;
     html::Facts rows = {
         {Text::tr("Time to standstill"), figure(figures.time, 1000.0, Text::tr("ms"))},
-        {Text::tr("Distance to standstill"), figure(figures.distance, 1.0, Text::tr("counts"))},
-        {Text::tr("Farthest point on the way"), figure(figures.farthest, 1.0, Text::tr("counts"))},
+        {Text::tr("Distance to standstill"), counts(figures.distance)},
+        {Text::tr("Farthest point on the way"), counts(figures.farthest)},
     };
     if (countsPerRevolution > 0.0 && figures.distance.value)
         rows.insert(2, {Text::tr("Distance in revolutions"),
                         figure(figures.distance, 1.0 / countsPerRevolution, Text::tr("rev"))});
-    return section(
-        Text::tr("Stop test"),
-        paragraph(
-            Text::tr("Measured from the fault that the machine's stop raised, %1.").arg(when(report.stopTest->time))) +
-            captureChart(*report.stopTest) + table(rows));
+    const QString what = Text::tr("Measured from the fault that the machine's stop raised, %1.");
+    const QString text = section(Text::tr("Stop test"), paragraph(what.arg(when(report.stopTest->time))) +
+                                                            captureChart(*report.stopTest) + table(rows));
+    return QLatin1String("<div class=\"together\">\n") + text + QLatin1String("</div>\n");
 }
 
 QString whatToSign()

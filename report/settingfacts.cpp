@@ -94,6 +94,75 @@ constexpr Row rows[] = {
 };
 // clang-format on
 
+constexpr int torqueFunctionOrders = 12; ///< behind "none" and "constant", a sine and a cosine each
+
+/// What the values 0, 1, ... of a setting are called. The words and their translations are those of the window's forms.
+struct Choices
+{
+    const char *name;
+    const char *context; ///< of the translations; none where all languages say the same
+    const char *words[11];
+};
+
+// clang-format off: a setting's words together
+constexpr Choices choices[] = {
+    {"CM", "GoalsPage",
+     {QT_TRANSLATE_NOOP("GoalsPage", "Position control"), QT_TRANSLATE_NOOP("GoalsPage", "Velocity control"),
+      QT_TRANSLATE_NOOP("GoalsPage", "Torque control")}},
+    {"CRI", "GoalsPage",
+     {QT_TRANSLATE_NOOP("GoalsPage", "Serial only"), QT_TRANSLATE_NOOP("GoalsPage", "Pulse and direction"),
+      QT_TRANSLATE_NOOP("GoalsPage", "Quadrature (A and B)"), QT_TRANSLATE_NOOP("GoalsPage", "Analog input 1 (±10 V)"),
+      QT_TRANSLATE_NOOP("GoalsPage", "Analog input 2 (±10 V)")}},
+    {"AXT", "GoalsPage",
+     {QT_TRANSLATE_NOOP("GoalsPage", "Linear [mm]"), QT_TRANSLATE_NOOP("GoalsPage", "Linear [µm]"),
+      QT_TRANSLATE_NOOP("GoalsPage", "Linear [inch]"), QT_TRANSLATE_NOOP("GoalsPage", "Rotary [revolution]"),
+      QT_TRANSLATE_NOOP("GoalsPage", "Rotary [degrees]")}},
+    {"MT", "MachinePage",
+     {QT_TRANSLATE_NOOP("MachinePage", "None"), QT_TRANSLATE_NOOP("MachinePage", "Brush DC"),
+      QT_TRANSLATE_NOOP("MachinePage", "2 phase AC or BLDC"), QT_TRANSLATE_NOOP("MachinePage", "3 phase AC or BLDC"),
+      QT_TRANSLATE_NOOP("MachinePage", "Stepping motor")}},
+    {"FBD", "MachinePage",
+     {QT_TRANSLATE_NOOP("MachinePage", "None"), QT_TRANSLATE_NOOP("MachinePage", "Quadrature encoder"),
+      QT_TRANSLATE_NOOP("MachinePage", "SinCos encoder, 16x interpolation"),
+      QT_TRANSLATE_NOOP("MachinePage", "SinCos encoder, 64x interpolation"),
+      QT_TRANSLATE_NOOP("MachinePage", "SinCos encoder, 256x interpolation"),
+      QT_TRANSLATE_NOOP("MachinePage", "Resolver"), QT_TRANSLATE_NOOP("MachinePage", "Serial encoder (BiSS-C)")}},
+    {"FB2D", "MachinePage",
+     {QT_TRANSLATE_NOOP("MachinePage", "Same as position feedback device"),
+      QT_TRANSLATE_NOOP("MachinePage", "Quadrature encoder"),
+      QT_TRANSLATE_NOOP("MachinePage", "SinCos encoder, 64x interpolation"),
+      QT_TRANSLATE_NOOP("MachinePage", "Resolver"), QT_TRANSLATE_NOOP("MachinePage", "Serial encoder (BiSS-C)")}},
+    {"LSF", "MachinePage",
+     {QT_TRANSLATE_NOOP("MachinePage", "Not in use"), QT_TRANSLATE_NOOP("MachinePage", "Stop and hold"),
+      QT_TRANSLATE_NOOP("MachinePage", "Stop and disable (fault)")}},
+    {"CEI", "MachinePage",
+     {QT_TRANSLATE_NOOP("MachinePage", "Normally closed"), QT_TRANSLATE_NOOP("MachinePage", "Normally open")}},
+    {"TBW", nullptr,
+     {"100 Hz", "200 Hz", "300 Hz", "400 Hz", "500 Hz", "700 Hz", "1000 Hz", "1500 Hz", "2000 Hz", "3000 Hz"}},
+};
+// clang-format on
+
+QStringList choicesOf(const QString &name)
+{
+    QStringList words;
+    const auto row = std::find_if(std::begin(choices), std::end(choices),
+                                  [&name](const Choices &each) { return name == QLatin1String(each.name); });
+    for (int i = 0; row != std::end(choices) && row->words[i] != nullptr; ++i) {
+        const char *const word = row->words[i];
+        words.append(row->context ? QCoreApplication::translate(row->context, word) : QString::fromUtf8(word));
+    }
+    // The torque functions have an index that goes on as the orders do.
+    if (name == QLatin1String("TRF1") || name == QLatin1String("TRF2")) {
+        words = {QCoreApplication::translate("TuningPage", "None"),
+                 QCoreApplication::translate("TuningPage", "Constant")};
+        for (int k = 2; k < 2 + 2 * torqueFunctionOrders; ++k)
+            words.append((k % 2 == 0 ? QCoreApplication::translate("ParameterPages", "Sin(%1x)")
+                                     : QCoreApplication::translate("ParameterPages", "Cos(%1x)"))
+                             .arg(k / 2));
+    }
+    return words;
+}
+
 QString unitText(const char *unit)
 {
     const bool isWord = std::any_of(std::begin(wordUnits), std::end(wordUnits),
@@ -110,7 +179,17 @@ std::optional<SettingFacts> settingFacts(const QString &name, bool isTorva)
     if (row == std::end(rows))
         return std::nullopt;
     return SettingFacts{QCoreApplication::translate("SettingFacts", row->caption), unitText(row->unit),
-                        isTorva ? row->torvaStandard : row->standard};
+                        isTorva ? row->torvaStandard : row->standard, choicesOf(name)};
+}
+
+QString settingCaption(const SingleParam &setting, const SettingFacts &facts)
+{
+    const QString word = facts.choices.value(int(setting.value)), standard = facts.choices.value(int(facts.standard));
+    if (word.isEmpty())
+        return facts.caption;
+    if (differsFromStandard(setting, facts) && !standard.isEmpty())
+        return QCoreApplication::translate("SettingFacts", "%1: %2 (new drive: %3)").arg(facts.caption, word, standard);
+    return QCoreApplication::translate("SettingFacts", "%1: %2").arg(facts.caption, word);
 }
 
 bool differsFromStandard(const SingleParam &setting, const SettingFacts &facts)

@@ -254,6 +254,10 @@
         <source>It was still moving at the end of the record.</source>
         <translation>Am Ende der Aufzeichnung bewegte sie sich noch.</translation>
     </message>
+    <message>
+        <source>counts</source>
+        <translation>Ink</translation>
+    </message>
 </context>
 <context>
     <name>ApplyBox</name>
@@ -411,8 +415,8 @@
         <translation>Die Aufzeichnung kann nicht gelesen werden: %1.</translation>
     </message>
     <message>
-        <source>This page holds no capture. Pages that were saved by older versions of Velbrin cannot be opened again.</source>
-        <translation>Diese Seite enthält keine Aufzeichnung. Seiten, die ältere Versionen von Velbrin gespeichert haben, lassen sich nicht wieder öffnen.</translation>
+        <source>This page holds no capture: it was cut off, or saved by an older version of Velbrin.</source>
+        <translation>Diese Seite enthält keine Aufzeichnung: Sie ist abgeschnitten oder wurde von einer älteren Version von Velbrin gespeichert.</translation>
     </message>
     <message>
         <source>The capture is damaged: its member &quot;%1&quot; is missing or is not what it should be.</source>
@@ -4073,6 +4077,14 @@
     <message>
         <source>raw</source>
         <translation>roh</translation>
+    </message>
+    <message>
+        <source>%1: %2 (new drive: %3)</source>
+        <translation>%1: %2 (neuer Antrieb: %3)</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>

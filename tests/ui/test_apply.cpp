@@ -1,6 +1,8 @@
 // Editing, applying, saving to the drive and to a file, and the questions before something would be lost.
 #include "windowfixture.h"
 
+#include "settingfacts.h"
+
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDir>
@@ -290,6 +292,17 @@ TEST_F(Apply, HomingIsNotStartedWhenItsQuestionIsAborted)
     ASSERT_TRUE(waitForWrite(HOMING_COMMAND, 0));
     EXPECT_EQ(timesWritten(HOMING_COMMAND, 1), 0);
     EXPECT_TRUE(waitForPending(true));
+}
+
+TEST_F(Apply, AReportCallsChoicesWhatThePagesCallThem)
+{
+    openWindow();
+    for (const char *name : {"CM", "CRI", "AXT", "MT", "FBD", "FB2D", "LSF", "CEI", "TBW", "TRF1", "TRF2"}) {
+        QStringList words;
+        for (int i = 0; i < control<QComboBox>(name)->count(); ++i)
+            words << control<QComboBox>(name)->itemText(i);
+        EXPECT_EQ(settingFacts(name, false)->choices, words) << name;
+    }
 }
 
 TEST_F(Apply, WheelChangesNoControlThatWasNotClicked)

@@ -3,8 +3,10 @@
 
 #include "testfiles.h"
 
+#include "checksum.h"
 #include "scopedesk.h"
 
+#include <QRegularExpression>
 #include <QTableWidget>
 
 namespace {
@@ -191,11 +193,15 @@ TEST_F(Scope, TheChartsTakeTheWindowAndGiveItBackAndEscStillDisables)
     EXPECT_TRUE(control<QWidget>("settingsPane")->isVisible()) << "help has no way back of its own";
 }
 
-TEST_F(Scope, ReportHasTheMachineTheNotesAndTheChosenCapture)
+TEST_F(Scope, ReportHasTheMachineTheNotesTheChosenCaptureAndTheStopTest)
 {
-    channels({"ScopePosMeas"});
-    choose(Instantly, "20000 Hz");
-    click("ScopeCaptureNow");
+    channels({"ScopePosMeas", "ScopeVelMeas"});
+    choose(Fault, "2500 Hz");
+    enableDrive();
+    arm();
+    stepTo(1900);
+    ASSERT_TRUE(bus().waitForRegister(DriveAddress, POSITION, [](int counts) { return counts > 300; }));
+    bus().withDrive(DriveAddress, [](sim::VirtualDrive &drive) { drive.axis().inputs().safeTorqueOff = true; });
     waitForPlot();
     const QString file = path("report.html");
     m_answers.expect([](QWidget *dialog) {
@@ -203,6 +209,9 @@ TEST_F(Scope, ReportHasTheMachineTheNotesAndTheChosenCapture)
         auto *notes = dialog->findChild<QTableWidget *>("reportNotes");
         if (notes->rowCount() > 0)
             notes->item(0, 3)->setText("by hand");
+        auto *stops = dialog->findChild<QComboBox *>("reportStopTest");
+        EXPECT_EQ(stops->count(), 2);
+        stops->setCurrentIndex(1);
         return QMetaObject::invokeMethod(dialog, "accept");
     });
     m_answers.chooseFile(file);
@@ -214,4 +223,8 @@ TEST_F(Scope, ReportHasTheMachineTheNotesAndTheChosenCapture)
     EXPECT_TRUE(text.contains("Saw &lt;b&gt;7"));
     EXPECT_TRUE(text.contains("<svg")) << "the capture that is shown is chosen";
     EXPECT_FALSE(text.contains("<script"));
+    EXPECT_FALSE(text.contains("Not done."));
+    const auto stop = QRegularExpression("Time to standstill</th><td>([\\d.]+) ms").match(text);
+    EXPECT_GT(stop.captured(1).toDouble(), 1.0);
+    EXPECT_TRUE(checkReportFile(file).problem.isEmpty());
 }

@@ -210,11 +210,11 @@ TEST(StepFigures, AreShownWithUnitsOrReasons)
         }
     }
     EXPECT_EQ(lines[6].value, QString::number(*figures.timeInCurrentLimit.value * 1000, 'g', 4) + " ms");
-    EXPECT_TRUE(lines[4].value.endsWith(" cnts"));
+    EXPECT_TRUE(lines[4].value.endsWith(" counts"));
 
     AxisSheet sheet;
     sheet.acceleration = {1.6e6, 3.2e3};
-    EXPECT_EQ(axisLines(sheet, 10000).first().value, "160 ± 0.32 rev/s² per A");
+    EXPECT_EQ(axisLines(sheet, 10000).first().value, "160.00 ± 0.32 rev/s² per A");
     EXPECT_EQ(axisLines(sheet).first().value, "1.6e+06 ± 3.2e+03 counts/s² per A");
     sheet.refusal = QStringLiteral("Why.");
     ASSERT_EQ(axisLines(sheet).size(), 1);

@@ -90,6 +90,9 @@ TEST(ReportPage, MarksWhatDiffersAndKeepsTextsFromActing)
     SingleParam gain = some.settings.getParam("KVP");
     gain.value = 400;
     some.settings.replaceParam(gain);
+    SingleParam mode = some.settings.getParam("CM");
+    mode.value = 2;
+    some.settings.replaceParam(mode);
     some.machine = "<script>1</script>";
     some.notes["KVP"] = "a </td><td class=\"value\">1</td> & \"b\"";
     some.captures = {{"<img src=x>.html", record(100, 50)}};
@@ -97,7 +100,9 @@ TEST(ReportPage, MarksWhatDiffersAndKeepsTextsFromActing)
     some.captures[0].record.channels[0].name = "<svg onload=1>";
     const QByteArray page = reportPage(some);
     const std::string text = page.toStdString();
-    EXPECT_EQ(page.count("<tr class=\"differs\">"), 1);
+    EXPECT_EQ(page.count("<tr class=\"differs\">"), 2);
+    EXPECT_THAT(text, HasSubstr("Control mode: Torque control (new drive: Position control)"));
+    EXPECT_THAT(text, HasSubstr("Motor type: 3 phase AC or BLDC<"));
     EXPECT_THAT(text, HasSubstr("<tr class=\"differs\"><th scope=\"row\">KVP</th><td class=\"value\">400</td>"));
     EXPECT_THAT(text, HasSubstr("&lt;b&gt;loud"));
     for (const char *never : {"<script", "<img", "<svg onload", "<b>", "href="})
