@@ -20,7 +20,6 @@ protected:
     QSpinBox *kvp() const { return control<QSpinBox>("KVP"); }
     void expectNothingCanBeAppliedOrSaved()
     {
-        const auto said = [this] { return m_window->statusBar()->currentMessage(); };
         click("apply_button");
         EXPECT_TRUE(said().startsWith("Nothing applied"));
         for (const bool toFile : {false, true}) {
@@ -101,9 +100,7 @@ TEST_F(Apply, NumberBeyondTheDrivesLimitIsToldAndNothingIsApplied)
     QTest::keyClicks(current, "40");
     kvp()->setValue(777);
     press(Qt::Key_A, Qt::AltModifier);
-    EXPECT_TRUE(waitFor([this] {
-        return m_window->statusBar()->currentMessage().startsWith("40 A is beyond this drive's limit of 35 A");
-    }));
+    EXPECT_TRUE(waitFor([this] { return said().startsWith("40 A is beyond this drive's limit of 35 A"); }));
     EXPECT_EQ(current->value(), before);
     EXPECT_NE(bus().read(DriveAddress, KVP), 777);
     press(Qt::Key_A, Qt::AltModifier); // now the user has seen it

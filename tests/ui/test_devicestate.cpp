@@ -86,6 +86,7 @@ TEST_F(DeviceState, IsLastKnownAfterADisconnectAndLiveWithTheNextConnection)
     EXPECT_NE(ink("statusRegister"), live);
     EXPECT_TRUE(copied().startsWith("Device state as last known"));
     EXPECT_TRUE(copied().contains("Initialized"));
+    EXPECT_FALSE(copied().contains('<') || copied().contains("&nbsp;")) << "plain text";
     EXPECT_FALSE(button("clear_faults_2")->isEnabled());
 
     connectToDrive();

@@ -2,12 +2,10 @@
 #include "windowfixture.h"
 
 #include <QCheckBox>
-#include <QClipboard>
 #include <QComboBox>
 #include <QMenu>
 #include <QShortcut>
 #include <QSpinBox>
-#include <QStatusBar>
 
 namespace {
 
@@ -131,22 +129,12 @@ TEST_F(Escape, StopsTheStimulusAndIsNoToggle)
     EXPECT_EQ(timesWritten(SOFT_ENABLE, 1), 0);
 }
 
-TEST_F(Escape, TellsWhenAPollShowsTheDriveDisabled)
-{
-    bus().set(DriveAddress, SOFT_ENABLE, 1);
-    press(Qt::Key_Escape);
-    ASSERT_TRUE(waitFor([this] { return m_window->statusBar()->currentMessage().startsWith("Disabled after "); }));
-    EXPECT_EQ(shownMessage(m_window.get()), QString());
-}
-
 TEST_F(Escape, TellsWhenNothingConfirmsTheDisable)
 {
-    sim::LineFault silence;
-    silence.kind = sim::LineFault::Deaf;
-    bus().setFault(silence);
+    bus().setFault({sim::LineFault::Deaf});
     press(Qt::Key_Escape);
     ASSERT_TRUE(waitFor([this] { return shownMessage(m_window.get()).startsWith("The disable is not confirmed"); }));
-    EXPECT_TRUE(m_window->statusBar()->currentMessage().contains("hardware stop"));
+    EXPECT_TRUE(said().contains("hardware stop"));
 }
 
 TEST_F(Escape, DisablesTheLastDriveWithoutAConnection)
@@ -162,7 +150,7 @@ TEST_F(Escape, DisablesTheLastDriveWithoutAConnection)
 
     press(Qt::Key_Escape); // the cable is still out
     ASSERT_TRUE(waitFor([this] { return shownMessage(m_window.get()).contains("may still be powered"); }));
-    EXPECT_TRUE(m_window->statusBar()->currentMessage().contains("may still be powered"));
+    EXPECT_TRUE(said().contains("may still be powered"));
     control<QDialog>("errorWindow")->close();
     EXPECT_EQ(bus().read(DriveAddress, SOFT_ENABLE), 1);
 
@@ -171,18 +159,19 @@ TEST_F(Escape, DisablesTheLastDriveWithoutAConnection)
         bus().set(DriveAddress, SOFT_ENABLE, 1);
         byKey ? press(Qt::Key_Escape) : click("disable_drive");
         ASSERT_TRUE(driveHas(SOFT_ENABLE, 0)) << byKey;
-        ASSERT_TRUE(waitFor([this] { return m_window->statusBar()->currentMessage().startsWith("Disabled after "); }));
+        ASSERT_TRUE(waitFor([this] { return said().startsWith("Disabled after "); }));
     }
     EXPECT_EQ(connectionText(), "Disconnected");
 }
 
-TEST_F(Escape, WhatWasSaidAboutADisableGivesWayWhenTheDriveIsEnabledAgain)
+TEST_F(Escape, TellsWhenAPollShowsTheDriveDisabledUntilItIsEnabledAgain)
 {
     bus().set(DriveAddress, SOFT_ENABLE, 1);
     press(Qt::Key_Escape);
-    ASSERT_TRUE(waitFor([this] { return m_window->statusBar()->currentMessage().startsWith("Disabled after "); }));
+    ASSERT_TRUE(waitFor([this] { return said().startsWith("Disabled after "); }));
+    EXPECT_EQ(shownMessage(m_window.get()), QString());
     bus().set(DriveAddress, SOFT_ENABLE, 1); // by another program
-    EXPECT_TRUE(waitFor([this] { return m_window->statusBar()->currentMessage() == "The drive is enabled again"; }));
+    EXPECT_TRUE(waitFor([this] { return said() == "The drive is enabled again"; }));
 }
 
 using EscapeWithoutDrive = WindowFixture;
@@ -242,15 +231,6 @@ TEST_F(Escape, HeldShortcutMovesTheAxisOnce)
     EXPECT_EQ(timesWritten(INCREMENTAL_SETPOINT, 11), 1);
 }
 
-TEST_F(Escape, DeviceStateIsCopiedAsPlainText)
-{
-    label("physInputStatus")->setText("GPI 1<br>GPI 2");
-    label("statusRegister")->setText("<b>Initialized</b> &amp; ready");
-    label("faultRegister")->setText("No data");
-    click("copyDeviceStateToClipboard");
-    EXPECT_EQ(QApplication::clipboard()->text(), "GPI 1\nGPI 2\n\nInitialized & ready\n\nNo data");
-}
-
 TEST_F(Escape, RestartQuestionWaitsWhileAnotherBoxIsOpen)
 {
     bool restartWasAsked = false;
@@ -289,7 +269,7 @@ TEST_F(Escape, ADriveThatStaysEnabledIsNotCalledDisabled)
     ASSERT_TRUE(waitForWrite(SOFT_ENABLE, 0));
     ASSERT_TRUE(waitForThreePolls());
     EXPECT_EQ(bus().read(DriveAddress, SOFT_ENABLE), 1);
-    EXPECT_FALSE(m_window->statusBar()->currentMessage().startsWith("Disabled after "));
+    EXPECT_FALSE(said().startsWith("Disabled after "));
 }
 
 TEST_F(Escape, OnlyTheForcingButtonForces)

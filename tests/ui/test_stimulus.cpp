@@ -52,19 +52,6 @@ TEST_F(Stimulus, StreamsASquareWaveUntilUnticked)
     EXPECT_TRUE(setButtonsAre(true));
 }
 
-TEST_F(Stimulus, ADisconnectStopsItForGood)
-{
-    start();
-    ASSERT_TRUE(waitFor([this] { return isStreaming(); }));
-    disconnectFromDrive();
-    EXPECT_GE(timesWritten(SYSTEM_COMMAND, STOP_STREAM), 1);
-    EXPECT_FALSE(box()->isChecked());
-    bus().clearReceived();
-    connectToDrive();
-    EXPECT_TRUE(setButtonsAre(true));
-    EXPECT_FALSE(isStreaming());
-}
-
 TEST_F(Stimulus, ALostLineUnticksIt)
 {
     start();

@@ -20,9 +20,11 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QSignalSpy>
+#include <QStatusBar>
 #include <QTest>
 #include <QTextEdit>
 #include <QTimer>
+
 /// Answers every request with a small page that names its path, or with nothing at all while silent.
 class LoopbackWiki : public LoopbackHttpServer
 {
@@ -224,6 +226,8 @@ protected:
         QTest::keyClick(target ? target : m_window.get(), key, modifiers);
     }
     QString connectionText() const { return label("connectionStatus")->text(); }
+    /// In the status bar.
+    QString said() const { return m_window->statusBar()->currentMessage(); }
     QString applyText() const { return button("apply_button")->text(); }
     /// Waits until the Apply button says whether something is pending, and for no longer than a technician would.
     bool waitForPending(bool pending)

@@ -48,6 +48,25 @@ inline Ran run(const QStringList &arguments)
     return finish(process);
 }
 
+using Text = testing::Matcher<std::string>;
+
+/// A run that has to have ended well and with these results.
+inline Ran good(const Ran &ran, const Text &results = testing::_, int line = __builtin_LINE())
+{
+    EXPECT_EQ(ran.status, 0) << "line " << line << ": " << ran.err.toStdString();
+    EXPECT_THAT(ran.out.toStdString(), results) << "line " << line;
+    return ran;
+}
+
+/// A run that has to have ended with status 1, this on standard error, and these results.
+inline Ran failed(const Ran &ran, const Text &says, const Text &results = testing::_, int line = __builtin_LINE())
+{
+    EXPECT_EQ(ran.status, 1) << "line " << line << ": " << ran.err.toStdString();
+    EXPECT_THAT(ran.err.toStdString(), says) << "line " << line;
+    EXPECT_THAT(ran.out.toStdString(), results) << "line " << line;
+    return ran;
+}
+
 /// As Ctrl+C does, or a service manager.
 inline void sendSignal(const QProcess &process, int signal = SIGINT)
 {

@@ -167,6 +167,18 @@ protected:
     {
         return waitUntil([&] { return !log().statuses.isEmpty() && !log().statuses.last().connected; });
     }
+    bool leave()
+    {
+        session().command(Connection::TaskDisconnect);
+        return waitForDisconnect();
+    }
+    /// A connection on which replies are lost on purpose.
+    bool reconnectImpatiently()
+    {
+        const bool left = leave();
+        session().setReplyTimeout(shortTimeoutMs);
+        return left && connectTo() && waitUntilIdle();
+    }
     bool readAll()
     {
         const int before = log().read.size();
@@ -212,6 +224,23 @@ protected:
         session().setSettingsFileName(mark);
         session().command(Connection::TaskSaveSettingsFile);
         return waitUntil([&] { return QFileInfo::exists(mark); });
+    }
+
+    bool runToEnd(Connection::Task task)
+    {
+        session().command(task);
+        return waitUntilIdle();
+    }
+    /// The settings as they were read last, but for these.
+    Parameters with(std::initializer_list<std::pair<const char *, double>> values)
+    {
+        Parameters list = log().read.last();
+        for (const auto &[name, value] : values) {
+            SingleParam param = list.getParam(name);
+            param.value = value;
+            list.replaceParam(param);
+        }
+        return list;
     }
 
     /// Payloads that arrived, without those of the periodic poll and the questions whether a write was refused.

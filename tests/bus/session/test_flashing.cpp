@@ -314,8 +314,7 @@ TEST_P(FailedUpgrade, IsToldOnceAndCanBeRepeated)
     const QString file =
         torva ? writeFirmware(4000, numberedWords(320), numberedWords(320)) : writeFirmware(11000, numberedWords(320));
     ASSERT_TRUE(flash(file));
-    session().command(Connection::TaskDisconnect);
-    ASSERT_TRUE(waitForDisconnect());
+    ASSERT_TRUE(leave());
     ASSERT_TRUE(waitUntilIdle());
     EXPECT_EQ(finalMessages(), 1);
     EXPECT_TRUE(log().upgrade.last().failed);
@@ -351,12 +350,10 @@ TEST_F(SessionFixture, ADriveRestartedIntoUpgradeModeIsTakenForWhatItIs)
     session().setPauseScale(0.1); // longer than the virtual drive restarts
     session().command(Connection::TaskRestartToDFU);
     ASSERT_TRUE(waitUntil([this] { return session().isInFirmwareUpgradeMode(); }));
-    session().command(Connection::TaskUpdateStatus);
-    ASSERT_TRUE(waitUntilIdle());
+    ASSERT_TRUE(runToEnd(Connection::TaskUpdateStatus));
     EXPECT_TRUE(session().isConnected());
     bus().clearReceived();
-    session().command(Connection::TaskDisconnect);
-    ASSERT_TRUE(waitForDisconnect());
+    ASSERT_TRUE(leave());
     EXPECT_THAT(payloads(), Not(Contains(wire("800f 00000000")))) << "a bootloader has no watchdog";
     EXPECT_TRUE(log().errors.isEmpty());
 }

@@ -82,8 +82,7 @@ TEST_F(Stimulus, ANewConnectionBeginsAnewAndDoesNotMoveByItself)
     start();
     ASSERT_TRUE(waitForClock());
     bus().clearReceived();
-    session().command(Connection::TaskDisconnect);
-    ASSERT_TRUE(waitForDisconnect());
+    ASSERT_TRUE(leave());
     const std::vector<std::string> sent = payloads();
     ASSERT_GE(sent.size(), 2u);
     EXPECT_EQ(sent[sent.size() - 2], wire("822a 00000004")) << "the stream is stopped first";

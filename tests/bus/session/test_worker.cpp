@@ -298,11 +298,7 @@ TEST_F(Worker, LeavingCarriesOutWhatWasChosenOnTheWayOut)
 {
     ASSERT_TRUE(connectTo());
     ASSERT_TRUE(readAll());
-    Parameters list = log().read.last();
-    SingleParam gain = list.getParam("KVP");
-    gain.value = 432;
-    list.replaceParam(gain);
-    session().setParams(list);
+    session().setParams(with({{"KVP", 432}}));
     session().getParams();
     session().command(Connection::TaskSetParams);
     session().command(Connection::TaskSaveToFlash);
