@@ -56,10 +56,8 @@ TEST_F(DeviceState, RefreshKeepsSelectionScrollPositionAndKeyboard)
     EXPECT_EQ(status()->selectedText(), "Initialized");
     EXPECT_EQ(scroll->value(), before);
     EXPECT_EQ(QApplication::focusWidget(), keyboard);
-}
 
-TEST_F(DeviceState, TextWaitsWhileTheMouseSelectsInIt)
-{
+    // While the mouse selects in it, a text waits.
     control<QScrollArea>("testingScroll")->ensureWidgetVisible(status());
     QTest::mousePress(status(), Qt::LeftButton, {}, QPoint(30, 15));
     const QString text = status()->text();

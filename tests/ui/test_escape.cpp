@@ -38,7 +38,7 @@ protected:
 
 } // namespace
 
-TEST_F(Escape, DisablesFromTheWindowAndItsFields)
+TEST_F(Escape, DisablesFromFieldsPopupsMenusAndModelessWindows)
 {
     bus().set(DriveAddress, SOFT_ENABLE, 1);
     expectDisable("the window", m_window.get());
@@ -50,11 +50,7 @@ TEST_F(Escape, DisablesFromTheWindowAndItsFields)
     expectDisable("a combo box", control<QComboBox>("TBW"));
     m_window->findChild<QWidget *>("helpView")->setFocus();
     expectDisable("the help view", m_window->findChild<QWidget *>("helpView"));
-}
 
-TEST_F(Escape, DisablesFromPopupsAndMenus)
-{
-    goTo(4);
     auto *combo = control<QComboBox>("TBW");
     combo->showPopup();
     ASSERT_TRUE(waitFor([] { return QApplication::activePopupWidget() != nullptr; }));
@@ -66,10 +62,7 @@ TEST_F(Escape, DisablesFromPopupsAndMenus)
     ASSERT_TRUE(waitFor([&] { return menu.isVisible(); }));
     expectDisable("a menu", &menu);
     menu.close();
-}
 
-TEST_F(Escape, DisablesFromModelessWindows)
-{
     press(Qt::Key_P, Qt::ControlModifier);
     auto *overrides = control<QDialog>("overrideParams");
     ASSERT_TRUE(overrides->isVisible());
@@ -84,8 +77,18 @@ TEST_F(Escape, DisablesFromModelessWindows)
     EXPECT_FALSE(errors->isVisible());
 }
 
-TEST_F(Escape, DisablesFromQuestionsAndFileDialogs)
+TEST_F(Escape, DisablesFromTheBusyBoxWithoutClosingItAndFromQuestionsAndFileDialogs)
 {
+    QMetaObject::invokeMethod(m_window.get(), "setBusy", Q_ARG(bool, true), Q_ARG(bool, false));
+    auto *busy = control<QDialog>("busyDialog");
+    ASSERT_TRUE(busy->isVisible());
+    expectDisable("the busy box", busy);
+    EXPECT_TRUE(busy->isVisible());
+    busy->close();
+    EXPECT_TRUE(busy->isVisible());
+    QMetaObject::invokeMethod(m_window.get(), "setBusy", Q_ARG(bool, false), Q_ARG(bool, true));
+    EXPECT_FALSE(busy->isVisible());
+
     const auto escapeFrom = [this](const char *where) {
         m_answers.expect([this, where](QWidget *box) {
             expectDisable(where, box);
@@ -107,19 +110,6 @@ TEST_F(Escape, DisablesFromQuestionsAndFileDialogs)
     QMetaObject::invokeMethod(m_window.get(), "availableBusNodesListReceived", Q_ARG(QList<NodeType>, {}));
 }
 
-TEST_F(Escape, DisablesFromTheBusyBoxWithoutClosingIt)
-{
-    QMetaObject::invokeMethod(m_window.get(), "setBusy", Q_ARG(bool, true), Q_ARG(bool, false));
-    auto *busy = control<QDialog>("busyDialog");
-    ASSERT_TRUE(busy->isVisible());
-    expectDisable("the busy box", busy);
-    EXPECT_TRUE(busy->isVisible());
-    busy->close();
-    EXPECT_TRUE(busy->isVisible());
-    QMetaObject::invokeMethod(m_window.get(), "setBusy", Q_ARG(bool, false), Q_ARG(bool, true));
-    EXPECT_FALSE(busy->isVisible());
-}
-
 TEST_F(Escape, StopsTheStimulusAndIsNoToggle)
 {
     control<QCheckBox>("stimulusEnabled")->setChecked(true);
@@ -127,6 +117,16 @@ TEST_F(Escape, StopsTheStimulusAndIsNoToggle)
     EXPECT_FALSE(control<QCheckBox>("stimulusEnabled")->isChecked());
     expectDisable("once more", m_window.get());
     EXPECT_EQ(timesWritten(SOFT_ENABLE, 1), 0);
+
+    // Held, it disables once.
+    bus().clearReceived();
+    for (const bool repeated : {false, true, true, true}) {
+        QKeyEvent press(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier, QString(), repeated);
+        QApplication::sendEvent(m_window.get(), &press);
+    }
+    ASSERT_TRUE(waitForWrite(SOFT_ENABLE, 0));
+    ASSERT_TRUE(waitForThreePolls());
+    EXPECT_EQ(timesWritten(SOFT_ENABLE, 0), 1);
 }
 
 TEST_F(Escape, TellsWhenNothingConfirmsTheDisable)
@@ -245,19 +245,6 @@ TEST_F(Escape, RestartQuestionWaitsWhileAnotherBoxIsOpen)
     click("save_settings_to_file");
     EXPECT_FALSE(restartWasAsked);
     EXPECT_TRUE(waitFor([this] { return m_answers.isDone(); }));
-}
-
-TEST_F(Escape, AHeldKeyDisablesOnce)
-{
-    bus().clearReceived();
-    QWidget *keyboard = m_window.get();
-    for (const bool repeated : {false, true, true, true}) {
-        QKeyEvent press(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier, QString(), repeated);
-        QApplication::sendEvent(keyboard, &press);
-    }
-    ASSERT_TRUE(waitForWrite(SOFT_ENABLE, 0));
-    ASSERT_TRUE(waitForThreePolls());
-    EXPECT_EQ(timesWritten(SOFT_ENABLE, 0), 1);
 }
 
 TEST_F(Escape, ADriveThatStaysEnabledIsNotCalledDisabled)

@@ -2,6 +2,7 @@
 #include "windowfixture.h"
 
 #include "firmwarewriter.h"
+#include "numberedwords.h"
 
 #include <QComboBox>
 #include <QElapsedTimer>
@@ -13,8 +14,6 @@
 
 namespace {
 
-using Words = std::vector<std::uint16_t>;
-
 constexpr int KetaType = 11000;
 constexpr int TorvaType = 4000;
 constexpr int BootloaderAddress = 255;
@@ -23,14 +22,6 @@ constexpr int FaultRegister = 552;
 constexpr int OperatingMode = 2;
 constexpr int UpgradeCutOff = 0x120;
 constexpr int SearchLimitMs = 40000; // 25 addresses, most of them silent, on a machine that does other things as well
-
-Words numberedWords(int count, int first)
-{
-    Words words;
-    for (int i = 0; i < count; ++i)
-        words.push_back(static_cast<std::uint16_t>(first + i));
-    return words;
-}
 
 class FirmwareDialogTest : public WindowFixture
 {
@@ -229,10 +220,7 @@ TEST_F(RunningUpgrade, IsNotLeftByAccident)
         return true;
     });
     EXPECT_FALSE(m_window->close());
-    m_answers.expect([](QWidget *box) {
-        QTest::keyClick(box, Qt::Key_Escape);
-        return true;
-    });
+    m_answers.pressKey(Qt::Key_Escape);
     EXPECT_FALSE(m_window->close());
     bus().setTurnAround(std::chrono::microseconds(0));
     ASSERT_TRUE(waitForSuccess());

@@ -108,26 +108,19 @@ TEST_F(Questions, MeasuringAsksFirstAndFillsInTheMotor)
     EXPECT_EQ(bus().read(DriveAddress, 405), 150) << "0.15 ohms have the virtual motor's windings";
     EXPECT_EQ(bus().read(DriveAddress, 406), 500);
     EXPECT_TRUE(waitForPending(false));
+    enableDrive();
+    click("measureRLbutton"); // refused
+    ASSERT_TRUE(waitFor([this] { return shownMessage(m_window.get()).startsWith("Measurement failed."); }));
+    EXPECT_EQ(connectionText(), "Connected");
     m_answers.press("Abort"); // it is not saved, and the question about that says so
     click("disconnect_button");
     EXPECT_TRUE(m_answers.texts.last().contains("since last Save to drive"));
 }
 
-TEST_F(Questions, AMeasurementThatTheDriveRefusesSaysSo)
-{
-    enableDrive();
-    click("measureRLbutton");
-    ASSERT_TRUE(waitFor([this] { return shownMessage(m_window.get()).startsWith("Measurement failed."); }));
-    EXPECT_EQ(connectionText(), "Connected");
-}
-
 TEST_F(Questions, PositionIsResetOnlyWhenTheUserSaysSo)
 {
     for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Escape}) {
-        m_answers.expect([key](QWidget *widget) {
-            QTest::keyClick(widget, key);
-            return true;
-        });
+        m_answers.pressKey(key);
         comeBackToPositionControl();
         ASSERT_TRUE(waitFor([this] { return m_answers.isDone(); }));
         EXPECT_EQ(m_answers.texts.last(), "Drive control mode changed to position control ");

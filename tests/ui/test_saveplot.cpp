@@ -99,10 +99,8 @@ TEST_F(SavePlot, WhatCannotBeWrittenIsSaid)
         EXPECT_TRUE(shownMessage(m_window.get()).startsWith("Error writing graphs to file " + name));
         control<QDialog>("errorWindow")->close();
     }
-}
 
-TEST_F(SavePlot, AnotherEndingWritesNothingAndTheStatusBarTellsWhichThereAre)
-{
+    // Another ending writes nothing, and the status bar tells which there are.
     save(path("graphs.txt"));
     EXPECT_FALSE(QFile::exists(path("graphs.txt")));
     EXPECT_EQ(shownMessage(m_window.get()), QString());

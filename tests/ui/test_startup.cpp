@@ -22,9 +22,7 @@ void keepWarnings(QtMsgType type, const QMessageLogContext &, const QString &tex
         warnings << text;
 }
 
-class Startup : public WindowFixture
-{
-};
+using Startup = WindowFixture;
 
 } // namespace
 
@@ -52,13 +50,7 @@ TEST_F(Startup, AgreeingOpensTheWindowOnTheWelcomePage)
 TEST_F(Startup, DisagreeingSaysSoAndClosesTheWindow)
 {
     for (const bool byEscape : {false, true}) {
-        if (byEscape)
-            m_answers.expect([](QWidget *box) {
-                QTest::keyClick(box, Qt::Key_Escape);
-                return true;
-            });
-        else
-            m_answers.press("Disagree");
+        byEscape ? m_answers.pressKey(Qt::Key_Escape) : m_answers.press("Disagree");
         m_answers.press("Quit");
         MW window;
         window.show();

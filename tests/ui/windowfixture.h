@@ -72,6 +72,14 @@ public:
             return false;
         });
     }
+    /// The next box gets this key.
+    void pressKey(Qt::Key key)
+    {
+        expect([key](QWidget *box) {
+            QTest::keyClick(box, key);
+            return true;
+        });
+    }
     /// The next node dialog gets this row chosen and opened; its rows are read.
     void chooseNode(int row, QStringList *rows = nullptr)
     {

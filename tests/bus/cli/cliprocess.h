@@ -95,6 +95,19 @@ inline bool waitForPayload(const sim::VirtualBus &bus, const std::string &payloa
     });
 }
 
+// Registers, bits of the status and the fault register, and payloads: select a register, write a value.
+constexpr int Faults = 552, Status = 553, Setpoint = 957, SoftEnable = 2533;
+constexpr int Running = 8, TrackingFault = 2;
+const char *const EnablePayload = "89e500000001";
+const char *const DisablePayload = "89e500000000";
+const char *const ArmForFaultPayload = "939300000003";
+
+class CliFixture : public VirtualBusFixture
+{
+protected:
+    std::vector<std::string> sent() { return payloads(bus().received()); }
+};
+
 /// With the fixture's bus and its drive.
 inline Ran onDrive(QStringList arguments)
 {

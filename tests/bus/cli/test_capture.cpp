@@ -18,25 +18,18 @@ using testing::Not;
 
 namespace {
 
-constexpr int Status = 553;
-constexpr int Running = 8;
-constexpr int SoftEnable = 2533;
-constexpr int Setpoint = 957;
 constexpr int BufferedCommand = 52;
 
-const char *const EnablePayload = "89e500000001";
-const char *const DisablePayload = "89e500000000";
 const char *const StopStreamPayload = "822a00000004";
 
-class CliCapture : public VirtualBusFixture
+class CliCapture : public CliFixture
 {
 protected:
     void TearDown() override
     {
         qunsetenv("VELBRIN_DATA");
-        VirtualBusFixture::TearDown();
+        CliFixture::TearDown();
     }
-    std::vector<std::string> sent() { return payloads(bus().received()); }
     bool isOff() { return bus().read(DriveAddress, SoftEnable) == 0 && !(bus().read(DriveAddress, Status) & Running); }
 };
 

@@ -13,11 +13,9 @@ namespace {
 constexpr int KVP = 202;
 constexpr int KPP = 201;
 
-class Cli : public VirtualBusFixture
-{
-};
+using Cli = CliFixture;
 
-class CliTwoDrives : public VirtualBusFixture
+class CliTwoDrives : public CliFixture
 {
     sim::BusOptions busOptions() const override { return {{{"keta", 3, false}, {"torva", 7, false}}}; }
 };
@@ -37,7 +35,6 @@ TEST_F(CliTwoDrives, AreListedAndHaveToBeNamed)
 
 TEST_F(CliTwoDrives, DisableWithoutAnAddressLeavesNoDriveRunning)
 {
-    constexpr int SoftEnable = 2533;
     const QStringList disable = {"--port", port(), "disable"};
     const auto enableBoth = [this] {
         for (int address : {3, 7})

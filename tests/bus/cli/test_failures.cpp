@@ -9,11 +9,9 @@ using testing::HasSubstr;
 
 namespace {
 
-class CliFailure : public VirtualBusFixture
-{
-};
+using CliFailure = CliFixture;
 
-class CliUpgradeMode : public VirtualBusFixture
+class CliUpgradeMode : public CliFixture
 {
     sim::BusOptions busOptions() const override { return {{{"keta", DriveAddress, true}}}; }
 };

@@ -2,6 +2,7 @@
 #include "cliprocess.h"
 
 #include "firmwarewriter.h"
+#include "numberedwords.h"
 
 #include <QFile>
 #include <QJsonArray>
@@ -15,25 +16,15 @@ using testing::StartsWith;
 
 namespace {
 
-using Words = std::vector<std::uint16_t>;
-
-/// 100 words make four chunks.
-Words image(int words, std::uint16_t first)
-{
-    Words result;
-    for (int i = 0; i < words; ++i)
-        result.push_back(static_cast<std::uint16_t>(first + i));
-    return result;
-}
-
-class CliFirmware : public VirtualBusFixture
+class CliFirmware : public CliFixture
 {
 protected:
     void SetUp() override
     {
-        VirtualBusFixture::SetUp();
-        write("keta.tdf", sim::firmwareFile(11000, image(100, 0x1000), {}));
-        write("torva.tdf", sim::firmwareFile(4000, image(100, 0x2000), image(50, 0x3000)));
+        CliFixture::SetUp();
+        // 100 words make four chunks.
+        write("keta.tdf", sim::firmwareFile(11000, numberedWords(100, 0x1000), {}));
+        write("torva.tdf", sim::firmwareFile(4000, numberedWords(100, 0x2000), numberedWords(50, 0x3000)));
     }
     static void write(const char *name, const sim::Bytes &bytes) { ASSERT_EQ(sim::writeFile(name, bytes), ""); }
     void useDrive(const char *profile, bool upgradeMode) { startBus({{{profile, DriveAddress, upgradeMode}}}); }
@@ -42,7 +33,6 @@ protected:
     {
         return run(QStringList{"--port", port(), "--pause-scale", "0.02"} + arguments);
     }
-    std::vector<std::string> sent() { return payloads(bus().received()); }
     int addressNow()
     {
         int address = 0;
@@ -92,7 +82,7 @@ TEST_F(CliFirmware, WhatCannotWorkIsRefusedBeforeTheErase)
 
 TEST_F(CliFirmware, OneCtrlCLeavesTheUpgradeRunningASecondBreaksItOff)
 {
-    write("keta.tdf", sim::firmwareFile(11000, image(3200, 0), {}));
+    write("keta.tdf", sim::firmwareFile(11000, numberedWords(3200, 0), {}));
     for (const bool twice : {false, true}) {
         useDrive("keta", true);
         bus().setTurnAround(std::chrono::milliseconds(5));
@@ -146,7 +136,7 @@ TEST_F(CliFirmware, RestartThatCannotBeOrIsNotSeenIsNoSuccess)
 TEST(CliFirmwareInfo, TellsWhatAFileHoldsWithoutADrive)
 {
     PrivateFolder folder;
-    sim::Bytes bytes = sim::firmwareFile(4000, image(100, 0), image(50, 0));
+    sim::Bytes bytes = sim::firmwareFile(4000, numberedWords(100, 0), numberedWords(50, 0));
     ASSERT_EQ(sim::writeFile("good.tdf", bytes), "");
     bytes[40] ^= 1;
     ASSERT_EQ(sim::writeFile("flipped.tdf", bytes), "");

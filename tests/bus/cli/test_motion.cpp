@@ -14,26 +14,16 @@ namespace {
 // Registers.
 constexpr int ProtocolVersion = 3;
 constexpr int ProtocolCompanion = 4;
-constexpr int Faults = 552;
-constexpr int Status = 553;
-constexpr int Setpoint = 957;
 constexpr int ControlInputs = 963;
 constexpr int Temperature = 952;
-constexpr int SoftEnable = 2533;
 constexpr int HomingSettings = 806;
 constexpr int HomingVelocity = 804;
 
-constexpr int Running = 8; // bits of the status register
 constexpr int Homing = 2048;
-constexpr int TrackingFault = 2;
 constexpr int OverTemperature = 32;
 constexpr int AllButPhysicalEnable = 6;
 
-// Select a register, write a value.
-const char *const EnablePayload = "89e500000001";
-const char *const DisablePayload = "89e500000000";
-
-class CliMotion : public VirtualBusFixture
+class CliMotion : public CliFixture
 {
 protected:
     bool isRunning() { return bus().read(DriveAddress, Status) & Running; }
@@ -42,7 +32,6 @@ protected:
         bus().withDrive(DriveAddress, [](sim::VirtualDrive &drive) { drive.write(SoftEnable, 1); });
         ASSERT_TRUE(bus().waitForRegister(DriveAddress, Status, [](std::int32_t bits) { return bits & Running; }));
     }
-    std::vector<std::string> sent() { return payloads(bus().received()); }
 };
 
 } // namespace

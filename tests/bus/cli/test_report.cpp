@@ -12,17 +12,9 @@ using testing::Not;
 namespace {
 
 constexpr int KVP = 202;
-constexpr int Faults = 552;
-constexpr int Status = 553;
-constexpr int SoftEnable = 2533;
 constexpr int AbsoluteSetpoint = 551;
-constexpr int Running = 8;
-constexpr int TrackingFault = 2;
-const char *const ArmForFaultPayload = "939300000003";
 
-class CliReport : public VirtualBusFixture
-{
-};
+using CliReport = CliFixture;
 
 void replaceIn(const char *name, const QByteArray &before, const QByteArray &after)
 {

@@ -14,7 +14,7 @@ using testing::HasSubstr;
 
 namespace {
 
-class CliWatch : public VirtualBusFixture
+class CliWatch : public CliFixture
 {
 protected:
     /// Output until it holds `text` so many times.

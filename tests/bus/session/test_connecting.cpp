@@ -200,6 +200,12 @@ TEST_F(Connecting, LeavingSwitchesTheWatchdogOffAndForgetsTheDrive)
     EXPECT_EQ(session().deviceType(), 0);
     EXPECT_EQ(session().getActiveParamValue("HWTYPE"), 0.0);
     EXPECT_FALSE(session().deviceHasCapability(Connection::CapRestartToDFU));
+    // The type stays gone also when the window hands its own set over.
+    session().setParams(log().read.last());
+    EXPECT_EQ(session().getActiveParamValue("HWTYPE"), 0.0);
+    session().emitParameters();
+    ASSERT_TRUE(waitUntil([this] { return !log().loaded.isEmpty(); }));
+    EXPECT_EQ(log().loaded.last().getParam("HWTYPE").value, 0.0);
 
     // The record keeps its address, or the type could not be read any more.
     ASSERT_TRUE(connectTo());
@@ -378,16 +384,4 @@ TEST_F(Connecting, WhoDoesNotAnswerAndWhoAnswersDamagedAreToldApart)
         EXPECT_TRUE(log().errors.last().startsWith("Communication error flags:"));
         EXPECT_EQ(log().messages.last().kind, MessageKind::ConnectFailed);
     }
-}
-
-TEST_F(Connecting, TheTypeStaysGoneAlsoWhenTheWindowHandsItsOwnSetOver)
-{
-    ASSERT_TRUE(connectTo());
-    ASSERT_TRUE(readAll());
-    ASSERT_TRUE(leave());
-    session().setParams(log().read.last());
-    EXPECT_EQ(session().getActiveParamValue("HWTYPE"), 0.0);
-    session().emitParameters();
-    ASSERT_TRUE(waitUntil([this] { return !log().loaded.isEmpty(); }));
-    EXPECT_EQ(log().loaded.last().getParam("HWTYPE").value, 0.0);
 }

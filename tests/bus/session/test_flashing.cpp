@@ -2,6 +2,7 @@
 #include "sessionfixture.h"
 
 #include "firmwarewriter.h"
+#include "numberedwords.h"
 
 #include <QFile>
 
@@ -15,16 +16,6 @@ using Fault = sim::LineFault;
 
 namespace {
 
-using Words = std::vector<std::uint16_t>;
-
-Words numberedWords(int count)
-{
-    Words words;
-    for (int i = 0; i < count; ++i)
-        words.push_back(static_cast<std::uint16_t>(0xA000 + i));
-    return words;
-}
-
 QString writeFirmware(int type, const Words &io, const Words &core = {})
 {
     const QString name = QDir::currentPath() + "/firmware.tdf";
@@ -36,10 +27,7 @@ class Flashing : public SessionFixture
 {
 protected:
     sim::BusOptions busOptions() const override { return upgradeModeOf("keta"); }
-    static sim::BusOptions upgradeModeOf(const char *profile)
-    {
-        return {{{profile, 5, true}}};
-    }
+    static sim::BusOptions upgradeModeOf(const char *profile) { return {{{profile, 5, true}}}; }
     void SetUp() override
     {
         SessionFixture::SetUp();

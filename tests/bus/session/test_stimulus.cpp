@@ -18,7 +18,6 @@ protected:
         bus().clearReceived();
     }
     void start() { session().setStimulus(100, 0.11, -3.7, 10, true); }
-    void stop() { session().setStimulus(100, 0.11, -3.7, 10, false); }
     /// Chunks of the first run: up to the reading of the clock, which ends each.
     std::vector<std::string> uploads()
     {
@@ -56,24 +55,6 @@ TEST_F(Stimulus, BeginsWithThePeriodTheSetUpAndNineChunks)
     EXPECT_EQ(chunks[0], first);
     for (std::size_t i = 1; i < chunks.size(); ++i)
         EXPECT_EQ(chunks[i].size(), 2u * 3 * 30);
-    EXPECT_TRUE(log().errors.isEmpty());
-}
-
-TEST_F(Stimulus, StoppedAndStartedAgainItGoesOnWithoutSetUp)
-{
-    start();
-    ASSERT_TRUE(waitForClock());
-    stop();
-    ASSERT_TRUE(waitUntilIdle());
-    EXPECT_EQ(payloads().back(), wire("822a 00000004"));
-    ASSERT_TRUE(bus().waitForRegister(5, 6, 2048)) << "the buffer is empty";
-
-    bus().clearReceived();
-    start();
-    ASSERT_TRUE(waitForClock());
-    EXPECT_EQ(payloads().front(), readFree);
-    ASSERT_THAT(uploads(), SizeIs(9));
-    EXPECT_EQ(uploads().front().substr(0, 36), wire("400064 400064 400064 400064 400064 7ffffd"));
     EXPECT_TRUE(log().errors.isEmpty());
 }
 

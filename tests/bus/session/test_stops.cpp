@@ -343,6 +343,7 @@ TEST_F(Stops, AStopGetsThroughBeforeALostReplyIsAskedForAgain)
     const auto sent = bus().received();
     ASSERT_GE(sent.size(), 2u);
     EXPECT_EQ(hex(sent[1].packet.payload), wire("89e5 00000000"));
-    EXPECT_LT(sent[1].time - sent[0].time, std::chrono::milliseconds(2 * shortTimeoutMs)) << "a late reply is not awaited";
+    EXPECT_LT(sent[1].time - sent[0].time, std::chrono::milliseconds(2 * shortTimeoutMs))
+        << "a late reply is not awaited";
     EXPECT_FALSE(isEnabled());
 }

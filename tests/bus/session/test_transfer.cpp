@@ -1,9 +1,8 @@
-// The full read, the full write, single commands and settings files: what goes over the wire, and what is kept.
+// The full read, the full write, and single commands: what goes over the wire, and what is kept.
 #include "sessionfixture.h"
 
 #include "catalogue.h"
 
-#include <QDir>
 #include <QRegularExpression>
 #include <cmath>
 
@@ -86,7 +85,7 @@ TEST_F(Transfer, AFullReadIsOneExchangeARecordInCatalogueOrder)
     EXPECT_EQ(held().getParam("TRF1").value, -1.0) << "a Pro's";
 }
 
-TEST_F(TorvaTransfer, ParametersThatATorvaLacksReadAsMinusOneAndAreNotWritten)
+TEST_F(TorvaTransfer, WhatATorvaLacksReadsAsMinusOneIsNotWrittenAndIsSaid)
 {
     for (const char *name : {"BUILDREVISION", "CEI", "UID", "ZBO", "TRF1", "TRF2", "TRA1", "TRA2"})
         EXPECT_EQ(held().getParam(name).value, -1.0) << name;
@@ -95,6 +94,14 @@ TEST_F(TorvaTransfer, ParametersThatATorvaLacksReadAsMinusOneAndAreNotWritten)
     for (const std::string &payload : payloads())
         EXPECT_NE(payload.substr(0, 4), "823d") << "CEI, register 573";
     EXPECT_TRUE(log().errors.isEmpty());
+
+    bus().clearReceived();
+    session().command(Connection::TaskMeasure);
+    ASSERT_TRUE(runToEnd(Connection::TaskRestartToDFU));
+    ASSERT_THAT(log().errors, SizeIs(2));
+    EXPECT_EQ(log().errors[0], "Measure function is available only in KETA drive models");
+    EXPECT_EQ(log().messages.last().kind, MessageKind::Note);
+    EXPECT_TRUE(payloads().empty());
 }
 
 TEST_F(Transfer, AFullWriteBeginsWithTheLengthControlThenOneExchangeAWritableRecord)
@@ -111,10 +118,7 @@ TEST_F(Transfer, AFullWriteBeginsWithTheLengthControlThenOneExchangeAWritableRec
     EXPECT_EQ(bus().read(5, 202), 321);
     EXPECT_TRUE(log().errors.isEmpty());
     EXPECT_TRUE(log().controlModes.isEmpty());
-}
-
-TEST_F(Transfer, OverrideSlotsFollowTheRecords)
-{
+    // Override slots follow the records.
     apply(with({{"overrideAddr1", 202}, {"overrideVal1", 77}}));
     EXPECT_EQ(payloads().back(), wire("80ca 0000004d"));
     EXPECT_EQ(bus().read(5, 202), 77);
@@ -206,22 +210,18 @@ TEST_F(Transfer, ARefusedWriteIsToldWithItsValueAndTheDrivesLimitsAndTheConnecti
 
 TEST_F(Transfer, ARefusedCommandIsToldAtOnceAndTheNextOneGetsNoBlame)
 {
-    const struct
-    {
-        Connection::Task task;
-        const char *text;
-    } cases[] = {
+    const std::pair<Connection::Task, const char *> cases[] = {
         {Connection::TaskStartHoming, "The drive refused to start homing."}, // it is not enabled
         {Connection::TaskSetIncrementalSetpoint, "The drive refused the setpoint 536870911."},
     };
     session().setTargetSetpoint(536870911); // as far as it goes: there is nothing left to add
     session().command(Connection::TaskSetAbsoluteSetpoint);
-    for (const auto &each : cases) {
+    for (const auto &[task, text] : cases) {
         log().errors.clear();
-        session().command(each.task);
+        session().command(task);
         ASSERT_TRUE(runToEnd(Connection::TaskSaveToFlash));
-        ASSERT_THAT(log().errors, SizeIs(1)) << each.text;
-        EXPECT_TRUE(log().errors.first().startsWith(each.text)) << qPrintable(log().errors.first());
+        ASSERT_THAT(log().errors, SizeIs(1)) << text;
+        EXPECT_TRUE(log().errors.first().startsWith(text)) << qPrintable(log().errors.first());
         EXPECT_THAT(log().errors.first().toStdString(), HasSubstr("* Invalid param value<br>"));
         EXPECT_EQ(log().messages.last().kind, MessageKind::Refused);
         EXPECT_TRUE(session().isConnected());
@@ -384,34 +384,5 @@ TEST_F(Transfer, MeasuringReadsEverythingAgainAndARefusedOneDoesNotPassForTheOne
     EXPECT_THAT(log().errors.first().toStdString(), HasSubstr("Measurement failed."));
     EXPECT_THAT(log().busy, ElementsAre(true, false, true, false));
     EXPECT_EQ(log().unsaved, 1);
-    EXPECT_TRUE(session().isConnected());
-}
-
-TEST_F(TorvaTransfer, WhatOnlyAKetaCanIsSaidAndNothingIsSent)
-{
-    session().command(Connection::TaskMeasure);
-    ASSERT_TRUE(runToEnd(Connection::TaskRestartToDFU));
-    ASSERT_THAT(log().errors, SizeIs(2));
-    EXPECT_EQ(log().errors[0], "Measure function is available only in KETA drive models");
-    EXPECT_EQ(log().messages.last().kind, MessageKind::Note);
-    EXPECT_TRUE(payloads().empty());
-}
-
-TEST_F(Transfer, SettingsTravelThroughAFile)
-{
-    session().setParams(with({{"KVP", 123}}));
-    session().setSettingsFileName("saved.drc");
-    session().command(Connection::TaskSaveSettingsFile);
-    session().setParams(with({{"KVP", 456}})); // after the save was asked for
-    session().command(Connection::TaskLoadSettingsFile);
-    ASSERT_TRUE(waitUntil([this] { return !log().loaded.isEmpty(); }));
-    EXPECT_EQ(log().loaded.last().getParam("KVP").value, 123.0);
-    EXPECT_TRUE(log().errors.isEmpty());
-
-    session().setSettingsFileName(QDir::currentPath()); // a folder
-    session().command(Connection::TaskLoadSettingsFile);
-    session().command(Connection::TaskSaveSettingsFile);
-    ASSERT_TRUE(waitUntil([this] { return log().errors.size() == 2; }));
-    EXPECT_THAT(log().loaded, SizeIs(1));
     EXPECT_TRUE(session().isConnected());
 }

@@ -44,12 +44,7 @@ TEST_F(Firmware, HoldsBothImagesAsWordsIOSideFirst)
 
 TEST_F(Firmware, FirstFlawInTheOrderOfTheHeaderIsNamed)
 {
-    const struct
-    {
-        const char *hex;
-        int type;
-        const char *message;
-    } files[] = {
+    const std::tuple<const char *, int, const char *> files[] = {
         {"54444657 2c01 f82a 00000000 00000000 84020000", 11001, ""},
         {"54444657 2c01 f82a ffffffff 00000080 00070000", 11001, ""}, // negative lengths
         // An odd length drops its last byte: the file is read as if it were not there.
@@ -74,8 +69,8 @@ TEST_F(Firmware, FirstFlawInTheOrderOfTheHeaderIsNamed)
         {"54444657 2c01 f82a ffffff7f ffffff7f 84020000", 11000, "File corrupted"},          // absurd lengths
         {"54444657 2c01 f82a feffff7f 00000000 84020000", 11000, "File corrupted"},
     };
-    for (const auto &f : files)
-        EXPECT_EQ(load(f.hex, f.type), f.message) << f.hex;
+    for (const auto &[hex, type, message] : files)
+        EXPECT_EQ(load(hex, type), message) << hex;
 }
 
 TEST_F(Firmware, ThatIsNoPlainFileOrFarTooLargeEndsAtOnce)

@@ -77,11 +77,7 @@ TEST_F(StateFile, MissingFileIsAnEmptyOneAndADamagedOneIsToldAndNothingTakenOver
     EXPECT_EQ(loadState(path, none), "");
     EXPECT_EQ(none[0]->read(reg::VelocityP), 360);
     const char *const good = "velbrin-sim state 1\ndrive keta 5\n202=400\n";
-    const struct
-    {
-        std::string text;
-        const char *message;
-    } damaged[] = {
+    const std::pair<std::string, const char *> damaged[] = {
         {"", "not a state file"},
         {"hello\n", "not a state file"},
         {std::string(2000000, '\xA5'), "not a state file"},
@@ -91,11 +87,11 @@ TEST_F(StateFile, MissingFileIsAnEmptyOneAndADamagedOneIsToldAndNothingTakenOver
         {"velbrin-sim state 1\n202=400\n", "line 2"},
         {std::string(good) + "drive keta\n", "line 4"},
     };
-    for (const auto &file : damaged) {
-        write(file.text);
+    for (const auto &[text, message] : damaged) {
+        write(text);
         Drives list = drives({{"keta", 5}});
         const std::string error = loadState(path, list);
-        EXPECT_THAT(error, HasSubstr(file.message));
+        EXPECT_THAT(error, HasSubstr(message));
         EXPECT_THAT(error, HasSubstr(path));
         EXPECT_EQ(list[0]->read(reg::VelocityP), 360);
     }
