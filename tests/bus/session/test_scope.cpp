@@ -159,7 +159,8 @@ TEST_F(Scope, ACaptureThatNeverTriggersWaitsUntilItIsArmedAnewOrLeft)
     ASSERT_TRUE(waitForPlot());
 
     arm(20000, captureOnFault, selection({busVoltage}));
-    ASSERT_TRUE(waitUntil([this] { return log().captureButton.last() == "Scope waiting.."; }));
+    ASSERT_TRUE(bus().waitForRegister(5, 5011, 3)) << "it is armed";
+    ASSERT_TRUE(waitUntilIdle());
     ASSERT_TRUE(leave());
     ASSERT_TRUE(waitUntil([this] { return log().captureButton.last() == "Start capture"; }));
 
