@@ -4,7 +4,6 @@
 #include <QCheckBox>
 #include <QElapsedTimer>
 #include <QSpinBox>
-#include <QStatusBar>
 
 namespace {
 
@@ -33,7 +32,7 @@ protected:
     {
         ASSERT_TRUE(waitFor([this] { return !shownMessage(m_window.get()).isEmpty(); }));
         EXPECT_TRUE(shownMessage(m_window.get()).startsWith("Communication error"));
-        EXPECT_TRUE(m_window->statusBar()->currentMessage().startsWith("Communication error"));
+        EXPECT_TRUE(said().startsWith("Communication error"));
         auto *errors = control<QDialog>("errorWindow");
         EXPECT_FALSE(errors->findChild<QCheckBox *>()->isVisible());
         errors->close();

@@ -3,18 +3,13 @@
 
 #include "applybox.h"
 #include "driveboard.h"
-#include "statusstrip.h"
 
 #include <QComboBox>
 #include <QDir>
-#include <QElapsedTimer>
 #include <QLineEdit>
 #include <QSpinBox>
 #include <QStatusBar>
 #include <QToolButton>
-#include <algorithm>
-#include <cstdio>
-#include <vector>
 
 namespace {
 
@@ -33,7 +28,6 @@ protected:
     {
         return waitFor([&] { return word() == wanted; }, limitMs);
     }
-    QString said() const { return m_window->statusBar()->currentMessage(); }
     bool waitToBeSaid(const QString &text)
     {
         const bool came = waitFor([&] { return said() == text; }, 5000);
@@ -82,41 +76,6 @@ TEST_F(Board, StripFollowsTheDriveWhoeverMovesItAndSaysWhenItIsThePast)
     EXPECT_TRUE(waitFor([this] { return label("stripDetail")->text().contains("s ago, not connected, "); }));
     EXPECT_TRUE(button("stripDisable")->isEnabled()); // it also reaches a drive that was lost
     EXPECT_FALSE(button("stripEnable")->isEnabled());
-}
-
-TEST_F(Board, StripFollowsTheDriveAndTellsWhatThatCosts)
-{
-    openConnectedWindow();
-    std::vector<qint64> delays;
-    QElapsedTimer since;
-    since.start();
-    for (int i = 0; i < 5; ++i) {
-        click("stripEnable");
-        ASSERT_TRUE(waitForWord("ENABLED"));
-        since.restart();
-        bus().set(DriveAddress, UNDER_VOLTAGE, 6000);
-        ASSERT_TRUE(waitForWord("FAULT"));
-        delays.push_back(since.elapsed());
-        bus().set(DriveAddress, UNDER_VOLTAGE, 3600);
-        click("stripClearFaults");
-        ASSERT_TRUE(waitFor([this] { return word() != "FAULT"; }));
-    }
-    std::sort(delays.begin(), delays.end());
-
-    auto *strip = m_window->findChild<StatusStrip *>();
-    DriveState state;
-    state.deviceType = 11000;
-    constexpr int count = 1000;
-    since.restart();
-    for (int i = 0; i < count; ++i) {
-        state.when = std::chrono::steady_clock::now();
-        state.position = i; // each brings another text
-        state.statusRegister = i % 2 ? 24 : 0;
-        strip->statePolled(state);
-    }
-    const double each = since.nsecsElapsed() / 1e6 / count;
-    std::printf("strip: delay %d..%d ms, median %d; %.3f ms a poll\n", int(delays.front()), int(delays.back()),
-                int(delays[2]), each);
 }
 
 TEST_F(Board, MarksTellAtAnyMomentWhereTheValuesLive)

@@ -99,7 +99,7 @@ TEST_F(Capture, TellsBeforehandHowMuchItHoldsAndCanBeCalledOff)
     ASSERT_TRUE(waitFor([this] { return button("callOffCapture")->isEnabled(); }));
     click("callOffCapture");
     ASSERT_TRUE(waitFor([this] { return captureText() == "Start capture"; }));
-    EXPECT_TRUE(waitFor([this] { return statusBarText() == "Capture called off"; }));
+    EXPECT_TRUE(waitFor([this] { return said() == "Capture called off"; }));
     EXPECT_EQ(bus().read(DriveAddress, SCOPE_STATE), 0);
 }
 

@@ -10,9 +10,7 @@ namespace {
 
 constexpr int FEEDBACK_DEVICE = 493;
 
-class Connecting : public WindowFixture
-{
-};
+using Connecting = WindowFixture;
 
 class TwoFamilies : public WindowFixture
 {

@@ -2,12 +2,10 @@
 #include "windowfixture.h"
 
 #include <QCheckBox>
-#include <QClipboard>
 #include <QComboBox>
 #include <QMenu>
 #include <QShortcut>
 #include <QSpinBox>
-#include <QStatusBar>
 
 namespace {
 
@@ -40,7 +38,7 @@ protected:
 
 } // namespace
 
-TEST_F(Escape, DisablesFromTheWindowAndItsFields)
+TEST_F(Escape, DisablesFromFieldsPopupsMenusAndModelessWindows)
 {
     bus().set(DriveAddress, SOFT_ENABLE, 1);
     expectDisable("the window", m_window.get());
@@ -52,11 +50,7 @@ TEST_F(Escape, DisablesFromTheWindowAndItsFields)
     expectDisable("a combo box", control<QComboBox>("TBW"));
     m_window->findChild<QWidget *>("helpView")->setFocus();
     expectDisable("the help view", m_window->findChild<QWidget *>("helpView"));
-}
 
-TEST_F(Escape, DisablesFromPopupsAndMenus)
-{
-    goTo(4);
     auto *combo = control<QComboBox>("TBW");
     combo->showPopup();
     ASSERT_TRUE(waitFor([] { return QApplication::activePopupWidget() != nullptr; }));
@@ -68,10 +62,7 @@ TEST_F(Escape, DisablesFromPopupsAndMenus)
     ASSERT_TRUE(waitFor([&] { return menu.isVisible(); }));
     expectDisable("a menu", &menu);
     menu.close();
-}
 
-TEST_F(Escape, DisablesFromModelessWindows)
-{
     press(Qt::Key_P, Qt::ControlModifier);
     auto *overrides = control<QDialog>("overrideParams");
     ASSERT_TRUE(overrides->isVisible());
@@ -86,8 +77,18 @@ TEST_F(Escape, DisablesFromModelessWindows)
     EXPECT_FALSE(errors->isVisible());
 }
 
-TEST_F(Escape, DisablesFromQuestionsAndFileDialogs)
+TEST_F(Escape, DisablesFromTheBusyBoxWithoutClosingItAndFromQuestionsAndFileDialogs)
 {
+    QMetaObject::invokeMethod(m_window.get(), "setBusy", Q_ARG(bool, true), Q_ARG(bool, false));
+    auto *busy = control<QDialog>("busyDialog");
+    ASSERT_TRUE(busy->isVisible());
+    expectDisable("the busy box", busy);
+    EXPECT_TRUE(busy->isVisible());
+    busy->close();
+    EXPECT_TRUE(busy->isVisible());
+    QMetaObject::invokeMethod(m_window.get(), "setBusy", Q_ARG(bool, false), Q_ARG(bool, true));
+    EXPECT_FALSE(busy->isVisible());
+
     const auto escapeFrom = [this](const char *where) {
         m_answers.expect([this, where](QWidget *box) {
             expectDisable(where, box);
@@ -109,19 +110,6 @@ TEST_F(Escape, DisablesFromQuestionsAndFileDialogs)
     QMetaObject::invokeMethod(m_window.get(), "availableBusNodesListReceived", Q_ARG(QList<NodeType>, {}));
 }
 
-TEST_F(Escape, DisablesFromTheBusyBoxWithoutClosingIt)
-{
-    QMetaObject::invokeMethod(m_window.get(), "setBusy", Q_ARG(bool, true), Q_ARG(bool, false));
-    auto *busy = control<QDialog>("busyDialog");
-    ASSERT_TRUE(busy->isVisible());
-    expectDisable("the busy box", busy);
-    EXPECT_TRUE(busy->isVisible());
-    busy->close();
-    EXPECT_TRUE(busy->isVisible());
-    QMetaObject::invokeMethod(m_window.get(), "setBusy", Q_ARG(bool, false), Q_ARG(bool, true));
-    EXPECT_FALSE(busy->isVisible());
-}
-
 TEST_F(Escape, StopsTheStimulusAndIsNoToggle)
 {
     control<QCheckBox>("stimulusEnabled")->setChecked(true);
@@ -129,24 +117,24 @@ TEST_F(Escape, StopsTheStimulusAndIsNoToggle)
     EXPECT_FALSE(control<QCheckBox>("stimulusEnabled")->isChecked());
     expectDisable("once more", m_window.get());
     EXPECT_EQ(timesWritten(SOFT_ENABLE, 1), 0);
-}
 
-TEST_F(Escape, TellsWhenAPollShowsTheDriveDisabled)
-{
-    bus().set(DriveAddress, SOFT_ENABLE, 1);
-    press(Qt::Key_Escape);
-    ASSERT_TRUE(waitFor([this] { return m_window->statusBar()->currentMessage().startsWith("Disabled after "); }));
-    EXPECT_EQ(shownMessage(m_window.get()), QString());
+    // Held, it disables once.
+    bus().clearReceived();
+    for (const bool repeated : {false, true, true, true}) {
+        QKeyEvent press(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier, QString(), repeated);
+        QApplication::sendEvent(m_window.get(), &press);
+    }
+    ASSERT_TRUE(waitForWrite(SOFT_ENABLE, 0));
+    ASSERT_TRUE(waitForThreePolls());
+    EXPECT_EQ(timesWritten(SOFT_ENABLE, 0), 1);
 }
 
 TEST_F(Escape, TellsWhenNothingConfirmsTheDisable)
 {
-    sim::LineFault silence;
-    silence.kind = sim::LineFault::Deaf;
-    bus().setFault(silence);
+    bus().setFault({sim::LineFault::Deaf});
     press(Qt::Key_Escape);
     ASSERT_TRUE(waitFor([this] { return shownMessage(m_window.get()).startsWith("The disable is not confirmed"); }));
-    EXPECT_TRUE(m_window->statusBar()->currentMessage().contains("hardware stop"));
+    EXPECT_TRUE(said().contains("hardware stop"));
 }
 
 TEST_F(Escape, DisablesTheLastDriveWithoutAConnection)
@@ -162,7 +150,7 @@ TEST_F(Escape, DisablesTheLastDriveWithoutAConnection)
 
     press(Qt::Key_Escape); // the cable is still out
     ASSERT_TRUE(waitFor([this] { return shownMessage(m_window.get()).contains("may still be powered"); }));
-    EXPECT_TRUE(m_window->statusBar()->currentMessage().contains("may still be powered"));
+    EXPECT_TRUE(said().contains("may still be powered"));
     control<QDialog>("errorWindow")->close();
     EXPECT_EQ(bus().read(DriveAddress, SOFT_ENABLE), 1);
 
@@ -171,18 +159,19 @@ TEST_F(Escape, DisablesTheLastDriveWithoutAConnection)
         bus().set(DriveAddress, SOFT_ENABLE, 1);
         byKey ? press(Qt::Key_Escape) : click("disable_drive");
         ASSERT_TRUE(driveHas(SOFT_ENABLE, 0)) << byKey;
-        ASSERT_TRUE(waitFor([this] { return m_window->statusBar()->currentMessage().startsWith("Disabled after "); }));
+        ASSERT_TRUE(waitFor([this] { return said().startsWith("Disabled after "); }));
     }
     EXPECT_EQ(connectionText(), "Disconnected");
 }
 
-TEST_F(Escape, WhatWasSaidAboutADisableGivesWayWhenTheDriveIsEnabledAgain)
+TEST_F(Escape, TellsWhenAPollShowsTheDriveDisabledUntilItIsEnabledAgain)
 {
     bus().set(DriveAddress, SOFT_ENABLE, 1);
     press(Qt::Key_Escape);
-    ASSERT_TRUE(waitFor([this] { return m_window->statusBar()->currentMessage().startsWith("Disabled after "); }));
+    ASSERT_TRUE(waitFor([this] { return said().startsWith("Disabled after "); }));
+    EXPECT_EQ(shownMessage(m_window.get()), QString());
     bus().set(DriveAddress, SOFT_ENABLE, 1); // by another program
-    EXPECT_TRUE(waitFor([this] { return m_window->statusBar()->currentMessage() == "The drive is enabled again"; }));
+    EXPECT_TRUE(waitFor([this] { return said() == "The drive is enabled again"; }));
 }
 
 using EscapeWithoutDrive = WindowFixture;
@@ -242,15 +231,6 @@ TEST_F(Escape, HeldShortcutMovesTheAxisOnce)
     EXPECT_EQ(timesWritten(INCREMENTAL_SETPOINT, 11), 1);
 }
 
-TEST_F(Escape, DeviceStateIsCopiedAsPlainText)
-{
-    label("physInputStatus")->setText("GPI 1<br>GPI 2");
-    label("statusRegister")->setText("<b>Initialized</b> &amp; ready");
-    label("faultRegister")->setText("No data");
-    click("copyDeviceStateToClipboard");
-    EXPECT_EQ(QApplication::clipboard()->text(), "GPI 1\nGPI 2\n\nInitialized & ready\n\nNo data");
-}
-
 TEST_F(Escape, RestartQuestionWaitsWhileAnotherBoxIsOpen)
 {
     bool restartWasAsked = false;
@@ -267,19 +247,6 @@ TEST_F(Escape, RestartQuestionWaitsWhileAnotherBoxIsOpen)
     EXPECT_TRUE(waitFor([this] { return m_answers.isDone(); }));
 }
 
-TEST_F(Escape, AHeldKeyDisablesOnce)
-{
-    bus().clearReceived();
-    QWidget *keyboard = m_window.get();
-    for (const bool repeated : {false, true, true, true}) {
-        QKeyEvent press(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier, QString(), repeated);
-        QApplication::sendEvent(keyboard, &press);
-    }
-    ASSERT_TRUE(waitForWrite(SOFT_ENABLE, 0));
-    ASSERT_TRUE(waitForThreePolls());
-    EXPECT_EQ(timesWritten(SOFT_ENABLE, 0), 1);
-}
-
 TEST_F(Escape, ADriveThatStaysEnabledIsNotCalledDisabled)
 {
     bus().set(DriveAddress, SOFT_ENABLE, 1);
@@ -289,7 +256,7 @@ TEST_F(Escape, ADriveThatStaysEnabledIsNotCalledDisabled)
     ASSERT_TRUE(waitForWrite(SOFT_ENABLE, 0));
     ASSERT_TRUE(waitForThreePolls());
     EXPECT_EQ(bus().read(DriveAddress, SOFT_ENABLE), 1);
-    EXPECT_FALSE(m_window->statusBar()->currentMessage().startsWith("Disabled after "));
+    EXPECT_FALSE(said().startsWith("Disabled after "));
 }
 
 TEST_F(Escape, OnlyTheForcingButtonForces)

@@ -88,18 +88,18 @@ TEST_F(Help, PlotOrPageDuringAPendingLoadIsNotTakenForOffline)
     plot();
     ASSERT_TRUE(waitFor([this] { return shownText().contains("Velbrin servo scope"); }));
     EXPECT_TRUE(label("offlineHelpNotification")->isHidden());
-    goTo(1); // the plot stays, and no help is asked for
-    QTest::qWait(50);
-    EXPECT_EQ(m_wiki.paths.size(), 1);
+    goTo(5); // the plot stays, and no help is asked for
+    goTo(1);
 
     clickLink("tdext://showhelp");
     ASSERT_TRUE(waitFor([this] { return m_wiki.paths.size() == 2; }));
-    clickLink("http://127.0.0.1:1/nobody-listens-here");
-    QTest::qWait(200);
-    EXPECT_TRUE(label("offlineHelpNotification")->isHidden());
+    EXPECT_TRUE(m_wiki.paths.last().endsWith("/Connect"));
+    clickLink("http://127.0.0.1:1/nobody-listens-here"); // fails about when the next page is asked for
     m_wiki.silent = false;
     goTo(2);
-    ASSERT_TRUE(waitFor([this] { return shownText() == "online /wiki/Velbrin_user_guide/Goals"; }));
+    ASSERT_TRUE(waitFor([this] { return shownText() == "online /wiki/Velbrin_user_guide/Goals"; }))
+        << qPrintable(shownText());
+    EXPECT_TRUE(label("offlineHelpNotification")->isHidden());
     EXPECT_EQ(shownMessage(m_window.get()), QString());
 }
 

@@ -3,6 +3,7 @@
 
 #include "disclaimer.h"
 #include "language.h"
+#include "translations.h"
 
 #include <QComboBox>
 #include <QLocale>
@@ -13,42 +14,11 @@
 #include <QTableWidget>
 #include <QTemporaryDir>
 #include <QTranslator>
-#include <QXmlStreamReader>
 #include <gmock/gmock.h>
 
 namespace {
 
 constexpr int UNDER_VOLTAGE_LIMIT = 570; // register, 1/100 V
-
-struct Text
-{
-    QString translation;
-    bool unfinished = false;
-};
-/// By context and English text.
-using Texts = QMap<QPair<QString, QString>, Text>;
-
-Texts textsOf(const QString &fileName)
-{
-    Texts texts;
-    QFile file(fileName);
-    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << qPrintable(fileName);
-    QXmlStreamReader xml(&file);
-    QString context, source;
-    while (!xml.atEnd()) {
-        if (!xml.readNextStartElement())
-            continue;
-        if (xml.name() == QLatin1String("name")) {
-            context = xml.readElementText();
-        } else if (xml.name() == QLatin1String("source")) {
-            source = xml.readElementText();
-        } else if (xml.name() == QLatin1String("translation")) {
-            const bool unfinished = xml.attributes().hasAttribute("type");
-            texts[{context, source}] = {xml.readElementText(), unfinished};
-        }
-    }
-    return texts;
-}
 
 /// What has to be the same in every language, in any order.
 QStringList fixedParts(const QString &text)
@@ -84,23 +54,14 @@ private:
 /// Everything that somebody may read in a widget, or have read out.
 QStringList textsIn(const QWidget *widget)
 {
-    static const char *const properties[] = {"text",
-                                             "title",
-                                             "windowTitle",
-                                             "toolTip",
-                                             "statusTip",
-                                             "whatsThis",
-                                             "accessibleName",
-                                             "accessibleDescription",
-                                             "placeholderText",
-                                             "suffix",
-                                             "prefix",
-                                             "specialValueText",
-                                             "plainText"};
+    static const QList<QByteArray> properties =
+        QByteArray("text title windowTitle toolTip statusTip whatsThis accessibleName accessibleDescription "
+                   "placeholderText suffix prefix specialValueText plainText")
+            .split(' ');
     QStringList texts;
-    for (const char *property : properties) {
-        if (!qobject_cast<const QAbstractSpinBox *>(widget->parent()) || qstrcmp(property, "text") != 0)
-            texts << widget->property(property).toString();
+    for (const QByteArray &property : properties) {
+        if (!qobject_cast<const QAbstractSpinBox *>(widget->parent()) || property != "text")
+            texts << widget->property(property.constData()).toString();
     }
     for (const QAction *action : widget->actions())
         texts << action->text() << action->toolTip();
@@ -200,15 +161,15 @@ TEST(Translation, EveryTextOfTheSourcesIsThereAndWhole)
     ASSERT_TRUE(lupdate.waitForFinished(60000));
     const QString said = QString::fromUtf8(lupdate.readAllStandardError());
     EXPECT_FALSE(said.contains("without context") || said.contains("lacks Q_OBJECT")) << qPrintable(said);
-    const Texts fresh = textsOf(folder.filePath("fresh.ts")),
-                german = textsOf(VELBRIN_SOURCE_DIR "/translations/velbrin_de.ts");
+    const Translations fresh = readTranslations(folder.filePath("fresh.ts")),
+                       german = readTranslations(VELBRIN_SOURCE_DIR "/translations/velbrin_de.ts");
     EXPECT_GT(fresh.size(), 1000);
     for (auto text = fresh.cbegin(); text != fresh.cend(); ++text) {
         const auto [context, source] = text.key();
-        const Text there = german.value(text.key());
-        EXPECT_FALSE(there.translation.isEmpty() || there.unfinished)
+        const Translated there = german.value(text.key());
+        EXPECT_FALSE(there.text.isEmpty() || there.unfinished)
             << qPrintable(context + ": " + source) << "\nhas no German; see translations/README.md";
-        EXPECT_EQ(fixedParts(source), fixedParts(there.translation)) << qPrintable(context + ": " + source);
+        EXPECT_EQ(fixedParts(source), fixedParts(there.text)) << qPrintable(context + ": " + source);
     }
 }
 

@@ -10,9 +10,7 @@
 
 namespace {
 
-class News : public WindowFixture
-{
-};
+using News = WindowFixture;
 
 } // namespace
 

@@ -82,7 +82,7 @@ TEST_F(SavePlot, ClosingWaitsForThePicture)
     save(path("late.png"));
     m_window->close();
     EXPECT_TRUE(m_window->isVisible());
-    EXPECT_EQ(statusBarText(), "The graphs are being written; the window closes when that is done");
+    EXPECT_EQ(said(), "The graphs are being written; the window closes when that is done");
     EXPECT_TRUE(waitFor([this] { return !m_window->isVisible(); }, 30000));
     EXPECT_EQ(QImage(path("late.png")).width(), 1100);
 }
@@ -99,15 +99,13 @@ TEST_F(SavePlot, WhatCannotBeWrittenIsSaid)
         EXPECT_TRUE(shownMessage(m_window.get()).startsWith("Error writing graphs to file " + name));
         control<QDialog>("errorWindow")->close();
     }
-}
 
-TEST_F(SavePlot, AnotherEndingWritesNothingAndTheStatusBarTellsWhichThereAre)
-{
+    // Another ending writes nothing, and the status bar tells which there are.
     save(path("graphs.txt"));
     EXPECT_FALSE(QFile::exists(path("graphs.txt")));
     EXPECT_EQ(shownMessage(m_window.get()), QString());
-    EXPECT_EQ(statusBarText(), "Nothing saved: give the file a name that ends in .png, .csv or .html");
+    EXPECT_EQ(said(), "Nothing saved: give the file a name that ends in .png, .csv or .html");
     m_window->statusBar()->clearMessage();
     save(QString());
-    EXPECT_EQ(statusBarText(), QString());
+    EXPECT_EQ(said(), QString());
 }

@@ -217,8 +217,8 @@ TEST_F(Scope, ReportHasTheMachineTheNotesTheChosenCaptureAndTheStopTest)
     m_answers.chooseFile(file);
     click("triesReport");
     QFile report(file);
-    ASSERT_TRUE(waitFor([&] { return report.exists(); })) << qPrintable(statusBarText());
-    ASSERT_TRUE(report.open(QIODevice::ReadOnly)) << qPrintable(statusBarText());
+    ASSERT_TRUE(waitFor([&] { return report.exists(); })) << qPrintable(said());
+    ASSERT_TRUE(report.open(QIODevice::ReadOnly)) << qPrintable(said());
     const QByteArray text = report.readAll();
     EXPECT_TRUE(text.contains("Saw &lt;b&gt;7"));
     EXPECT_TRUE(text.contains("<svg")) << "the capture that is shown is chosen";

@@ -38,33 +38,6 @@ protected:
 
 } // namespace
 
-TEST_F(Stimulus, StreamsASquareWaveUntilUnticked)
-{
-    enableDrive();
-    start();
-    EXPECT_TRUE(setButtonsAre(false));
-    ASSERT_TRUE(waitFor([this] { return label("setpointNow")->text() == "Setpoint now: -300"; }));
-    ASSERT_TRUE(waitFor([this] { return label("setpointNow")->text() == "Setpoint now: 300"; }));
-    EXPECT_EQ(timesWritten(SYSTEM_COMMAND, STOP_STREAM), 0);
-    box()->setChecked(false);
-    ASSERT_TRUE(waitForWrite(SYSTEM_COMMAND, STOP_STREAM));
-    EXPECT_EQ(timesWritten(SYSTEM_COMMAND, STOP_STREAM), 1);
-    EXPECT_TRUE(setButtonsAre(true));
-}
-
-TEST_F(Stimulus, ADisconnectStopsItForGood)
-{
-    start();
-    ASSERT_TRUE(waitFor([this] { return isStreaming(); }));
-    disconnectFromDrive();
-    EXPECT_GE(timesWritten(SYSTEM_COMMAND, STOP_STREAM), 1);
-    EXPECT_FALSE(box()->isChecked());
-    bus().clearReceived();
-    connectToDrive();
-    EXPECT_TRUE(setButtonsAre(true));
-    EXPECT_FALSE(isStreaming());
-}
-
 TEST_F(Stimulus, ALostLineUnticksIt)
 {
     start();

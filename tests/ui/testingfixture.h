@@ -13,7 +13,6 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QSpinBox>
-#include <QStatusBar>
 
 class TestingFixture : public WindowFixture
 {
@@ -105,7 +104,6 @@ protected:
     {
         QMetaObject::invokeMethod(m_window.get(), "browserLinkClicked", Q_ARG(QUrl, QUrl(url)));
     }
-    QString statusBarText() const { return m_window->statusBar()->currentMessage(); }
 };
 
 #endif

@@ -20,9 +20,11 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QSignalSpy>
+#include <QStatusBar>
 #include <QTest>
 #include <QTextEdit>
 #include <QTimer>
+
 /// Answers every request with a small page that names its path, or with nothing at all while silent.
 class LoopbackWiki : public LoopbackHttpServer
 {
@@ -68,6 +70,14 @@ public:
                 return true;
             }
             return false;
+        });
+    }
+    /// The next box gets this key.
+    void pressKey(Qt::Key key)
+    {
+        expect([key](QWidget *box) {
+            QTest::keyClick(box, key);
+            return true;
         });
     }
     /// The next node dialog gets this row chosen and opened; its rows are read.
@@ -224,6 +234,8 @@ protected:
         QTest::keyClick(target ? target : m_window.get(), key, modifiers);
     }
     QString connectionText() const { return label("connectionStatus")->text(); }
+    /// In the status bar.
+    QString said() const { return m_window->statusBar()->currentMessage(); }
     QString applyText() const { return button("apply_button")->text(); }
     /// Waits until the Apply button says whether something is pending, and for no longer than a technician would.
     bool waitForPending(bool pending)

@@ -72,6 +72,8 @@ void HelpView::startEngine()
     m_stack->setCurrentWidget(&m_engine->view);
     setFocusProxy(&m_engine->view);
     connect(&m_engine->page, &QWebEnginePage::loadingChanged, this, [this](const QWebEngineLoadingInfo &info) {
+        if (info.status() == QWebEngineLoadingInfo::LoadStartedStatus)
+            m_replaces &= info.url() != m_wantedUrl;
         // "Stopped" are loads that were given up or replaced by the next.
         if (info.status() == QWebEngineLoadingInfo::LoadSucceededStatus ||
             info.status() == QWebEngineLoadingInfo::LoadFailedStatus)
@@ -86,6 +88,7 @@ void HelpView::startEngine()
             processEnded(ended ? tr("it closed") : tr("status %1").arg(code));
         },
         Qt::QueuedConnection);
+    m_isUnderWay = false;
     if (!m_plot.isEmpty())
         loadPlot();
     else if (m_wantedUrl.isValid())
@@ -94,6 +97,13 @@ void HelpView::startEngine()
 
 void HelpView::loadEnded(bool ok, const QUrl &url)
 {
+    m_isUnderWay = false;
+    // A load that fails while it is being replaced takes the next one with it, and may even be told under that one's
+    // address: it is tried once more, and the failure of that is its own.
+    if (!ok && m_replaces && m_loading) {
+        loadWanted();
+        return;
+    }
     // A load that was replaced may still fail, with an address that nobody waits for any more.
     // Its success, too, is not the plot's, nor a plot's that of a help page.
     const bool isPlot = isPlotPage(url);
@@ -144,6 +154,8 @@ void HelpView::loadPage(const QUrl &url, Failure failure)
 
 void HelpView::loadWanted()
 {
+    m_replaces = m_isUnderWay;
+    m_isUnderWay = true;
     m_engine->page.settings()->setAttribute(QWebEngineSettings::ErrorPageEnabled, m_failure == Failure::Shown);
     m_engine->page.load(m_wantedUrl);
 }
@@ -193,7 +205,7 @@ void HelpView::loadPlot()
     m_engine->plotStands = false;
     m_wantedUrl = url;
     m_loading = true;
-    m_engine->page.load(url);
+    loadWanted();
 }
 
 void HelpView::stopLoading()

@@ -134,7 +134,7 @@ TEST_F(BadLine, TricklingNoiseEndsWithTheDrainsTimeLimit)
     EXPECT_LT(watch.elapsed(), 5000);
 }
 
-TEST_F(BadLine, AdapterPulledOutBeforeAnExchangeFailsAtOnce)
+TEST_F(BadLine, AdapterPulledOutBeforeAnExchangeFailsAtOnceAndOpensAgain)
 {
     open(longWait);
     EXPECT_EQ(zbIsLineGone(bus), 0);
@@ -145,6 +145,14 @@ TEST_F(BadLine, AdapterPulledOutBeforeAnExchangeFailsAtOnce)
     EXPECT_EQ(zbDiscardInput(bus), ZB_OK);
     EXPECT_NE(zbIsLineGone(bus), 0);
     EXPECT_LT(watch.elapsed(), 1000);
+
+    zbCloseBus(bus);
+    RawLine replugged("COM1");
+    open();
+    replugged.write(reply);
+    long value = 0;
+    EXPECT_EQ(zbRead1Parameter(bus, 3, 6012, &value), ZB_OK);
+    EXPECT_EQ(value, 6020);
 }
 
 TEST_F(BadLine, AdapterPulledOutDuringAReplyFailsAtOnce)
@@ -169,22 +177,6 @@ TEST_F(BadLine, AdapterPulledOutDuringAReplyFailsAtOnce)
         puller.join();
         zbCloseBus(bus);
     }
-}
-
-TEST_F(BadLine, OpensAgainAfterTheAdapterWasPulledOut)
-{
-    open(longWait);
-    line.hangUp();
-    zbCloseBus(bus);
-    RawLine replugged("COM1");
-    zbSetTimeout(neverWait);
-    bus = zbOpenBus("COM1");
-    ASSERT_EQ(bus, 0);
-    zbResetZB485variables(bus);
-    replugged.write(reply);
-    long value = 0;
-    EXPECT_EQ(zbRead1Parameter(bus, 3, 6012, &value), ZB_OK);
-    EXPECT_EQ(value, 6020);
 }
 
 TEST_F(BadLine, RequestThatNobodyTakesFailsInsteadOfWaitingForEver)

@@ -13,24 +13,18 @@ using testing::StartsWith;
 
 namespace {
 
-class Port : public OnALine
-{
-};
+using Port = OnALine;
 
 } // namespace
 
 TEST_F(Port, IsRawAt460800BaudWithItsTimeoutInTenths)
 {
-    const struct
-    {
-        std::uint16_t timeout;
-        int vtime;
-    } cases[] = {{1000, 10}, {150, 1}, {50, 0}, {5000, 50}, {0, 0}};
-    for (const auto &entry : cases) {
-        open(entry.timeout);
+    const std::pair<std::uint16_t, int> cases[] = {{1000, 10}, {150, 1}, {50, 0}, {5000, 50}, {0, 0}};
+    for (const auto &[timeout, vtime] : cases) {
+        open(timeout);
         termios settings = {};
         ASSERT_EQ(tcgetattr(line.master(), &settings), 0); // on a pseudo terminal both ends see the port's settings
-        EXPECT_EQ(settings.c_cc[VTIME], entry.vtime);
+        EXPECT_EQ(settings.c_cc[VTIME], vtime);
         EXPECT_EQ(settings.c_cc[VMIN], 0);
         EXPECT_EQ(settings.c_iflag, static_cast<tcflag_t>(IGNPAR));
         EXPECT_EQ(settings.c_oflag, 0u);
@@ -44,12 +38,15 @@ TEST_F(Port, IsRawAt460800BaudWithItsTimeoutInTenths)
     }
 }
 
-TEST_F(Port, TimeoutIsLimitedAndCountsForPortsOpenedLater)
+TEST_F(Port, TimeoutIsLimitedAndAnUnknownRateRefused)
 {
     EXPECT_EQ(zbSetTimeout(5000), ZB_OK);
     EXPECT_EQ(zbSetTimeout(5001), ZB_ERR_PARAMETER);
     EXPECT_EQ(readTimeout(), 5000);
     EXPECT_EQ(zbGetVersion(), 0x20001);
+    testing::internal::CaptureStdout();
+    EXPECT_EQ(OpenComport("COM1", 12345), 1);
+    EXPECT_EQ(testing::internal::GetCapturedStdout(), "invalid baudrate\n");
 }
 
 TEST_F(Port, RefusesOtherNamesWithoutATraceAndMissingPortsWithAReason)
@@ -74,13 +71,6 @@ TEST_F(Port, RefusesOtherNamesWithoutATraceAndMissingPortsWithAReason)
     EXPECT_THAT(testing::internal::GetCapturedStderr(), StartsWith("unable to adjust portsettings "));
     std::filesystem::remove("COM_file");
     open(); // none of this used up a handle
-}
-
-TEST_F(Port, RefusesAnUnknownRateOnStandardOutput)
-{
-    testing::internal::CaptureStdout();
-    EXPECT_EQ(OpenComport("COM1", 12345), 1);
-    EXPECT_EQ(testing::internal::GetCapturedStdout(), "invalid baudrate\n");
 }
 
 TEST_F(Port, IsTakenExclusivelyAndGivenBackByClosing)

@@ -48,6 +48,25 @@ inline Ran run(const QStringList &arguments)
     return finish(process);
 }
 
+using Text = testing::Matcher<std::string>;
+
+/// A run that has to have ended well and with these results.
+inline Ran good(const Ran &ran, const Text &results = testing::_, int line = __builtin_LINE())
+{
+    EXPECT_EQ(ran.status, 0) << "line " << line << ": " << ran.err.toStdString();
+    EXPECT_THAT(ran.out.toStdString(), results) << "line " << line;
+    return ran;
+}
+
+/// A run that has to have ended with status 1, this on standard error, and these results.
+inline Ran failed(const Ran &ran, const Text &says, const Text &results = testing::_, int line = __builtin_LINE())
+{
+    EXPECT_EQ(ran.status, 1) << "line " << line << ": " << ran.err.toStdString();
+    EXPECT_THAT(ran.err.toStdString(), says) << "line " << line;
+    EXPECT_THAT(ran.out.toStdString(), results) << "line " << line;
+    return ran;
+}
+
 /// As Ctrl+C does, or a service manager.
 inline void sendSignal(const QProcess &process, int signal = SIGINT)
 {
@@ -75,6 +94,19 @@ inline bool waitForPayload(const sim::VirtualBus &bus, const std::string &payloa
         return std::find(all.begin(), all.end(), payload) != all.end();
     });
 }
+
+// Registers, bits of the status and the fault register, and payloads: select a register, write a value.
+constexpr int Faults = 552, Status = 553, Setpoint = 957, SoftEnable = 2533;
+constexpr int Running = 8, TrackingFault = 2;
+const char *const EnablePayload = "89e500000001";
+const char *const DisablePayload = "89e500000000";
+const char *const ArmForFaultPayload = "939300000003";
+
+class CliFixture : public VirtualBusFixture
+{
+protected:
+    std::vector<std::string> sent() { return payloads(bus().received()); }
+};
 
 /// With the fixture's bus and its drive.
 inline Ran onDrive(QStringList arguments)

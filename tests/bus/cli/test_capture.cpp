@@ -18,26 +18,18 @@ using testing::Not;
 
 namespace {
 
-constexpr int Status = 553;
-constexpr int Running = 8;
-constexpr int SoftEnable = 2533;
-constexpr int Setpoint = 957;
 constexpr int BufferedCommand = 52;
 
-const char *const EnablePayload = "89e500000001";
-const char *const DisablePayload = "89e500000000";
 const char *const StopStreamPayload = "822a00000004";
-const char *const ArmForFaultPayload = "939300000003";
 
-class CliCapture : public VirtualBusFixture
+class CliCapture : public CliFixture
 {
 protected:
     void TearDown() override
     {
         qunsetenv("VELBRIN_DATA");
-        VirtualBusFixture::TearDown();
+        CliFixture::TearDown();
     }
-    std::vector<std::string> sent() { return payloads(bus().received()); }
     bool isOff() { return bus().read(DriveAddress, SoftEnable) == 0 && !(bus().read(DriveAddress, Status) & Running); }
 };
 
@@ -66,9 +58,8 @@ std::vector<double> column(const QByteArray &csv, int index)
 
 TEST_F(CliCapture, RecordsAStepThatItMakesAndLeavesTheDriveDisabled)
 {
-    const Ran ran = onDrive({"capture", "--enable", "--channels", "posmeas,posreference", "--rate", "10000", "--step",
-                             "1000", "--csv", "step.csv"});
-    EXPECT_EQ(ran.status, 0) << ran.err.toStdString();
+    const Ran ran = good(onDrive({"capture", "--enable", "--channels", "posmeas,posreference", "--rate", "10000",
+                                  "--step", "1000", "--csv", "step.csv"}));
     ASSERT_EQ(ran.lines().size(), 2);
     EXPECT_TRUE(ran.lines()[0].startsWith("posreference\tcnts\t1000\t")) << ran.lines()[0].toStdString();
     EXPECT_TRUE(ran.lines()[1].startsWith("posmeas\tcnts\t1000\t0\t0\t")) << ran.lines()[1].toStdString();
@@ -85,8 +76,7 @@ TEST_F(CliCapture, MovesNothingUnlessAskedTo)
 {
     const QString all = "torqueref,torquemeas,velreference,velmeas,posreference,posmeas,posferror,outputvolt,hvbusvolt,"
                         "pwm1,pwm2,pwm3,debug,debug2,fluxcurrent,fluxvoltage";
-    Ran ran = onDrive({"--json", "capture", "--channels", all, "--csv", "all.csv"});
-    EXPECT_EQ(ran.status, 0) << ran.err.toStdString();
+    Ran ran = good(onDrive({"--json", "capture", "--channels", all, "--csv", "all.csv"}));
     const QJsonObject json = ran.json().object();
     EXPECT_EQ(json["sampleRate"], 20000);
     EXPECT_EQ(json["channels"].toArray().size(), 16);
@@ -96,9 +86,8 @@ TEST_F(CliCapture, MovesNothingUnlessAskedTo)
 
     bus().clearReceived();
     for (const QStringList &excitation : {QStringList{"--step", "10"}, QStringList{"--stimulus", "0,1,10,1"}}) {
-        ran = onDrive(QStringList{"capture", "--channels", "posmeas", "--csv", "none.csv"} + excitation);
-        EXPECT_EQ(ran.status, 1);
-        EXPECT_THAT(ran.err.toStdString(), HasSubstr("The drive is not enabled, so nothing would move"));
+        failed(onDrive(QStringList{"capture", "--channels", "posmeas", "--csv", "none.csv"} + excitation),
+               HasSubstr("The drive is not enabled, so nothing would move"));
         EXPECT_FALSE(QFile::exists("none.csv"));
     }
     for (const sim::ReceivedRequest &request : bus().received())
@@ -109,9 +98,8 @@ TEST_F(CliCapture, MovesNothingUnlessAskedTo)
 
 TEST_F(CliCapture, FollowsAStimulusAndStopsItAtTheEnd)
 {
-    const Ran ran = onDrive({"capture", "--enable", "--channels", "posreference", "--rate", "4000", "--stimulus",
-                             "100,0.1,200,0.1", "--csv", "wave.csv"});
-    EXPECT_EQ(ran.status, 0) << ran.err.toStdString();
+    good(onDrive({"capture", "--enable", "--channels", "posreference", "--rate", "4000", "--stimulus",
+                  "100,0.1,200,0.1", "--csv", "wave.csv"}));
     std::vector<double> levels = column(contents("wave.csv"), 1);
     levels.erase(std::unique(levels.begin(), levels.end()), levels.end());
     ASSERT_GE(levels.size(), 5u); // half a second, and perhaps a moment before the first
@@ -134,9 +122,7 @@ TEST_F(CliCapture, InterruptedStimulusIsStoppedAndTheDriveDisabled)
         ASSERT_TRUE(bus().waitForRegister(DriveAddress, Setpoint, 100)) << "the motor does not move";
         ASSERT_TRUE(bus().read(DriveAddress, Status) & Running);
         sendSignal(process, signal);
-        const Ran ran = finish(process);
-        EXPECT_EQ(ran.status, 1);
-        EXPECT_EQ(ran.err, "Interrupted.\n");
+        failed(finish(process), "Interrupted.\n");
         EXPECT_THAT(sent(), Contains(StopStreamPayload));
         bool isEmpty = false;
         bus().withDrive(DriveAddress, [&isEmpty](sim::VirtualDrive &drive) {
@@ -155,9 +141,7 @@ TEST_F(CliCapture, DisableThatIsNotConfirmedIsNoSuccess)
                     "100,0.1,200,0.1", "--rate", "2000", "--csv", "wave.csv"});
     ASSERT_TRUE(bus().waitForRegister(DriveAddress, Setpoint, 200));
     bus().withDrive(DriveAddress, [](sim::VirtualDrive &drive) { drive.refuseWrites(SoftEnable); });
-    const Ran ran = finish(process);
-    EXPECT_EQ(ran.status, 1);
-    EXPECT_THAT(ran.err.toStdString(), HasSubstr("The drive shows that it is still enabled."));
+    const Ran ran = failed(finish(process), HasSubstr("The drive shows that it is still enabled."));
     EXPECT_THAT(ran.err.toStdString(), HasSubstr("The drive is not known to be disabled."));
     EXPECT_EQ(column(contents("wave.csv"), 1).size(), 2000u) << "what was captured is kept";
 }
@@ -205,9 +189,8 @@ TEST_F(CliCapture, TellsAllThatItKnowsInJsonAndInThePage)
 
 TEST_F(CliCapture, AMoveThereAndBackHasAnAxisSheet)
 {
-    const Ran ran = onDrive({"--json", "capture", "--enable", "--channels", "posmeas,torquemeas", "--rate", "2500",
-                             "--stimulus", "0,0.1,1000,0.1"});
-    EXPECT_EQ(ran.status, 0) << ran.err.toStdString();
+    const Ran ran = good(onDrive({"--json", "capture", "--enable", "--channels", "posmeas,torquemeas", "--rate", "2500",
+                                  "--stimulus", "0,0.1,1000,0.1"}));
     const QJsonObject sheet = ran.json().object()["axisSheet"].toObject();
     EXPECT_TRUE(sheet["refusal"].isNull()) << sheet["refusal"].toString().toStdString();
     EXPECT_GT(sheet["acceleration"].toObject()["value"].toDouble(), 0.0);
@@ -216,10 +199,9 @@ TEST_F(CliCapture, AMoveThereAndBackHasAnAxisSheet)
 TEST_F(CliCapture, WithoutATriggerEndsAndTouchesNoFile)
 {
     put("old.csv", "old");
-    const Ran ran = onDrive({"capture", "--enable", "--channels", "posmeas", "--trigger", "fault", "--time-out", "0.2",
-                             "--csv", "old.csv"});
-    EXPECT_EQ(ran.status, 1);
-    EXPECT_EQ(ran.err, "The recorder was not triggered and filled within 0.2 s. Nothing was captured.\n");
+    failed(onDrive({"capture", "--enable", "--channels", "posmeas", "--trigger", "fault", "--time-out", "0.2", "--csv",
+                    "old.csv"}),
+           "The recorder was not triggered and filled within 0.2 s. Nothing was captured.\n");
     EXPECT_EQ(contents("old.csv"), "old");
     EXPECT_EQ(QDir().entryList({"*.csv*"}, QDir::Files), QStringList("old.csv")) << "a file begun and left behind";
     EXPECT_TRUE(isOff());
@@ -227,24 +209,20 @@ TEST_F(CliCapture, WithoutATriggerEndsAndTouchesNoFile)
 
 TEST_F(CliCapture, FileThatCannotBeWrittenStopsItBeforeAnythingMoves)
 {
-    Ran ran = onDrive({"capture", "--enable", "--channels", "posmeas", "--step", "1", "--csv", "/nowhere/a.csv"});
-    EXPECT_EQ(ran.status, 1);
-    EXPECT_THAT(ran.err.toStdString(), HasSubstr("/nowhere/a.csv cannot be written: "));
+    failed(onDrive({"capture", "--enable", "--channels", "posmeas", "--step", "1", "--csv", "/nowhere/a.csv"}),
+           HasSubstr("/nowhere/a.csv cannot be written: "));
     EXPECT_TRUE(bus().received().empty());
 
     ASSERT_EQ(mkfifo("pipe", 0600), 0); // that nobody reads
-    ran = onDrive({"capture", "--enable", "--channels", "posmeas", "--csv", "pipe"});
-    EXPECT_EQ(ran.status, 1);
-    EXPECT_THAT(ran.err.toStdString(), HasSubstr("pipe cannot be written: nobody reads from this pipe.\n"));
+    failed(onDrive({"capture", "--enable", "--channels", "posmeas", "--csv", "pipe"}),
+           HasSubstr("pipe cannot be written: nobody reads from this pipe.\n"));
     EXPECT_TRUE(bus().received().empty());
 
-    ran = onDrive({"capture", "--channels", "posmeas", "--rate", "20001", "--csv", "none.csv"});
-    EXPECT_EQ(ran.status, 1);
-    EXPECT_EQ(ran.err, "--rate is at most 20000 Hz on this drive.\n");
+    failed(onDrive({"capture", "--channels", "posmeas", "--rate", "20001", "--csv", "none.csv"}),
+           "--rate is at most 20000 Hz on this drive.\n");
 
-    ran = onDrive({"capture", "--channels", "posmeas", "--csv", "/dev/full"});
-    EXPECT_EQ(ran.status, 1);
-    EXPECT_EQ(ran.err, "Error writing to /dev/full: Full disk.\n");
+    failed(onDrive({"capture", "--channels", "posmeas", "--csv", "/dev/full"}),
+           "Error writing to /dev/full: Full disk.\n");
 }
 
 TEST_F(CliCapture, PlotPageHoldsAllThatItNeeds)
@@ -259,15 +237,12 @@ TEST_F(CliCapture, PlotPageHoldsAllThatItNeeds)
     const QStringList arguments = {"--port",     port(),    "--node", "5",        "capture",
                                    "--channels", "posmeas", "--html", "page.html"};
     start(process, arguments);
-    Ran ran = finish(process);
-    EXPECT_EQ(ran.status, 1);
-    EXPECT_THAT(ran.err.toStdString(), HasSubstr("jquery.flot.resize.js cannot be read"));
+    failed(finish(process), HasSubstr("jquery.flot.resize.js cannot be read"));
     EXPECT_FALSE(QFile::exists("page.html"));
 
     put("data/flot/jquery.flot.resize.js", "var resize = 1;");
     start(process, arguments);
-    ran = finish(process);
-    EXPECT_EQ(ran.status, 0) << ran.err.toStdString();
+    good(finish(process));
     const std::string page = contents("page.html").toStdString();
     for (const char *part : {"h1 { color: red; }", "var jquery = '<\\/script>';", "var flot = 1;", "var resize = 1;",
                              "var posmeas=[[0,", "Tarnwell Devices KETA", "KVP"})
@@ -276,32 +251,24 @@ TEST_F(CliCapture, PlotPageHoldsAllThatItNeeds)
         EXPECT_THAT(page, Not(HasSubstr(part)));
 }
 
-TEST_F(CliCapture, LostLineSaysThatTheDriveMayStillRun)
+TEST_F(CliCapture, LostLineSaysThatTheDriveMayStillRunOrDisablesItThroughANewOpening)
 {
-    QProcess process;
-    start(process, {"--port", port(), "--node", "5", "capture", "--enable", "--channels", "posmeas", "--trigger",
-                    "fault", "--csv", "none.csv"});
-    ASSERT_TRUE(waitForPayload(bus(), ArmForFaultPayload));
-    bus().unplug();
-    const Ran ran = finish(process);
-    EXPECT_EQ(ran.status, 1);
-    EXPECT_THAT(ran.err.toStdString(),
-                HasSubstr("has not confirmed that it is disabled. It may still be running or start to"));
-    EXPECT_FALSE(QFile::exists("none.csv"));
-}
-
-TEST_F(CliCapture, DisablesThroughANewOpeningWhenTheLineComesBack)
-{
-    QProcess process;
-    start(process, {"--port", port(), "--node", "5", "capture", "--enable", "--channels", "posmeas", "--trigger",
-                    "fault", "--stimulus", "0,0.1,100,0.1", "--csv", "none.csv"});
-    ASSERT_TRUE(bus().waitForRegister(DriveAddress, Setpoint, 100));
-    bus().unplug();
-    ASSERT_EQ(bus().plugIn(), "");
-    const Ran ran = finish(process);
-    EXPECT_EQ(ran.status, 1);
-    EXPECT_EQ(bus().read(DriveAddress, SoftEnable), 0) << ran.err.toStdString();
+    for (const bool comesBack : {false, true}) {
+        QProcess process;
+        start(process, {"--port", port(), "--node", "5", "capture", "--enable", "--channels", "posmeas", "--trigger",
+                        "fault", "--stimulus", "0,0.1,100,0.1", "--csv", "none.csv"});
+        ASSERT_TRUE(bus().waitForRegister(DriveAddress, Setpoint, 100));
+        bus().unplug();
+        if (comesBack)
+            ASSERT_EQ(bus().plugIn(), "");
+        const Ran ran = failed(finish(process), testing::_);
+        EXPECT_EQ(ran.err.contains("has not confirmed that it is disabled. It may still be running or start to"),
+                  !comesBack);
+        EXPECT_EQ(bus().read(DriveAddress, SoftEnable), !comesBack) << ran.err.toStdString();
+        EXPECT_FALSE(QFile::exists("none.csv"));
+        if (!comesBack)
+            ASSERT_EQ(bus().plugIn(), "");
+    }
     EXPECT_TRUE(bus().waitForRegister(DriveAddress, Status, [](std::int32_t bits) { return !(bits & Running); }))
         << "the end of a controlled stop";
-    EXPECT_FALSE(QFile::exists("none.csv"));
 }

@@ -13,11 +13,9 @@ namespace {
 constexpr int KVP = 202;
 constexpr int KPP = 201;
 
-class Cli : public VirtualBusFixture
-{
-};
+using Cli = CliFixture;
 
-class CliTwoDrives : public VirtualBusFixture
+class CliTwoDrives : public CliFixture
 {
     sim::BusOptions busOptions() const override { return {{{"keta", 3, false}, {"torva", 7, false}}}; }
 };
@@ -27,23 +25,16 @@ class CliTwoDrives : public VirtualBusFixture
 TEST_F(CliTwoDrives, AreListedAndHaveToBeNamed)
 {
     EXPECT_EQ(run({"--port", port(), "scan"}).out, "3\tKETA\t11000\tnormal\n7\tTORVA\t4000\tnormal\n");
-    const Ran ran = run({"--port", port(), "read", "KVP"});
-    EXPECT_EQ(ran.status, 1);
-    EXPECT_EQ(ran.out, "");
-    EXPECT_EQ(ran.err, "There are several drives; choose one with --node:\n3\tKETA\n7\tTORVA\n");
-}
-
-TEST_F(CliTwoDrives, ADriveThatCannotBeReadDoesNotMakeTheOtherTheOnlyOne)
-{
+    failed(run({"--port", port(), "read", "KVP"}),
+           "There are several drives; choose one with --node:\n3\tKETA\n7\tTORVA\n", "");
+    // One that cannot be read does not make the other the only one.
     bus().setFault({sim::LineFault::Flip, 6, 0, 3});
-    Ran ran = run({"--port", port(), "read", "KVP"});
-    EXPECT_EQ(ran.status, 1);
-    EXPECT_EQ(ran.err, "There are several drives; choose one with --node:\n3\tanswers that cannot be read\n7\tTORVA\n");
+    failed(run({"--port", port(), "read", "KVP"}),
+           "There are several drives; choose one with --node:\n3\tanswers that cannot be read\n7\tTORVA\n");
 }
 
 TEST_F(CliTwoDrives, DisableWithoutAnAddressLeavesNoDriveRunning)
 {
-    constexpr int SoftEnable = 2533;
     const QStringList disable = {"--port", port(), "disable"};
     const auto enableBoth = [this] {
         for (int address : {3, 7})
@@ -51,9 +42,7 @@ TEST_F(CliTwoDrives, DisableWithoutAnAddressLeavesNoDriveRunning)
     };
     enableBoth();
     bus().setFault({sim::LineFault::Missing, 0, 0, 1}); // hides the first drive from the first search
-    Ran ran = run(disable);
-    EXPECT_EQ(ran.status, 0) << ran.err.toStdString();
-    EXPECT_EQ(ran.out, "7\tTORVA\tdisabled\n3\tKETA\tdisabled\n");
+    Ran ran = good(run(disable), "7\tTORVA\tdisabled\n3\tKETA\tdisabled\n");
     EXPECT_EQ(ran.err, "Without --node, only the drives that answered on COM1 were told to disable.\n");
     EXPECT_EQ(bus().read(3, SoftEnable) + bus().read(7, SoftEnable), 0);
 
@@ -81,8 +70,7 @@ TEST_F(Cli, WhatWritesOrMovesNeedsANameForItsDrive)
 
 TEST_F(Cli, TheOnlyDriveNeedsNoNode)
 {
-    const Ran ran = run({"--port", port(), "--json", "read", "KPP", "AXS"});
-    EXPECT_EQ(ran.status, 0) << ran.err.toStdString();
+    const Ran ran = good(run({"--port", port(), "--json", "read", "KPP", "AXS"}));
     const QJsonArray rows = ran.json().array();
     ASSERT_EQ(rows.size(), 2);
     EXPECT_EQ(rows[0].toObject(), (QJsonObject{{"name", "KPP"}, {"value", 120}, {"minimum", 0}, {"maximum", 32767}}));
@@ -100,8 +88,7 @@ TEST_F(Cli, ReadPrintsAllSettingsInCatalogueOrderOrThoseNamedInTheirs)
 
 TEST_F(Cli, WriteAppliesAndShowsWhatTheDriveHoldsThen)
 {
-    const Ran ran = onDrive({"write", "KVP=400.4", "KPP=99"});
-    EXPECT_EQ(ran.status, 0) << ran.err.toStdString();
+    const Ran ran = good(onDrive({"write", "KVP=400.4", "KPP=99"}));
     EXPECT_THAT(ran.lines(), ElementsAre(QString("KVP\t400\t0\t32767"), QString("KPP\t99\t0\t32767")));
     EXPECT_EQ(bus().read(DriveAddress, KVP), 400);
     EXPECT_EQ(bus().read(DriveAddress, KPP), 99);
@@ -150,11 +137,8 @@ TEST_F(Cli, RefusesBeforeAnythingIsWritten)
 
 TEST_F(Cli, FileGoesOutAndComesBack)
 {
-    Ran ran = onDrive({"save", "axis.drc"});
-    EXPECT_EQ(ran.status, 0) << ran.err.toStdString();
-    EXPECT_EQ(ran.out, "");
-    ran = onDrive({"compare", "axis.drc"});
-    EXPECT_EQ(ran.status, 0) << ran.err.toStdString();
+    good(onDrive({"save", "axis.drc"}), "");
+    Ran ran = good(onDrive({"compare", "axis.drc"}));
     EXPECT_EQ(ran.out, "");
 
     bus().set(DriveAddress, KVP, 400);
@@ -165,9 +149,7 @@ TEST_F(Cli, FileGoesOutAndComesBack)
     EXPECT_EQ(onDrive({"--json", "compare", "axis.drc"}).json().array(),
               (QJsonArray{QJsonObject{{"name", "KVP"}, {"drive", 400}, {"file", 360}}}));
 
-    ran = onDrive({"load", "axis.drc"});
-    EXPECT_EQ(ran.status, 0) << ran.err.toStdString();
-    EXPECT_EQ(ran.out, "KVP\t360\t0\t32767\n");
+    good(onDrive({"load", "axis.drc"}), "KVP\t360\t0\t32767\n");
     EXPECT_EQ(bus().read(DriveAddress, KVP), 360);
     EXPECT_EQ(onDrive({"compare", "axis.drc"}).status, 0);
 }
@@ -195,9 +177,8 @@ TEST_F(Cli, FileThatWantsACommandWrittenIsNoSuccess)
     const int value = text.indexOf("value=", text.indexOf("overrideAddr2"));
     text.replace(value, int(strlen("value=0")), "value=554");
     put("axis.drc", text);
-    const Ran ran = onDrive({"load", "axis.drc", "--to-flash"});
-    EXPECT_EQ(ran.status, 1);
-    EXPECT_THAT(ran.err.toStdString(), HasSubstr("overrideAddr2 was not written: register 554 is a command"));
+    const Ran ran = failed(onDrive({"load", "axis.drc", "--to-flash"}),
+                           HasSubstr("overrideAddr2 was not written: register 554 is a command"));
     EXPECT_THAT(ran.err.toStdString(), HasSubstr("nothing was saved to flash"));
 }
 
@@ -205,9 +186,7 @@ TEST_F(Cli, BadFileIsRefusedAndNothingIsWritten)
 {
     put("noise.drc", QByteArray(100000, '\x5a'));
     for (const char *file : {"noise.drc", "missing.drc", "."}) {
-        const Ran ran = onDrive({"load", file});
-        EXPECT_EQ(ran.status, 1) << file;
-        EXPECT_THAT(ran.err.toStdString(), testing::EndsWith("Nothing was written.\n"));
+        failed(onDrive({"load", file}), testing::EndsWith("Nothing was written.\n"));
     }
     EXPECT_EQ(onDrive({"compare", "noise.drc"}).status, 1);
     EXPECT_EQ(onDrive({"save", "/nowhere/axis.drc"}).err, "Error writing settings to file /nowhere/axis.drc\n");
@@ -215,8 +194,7 @@ TEST_F(Cli, BadFileIsRefusedAndNothingIsWritten)
 
 TEST_F(Cli, StatusTellsIdentityAndRegistersInWords)
 {
-    const Ran ran = onDrive({"status"});
-    EXPECT_EQ(ran.status, 0) << ran.err.toStdString();
+    const Ran ran = good(onDrive({"status"}));
     for (const char *line :
          {"Connection\tConnected", "Port\tCOM1", "Address\t5", "Mode\tnormal", "Model\tTarnwell Devices KETA",
           "HW type ID\t11000", "Serial number\t240117", "TarnwellCore firmware version\t1078",
@@ -233,8 +211,7 @@ TEST_F(Cli, StatusTellsIdentityAndRegistersInWords)
 TEST(CliVirtualDrive, BringsItsOwnBusAndKeepsTheCallersFolder)
 {
     PrivateFolder folder;
-    const Ran ran = run({"--virtual-drive=torva,keta", "--node", "6", "save", "mine.drc"});
-    EXPECT_EQ(ran.status, 0) << ran.err.toStdString();
+    good(run({"--virtual-drive=torva,keta", "--node", "6", "save", "mine.drc"}));
     EXPECT_TRUE(QFile::exists("mine.drc"));
     EXPECT_EQ(run({"--virtual-drive", "--node", "5", "compare", "mine.drc"}).status, 0);
 }

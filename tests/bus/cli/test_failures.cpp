@@ -9,11 +9,9 @@ using testing::HasSubstr;
 
 namespace {
 
-class CliFailure : public VirtualBusFixture
-{
-};
+using CliFailure = CliFixture;
 
-class CliUpgradeMode : public VirtualBusFixture
+class CliUpgradeMode : public CliFixture
 {
     sim::BusOptions busOptions() const override { return {{{"keta", DriveAddress, true}}}; }
 };
@@ -74,9 +72,7 @@ TEST_F(CliFailure, SilentDriveIsRefusedInPlainWords)
     EXPECT_NE(ran.err, "");
     EXPECT_FALSE(ran.err.contains('<') || ran.err.contains('&')) << ran.err.toStdString();
 
-    ran = run({"--port", port(), "--json", "scan"});
-    EXPECT_EQ(ran.status, 0);
-    EXPECT_EQ(ran.out, "[\n]\n");
+    ran = good(run({"--port", port(), "--json", "scan"}), "[\n]\n");
     EXPECT_EQ(ran.err, "No drive answers on COM1.\n");
 }
 
@@ -87,11 +83,10 @@ TEST_F(CliFailure, LineLostWhileWritingSaysWhatMayHaveHappened)
     start(process, {"--port", port(), "--node", "5", "write", "KVP=400", "--to-flash"});
     ASSERT_TRUE(waitForPayload(bus(), "800a00000003")); // how the answers to writes are wanted, before the first
     bus().unplug();
-    const Ran ran = finish(process);
-    EXPECT_EQ(ran.status, 1);
-    EXPECT_EQ(ran.out, "");
-    EXPECT_THAT(ran.err.toStdString(), HasSubstr("may hold some of the new values in its working memory. Nothing was "
-                                                 "saved to its flash."));
+    const Ran ran = failed(finish(process),
+                           HasSubstr("may hold some of the new values in its working memory. Nothing was "
+                                     "saved to its flash."),
+                           "");
 }
 
 TEST_F(CliUpgradeMode, SettingsAndMotionAreRefusedAndScanAndStatusWork)
@@ -99,18 +94,13 @@ TEST_F(CliUpgradeMode, SettingsAndMotionAreRefusedAndScanAndStatusWork)
     Ran ran = run({"--port", port(), "scan"});
     EXPECT_EQ(ran.out, "255\tKETA\t11000\tupgrade\n");
     const QStringList drive = {"--port", port(), "--node", "255"};
-    const std::pair<QStringList, const char *> refused[] = {
-        {{"read"}, "has no settings"},   {{"save", "a.drc"}, "has no settings"}, {{"write", "KVP=1"}, "has no settings"},
-        {{"enable"}, "cannot move"},     {{"disable"}, "cannot move"},           {{"home"}, "cannot move"},
-        {{"clear-faults"}, "cannot move"}, {{"setpoint", "1"}, "cannot move"}};
-    for (const auto &[command, why] : refused) {
-        ran = run(drive + command);
-        EXPECT_EQ(ran.status, 1);
-        EXPECT_EQ(ran.out, "");
-        EXPECT_THAT(ran.err.toStdString(), HasSubstr(std::string("firmware-upgrade mode and ") + why));
+    const QList<QStringList> settings = {{"read"}, {"save", "a.drc"}, {"write", "KVP=1"}};
+    const QList<QStringList> motion = {{"enable"}, {"disable"}, {"home"}, {"clear-faults"}, {"setpoint", "1"}};
+    for (const QStringList &command : settings + motion) {
+        const std::string why = settings.contains(command) ? "has no settings" : "cannot move";
+        failed(run(drive + command), HasSubstr("firmware-upgrade mode and " + why), "");
     }
-    ran = run(drive + QStringList{"status"});
-    EXPECT_EQ(ran.status, 0) << ran.err.toStdString();
+    ran = good(run(drive + QStringList{"status"}));
     EXPECT_TRUE(ran.lines().contains("Mode\tupgrade")) << ran.out.toStdString();
 }
 
@@ -135,9 +125,7 @@ TEST_F(CliFailure, FullDiskIsNoSuccess)
     QProcess process;
     process.setStandardOutputFile("/dev/full");
     start(process, {"--port", port(), "--node", "5", "read"});
-    const Ran ran = finish(process);
-    EXPECT_EQ(ran.status, 1);
-    EXPECT_EQ(ran.err, "The results could not be written.\n");
+    failed(finish(process), "The results could not be written.\n");
 }
 
 TEST(CliInterrupted, LeavesNothingBehind)
@@ -156,8 +144,6 @@ TEST(CliInterrupted, LeavesNothingBehind)
     };
     ASSERT_TRUE(bringsItsFolder());
     process.terminate();
-    const Ran ran = finish(process);
-    EXPECT_EQ(ran.status, 1);
-    EXPECT_EQ(ran.err, "Interrupted.\n");
+    failed(finish(process), "Interrupted.\n");
     EXPECT_TRUE(here.isEmpty());
 }

@@ -2,6 +2,7 @@
 #include "cliprocess.h"
 
 #include "firmwarewriter.h"
+#include "numberedwords.h"
 
 #include <QFile>
 #include <QJsonArray>
@@ -15,37 +16,23 @@ using testing::StartsWith;
 
 namespace {
 
-using Words = std::vector<std::uint16_t>;
-
-/// 100 words make four chunks.
-Words image(int words, std::uint16_t first)
-{
-    Words result;
-    for (int i = 0; i < words; ++i)
-        result.push_back(static_cast<std::uint16_t>(first + i));
-    return result;
-}
-
-class CliFirmware : public VirtualBusFixture
+class CliFirmware : public CliFixture
 {
 protected:
     void SetUp() override
     {
-        VirtualBusFixture::SetUp();
-        write("keta.tdf", sim::firmwareFile(11000, image(100, 0x1000), {}));
-        write("torva.tdf", sim::firmwareFile(4000, image(100, 0x2000), image(50, 0x3000)));
+        CliFixture::SetUp();
+        // 100 words make four chunks.
+        write("keta.tdf", sim::firmwareFile(11000, numberedWords(100, 0x1000), {}));
+        write("torva.tdf", sim::firmwareFile(4000, numberedWords(100, 0x2000), numberedWords(50, 0x3000)));
     }
     static void write(const char *name, const sim::Bytes &bytes) { ASSERT_EQ(sim::writeFile(name, bytes), ""); }
-    void useDrive(const char *profile, bool upgradeMode)
-    {
-        startBus({{{profile, DriveAddress, upgradeMode}}});
-    }
+    void useDrive(const char *profile, bool upgradeMode) { startBus({{{profile, DriveAddress, upgradeMode}}}); }
     /// Without --node, and without the pauses that a real flash needs.
     static Ran withoutNode(const QStringList &arguments)
     {
         return run(QStringList{"--port", port(), "--pause-scale", "0.02"} + arguments);
     }
-    std::vector<std::string> sent() { return payloads(bus().received()); }
     int addressNow()
     {
         int address = 0;
@@ -59,8 +46,7 @@ protected:
 TEST_F(CliFirmware, UpgradeIsToldLineByLineOrAsJson)
 {
     useDrive("keta", true);
-    Ran ran = withoutNode({"flash", "keta.tdf"});
-    EXPECT_EQ(ran.status, 0) << ran.err.toStdString();
+    Ran ran = good(withoutNode({"flash", "keta.tdf"}));
     EXPECT_EQ(ran.err, "");
     EXPECT_THAT(ran.lines().first().toStdString(), EndsWith("keta.tdf firmware file loaded successfully"));
     EXPECT_THAT(ran.lines().last().toStdString(), StartsWith("All done with success! Drive has been started with"));
@@ -69,42 +55,34 @@ TEST_F(CliFirmware, UpgradeIsToldLineByLineOrAsJson)
               "5\tKETA\t11000\tnormal\n");
 
     useDrive("torva", true);
-    ran = withoutNode({"--json", "flash", "torva.tdf"});
-    EXPECT_EQ(ran.status, 0) << ran.err.toStdString();
+    ran = good(withoutNode({"--json", "flash", "torva.tdf"}));
     EXPECT_EQ(ran.json().object()["done"], true);
     EXPECT_TRUE(ran.json().object()["messages"].toArray().contains("STEP2: TarnwellCore firmware"));
-}
 
-TEST_F(CliFirmware, ResetsTheSettings)
-{
     useDrive("keta", true);
-    EXPECT_EQ(withoutNode({"flash", "keta.tdf", "--reset-to-factory"}).status, 0);
+    good(withoutNode({"flash", "keta.tdf", "--reset-to-factory"}));
     EXPECT_THAT(sent(), Contains("80bf0000000b"));
 }
 
 TEST_F(CliFirmware, WhatCannotWorkIsRefusedBeforeTheErase)
 {
     useDrive("keta", true);
-    Ran ran = withoutNode({"flash", "torva.tdf"});
-    EXPECT_EQ(ran.status, 1);
-    EXPECT_EQ(ran.out, "");
-    EXPECT_EQ(ran.err, "Error: Selected firmware file not meant for the connected device type\n");
+    failed(withoutNode({"flash", "torva.tdf"}),
+           "Error: Selected firmware file not meant for the connected device type\n", "");
 
     useDrive("torva", true);
-    ran = withoutNode({"flash", "torva.tdf", "--reset-to-factory"});
-    EXPECT_EQ(ran.status, 1);
-    EXPECT_EQ(ran.err, "A TORVA cannot reset its settings in an upgrade.\n");
+    failed(withoutNode({"flash", "torva.tdf", "--reset-to-factory"}),
+           "A TORVA cannot reset its settings in an upgrade.\n");
     EXPECT_THAT(sent(), Not(Contains(StartsWith("80bf"))));
 
     useDrive("keta", false);
-    ran = onDrive({"flash", "keta.tdf"});
-    EXPECT_EQ(ran.status, 1);
-    EXPECT_EQ(ran.err, "The drive at address 5 is not in firmware-upgrade mode; see \"restart --upgrade-mode\".\n");
+    failed(onDrive({"flash", "keta.tdf"}),
+           "The drive at address 5 is not in firmware-upgrade mode; see \"restart --upgrade-mode\".\n");
 }
 
 TEST_F(CliFirmware, OneCtrlCLeavesTheUpgradeRunningASecondBreaksItOff)
 {
-    write("keta.tdf", sim::firmwareFile(11000, image(3200, 0), {}));
+    write("keta.tdf", sim::firmwareFile(11000, numberedWords(3200, 0), {}));
     for (const bool twice : {false, true}) {
         useDrive("keta", true);
         bus().setTurnAround(std::chrono::milliseconds(5));
@@ -128,12 +106,9 @@ TEST_F(CliFirmware, OneCtrlCLeavesTheUpgradeRunningASecondBreaksItOff)
 TEST_F(CliFirmware, RestartsAndFindsTheDriveAgain)
 {
     const QStringList drive = {"--port", port(), "--pause-scale", "0.02", "--node", "5"};
-    Ran ran = run(drive + QStringList{"restart"});
-    EXPECT_EQ(ran.status, 0) << ran.err.toStdString();
-    EXPECT_EQ(ran.out, "5\tKETA\t11000\tnormal\n");
+    good(run(drive + QStringList{"restart"}), "5\tKETA\t11000\tnormal\n");
 
-    ran = run(drive + QStringList{"--json", "restart", "--upgrade-mode"});
-    EXPECT_EQ(ran.status, 0) << ran.err.toStdString();
+    Ran ran = good(run(drive + QStringList{"--json", "restart", "--upgrade-mode"}));
     EXPECT_EQ(ran.json().object(),
               (QJsonObject{{"address", 255}, {"model", "KETA"}, {"typeId", 11000}, {"mode", "upgrade"}}));
     EXPECT_EQ(addressNow(), 255);
@@ -143,9 +118,8 @@ TEST_F(CliFirmware, RestartThatCannotBeOrIsNotSeenIsNoSuccess)
 {
     useDrive("torva", false);
     const QStringList drive = {"--port", port(), "--pause-scale", "0.02", "--node", "5", "restart"};
-    Ran ran = run(drive + QStringList{"--upgrade-mode"});
-    EXPECT_EQ(ran.status, 1);
-    EXPECT_THAT(ran.err.toStdString(), StartsWith("A TORVA cannot be restarted into firmware-upgrade mode"));
+    failed(run(drive + QStringList{"--upgrade-mode"}),
+           StartsWith("A TORVA cannot be restarted into firmware-upgrade mode"));
     EXPECT_EQ(addressNow(), 5);
 
     // 554 := 2 executed, and from then on silence.
@@ -153,7 +127,7 @@ TEST_F(CliFirmware, RestartThatCannotBeOrIsNotSeenIsNoSuccess)
     start(process, drive);
     ASSERT_TRUE(waitForPayload(bus(), "822a00000002"));
     bus().setFault({sim::LineFault::Deaf});
-    ran = finish(process);
+    Ran ran = finish(process);
     EXPECT_EQ(ran.status, 1);
     EXPECT_EQ(ran.out, "");
     EXPECT_NE(ran.err, "");
@@ -162,7 +136,7 @@ TEST_F(CliFirmware, RestartThatCannotBeOrIsNotSeenIsNoSuccess)
 TEST(CliFirmwareInfo, TellsWhatAFileHoldsWithoutADrive)
 {
     PrivateFolder folder;
-    sim::Bytes bytes = sim::firmwareFile(4000, image(100, 0), image(50, 0));
+    sim::Bytes bytes = sim::firmwareFile(4000, numberedWords(100, 0), numberedWords(50, 0));
     ASSERT_EQ(sim::writeFile("good.tdf", bytes), "");
     bytes[40] ^= 1;
     ASSERT_EQ(sim::writeFile("flipped.tdf", bytes), "");
@@ -170,20 +144,14 @@ TEST(CliFirmwareInfo, TellsWhatAFileHoldsWithoutADrive)
     ASSERT_EQ(sim::writeFile("cut.tdf", bytes), "");
     ASSERT_EQ(sim::writeFile("noise.tdf", sim::Bytes(1000, 0x55)), "");
 
-    Ran ran = run({"firmware-info", "good.tdf"});
-    EXPECT_EQ(ran.status, 0) << ran.err.toStdString();
-    EXPECT_EQ(ran.out, "Format version\t300\nDevice type\t4000\nDevice family\tTorva\nI/O image\t200 bytes\n"
-                       "TarnwellCore image\t100 bytes\nChecksum\tright\n");
-    ran = run({"--json", "firmware-info", "flipped.tdf"});
+    good(run({"firmware-info", "good.tdf"}),
+         "Format version\t300\nDevice type\t4000\nDevice family\tTorva\nI/O image\t200 bytes\n"
+         "TarnwellCore image\t100 bytes\nChecksum\tright\n");
+    Ran ran = run({"--json", "firmware-info", "flipped.tdf"});
     EXPECT_EQ(ran.status, 1);
     EXPECT_EQ(ran.json().object()["checksum"], "wrong");
     EXPECT_EQ(ran.json().object()["coreImageBytes"], 100);
-    ran = run({"firmware-info", "cut.tdf"});
-    EXPECT_EQ(ran.status, 1);
-    EXPECT_EQ(ran.err, "File corrupted: it has 200 bytes, its header says 320\n");
-    EXPECT_THAT(ran.out.toStdString(), EndsWith("Checksum\tnot checked\n"));
-    ran = run({"firmware-info", "noise.tdf"});
-    EXPECT_EQ(ran.status, 1);
-    EXPECT_EQ(ran.out, "");
-    EXPECT_EQ(ran.err, "Unknown file type\n");
+    failed(run({"firmware-info", "cut.tdf"}), "File corrupted: it has 200 bytes, its header says 320\n",
+           EndsWith("Checksum\tnot checked\n"));
+    failed(run({"firmware-info", "noise.tdf"}), "Unknown file type\n", "");
 }

@@ -12,17 +12,9 @@ using testing::Not;
 namespace {
 
 constexpr int KVP = 202;
-constexpr int Faults = 552;
-constexpr int Status = 553;
-constexpr int SoftEnable = 2533;
 constexpr int AbsoluteSetpoint = 551;
-constexpr int Running = 8;
-constexpr int TrackingFault = 2;
-const char *const ArmForFaultPayload = "939300000003";
 
-class CliReport : public VirtualBusFixture
-{
-};
+using CliReport = CliFixture;
 
 void replaceIn(const char *name, const QByteArray &before, const QByteArray &after)
 {
@@ -39,8 +31,8 @@ TEST_F(CliReport, IsWrittenAndCanBeChecked)
     bus().set(DriveAddress, KVP, 400);
     ASSERT_EQ(onDrive({"capture", "--channels", "posmeas,hvbusvolt", "--csv", "idle.csv"}).status, 0);
     bus().clearReceived();
-    const Ran ran = onDrive({"--json", "report", "r.html", "--capture", "idle.csv", "--note", "KVP=stiffer <belt>"});
-    EXPECT_EQ(ran.status, 0) << ran.err.toStdString();
+    const Ran ran =
+        good(onDrive({"--json", "report", "r.html", "--capture", "idle.csv", "--note", "KVP=stiffer <belt>"}));
     const QJsonObject json = ran.json().object();
     EXPECT_EQ(json["captures"], 1);
     EXPECT_TRUE(json["stopTest"].isNull());
@@ -79,8 +71,7 @@ TEST_F(CliReport, StopTestListensUntilTheStopIsPressed)
     constexpr int Position = 956;
     ASSERT_TRUE(bus().waitForRegister(DriveAddress, Position, [](std::int32_t counts) { return counts < 50000; }));
     bus().set(DriveAddress, Faults, TrackingFault);
-    const Ran ran = finish(process);
-    EXPECT_EQ(ran.status, 0) << ran.err.toStdString();
+    const Ran ran = good(finish(process));
     EXPECT_EQ(ran.err, "Stop test: let the axis move, then press the machine's stop.\n");
     const QJsonObject stop = ran.json().object()["stopTest"].toObject();
     EXPECT_GT(stop["time"].toDouble(), 0.0);
@@ -90,9 +81,8 @@ TEST_F(CliReport, StopTestListensUntilTheStopIsPressed)
 
 TEST_F(CliReport, WithoutAStopThereIsNoReport)
 {
-    const Ran ran = onDrive({"report", "r.html", "--stop-test", "--stop-seconds", "0.1", "--time-out", "0.2"});
-    EXPECT_EQ(ran.status, 1);
-    EXPECT_THAT(ran.err.toStdString(), HasSubstr("The recorder was not triggered"));
+    failed(onDrive({"report", "r.html", "--stop-test", "--stop-seconds", "0.1", "--time-out", "0.2"}),
+           HasSubstr("The recorder was not triggered"));
     EXPECT_FALSE(QFile::exists("r.html"));
     EXPECT_EQ(onDrive({"report", "r.html", "--capture", "missing.html"}).status, 1);
     EXPECT_FALSE(QFile::exists("r.html"));

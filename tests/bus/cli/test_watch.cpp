@@ -14,7 +14,7 @@ using testing::HasSubstr;
 
 namespace {
 
-class CliWatch : public VirtualBusFixture
+class CliWatch : public CliFixture
 {
 protected:
     /// Output until it holds `text` so many times.
@@ -43,8 +43,7 @@ TEST_F(CliWatch, PipeGetsBlocksThatABlankLineEnds)
     const QByteArray later = readUntil(process, "\n\n", 2);
     EXPECT_THAT(later.toStdString(), HasSubstr("HV bus voltage  36.0 VDC\n"));
     sendSignal(process);
-    const Ran ran = finish(process);
-    EXPECT_EQ(ran.status, 0);
+    const Ran ran = good(finish(process));
     EXPECT_EQ(ran.err, "");
     for (const QString &block : QString::fromUtf8(first + later).split("\n\n", Qt::SkipEmptyParts))
         EXPECT_TRUE(block.startsWith("Connection\tConnected\n")) << block.toStdString();
@@ -124,9 +123,7 @@ TEST_F(CliWatch, LostLineAndClosedPipeEndIt)
     start(process, watch());
     readUntil(process, "\n\n", 1);
     bus().unplug();
-    Ran ran = finish(process);
-    EXPECT_EQ(ran.status, 1);
-    EXPECT_THAT(ran.err.toStdString(), HasSubstr("The drive's state could not be read.\n"));
+    failed(finish(process), HasSubstr("The drive's state could not be read.\n"));
 
     ASSERT_EQ(bus().plugIn(), "");
     QProcess closed;

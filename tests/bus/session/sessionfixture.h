@@ -66,16 +66,26 @@ inline SessionLog::SessionLog(Connection &s)
 {
     const auto queued = Qt::QueuedConnection;
     const auto keep = [&](auto signal, auto &list) {
-        connect(&s, signal, this, [&list](const auto &value) { list << value; }, queued);
+        connect(
+            &s, signal, this, [&list](const auto &value) { list << value; }, queued);
     };
     using C = Connection;
-    connect(&s, &C::statusChanged, this, [this](bool on, QString text) { statuses << Status{on, text}; }, queued);
-    connect(&s, &C::parametersRetreived, this, [this](Parameters p, bool file) { (file ? loaded : read) << p; }, queued);
+    connect(
+        &s, &C::statusChanged, this,
+        [this](bool on, QString text) {
+            statuses << Status{on, text};
+        },
+        queued);
+    connect(
+        &s, &C::parametersRetreived, this, [this](Parameters p, bool file) { (file ? loaded : read) << p; }, queued);
     const auto keepMessage = [this](QString t, bool done, bool failed) { upgrade << UpgradeMessage{t, done, failed}; };
     connect(&s, &C::firmwareUpgradeMsg, this, keepMessage, queued);
-    connect(&s, &C::busy, this, [this](bool on, bool) { busy << on; }, queued);
-    connect(&s, &C::suggestDeviceRestart, this, [this] { ++restartSuggestions; }, queued);
-    connect(&s, &C::setUnsavedState, this, [this] { ++unsaved; }, queued);
+    connect(
+        &s, &C::busy, this, [this](bool on, bool) { busy << on; }, queued);
+    connect(
+        &s, &C::suggestDeviceRestart, this, [this] { ++restartSuggestions; }, queued);
+    connect(
+        &s, &C::setUnsavedState, this, [this] { ++unsaved; }, queued);
     keep(&C::error, errors);
     keep(&C::availableBusNodes, nodes);
     keep(&C::updateCaptureButtonText, captureButton);
@@ -167,6 +177,18 @@ protected:
     {
         return waitUntil([&] { return !log().statuses.isEmpty() && !log().statuses.last().connected; });
     }
+    bool leave()
+    {
+        session().command(Connection::TaskDisconnect);
+        return waitForDisconnect();
+    }
+    /// A connection on which replies are lost on purpose.
+    bool reconnectImpatiently()
+    {
+        const bool left = leave();
+        session().setReplyTimeout(shortTimeoutMs);
+        return left && connectTo() && waitUntilIdle();
+    }
     bool readAll()
     {
         const int before = log().read.size();
@@ -185,10 +207,7 @@ protected:
         session().setDriveEnableStatus(true);
         session().command(Connection::TaskApplyEnableState);
     }
-    void setFault(sim::LineFault::Kind kind)
-    {
-        bus().setFault({kind});
-    }
+    void setFault(sim::LineFault::Kind kind) { bus().setFault({kind}); }
     /// How often a payload has arrived.
     int received(const std::string &payload)
     {
@@ -212,6 +231,23 @@ protected:
         session().setSettingsFileName(mark);
         session().command(Connection::TaskSaveSettingsFile);
         return waitUntil([&] { return QFileInfo::exists(mark); });
+    }
+
+    bool runToEnd(Connection::Task task)
+    {
+        session().command(task);
+        return waitUntilIdle();
+    }
+    /// The settings as they were read last, but for these.
+    Parameters with(std::initializer_list<std::pair<const char *, double>> values)
+    {
+        Parameters list = log().read.last();
+        for (const auto &[name, value] : values) {
+            SingleParam param = list.getParam(name);
+            param.value = value;
+            list.replaceParam(param);
+        }
+        return list;
     }
 
     /// Payloads that arrived, without those of the periodic poll and the questions whether a write was refused.

@@ -155,10 +155,8 @@ TEST_F(InUpgradeMode, ADriveInUpgradeModeIsFoundAndWelcomed)
     for (Connection::Task task : {Connection::TaskSetParams, Connection::TaskApplyEnableState,
                                   Connection::TaskStartHoming, Connection::TaskSetAbsoluteSetpoint})
         session().command(task);
-    session().command(Connection::TaskUpdateStatus);
-    ASSERT_TRUE(waitUntilIdle());
-    session().command(Connection::TaskDisconnect);
-    ASSERT_TRUE(waitForDisconnect());
+    ASSERT_TRUE(runToEnd(Connection::TaskUpdateStatus));
+    ASSERT_TRUE(leave());
     std::vector<std::string> afterIdentification;
     for (const sim::ReceivedRequest &request : bus().received())
         afterIdentification.push_back(hex(request.packet.payload));
@@ -196,13 +194,18 @@ TEST_F(Connecting, LeavingSwitchesTheWatchdogOffAndForgetsTheDrive)
     ASSERT_TRUE(readAll());
     EXPECT_EQ(session().getActiveParamValue("HWTYPE"), 11000.0);
     bus().clearReceived();
-    session().command(Connection::TaskDisconnect);
-    ASSERT_TRUE(waitForDisconnect());
+    ASSERT_TRUE(leave());
     EXPECT_EQ(payloads().back(), wire("800f 00000000"));
     EXPECT_EQ(log().statuses.last().text, "Disconnected");
     EXPECT_EQ(session().deviceType(), 0);
     EXPECT_EQ(session().getActiveParamValue("HWTYPE"), 0.0);
     EXPECT_FALSE(session().deviceHasCapability(Connection::CapRestartToDFU));
+    // The type stays gone also when the window hands its own set over.
+    session().setParams(log().read.last());
+    EXPECT_EQ(session().getActiveParamValue("HWTYPE"), 0.0);
+    session().emitParameters();
+    ASSERT_TRUE(waitUntil([this] { return !log().loaded.isEmpty(); }));
+    EXPECT_EQ(log().loaded.last().getParam("HWTYPE").value, 0.0);
 
     // The record keeps its address, or the type could not be read any more.
     ASSERT_TRUE(connectTo());
@@ -343,15 +346,13 @@ TEST_F(Connecting, ADamagedReplyIsAskedForOnceMoreAndADoubledOneAnswersNothingEl
     for (F::Kind kind : {F::Twice, F::Flip, F::Double, F::Missing, F::Late}) {
         for (int exchange = 0; exchange < 6; ++exchange) {
             bus().clearFaults();
-            session().command(Connection::TaskDisconnect);
-            ASSERT_TRUE(waitUntilIdle());
+            ASSERT_TRUE(runToEnd(Connection::TaskDisconnect));
             bus().clearReceived();
             bus().setFault({kind, kind == F::Late ? tooLateMs : 9, exchange, 1});
             const int errorsBefore = session().lineMeter().errors;
             const int straysBefore = session().lineMeter().strays;
             EXPECT_TRUE(connectTo()) << kind << " at " << exchange;
-            session().command(Connection::TaskUpdateStatus); // finds what the last one left behind
-            ASSERT_TRUE(waitUntilIdle());
+            ASSERT_TRUE(runToEnd(Connection::TaskUpdateStatus)); // finds what the last one left behind
             if (kind == F::Twice)
                 EXPECT_EQ(session().lineMeter().strays, straysBefore + 1) << exchange;
             else
@@ -383,17 +384,4 @@ TEST_F(Connecting, WhoDoesNotAnswerAndWhoAnswersDamagedAreToldApart)
         EXPECT_TRUE(log().errors.last().startsWith("Communication error flags:"));
         EXPECT_EQ(log().messages.last().kind, MessageKind::ConnectFailed);
     }
-}
-
-TEST_F(Connecting, TheTypeStaysGoneAlsoWhenTheWindowHandsItsOwnSetOver)
-{
-    ASSERT_TRUE(connectTo());
-    ASSERT_TRUE(readAll());
-    session().command(Connection::TaskDisconnect);
-    ASSERT_TRUE(waitForDisconnect());
-    session().setParams(log().read.last());
-    EXPECT_EQ(session().getActiveParamValue("HWTYPE"), 0.0);
-    session().emitParameters();
-    ASSERT_TRUE(waitUntil([this] { return !log().loaded.isEmpty(); }));
-    EXPECT_EQ(log().loaded.last().getParam("HWTYPE").value, 0.0);
 }

@@ -2,6 +2,7 @@
 #include "sessionfixture.h"
 
 #include "firmwarewriter.h"
+#include "numberedwords.h"
 
 #include <QFile>
 
@@ -15,16 +16,6 @@ using Fault = sim::LineFault;
 
 namespace {
 
-using Words = std::vector<std::uint16_t>;
-
-Words numberedWords(int count)
-{
-    Words words;
-    for (int i = 0; i < count; ++i)
-        words.push_back(static_cast<std::uint16_t>(0xA000 + i));
-    return words;
-}
-
 QString writeFirmware(int type, const Words &io, const Words &core = {})
 {
     const QString name = QDir::currentPath() + "/firmware.tdf";
@@ -36,10 +27,7 @@ class Flashing : public SessionFixture
 {
 protected:
     sim::BusOptions busOptions() const override { return upgradeModeOf("keta"); }
-    static sim::BusOptions upgradeModeOf(const char *profile)
-    {
-        return {{{profile, 5, true}}};
-    }
+    static sim::BusOptions upgradeModeOf(const char *profile) { return {{{profile, 5, true}}}; }
     void SetUp() override
     {
         SessionFixture::SetUp();
@@ -314,8 +302,7 @@ TEST_P(FailedUpgrade, IsToldOnceAndCanBeRepeated)
     const QString file =
         torva ? writeFirmware(4000, numberedWords(320), numberedWords(320)) : writeFirmware(11000, numberedWords(320));
     ASSERT_TRUE(flash(file));
-    session().command(Connection::TaskDisconnect);
-    ASSERT_TRUE(waitForDisconnect());
+    ASSERT_TRUE(leave());
     ASSERT_TRUE(waitUntilIdle());
     EXPECT_EQ(finalMessages(), 1);
     EXPECT_TRUE(log().upgrade.last().failed);
@@ -351,12 +338,10 @@ TEST_F(SessionFixture, ADriveRestartedIntoUpgradeModeIsTakenForWhatItIs)
     session().setPauseScale(0.1); // longer than the virtual drive restarts
     session().command(Connection::TaskRestartToDFU);
     ASSERT_TRUE(waitUntil([this] { return session().isInFirmwareUpgradeMode(); }));
-    session().command(Connection::TaskUpdateStatus);
-    ASSERT_TRUE(waitUntilIdle());
+    ASSERT_TRUE(runToEnd(Connection::TaskUpdateStatus));
     EXPECT_TRUE(session().isConnected());
     bus().clearReceived();
-    session().command(Connection::TaskDisconnect);
-    ASSERT_TRUE(waitForDisconnect());
+    ASSERT_TRUE(leave());
     EXPECT_THAT(payloads(), Not(Contains(wire("800f 00000000")))) << "a bootloader has no watchdog";
     EXPECT_TRUE(log().errors.isEmpty());
 }

@@ -240,6 +240,17 @@ TEST_F(Operations, AStreamIsSetUpOnceInAConnection)
     stream.reset();
     EXPECT_EQ(stream.state(), Stream::Fresh);
     EXPECT_FALSE(data.stimulusIsActive());
+
+    // A disable that waits comes before its first setpoint, and ends it.
+    bus().clearFaults();
+    with.line.clearStatus();
+    with.line.startTask();
+    bus().clearReceived();
+    data.stimulus.set(100, 1, 0, 1, true);
+    askToDisable();
+    stream.streamStimulus();
+    EXPECT_EQ(received(disables), 1);
+    EXPECT_EQ(stream.state(), Stream::Fresh);
 }
 
 TEST_F(Operations, AFullReadOnADamagedLineSucceeds)

@@ -107,10 +107,7 @@ TEST_F(Scope, PutsEveryWordIntoItsChannelAtItsTime)
 TEST_F(Scope, OneBadReplyOfADownloadChangesNoWord)
 {
     using F = sim::LineFault;
-    session().command(Connection::TaskDisconnect);
-    ASSERT_TRUE(waitForDisconnect());
-    session().setReplyTimeout(shortTimeoutMs);
-    ASSERT_TRUE(connectTo());
+    ASSERT_TRUE(reconnectImpatiently());
     arm(20000, captureAtOnce, selection({torqueSetpoint, busVoltage}));
     ASSERT_TRUE(waitForPlot());
     const auto whole = log().plots.last()[busVoltage].samples;
@@ -147,8 +144,7 @@ TEST_F(Scope, ADownloadIsNotBelievedWhenThePollBehindItFails)
 TEST_F(Scope, WithoutAChannelNothingIsSent)
 {
     arm(20000, captureAtOnce, selection({}));
-    session().command(Connection::TaskDownloadScope);
-    ASSERT_TRUE(waitUntilIdle());
+    ASSERT_TRUE(runToEnd(Connection::TaskDownloadScope));
     EXPECT_THAT(log().errors, ElementsAre(QString("No scope channels selected. Select at least one.")));
     EXPECT_TRUE(payloads().empty());
     EXPECT_TRUE(log().plots.isEmpty());
@@ -163,9 +159,9 @@ TEST_F(Scope, ACaptureThatNeverTriggersWaitsUntilItIsArmedAnewOrLeft)
     ASSERT_TRUE(waitForPlot());
 
     arm(20000, captureOnFault, selection({busVoltage}));
-    ASSERT_TRUE(waitUntil([this] { return log().captureButton.last() == "Scope waiting.."; }));
-    session().command(Connection::TaskDisconnect);
-    ASSERT_TRUE(waitForDisconnect());
+    ASSERT_TRUE(bus().waitForRegister(5, 5011, 3)) << "it is armed";
+    ASSERT_TRUE(waitUntilIdle());
+    ASSERT_TRUE(leave());
     ASSERT_TRUE(waitUntil([this] { return log().captureButton.last() == "Start capture"; }));
 
     // The recorder goes off when nobody of this connection waits for it.

@@ -18,7 +18,6 @@ protected:
         bus().clearReceived();
     }
     void start() { session().setStimulus(100, 0.11, -3.7, 10, true); }
-    void stop() { session().setStimulus(100, 0.11, -3.7, 10, false); }
     /// Chunks of the first run: up to the reading of the clock, which ends each.
     std::vector<std::string> uploads()
     {
@@ -59,31 +58,12 @@ TEST_F(Stimulus, BeginsWithThePeriodTheSetUpAndNineChunks)
     EXPECT_TRUE(log().errors.isEmpty());
 }
 
-TEST_F(Stimulus, StoppedAndStartedAgainItGoesOnWithoutSetUp)
-{
-    start();
-    ASSERT_TRUE(waitForClock());
-    stop();
-    ASSERT_TRUE(waitUntilIdle());
-    EXPECT_EQ(payloads().back(), wire("822a 00000004"));
-    ASSERT_TRUE(bus().waitForRegister(5, 6, 2048)) << "the buffer is empty";
-
-    bus().clearReceived();
-    start();
-    ASSERT_TRUE(waitForClock());
-    EXPECT_EQ(payloads().front(), readFree);
-    ASSERT_THAT(uploads(), SizeIs(9));
-    EXPECT_EQ(uploads().front().substr(0, 36), wire("400064 400064 400064 400064 400064 7ffffd"));
-    EXPECT_TRUE(log().errors.isEmpty());
-}
-
 TEST_F(Stimulus, ANewConnectionBeginsAnewAndDoesNotMoveByItself)
 {
     start();
     ASSERT_TRUE(waitForClock());
     bus().clearReceived();
-    session().command(Connection::TaskDisconnect);
-    ASSERT_TRUE(waitForDisconnect());
+    ASSERT_TRUE(leave());
     const std::vector<std::string> sent = payloads();
     ASSERT_GE(sent.size(), 2u);
     EXPECT_EQ(sent[sent.size() - 2], wire("822a 00000004")) << "the stream is stopped first";

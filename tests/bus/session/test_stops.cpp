@@ -37,13 +37,11 @@ protected:
     {
         bus().clearFaults();
         if (session().isConnected()) {
-            session().command(Connection::TaskDisconnect);
-            ASSERT_TRUE(waitUntilIdle());
+            ASSERT_TRUE(runToEnd(Connection::TaskDisconnect));
         }
         setEnabled(enabled);
         ASSERT_TRUE(connectTo());
-        session().command(Connection::TaskUpdateStatus);
-        ASSERT_TRUE(waitUntilIdle());
+        ASSERT_TRUE(runToEnd(Connection::TaskUpdateStatus));
         log().outcomes.clear();
         log().errors.clear();
         log().messages.clear();
@@ -88,8 +86,7 @@ TEST_F(Stops, AnEnableIsConfirmedOrUndone)
             begin(false);
             hit(kind, request);
             enable();
-            session().command(Connection::TaskUpdateStatus);
-            ASSERT_TRUE(waitUntilIdle());
+            ASSERT_TRUE(runToEnd(Connection::TaskUpdateStatus));
             const bool confirmed = log().messages.isEmpty();
             EXPECT_EQ(isEnabled(), confirmed) << kind << " at " << request;
             EXPECT_EQ(received(wire("89e5 00000001")), 1) << "never repeated";
@@ -204,8 +201,7 @@ TEST_F(Stops, ADisableOnTheWayOutOpensThePortAnew)
 TEST_F(Stops, ADisableDoesNotWaitForAConnectionThatDoesNotComeAbout)
 {
     begin(true);
-    session().command(Connection::TaskDisconnect);
-    ASSERT_TRUE(waitUntilIdle());
+    ASSERT_TRUE(runToEnd(Connection::TaskDisconnect));
     bus().setFault({Fault::Deaf, 4, 0, 1});
     bus().clearReceived();
     session().connectDevice(port(), DriveAddress);
@@ -242,8 +238,7 @@ TEST_F(Stops, ADriveThatCouldNotBeConnectedToCanBeDisabledAllTheSame)
 TEST_F(Stops, ADisableDoesNotWaitForTheEndOfASearch)
 {
     begin(true);
-    session().command(Connection::TaskDisconnect);
-    ASSERT_TRUE(waitUntilIdle());
+    ASSERT_TRUE(runToEnd(Connection::TaskDisconnect));
     bus().clearReceived();
     session().getListOfBusNodes(port());
     ASSERT_TRUE(waitForRequests(1));
@@ -283,8 +278,7 @@ TEST_F(Stops, AStreamDoesNotOutliveItsConnectionWhateverHappensToOneReply)
             ASSERT_TRUE(waitUntilIdle());
             bus().powerCycle();
             if (session().isConnected())
-                session().command(Connection::TaskDisconnect);
-            ASSERT_TRUE(waitUntilIdle());
+                ASSERT_TRUE(runToEnd(Connection::TaskDisconnect));
         }
     }
 }
@@ -326,8 +320,7 @@ TEST_F(Stops, OneDamagedReplyOfThePollIsNoEndAndIsCounted)
         const LineMeter before = session().lineMeter();
         hit(kind, 0);
         for (int poll = 0; poll < 3; ++poll)
-            session().command(Connection::TaskUpdateStatus);
-        ASSERT_TRUE(waitUntilIdle());
+            ASSERT_TRUE(runToEnd(Connection::TaskUpdateStatus));
         EXPECT_TRUE(session().isConnected());
         EXPECT_TRUE(log().errors.isEmpty());
         const LineMeter now = log().states.last().line;
@@ -350,6 +343,7 @@ TEST_F(Stops, AStopGetsThroughBeforeALostReplyIsAskedForAgain)
     const auto sent = bus().received();
     ASSERT_GE(sent.size(), 2u);
     EXPECT_EQ(hex(sent[1].packet.payload), wire("89e5 00000000"));
-    EXPECT_LT(sent[1].time - sent[0].time, std::chrono::milliseconds(2 * shortTimeoutMs)) << "a late reply is not awaited";
+    EXPECT_LT(sent[1].time - sent[0].time, std::chrono::milliseconds(2 * shortTimeoutMs))
+        << "a late reply is not awaited";
     EXPECT_FALSE(isEnabled());
 }

@@ -1,9 +1,8 @@
-// The full read, the full write, single commands and settings files: what goes over the wire, and what is kept.
+// The full read, the full write, and single commands: what goes over the wire, and what is kept.
 #include "sessionfixture.h"
 
 #include "catalogue.h"
 
-#include <QDir>
 #include <QRegularExpression>
 #include <cmath>
 
@@ -41,22 +40,10 @@ protected:
     }
     Parameters held() { return log().read.last(); }
 
-    Parameters with(std::initializer_list<std::pair<const char *, double>> values)
-    {
-        Parameters list = held();
-        for (const auto &[name, value] : values) {
-            SingleParam param = list.getParam(name);
-            param.value = value;
-            list.replaceParam(param);
-        }
-        return list;
-    }
-    Parameters with(const char *name, double value) { return with({{name, value}}); }
     void apply(const Parameters &list)
     {
         session().setParams(list);
-        session().command(Connection::TaskSetParams);
-        ASSERT_TRUE(waitUntilIdle());
+        ASSERT_TRUE(runToEnd(Connection::TaskSetParams));
     }
     std::vector<std::string> sentBy(Connection::Task task)
     {
@@ -98,7 +85,7 @@ TEST_F(Transfer, AFullReadIsOneExchangeARecordInCatalogueOrder)
     EXPECT_EQ(held().getParam("TRF1").value, -1.0) << "a Pro's";
 }
 
-TEST_F(TorvaTransfer, ParametersThatATorvaLacksReadAsMinusOneAndAreNotWritten)
+TEST_F(TorvaTransfer, WhatATorvaLacksReadsAsMinusOneIsNotWrittenAndIsSaid)
 {
     for (const char *name : {"BUILDREVISION", "CEI", "UID", "ZBO", "TRF1", "TRF2", "TRA1", "TRA2"})
         EXPECT_EQ(held().getParam(name).value, -1.0) << name;
@@ -107,11 +94,19 @@ TEST_F(TorvaTransfer, ParametersThatATorvaLacksReadAsMinusOneAndAreNotWritten)
     for (const std::string &payload : payloads())
         EXPECT_NE(payload.substr(0, 4), "823d") << "CEI, register 573";
     EXPECT_TRUE(log().errors.isEmpty());
+
+    bus().clearReceived();
+    session().command(Connection::TaskMeasure);
+    ASSERT_TRUE(runToEnd(Connection::TaskRestartToDFU));
+    ASSERT_THAT(log().errors, SizeIs(2));
+    EXPECT_EQ(log().errors[0], "Measure function is available only in KETA drive models");
+    EXPECT_EQ(log().messages.last().kind, MessageKind::Note);
+    EXPECT_TRUE(payloads().empty());
 }
 
 TEST_F(Transfer, AFullWriteBeginsWithTheLengthControlThenOneExchangeAWritableRecord)
 {
-    apply(with("KVP", 321));
+    apply(with({{"KVP", 321}}));
     std::vector<std::string> expected = {wire("800a 00000003")};
     for (int address : registersOf("KETA", true)) {
         const int value = bus().read(5, address); // it holds what has just been written
@@ -123,10 +118,7 @@ TEST_F(Transfer, AFullWriteBeginsWithTheLengthControlThenOneExchangeAWritableRec
     EXPECT_EQ(bus().read(5, 202), 321);
     EXPECT_TRUE(log().errors.isEmpty());
     EXPECT_TRUE(log().controlModes.isEmpty());
-}
-
-TEST_F(Transfer, OverrideSlotsFollowTheRecords)
-{
+    // Override slots follow the records.
     apply(with({{"overrideAddr1", 202}, {"overrideVal1", 77}}));
     EXPECT_EQ(payloads().back(), wire("80ca 0000004d"));
     EXPECT_EQ(bus().read(5, 202), 77);
@@ -156,10 +148,10 @@ TEST_F(Transfer, NoSettingsFileAndNoOverrideEnablesMovesOrRestartsADrive)
 TEST_F(Transfer, AChangedControlModeIsAnnouncedOnceTheDriveHasTakenIt)
 {
     const int other = held().getParam("CM").value == 1.0 ? 2 : 1;
-    apply(with("CM", 100)); // refused
+    apply(with({{"CM", 100}})); // refused
     EXPECT_THAT(log().controlModes, testing::IsEmpty());
-    apply(with("CM", other));
-    apply(with("CM", other));
+    apply(with({{"CM", other}}));
+    apply(with({{"CM", other}}));
     EXPECT_THAT(log().controlModes, ElementsAre(other));
 }
 
@@ -169,7 +161,7 @@ TEST_F(Transfer, ASetHandedOverDuringAReadIsNotOverwrittenByIt)
     bus().clearReceived();
     session().getParams();
     ASSERT_TRUE(waitForRequests(10));
-    session().setParams(with("KVP", 999));
+    session().setParams(with({{"KVP", 999}}));
     const int before = log().read.size();
     ASSERT_TRUE(waitUntil([&] { return log().read.size() > before; }));
     session().emitParameters();
@@ -218,23 +210,18 @@ TEST_F(Transfer, ARefusedWriteIsToldWithItsValueAndTheDrivesLimitsAndTheConnecti
 
 TEST_F(Transfer, ARefusedCommandIsToldAtOnceAndTheNextOneGetsNoBlame)
 {
-    const struct
-    {
-        Connection::Task task;
-        const char *text;
-    } cases[] = {
+    const std::pair<Connection::Task, const char *> cases[] = {
         {Connection::TaskStartHoming, "The drive refused to start homing."}, // it is not enabled
         {Connection::TaskSetIncrementalSetpoint, "The drive refused the setpoint 536870911."},
     };
     session().setTargetSetpoint(536870911); // as far as it goes: there is nothing left to add
     session().command(Connection::TaskSetAbsoluteSetpoint);
-    for (const auto &each : cases) {
+    for (const auto &[task, text] : cases) {
         log().errors.clear();
-        session().command(each.task);
-        session().command(Connection::TaskSaveToFlash);
-        ASSERT_TRUE(waitUntilIdle());
-        ASSERT_THAT(log().errors, SizeIs(1)) << each.text;
-        EXPECT_TRUE(log().errors.first().startsWith(each.text)) << qPrintable(log().errors.first());
+        session().command(task);
+        ASSERT_TRUE(runToEnd(Connection::TaskSaveToFlash));
+        ASSERT_THAT(log().errors, SizeIs(1)) << text;
+        EXPECT_TRUE(log().errors.first().startsWith(text)) << qPrintable(log().errors.first());
         EXPECT_THAT(log().errors.first().toStdString(), HasSubstr("* Invalid param value<br>"));
         EXPECT_EQ(log().messages.last().kind, MessageKind::Refused);
         EXPECT_TRUE(session().isConnected());
@@ -244,26 +231,20 @@ TEST_F(Transfer, ARefusedCommandIsToldAtOnceAndTheNextOneGetsNoBlame)
 TEST_F(Transfer, ErrorsFromBeforeAConnectionGetNobodyTheBlame)
 {
     for (int pass = 0; pass < 2; ++pass) { // the second with a question behind every write
-        session().command(Connection::TaskDisconnect);
-        ASSERT_TRUE(waitForDisconnect());
+        ASSERT_TRUE(leave());
         leaveErrorBit();
         ASSERT_TRUE(connectTo());
-        session().command(Connection::TaskSaveToFlash);
-        ASSERT_TRUE(waitUntilIdle());
+        ASSERT_TRUE(runToEnd(Connection::TaskSaveToFlash));
         EXPECT_THAT(log().errors, SizeIs(pass));
         log().statuses.clear();
         if (pass == 0)
-            apply(with("KVP", 500000000));
+            apply(with({{"KVP", 500000000}}));
     }
 }
 
 TEST_F(Transfer, AWriteThatBrokeOffSaysWhatSurelyReachedTheDrive)
 {
-    session().command(Connection::TaskDisconnect);
-    ASSERT_TRUE(waitForDisconnect());
-    session().setReplyTimeout(shortTimeoutMs);
-    ASSERT_TRUE(connectTo());
-    ASSERT_TRUE(waitUntilIdle());
+    ASSERT_TRUE(reconnectImpatiently());
     bus().setTurnAround(std::chrono::milliseconds(2));
     session().setParams(held());
     bus().clearReceived();
@@ -289,30 +270,28 @@ TEST_F(Transfer, AWriteThatBrokeOffSaysWhatSurelyReachedTheDrive)
 TEST_F(Transfer, WhatIsWantedChangesNothingAboutWhatTheDriveShows)
 {
     bus().set(5, 955, 100);
-    session().setParams(with("FBR", held().getParam("FBR").value / 2));
+    session().setParams(with({{"FBR", held().getParam("FBR").value / 2}}));
     const int before = log().states.size();
     ASSERT_TRUE(waitUntil([&] { return log().states.size() > before + 1; }));
     EXPECT_EQ(log().states.last().feedbackResolution, held().getParam("FBR").value);
     EXPECT_EQ(session().getActiveParamValue("FBR"), held().getParam("FBR").value);
-    apply(with("FBR", held().getParam("FBR").value / 2));
+    apply(with({{"FBR", held().getParam("FBR").value / 2}}));
     EXPECT_EQ(log().held.last().getParam("FBR").value, held().getParam("FBR").value / 2) << "acknowledged";
 }
 
 TEST_F(Transfer, EverySingleFaultOfAReadAndAWriteIsMended)
 {
     using F = sim::LineFault;
-    session().command(Connection::TaskDisconnect);
-    ASSERT_TRUE(waitForDisconnect());
-    session().setReplyTimeout(shortTimeoutMs);
-    ASSERT_TRUE(connectTo());
+    const double before = held().getParam("MMS").value;
+    ASSERT_TRUE(reconnectImpatiently());
     for (F::Kind kind : {F::Twice, F::Flip, F::Cut, F::Missing, F::Late}) {
         for (int at : {0, 30}) {
             bus().setFault({kind, kind == F::Late ? tooLateMs : 4, at, 1});
             ASSERT_TRUE(readAll()) << kind;
             EXPECT_EQ(log().read.last().getParam("KVP").value, bus().read(5, 202)) << kind << " at " << at;
-            EXPECT_EQ(log().read.last().getParam("MMS").value, held().getParam("MMS").value);
+            EXPECT_EQ(held().getParam("MMS").value, before);
             bus().setFault({kind, kind == F::Late ? tooLateMs : 4, at, 1});
-            apply(with("KVP", 100 + at));
+            apply(with({{"KVP", 100 + at}}));
             EXPECT_EQ(bus().read(5, 202), 100 + at) << kind << " at " << at;
         }
     }
@@ -322,8 +301,7 @@ TEST_F(Transfer, EverySingleFaultOfAReadAndAWriteIsMended)
 TEST_F(Transfer, ValuesAreCompleteOnceEverythingWasReadInThisConnection)
 {
     EXPECT_TRUE(session().valuesAreComplete());
-    session().command(Connection::TaskDisconnect);
-    ASSERT_TRUE(waitForDisconnect());
+    ASSERT_TRUE(leave());
     EXPECT_FALSE(session().valuesAreComplete());
     ASSERT_TRUE(connectTo());
     EXPECT_FALSE(session().valuesAreComplete());
@@ -372,16 +350,14 @@ TEST_F(Transfer, ForceEnableIsUsedOnceAndNeverByADisable)
 
     // It is for the drive that it was asked for.
     session().setDriveForceEnableStatus(true);
-    session().command(Connection::TaskDisconnect);
-    ASSERT_TRUE(waitForDisconnect());
+    ASSERT_TRUE(leave());
     ASSERT_TRUE(connectTo());
     ASSERT_TRUE(waitUntilIdle());
     session().setDriveEnableStatus(true);
     EXPECT_THAT(sentBy(Connection::TaskApplyEnableState), ElementsAre(wire("89e5 00000001")));
-}
 
-TEST_F(Transfer, TwoQuickSetpointsAreTwoDifferentOnes)
-{
+    // Two quick setpoints are two different ones.
+    ASSERT_TRUE(waitUntilIdle());
     bus().clearReceived();
     for (int target : {100, 200}) {
         session().setTargetSetpoint(target);
@@ -392,7 +368,7 @@ TEST_F(Transfer, TwoQuickSetpointsAreTwoDifferentOnes)
     EXPECT_THAT(payloads(), ElementsAre(wire("8227 00000064"), wire("8227 000000c8")));
 }
 
-TEST_F(Transfer, MeasuringReadsEverythingAgain)
+TEST_F(Transfer, MeasuringReadsEverythingAgainAndARefusedOneDoesNotPassForTheOneBefore)
 {
     leaveErrorBit();
     session().command(Connection::TaskMeasure);
@@ -400,51 +376,13 @@ TEST_F(Transfer, MeasuringReadsEverythingAgain)
     EXPECT_EQ(payloads()[0], wire("800d 00000000")) << "old error bits are no refusal";
     EXPECT_EQ(payloads()[1], wire("822a 00000100"));
     EXPECT_THAT(log().busy, ElementsAre(true, false));
-    EXPECT_EQ(log().unsaved, 1);
     EXPECT_TRUE(log().errors.isEmpty());
-}
-
-TEST_F(Transfer, ARefusedMeasurementDoesNotPassForTheOneBefore)
-{
-    session().command(Connection::TaskMeasure);
-    ASSERT_TRUE(waitUntil([this] { return log().read.size() == 2; }));
     ASSERT_EQ(bus().read(5, 8104), 800);
     bus().withDrive(5, [](sim::VirtualDrive &drive) { drive.refuseWrites(554, 256); });
-    session().command(Connection::TaskMeasure);
-    ASSERT_TRUE(waitUntilIdle());
+    ASSERT_TRUE(runToEnd(Connection::TaskMeasure));
     ASSERT_THAT(log().errors, SizeIs(1));
     EXPECT_THAT(log().errors.first().toStdString(), HasSubstr("Measurement failed."));
     EXPECT_THAT(log().busy, ElementsAre(true, false, true, false));
     EXPECT_EQ(log().unsaved, 1);
-    EXPECT_TRUE(session().isConnected());
-}
-
-TEST_F(TorvaTransfer, WhatOnlyAKetaCanIsSaidAndNothingIsSent)
-{
-    session().command(Connection::TaskMeasure);
-    session().command(Connection::TaskRestartToDFU);
-    ASSERT_TRUE(waitUntilIdle());
-    ASSERT_THAT(log().errors, SizeIs(2));
-    EXPECT_EQ(log().errors[0], "Measure function is available only in KETA drive models");
-    EXPECT_EQ(log().messages.last().kind, MessageKind::Note);
-    EXPECT_TRUE(payloads().empty());
-}
-
-TEST_F(Transfer, SettingsTravelThroughAFile)
-{
-    session().setParams(with("KVP", 123));
-    session().setSettingsFileName("saved.drc");
-    session().command(Connection::TaskSaveSettingsFile);
-    session().setParams(with("KVP", 456)); // after the save was asked for
-    session().command(Connection::TaskLoadSettingsFile);
-    ASSERT_TRUE(waitUntil([this] { return !log().loaded.isEmpty(); }));
-    EXPECT_EQ(log().loaded.last().getParam("KVP").value, 123.0);
-    EXPECT_TRUE(log().errors.isEmpty());
-
-    session().setSettingsFileName(QDir::currentPath()); // a folder
-    session().command(Connection::TaskLoadSettingsFile);
-    session().command(Connection::TaskSaveSettingsFile);
-    ASSERT_TRUE(waitUntil([this] { return log().errors.size() == 2; }));
-    EXPECT_THAT(log().loaded, SizeIs(1));
     EXPECT_TRUE(session().isConnected());
 }

@@ -124,37 +124,25 @@ TEST_P(DuringATask, ADisableIsTheNextThingOnTheLine)
 }
 INSTANTIATE_TEST_SUITE_P(Any, DuringATask, testing::ValuesIn(longTasks), nameOf);
 
-TEST_F(Worker, ADisableIsSentUntilItIsAcknowledgedAtMostThreeTimes)
+TEST_F(Worker, ADisableThatNothingAcknowledgesIsSentThreeTimesAndTold)
 {
-    for (bool heardInTheEnd : {true, false}) {
-        newSession();
-        bus().clearFaults();
-        session().setReplyTimeout(400);
-        ASSERT_TRUE(connectTo());
-        enable();
-        ASSERT_TRUE(bus().waitForRegister(5, 2533, 1));
-        ASSERT_TRUE(waitUntilIdle());
-        bus().clearReceived();
-        setFault(sim::LineFault::Deaf);
-        disable();
-        ASSERT_TRUE(waitForPayload(disableWrite));
-        if (heardInTheEnd)
-            bus().clearFaults();
-        // Its loss was mended, and what the drive shows ends the doubt; or it is the end of the connection.
-        ASSERT_TRUE(heardInTheEnd ? waitUntil([this] { return !log().outcomes.isEmpty(); }) : waitForDisconnect());
-        EXPECT_THAT(log().outcomes,
-                    testing::ElementsAre(heardInTheEnd ? DisableOutcome::Disabled : DisableOutcome::NoAnswer));
-        EXPECT_THAT(log().disables, testing::ElementsAre(heardInTheEnd));
-        EXPECT_EQ(bus().read(5, 2533), heardInTheEnd ? 0 : 1);
-        EXPECT_GE(received(disableWrite), heardInTheEnd ? 2 : 3);
-        EXPECT_LE(received(disableWrite), 3);
-        ASSERT_TRUE(waitUntil([&] { return log().errors.size() == (heardInTheEnd ? 0 : 1); }));
-        if (heardInTheEnd)
-            continue;
-        EXPECT_EQ(log().messages.last().kind, MessageKind::UnconfirmedStop);
-        EXPECT_TRUE(log().errors.last().startsWith("<b>The drive may still be powered.</b> Esc tries to disable it; "
-                                                   "the sure way is the machine's own stop.<br>"));
-    }
+    session().setReplyTimeout(400);
+    ASSERT_TRUE(connectTo());
+    enable();
+    ASSERT_TRUE(bus().waitForRegister(5, 2533, 1));
+    ASSERT_TRUE(waitUntilIdle());
+    bus().clearReceived();
+    setFault(sim::LineFault::Deaf);
+    disable();
+    ASSERT_TRUE(waitForDisconnect());
+    EXPECT_THAT(log().outcomes, testing::ElementsAre(DisableOutcome::NoAnswer));
+    EXPECT_THAT(log().disables, testing::ElementsAre(false));
+    EXPECT_EQ(bus().read(5, 2533), 1);
+    EXPECT_EQ(received(disableWrite), 3);
+    ASSERT_TRUE(waitUntil([this] { return log().errors.size() == 1; }));
+    EXPECT_EQ(log().messages.last().kind, MessageKind::UnconfirmedStop);
+    EXPECT_TRUE(log().errors.last().startsWith("<b>The drive may still be powered.</b> Esc tries to disable it; the "
+                                               "sure way is the machine's own stop.<br>"));
 }
 
 TEST_F(Worker, ADisableIsSentAlsoWhereTheLineCountsAsDead)
@@ -298,11 +286,7 @@ TEST_F(Worker, LeavingCarriesOutWhatWasChosenOnTheWayOut)
 {
     ASSERT_TRUE(connectTo());
     ASSERT_TRUE(readAll());
-    Parameters list = log().read.last();
-    SingleParam gain = list.getParam("KVP");
-    gain.value = 432;
-    list.replaceParam(gain);
-    session().setParams(list);
+    session().setParams(with({{"KVP", 432}}));
     session().getParams();
     session().command(Connection::TaskSetParams);
     session().command(Connection::TaskSaveToFlash);
@@ -310,4 +294,25 @@ TEST_F(Worker, LeavingCarriesOutWhatWasChosenOnTheWayOut)
     EXPECT_EQ(bus().read(5, 202), 432);
     EXPECT_THAT(payloads(), Contains(wire("822a 00000001")));
     EXPECT_EQ(payloads().back(), wire("800f 00000000"));
+}
+
+TEST_F(Worker, SettingsTravelThroughAFile)
+{
+    ASSERT_TRUE(connectTo());
+    ASSERT_TRUE(readAll());
+    session().setParams(with({{"KVP", 123}}));
+    session().setSettingsFileName("saved.drc");
+    session().command(Connection::TaskSaveSettingsFile);
+    session().setParams(with({{"KVP", 456}})); // after the save was asked for
+    session().command(Connection::TaskLoadSettingsFile);
+    ASSERT_TRUE(waitUntil([this] { return !log().loaded.isEmpty(); }));
+    EXPECT_EQ(log().loaded.last().getParam("KVP").value, 123.0);
+    EXPECT_TRUE(log().errors.isEmpty());
+
+    session().setSettingsFileName(QDir::currentPath()); // a folder
+    session().command(Connection::TaskLoadSettingsFile);
+    session().command(Connection::TaskSaveSettingsFile);
+    ASSERT_TRUE(waitUntil([this] { return log().errors.size() == 2; }));
+    EXPECT_THAT(log().loaded, testing::SizeIs(1));
+    EXPECT_TRUE(session().isConnected());
 }

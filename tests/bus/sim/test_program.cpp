@@ -109,34 +109,16 @@ TEST(Options, DescribeTheBus)
 
 TEST(Options, WrongOnesAreTold)
 {
-    for (const char *arguments : {"--drive keta9",
-                                  "--drive keta@0",
-                                  "--drive keta@251",
-                                  "--drive keta@x",
-                                  "--drive keta@5 --drive torva@5",
-                                  "--drive keta,",
-                                  "--drive keta:",
-                                  "--drive keta:rubber@5",
-                                  "--load rubber",
-                                  "--load noise=",
-                                  "--drive",
-                                  "--set 6010",
-                                  "--set 6010=x",
-                                  "--set =1",
-                                  "--set 1=9999999999",
-                                  "--fault fire",
-                                  "--fault cut=",
-                                  "--fault =3",
-                                  "--fault cut=1234567",
-                                  "--fault dropx1x2",
-                                  "--fault drop+-1",
-                                  "--nonsense",
-                                  "more",
-                                  "--bootloader new",
-                                  "--turn-around -1",
-                                  "--upgrade-mode --drive keta --drive torva"}) {
+    const QString wrong =
+        "--drive keta9 | --drive keta@0 | --drive keta@251 | --drive keta@x | "
+        "--drive keta@5 --drive torva@5 | --drive keta, | --drive keta: | --drive keta:rubber@5 | "
+        "--load rubber | --load noise= | --drive | --set 6010 | --set 6010=x | --set =1 | "
+        "--set 1=9999999999 | --fault fire | --fault cut= | --fault =3 | --fault cut=1234567 | "
+        "--fault dropx1x2 | --fault drop+-1 | --nonsense | more | --bootloader new | --turn-around -1 | "
+        "--upgrade-mode --drive keta --drive torva";
+    for (const QString &arguments : wrong.split(" | ")) {
         sim::SimOptions options;
-        EXPECT_NE(parse(arguments, options), "") << arguments;
+        EXPECT_NE(parse(arguments.toStdString(), options), "") << qPrintable(arguments);
     }
 }
 

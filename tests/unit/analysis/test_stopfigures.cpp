@@ -33,12 +33,7 @@ std::vector<double> made(int rows, double (*at)(int))
 
 TEST(StopFigures, TellTimeAndDistanceOrWhyNot)
 {
-    const struct
-    {
-        std::vector<double> counts;
-        std::optional<double> time, distance;
-        const char *reason;
-    } rows[] = {
+    const std::tuple<std::vector<double>, std::optional<double>, std::optional<double>, const char *> rows[] = {
         // 20 counts a sample until sample 40, then one count of noise: within 2 counts of the end from sample 40 on.
         {made(100, [](int i) { return i < 40 ? 100.0 + 20.0 * i : 900.0 + i % 2; }), 0.080, 800.0, ""},
         {made(100, [](int i) { return i < 40 ? -20.0 * i : -800.0; }), 0.080, 800.0, ""},
@@ -49,13 +44,13 @@ TEST(StopFigures, TellTimeAndDistanceOrWhyNot)
         {made(100, [](int i) { return 5.0 + i % 2; }), {}, {}, "did not move"},
         {{}, {}, {}, "not recorded"},
     };
-    for (const auto &row : rows) {
-        const StopFigures figures = stopFigures(positions(row.counts));
-        EXPECT_EQ(figures.time.value.has_value(), row.time.has_value()) << row.reason;
-        EXPECT_NEAR(figures.time.value.value_or(0.0), row.time.value_or(0.0), 0.002);
-        EXPECT_NEAR(figures.distance.value.value_or(0.0), row.distance.value_or(0.0), 2.0);
-        EXPECT_THAT(figures.time.reason.toStdString(), testing::HasSubstr(row.reason));
-        EXPECT_EQ(toJson(figures)["time"].isNull(), !row.time.has_value());
+    for (const auto &[counts, time, distance, reason] : rows) {
+        const StopFigures figures = stopFigures(positions(counts));
+        EXPECT_EQ(figures.time.value.has_value(), time.has_value()) << reason;
+        EXPECT_NEAR(figures.time.value.value_or(0.0), time.value_or(0.0), 0.002);
+        EXPECT_NEAR(figures.distance.value.value_or(0.0), distance.value_or(0.0), 2.0);
+        EXPECT_THAT(figures.time.reason.toStdString(), testing::HasSubstr(reason));
+        EXPECT_EQ(toJson(figures)["time"].isNull(), !time.has_value());
     }
 }
 

@@ -19,21 +19,13 @@ const std::vector<std::uint8_t> digits = {'1', '2', '3', '4', '5', '6', '7', '8'
 
 } // namespace
 
-TEST(Checksum, HasTheCheckValueOfCrc16ArcWithItsBytesSwapped)
+TEST(Checksum, HasItsCheckValuesAndIsZeroOverItsOwnChecksum)
 {
-    EXPECT_EQ(registerOver(digits), 0x3DBB); // 0xBB3D: the low byte goes out first
-}
-
-TEST(Checksum, OfARunIncludingItsOwnChecksumIsZero)
-{
+    EXPECT_EQ(registerOver(digits), 0x3DBB); // CRC-16/ARC, 0xBB3D: the low byte goes out first
     std::vector<std::uint8_t> bytes = digits;
     bytes.push_back(0x3D);
     bytes.push_back(0xBB);
     EXPECT_EQ(registerOver(bytes), 0);
-}
-
-TEST(Checksum, OverABufferIsTheModbusVariantAndRefusesAnEmptyOne)
-{
     EXPECT_EQ(calcCRC16Buf(digits.data(), digits.size()), 0x374B); // CRC-16/MODBUS check value 0x4B37
     EXPECT_EQ(calcCRC16Buf(digits.data(), 0), -1);
 }

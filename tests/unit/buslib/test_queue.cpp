@@ -36,12 +36,7 @@ protected:
 
 TEST_F(Queue, EncodesItemsBigEndianWithTheirLengthInTheTopBits)
 {
-    const struct
-    {
-        int kind;
-        long value;
-        Bytes bytes;
-    } items[] = {
+    const std::tuple<int, long, Bytes> items[] = {
         {ZB_QUEUE_ADDRESS, 10, {0x80, 0x0A}},
         {ZB_QUEUE_ADDRESS, 0x177C, {0x97, 0x7C}},
         {ZB_QUEUE_ADDRESS, 0x4005, {0x80, 0x05}}, // bits above the field are lost
@@ -52,10 +47,10 @@ TEST_F(Queue, EncodesItemsBigEndianWithTheirLengthInTheTopBits)
         {ZB_QUEUE_VALUE32, -1, {0x3F, 0xFF, 0xFF, 0xFF}},
         {ZB_QUEUE_VALUE32, -536870912, {0x20, 0x00, 0x00, 0x00}}, // the lowest of 30 bits
     };
-    for (const auto &item : items) {
+    for (const auto &[kind, value, bytes] : items) {
         ASSERT_EQ(zbResetZB485variables(handle), ZB_OK);
-        EXPECT_EQ(zbAppendZBCommandToQueue(handle, item.kind, item.value), ZB_OK);
-        EXPECT_EQ(queued(), item.bytes) << item.kind << ", " << item.value;
+        EXPECT_EQ(zbAppendZBCommandToQueue(handle, kind, value), ZB_OK);
+        EXPECT_EQ(queued(), bytes) << kind << ", " << value;
     }
 }
 

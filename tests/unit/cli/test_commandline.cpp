@@ -23,11 +23,7 @@ CommandLine parse(const QString &words)
 TEST(CommandLine, WhatMakesNoSenseIsRefusedWithAReason)
 {
     const QString drive = "--port COM1 ", capture = drive + "capture --channels posmeas --csv a ";
-    const struct
-    {
-        QString words;
-        const char *reason;
-    } wrong[] = {
+    const std::pair<QString, const char *> wrong[] = {
         {"", "Either --port NAME or --virtual-drive is needed."},
         {"scan", "Either --port NAME or --virtual-drive is needed."},
         {drive + "--virtual-drive scan", "Either --port NAME or --virtual-drive is needed."},
@@ -84,9 +80,9 @@ TEST(CommandLine, WhatMakesNoSenseIsRefusedWithAReason)
         {drive + "report a.html --time-out 5", "go with --stop-test."},
         {drive + "report a.html --stop-test --stop-seconds 61", "--stop-seconds takes seconds"},
     };
-    for (const auto &each : wrong) {
-        const CommandLine line = parse(each.words);
-        EXPECT_THAT(line.problem.toStdString(), HasSubstr(each.reason)) << each.words.toStdString();
+    for (const auto &[words, reason] : wrong) {
+        const CommandLine line = parse(words);
+        EXPECT_THAT(line.problem.toStdString(), HasSubstr(reason)) << words.toStdString();
         EXPECT_EQ(line.answer, "");
     }
 }

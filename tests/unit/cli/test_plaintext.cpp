@@ -6,11 +6,7 @@
 
 TEST(PlainText, ReadsLikeTheRichText)
 {
-    const struct
-    {
-        const char *html;
-        const char *text;
-    } cases[] = {
+    const std::pair<const char *, const char *> cases[] = {
         {"", ""},
         {"nothing special", "nothing special"},
         {"one<br>two<br/>three<BR />four", "one\ntwo\nthree\nfour"},
@@ -26,6 +22,6 @@ TEST(PlainText, ReadsLikeTheRichText)
         {"See <a href=\"https://wiki.example/a\">the page</a>.", "See the page (https://wiki.example/a)."},
         {"ID 3 <a href=https://wiki.example/f>?</a>", "ID 3 (https://wiki.example/f)"},
     };
-    for (const auto &each : cases)
-        EXPECT_EQ(plainText(QString::fromUtf8(each.html)), QString::fromUtf8(each.text));
+    for (const auto &[html, text] : cases)
+        EXPECT_EQ(plainText(QString::fromUtf8(html)), QString::fromUtf8(text));
 }

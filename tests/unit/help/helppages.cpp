@@ -2,13 +2,12 @@
 
 #include "formreader.h"
 #include "printqt.h"
+#include "translations.h"
 
 #include <QDir>
 #include <QFile>
-#include <QHash>
 #include <QRegularExpression>
 #include <QUrl>
-#include <QXmlStreamReader>
 #include <gtest/gtest.h>
 
 namespace {
@@ -23,12 +22,10 @@ QRegularExpression pattern(const char *text)
 QString withoutMarkup(QString html)
 {
     html.remove(pattern("<[^>]*>"));
-    const struct
-    {
-        const char *name, *text;
-    } entities[] = {{"&nbsp;", " "}, {"&minus;", "-"}, {"&times;", "x"}, {"&lt;", "<"}, {"&gt;", ">"}, {"&amp;", "&"}};
-    for (const auto &entity : entities)
-        html.replace(QLatin1String(entity.name), QLatin1String(entity.text));
+    const std::pair<const char *, const char *> entities[] = {{"&nbsp;", " "}, {"&minus;", "-"}, {"&times;", "x"},
+                                                              {"&lt;", "<"},   {"&gt;", ">"},    {"&amp;", "&"}};
+    for (const auto &[name, text] : entities)
+        html.replace(QLatin1String(name), QLatin1String(text));
     return html.simplified();
 }
 
@@ -60,28 +57,6 @@ HelpPage readPage(const QString &name)
     return page;
 }
 
-/// Translations by context and text; a text that is used in one context for two things has one.
-QHash<QString, QString> readTranslations()
-{
-    QHash<QString, QString> texts;
-    QFile file(QStringLiteral(VELBRIN_SOURCE_DIR "/translations/velbrin_%1.ts").arg(language));
-    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << qPrintable(file.fileName());
-    QXmlStreamReader xml(&file);
-    QString context, source;
-    while (!xml.atEnd()) {
-        xml.readNext();
-        if (!xml.isStartElement())
-            continue;
-        if (xml.name() == QLatin1String("name"))
-            context = xml.readElementText();
-        else if (xml.name() == QLatin1String("source"))
-            source = xml.readElementText(QXmlStreamReader::IncludeChildElements);
-        else if (xml.name() == QLatin1String("translation"))
-            texts.insert(context + '\n' + source, xml.readElementText(QXmlStreamReader::IncludeChildElements));
-    }
-    return texts;
-}
-
 } // namespace
 
 void readIn(const QString &wanted)
@@ -91,12 +66,13 @@ void readIn(const QString &wanted)
 
 QString inLanguage(const QString &context, const QString &text)
 {
-    static QHash<QString, QHash<QString, QString>> all;
+    static QMap<QString, Translations> all;
     if (language == QLatin1String("en"))
         return text;
     if (!all.contains(language))
-        all.insert(language, readTranslations());
-    return all[language].value(context + '\n' + text, text);
+        all.insert(language,
+                   readTranslations(QStringLiteral(VELBRIN_SOURCE_DIR "/translations/velbrin_%1.ts").arg(language)));
+    return all[language].value({context, text}, {text}).text;
 }
 
 QString helpFolder()

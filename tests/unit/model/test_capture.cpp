@@ -147,11 +147,7 @@ TEST(Capture, DamagedForeignAndNewerFilesEndInOneSentenceAndChangeNothing)
     const auto inSetting = [](const char *member, const QJsonValue &value) {
         return changed([=](QJsonObject &block) { changeFirst(block, "settings", member, value); });
     };
-    const struct
-    {
-        QByteArray bytes;
-        const char *says;
-    } rows[] = {
+    const std::pair<QByteArray, const char *> rows[] = {
         {"", "empty"},
         {good.left(good.size() / 2), "damaged"},
         {"{}", "not a capture"},
@@ -200,11 +196,11 @@ TEST(Capture, DamagedForeignAndNewerFilesEndInOneSentenceAndChangeNothing)
         {"Time;Speed\n0;1\n1;2\n", "column 2"},
         {"Date;Torque setpoint [A]\n0;1\n1;2\n", "does not name"},
     };
-    for (const auto &row : rows) {
-        SCOPED_TRACE(row.bytes.left(60).toStdString() + " / " + row.says);
+    for (const auto &[bytes, says] : rows) {
+        SCOPED_TRACE(bytes.left(60).toStdString() + " / " + says);
         CaptureRecord before = capture();
-        const QString problem = read(row.bytes, &before);
-        EXPECT_TRUE(problem.contains(QLatin1String(row.says))) << problem.toStdString();
+        const QString problem = read(bytes, &before);
+        EXPECT_TRUE(problem.contains(QLatin1String(says))) << problem.toStdString();
         EXPECT_FALSE(problem.contains('<') || problem.contains('\n'));
         EXPECT_EQ(blockOf(before), good);
     }

@@ -42,28 +42,15 @@ TEST_F(Firmware, HoldsBothImagesAsWordsIOSideFirst)
     EXPECT_EQ(firmware.tcImageLength, 2);
 }
 
-TEST_F(Firmware, MayBeEmptyOrHaveANegativeLength)
-{
-    EXPECT_EQ(load("54444657 2c01 f82a 00000000 00000000 84020000"), "");
-    EXPECT_EQ(load("54444657 2c01 f82a ffffffff 00000080 00070000"), "");
-}
-
-TEST_F(Firmware, OddLengthDropsItsLastByte)
-{
-    // The odd byte is where the TC image or the checksum is expected.
-    EXPECT_EQ(load("54444657 2c01 f82a 03000000 00000000 0102ff 89030000"), "File corrupted");
-    // The same header in front of one word only is read as such.
-    EXPECT_EQ(load("54444657 2c01 f82a 03000000 00000000 0102 8a020000"), "");
-}
-
 TEST_F(Firmware, FirstFlawInTheOrderOfTheHeaderIsNamed)
 {
-    const struct
-    {
-        const char *hex;
-        int type;
-        const char *message;
-    } files[] = {
+    const std::tuple<const char *, int, const char *> files[] = {
+        {"54444657 2c01 f82a 00000000 00000000 84020000", 11001, ""},
+        {"54444657 2c01 f82a ffffffff 00000080 00070000", 11001, ""}, // negative lengths
+        // An odd length drops its last byte: the file is read as if it were not there.
+        {"54444657 2c01 f82a 03000000 00000000 0102ff 89030000", 11001, "File corrupted"},
+        {"54444657 2c01 f82a 03000000 00000000 0102 8a020000", 11001, ""},
+        {"54444657 2c01 d107 00000000 00000000 3a020000", 2999, ""}, // 2001 and 2999 are one family
         {"", 11000, "Unknown file type"},
         {"544446", 11000, "Unknown file type"},
         {"57464454 2c01 f82a 00000000 00000000 84020000", 11000, "Unknown file type"}, // reversed
@@ -82,9 +69,8 @@ TEST_F(Firmware, FirstFlawInTheOrderOfTheHeaderIsNamed)
         {"54444657 2c01 f82a ffffff7f ffffff7f 84020000", 11000, "File corrupted"},          // absurd lengths
         {"54444657 2c01 f82a feffff7f 00000000 84020000", 11000, "File corrupted"},
     };
-    for (const auto &f : files)
-        EXPECT_EQ(load(f.hex, f.type), f.message) << f.hex;
-    EXPECT_EQ(load("54444657 2c01 d107 00000000 00000000 3a020000", 2999), "") << "2001 and 2999 are one family";
+    for (const auto &[hex, type, message] : files)
+        EXPECT_EQ(load(hex, type), message) << hex;
 }
 
 TEST_F(Firmware, ThatIsNoPlainFileOrFarTooLargeEndsAtOnce)

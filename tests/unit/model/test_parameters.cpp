@@ -110,16 +110,13 @@ TEST(Parameters, ListAsTableOfFourPairsToARow)
 
 TEST(DeviceModel, NamesEveryModelAndSubmodel)
 {
-    const struct
-    {
-        int type;
-        const char *name;
-    } models[] = {{4099, "TORVA"},    {5000, "TORVA R"},      {6012, "TORVA S"},
-                  {11000, "KETA"},    {11001, "KETA Pro"},    {11002, "KETA Unknown submodel"},
-                  {11200, "KETA HC"}, {11211, "KETA Pro HC"}, {11400, "KETA Pro (ID 11400)"}};
-    for (const auto &m : models) {
-        EXPECT_EQ(deviceModelName(m.type, false), m.name);
-        EXPECT_EQ(deviceModelName(m.type, true), QStringLiteral("Tarnwell Devices ") + m.name);
+    const std::pair<int, const char *> models[] = {
+        {4099, "TORVA"},    {5000, "TORVA R"},      {6012, "TORVA S"},
+        {11000, "KETA"},    {11001, "KETA Pro"},    {11002, "KETA Unknown submodel"},
+        {11200, "KETA HC"}, {11211, "KETA Pro HC"}, {11400, "KETA Pro (ID 11400)"}};
+    for (const auto &[type, name] : models) {
+        EXPECT_EQ(deviceModelName(type, false), name);
+        EXPECT_EQ(deviceModelName(type, true), QStringLiteral("Tarnwell Devices ") + name);
     }
     EXPECT_EQ(deviceModelName(11205, true), "Tarnwell Devices KETA Unknown HC submodel");
     EXPECT_EQ(deviceModelName(12345, true), "Unknown device type: 12345");

@@ -215,11 +215,7 @@ TEST_F(SettingsFile, ThatIsNoneIsRefusedWithNothingTakenOver)
     const QString unsupported = "Unsupported file type or version. Try with later Velbrin version.";
     const QString unknown = "Attempt to load a file with unknown parameter %1. Possibly Velbrin version too old, try "
                             "later version.";
-    const struct
-    {
-        QByteArray bytes;
-        QString message;
-    } files[] = {
+    const std::pair<QByteArray, QString> files[] = {
         {"", unsupported},
         {QByteArray(2 << 20, '\xA5'), unsupported},
         {array + good + "size=1\n", unsupported},
@@ -240,16 +236,16 @@ TEST_F(SettingsFile, ThatIsNoneIsRefusedWithNothingTakenOver)
         {"[Header]\nVelbrinVersion=" + QByteArray(1 << 20, '&') + "\n",
          unsupported + " File was saved with Velbrin version " + QString("&amp;").repeated(40) + "."},
     };
-    for (const auto &f : files) {
+    for (const auto &[bytes, message] : files) {
         QElapsedTimer time;
         time.start();
-        write(f.bytes);
+        write(bytes);
         LoadOutcome outcome = LoadOutcome::Taken;
-        EXPECT_EQ(list.loadFromFile(path, &outcome), f.message) << f.bytes.left(200).toStdString();
+        EXPECT_EQ(list.loadFromFile(path, &outcome), message) << bytes.left(200).toStdString();
         EXPECT_EQ(outcome, LoadOutcome::Refused);
         EXPECT_LT(time.elapsed(), 5000);
         expectUnchanged();
-        EXPECT_EQ(content(), f.bytes) << "reading left the file alone";
+        EXPECT_EQ(content(), bytes) << "reading left the file alone";
     }
     EXPECT_EQ(load(QByteArray(header) + array + "size=0\n"), "") << "an empty array changes nothing";
     expectUnchanged();

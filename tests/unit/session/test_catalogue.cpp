@@ -22,12 +22,7 @@ TEST(Catalogue, NamesEveryRecordAndRegisterOnce)
 
 TEST(Catalogue, ConvertsByTheUnevenScalings)
 {
-    const struct
-    {
-        const char *name;
-        double deviceValue;
-        double displayValue;
-    } cases[] = {
+    const std::tuple<const char *, double, double> cases[] = {
         {"TRA1", 1500, 1.5}, {"TRA2", 1024, 100}, {"PFF", 1024, 100}, {"FOC", 50, 3},         {"CAO", 16384, 100},
         {"MPC", 100, 200},   {"AXS", 100000, 1},  {"FFT", 2500, 1},   {"CM", 1, 0},           {"CM", 3, 2},
         {"FOV", 6000, 60},   {"FUV", 1200, 12},   {"MMC", 5000, 5},   {"MCC", 2500, 2.5},     {"MR", 1200, 1.2},
@@ -35,10 +30,10 @@ TEST(Catalogue, ConvertsByTheUnevenScalings)
         {"KVP", 300, 300},   {"CVL", 1000, 1000}, {"HOMING", 5, 5},   {"overrideVal3", 9, 9},
     };
     const Parameters list = driveParameterCatalogue();
-    for (const auto &c : cases) {
-        const SingleParam p = list.getParam(QString::fromLatin1(c.name));
-        EXPECT_NEAR(p.convertToGUIScale(c.deviceValue), c.displayValue, 1e-9) << c.name;
-        EXPECT_EQ(p.convertToDeviceScale(c.displayValue), c.deviceValue) << c.name;
+    for (const auto &[name, deviceValue, displayValue] : cases) {
+        const SingleParam p = list.getParam(QString::fromLatin1(name));
+        EXPECT_NEAR(p.convertToGUIScale(deviceValue), displayValue, 1e-9) << name;
+        EXPECT_EQ(p.convertToDeviceScale(displayValue), deviceValue) << name;
     }
 }
 

@@ -21,10 +21,7 @@ Parameters listOf(std::initializer_list<std::pair<const char *, double>> values)
 
 TEST(DividerRule, TakesTheFirstStepAboveTheLimit)
 {
-    const struct
-    {
-        int resolution, speed, divider;
-    } cases[] = {
+    const std::tuple<int, int, int> cases[] = {
         {10000, 6000, 25}, // x = 20.48
         {8000, 3000, 200}, // x = 51.2
         {4000, 3000, 200}, // x = 102.4
@@ -33,8 +30,8 @@ TEST(DividerRule, TakesTheFirstStepAboveTheLimit)
         {1000, 3000, 800}, // x = 409.6
         {1000, 100, 800},  {0, 3000, 800}, {1000, 0, 800}, {0, 0, 800}, {2000000000, 2000000000, 25},
     };
-    for (const auto &c : cases)
-        EXPECT_EQ(dividerValue(c.resolution, c.speed), c.divider) << c.resolution << " lines at " << c.speed << " rpm";
+    for (const auto &[resolution, speed, divider] : cases)
+        EXPECT_EQ(dividerValue(resolution, speed), divider) << resolution << " lines at " << speed << " rpm";
 }
 
 TEST(DividerRule, SetsTheDividerAndTellsWhetherItChanged)

@@ -150,14 +150,6 @@ TEST(StatusPoll, RefusesAnotherNumberOfValuesUntouched)
     }
 }
 
-TEST(DriveState, WordsTheLimitReasons)
-{
-    const QStringList texts = {"Unknown (-1)", "None", "Peak current [MMC]", "Continuous current [MCC]",
-                               "Motor thermal model [MTC]", "Drive temperature", "Supply voltage", "Unknown (6)"};
-    for (int i = 0; i < texts.size(); ++i)
-        EXPECT_EQ(limitReasonText(i - 1), texts.at(i));
-}
-
 TEST(DriveState, TakesTheLimitSwitchSettingByEitherName)
 {
     Parameters list;

@@ -1,7 +1,6 @@
 #include "errortexts.h"
 #include "printqt.h"
 
-#include <cerrno>
 #include <gtest/gtest.h>
 
 namespace {
@@ -29,53 +28,34 @@ TEST(ErrorText, NamesEveryErrorInItsOrderAndTheParameterBeingWritten)
     const SingleParam small = undefinedParam(10, 3), large = undefinedParam(8125, -12345678);
     const QString lost = "Communication error, disconnected.", flags = "Communication error flags: <br>",
                   device = "<br>Device errors: <br>", writing = "Occurred while setting parameter: name=";
-    const struct
-    {
-        quint32 status, deviceErrors;
-        const SingleParam *param;
-        QString text;
-    } rows[] = {
+    const std::tuple<quint32, quint32, const SingleParam *, QString> rows[] = {
         {1 + 2 + 4 + 8 + 16 + 32, 0, nullptr,
-         flags + "* NoDevice (interface)<br>* InvalidParameter (API)<br>* Communication (cheksum mismatch)<br>"
-                 "* DataLegth (timeout or app error)<br>* BusError<br>" + seeTroubleshooting},
+         flags +
+             "* NoDevice (interface)<br>* InvalidParameter (API)<br>* Communication (cheksum mismatch)<br>"
+             "* DataLegth (timeout or app error)<br>* BusError<br>" +
+             seeTroubleshooting},
         {2, 0, nullptr, flags + "* NoDevice (interface)<br>" + seeTroubleshooting},
         {5, 0, nullptr, flags + "* BusError<br>" + seeTroubleshooting},
         {9, 0, nullptr, flags + "* Communication (cheksum mismatch)<br>" + seeTroubleshooting},
         {17, 0, nullptr, flags + "* InvalidParameter (API)<br>" + seeTroubleshooting},
         {33, 0, nullptr, flags + "* DataLegth (timeout or app error)<br>" + seeTroubleshooting},
         {1, 31, &offset,
-         lost + device + "* Command fail (NACK)<br>* Invalid param address<br>* Invalid param value<br>"
-                         "* Value too high<br>* Value too low<br>" +
+         lost + device +
+             "* Command fail (NACK)<br>* Invalid param address<br>* Invalid param value<br>"
+             "* Value too high<br>* Value too low<br>" +
              writing + "CAO, addr=563, GUI value=150.5, HW value=24658"},
         {1, 8, nullptr, lost + device + "* Value too high<br>"},
         {9, 2, &small,
-         flags + "* Communication (cheksum mismatch)<br>" + seeTroubleshooting + device + "* Invalid param address<br>" +
-             writing + "undefined, addr=10, GUI value=3, HW value=3"},
+         flags + "* Communication (cheksum mismatch)<br>" + seeTroubleshooting + device +
+             "* Invalid param address<br>" + writing + "undefined, addr=10, GUI value=3, HW value=3"},
         {1, 16, &large,
          lost + device + "* Value too low<br>" + writing +
              "undefined, addr=8125, GUI value=-1.23457e+07, HW value=-1.23457e+07"},
         {64, 0, nullptr, lost}, // something is said about bits that nobody knows, too
         {1, 64, nullptr, lost},
     };
-    for (const auto &row : rows)
-        EXPECT_EQ(busErrorText(true, row.status, row.deviceErrors, row.param), row.text);
-}
-
-TEST(ErrorText, TellsPortsThatCannotBeOpenedApart)
-{
-    const struct
-    {
-        int error;
-        const char *text;
-    } cases[] = {
-        {ENOENT, "There is no port COM1: check that the adapter is plugged in."},
-        {EBUSY, "COM1 is in use by another program."},
-        {ENOTTY, "COM1 is not a serial port."},
-        {EIO, "COM1 cannot be opened: Input/output error."},
-    };
-    for (const auto &each : cases)
-        EXPECT_EQ(openErrorText("COM1", each.error), each.text);
-    EXPECT_TRUE(openErrorText("COM1", EACCES).startsWith("There is no permission to use COM1"));
+    for (const auto &[status, deviceErrors, param, text] : rows)
+        EXPECT_EQ(busErrorText(true, status, deviceErrors, param), text);
 }
 
 TEST(ErrorText, ARefusedWriteNamesValueAndLimits)

@@ -12,7 +12,7 @@ QList<CaptureData> channelsWith(std::initializer_list<int> enabled)
     return channels;
 }
 
-const int torqueSetpoint = 0, velocitySetpoint = 2, positionAchieved = 5, busVoltage = 8, fluxVoltage = 15;
+const int busVoltage = 8, fluxVoltage = 15;
 
 } // namespace
 
@@ -82,39 +82,6 @@ TEST(ScopeRates, ImpossibleRatesStayWithinWhatTheDriveTakes)
     for (double rate : {1e9, 40000.0, 0.0, -5.0})
         EXPECT_EQ(scopeDivider(17500.0, rate), 0) << rate;
     EXPECT_EQ(scopeDivider(17500.0, 1e-12), 536870911);
-}
-
-TEST(ScopeDownload, DealsTheWordsOutToTheEnabledChannels)
-{
-    // Every word is its own index, so that each sample shows where it came from.
-    QList<CaptureData> channels = channelsWith({velocitySetpoint, positionAchieved, busVoltage});
-    for (int i = 0; i < scopeWordCount; ++i)
-        storeCaptureSample(channels, i, static_cast<qint16>(i), 0.5);
-    ASSERT_EQ(channels[velocitySetpoint].samples.size(), 667);
-    ASSERT_EQ(channels[positionAchieved].samples.size(), 667);
-    ASSERT_EQ(channels[busVoltage].samples.size(), 666);
-    EXPECT_TRUE(channels[torqueSetpoint].samples.isEmpty());
-    for (int k : {0, 1, 333, 665}) {
-        EXPECT_EQ(channels[velocitySetpoint].samples[k], qMakePair(k * 0.5, 3.0 * k));
-        EXPECT_EQ(channels[positionAchieved].samples[k], qMakePair(k * 0.5, 3.0 * k + 1));
-        EXPECT_DOUBLE_EQ(channels[busVoltage].samples[k].second, (3.0 * k + 2) * 0.01);
-    }
-}
-
-TEST(ScopeDownload, SixteenChannelsAndOneChannelShareTheWordsEvenly)
-{
-    QList<CaptureData> all = channelsWith({0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15});
-    QList<CaptureData> one = channelsWith({12});
-    for (int i = 0; i < scopeWordCount; ++i) {
-        storeCaptureSample(all, i, 1, 1.0 / 20000.0);
-        storeCaptureSample(one, i, 1, 1.0 / 17500.0);
-    }
-    for (const CaptureData &channel : qAsConst(all)) {
-        ASSERT_EQ(channel.samples.size(), 125) << channel.key.toStdString();
-        EXPECT_DOUBLE_EQ(channel.samples[124].first, 124.0 / 20000.0);
-    }
-    ASSERT_EQ(one[12].samples.size(), 2000);
-    EXPECT_DOUBLE_EQ(one[12].samples.last().first, 1999.0 / 17500.0);
 }
 
 TEST(ScopeDownload, OnlyTheBusVoltageIsUnsigned)

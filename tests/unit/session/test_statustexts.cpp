@@ -259,20 +259,3 @@ TEST(FaultPanel, ShowsDebugValuesAndTheWatchedRegisterWhenWanted)
     state.firmwareUpgradeMode = true; // a bootloader knows neither
     EXPECT_EQ(faultPanel(state).text, plain);
 }
-
-TEST(FlagLine, IsMarkedOnlyForAReasonInTheUnexpectedStateWhileNotRunning)
-{
-    for (int bits = 0; bits < 16; ++bits) {
-        const bool running = bits & 1, isReason = bits & 2, expected = bits & 4, set = bits & 8;
-        DriveState state = keta();
-        state.statusRegister = running ? 8 : 0;
-        bool marked = false;
-        const QString line = formatDigitalStateAsString(state, "X", set ? 6 : 1, 4, isReason, expected, marked);
-        const bool wanted = !running && isReason && set != expected;
-        EXPECT_EQ(line, (set ? on : off) + "X" + (wanted ? mark : QString()) + "<br>") << bits;
-        EXPECT_EQ(marked, wanted) << bits;
-    }
-    bool marked = true;
-    formatDigitalStateAsString(keta(), "X", 1, 1, true, true, marked);
-    EXPECT_TRUE(marked) << "a mark of another line must survive";
-}

@@ -21,11 +21,7 @@ QueuedTask enableTask(bool enable)
 TEST(TaskQueue, PutsStopsFirstAndKeepsTheOrderOfTheRest)
 {
     constexpr int enable = 100, disable = 101, lineLost = 102;
-    const struct
-    {
-        const char *what;
-        std::vector<int> pushed, queued;
-    } rows[] = {
+    const std::tuple<const char *, std::vector<int>, std::vector<int>> rows[] = {
         {"as asked", {4, 9, 3, 9}, {4, 9, 3, 9}},
         {"a disable drops what would move", {3, 12, 15, 27, 4, 28, 30, 16, enable, disable}, {11, 3, 4, 16}},
         {"a repeated disable does not pile up", {4, disable, disable, disable}, {11, 4}},
@@ -39,9 +35,9 @@ TEST(TaskQueue, PutsStopsFirstAndKeepsTheOrderOfTheRest)
          {3, 26, 4, 26, 16, 16, disable, lineLost, lineLost},
          {11, 26, 16, 2, 3, 4}},
     };
-    for (const auto &row : rows) {
+    for (const auto &[what, pushed, queued] : rows) {
         TaskQueue queue;
-        for (const int code : row.pushed) {
+        for (const int code : pushed) {
             if (code == lineLost)
                 queue.pushDisconnectFirst();
             else if (code == enable || code == disable)
@@ -49,7 +45,7 @@ TEST(TaskQueue, PutsStopsFirstAndKeepsTheOrderOfTheRest)
             else
                 queue.push(static_cast<SessionTasks::Task>(code));
         }
-        EXPECT_EQ(queue.codes(), row.queued) << row.what;
+        EXPECT_EQ(queue.codes(), queued) << what;
     }
 }
 

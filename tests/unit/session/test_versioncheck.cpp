@@ -158,13 +158,3 @@ TEST(VersionCheck, RecommendsAnUpgradeAndSkipsTheProtocolThen)
               "Connected device firmware version is outdated, an upgrade is recommended. Download the latest FW from "
               "<i>https://wiki.tarnwell.example/wiki/Firmware</i>");
 }
-
-TEST(VersionCheck, FindsTheRecordOfAFamily)
-{
-    ASSERT_NE(supportedVersionOf(11214), nullptr);
-    EXPECT_EQ(supportedVersionOf(11214)->lowestCore, 1078);
-    ASSERT_NE(supportedVersionOf(4999), nullptr);
-    EXPECT_EQ(supportedVersionOf(4999)->recommendedCore, 1090);
-    EXPECT_EQ(supportedVersionOf(3999), nullptr);
-    EXPECT_EQ(supportedVersionOf(12000), nullptr);
-}

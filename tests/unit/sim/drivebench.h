@@ -39,6 +39,11 @@ protected:
         for (const auto &[address, value] : writes)
             EXPECT_EQ(drive.write(address, value), sim::Outcome::Done) << address << " := " << value;
     }
+    void enable()
+    {
+        drive.write(sim::reg::SoftEnable, 1);
+        drive.advanceCycles(5);
+    }
     /// Off and on again as it left the factory, for the next row of a table.
     void startAfresh()
     {

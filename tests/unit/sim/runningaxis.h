@@ -8,11 +8,6 @@
 class RunningAxis : public DriveBench
 {
 protected:
-    void enable()
-    {
-        drive.write(sim::reg::SoftEnable, 1);
-        drive.advanceCycles(5);
-    }
     bool has(std::int32_t statusBit) const { return drive.read(sim::reg::Status) & statusBit; }
     std::int32_t faults() const { return drive.read(sim::reg::Faults); }
     int position() const { return drive.read(sim::reg::PositionFeedback); }

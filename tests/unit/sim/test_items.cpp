@@ -12,9 +12,7 @@ using testing::ElementsAre;
 
 namespace {
 
-class Items : public DriveBench
-{
-};
+using Items = DriveBench;
 
 // Writing register 9 (80 09) chooses what each item returns, register 10 (80 0A) in which length.
 struct Exchange

@@ -8,9 +8,7 @@ using namespace sim;
 
 namespace {
 
-class Protection : public RunningAxis
-{
-};
+using Protection = RunningAxis;
 
 /// What is changed from outside or in the settings, and the fault that it leads to on a move of 1000 counts.
 struct Cause

@@ -22,11 +22,6 @@ protected:
         ASSERT_EQ(drive.write(reg::RecorderState, trigger), Outcome::Done);
     }
     bool isDone() const { return drive.read(reg::RecorderState) == 0; }
-    void enable()
-    {
-        drive.write(reg::SoftEnable, 1);
-        drive.advanceCycles(5);
-    }
     std::vector<std::int32_t> words()
     {
         std::vector<std::int32_t> all;

@@ -6,9 +6,7 @@ using namespace sim;
 
 namespace {
 
-class Registers : public DriveBench
-{
-};
+using Registers = DriveBench;
 
 std::int32_t limit(VirtualDrive &drive, int address, int flag)
 {
@@ -65,11 +63,7 @@ TEST(Profiles, EachHasItsIdentityLimitsAndOwnSettings)
 
 TEST_F(Registers, RefusedWritesSetTheirErrorBitAndChangeNothing)
 {
-    const struct
-    {
-        int address;
-        std::int32_t value, error;
-    } refusals[] = {
+    const std::tuple<int, std::int32_t, std::int32_t> refusals[] = {
         {6020, 1, ErrorReadOnly},
         {reg::BusVoltage, 1, ErrorReadOnly},
         {reg::NormalMode, 0, ErrorReadOnly},
@@ -84,11 +78,11 @@ TEST_F(Registers, RefusedWritesSetTheirErrorBitAndChangeNothing)
         {reg::PeakCurrent, -1, ErrorBelowMinimum},
         {reg::ReturnControl, 4, ErrorAboveMaximum},
     };
-    for (const auto &refusal : refusals) {
-        SCOPED_TRACE(refusal.address);
-        const std::int32_t before = drive.read(refusal.address);
-        EXPECT_EQ(errorsOfWriting(refusal.address, refusal.value), refusal.error);
-        EXPECT_EQ(drive.read(refusal.address), before);
+    for (const auto &[address, value, error] : refusals) {
+        SCOPED_TRACE(address);
+        const std::int32_t before = drive.read(address);
+        EXPECT_EQ(errorsOfWriting(address, value), error);
+        EXPECT_EQ(drive.read(address), before);
     }
     drive.write(reg::PeakCurrent, 40000);
     drive.write(9999, 1);

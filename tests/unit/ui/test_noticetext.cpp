@@ -8,11 +8,7 @@
 
 TEST(NoticeText, KeepsPlainMarkupAndDropsTheRest)
 {
-    const struct
-    {
-        const char *html;
-        const char *shown;
-    } notices[] = {
+    const std::pair<const char *, const char *> notices[] = {
         {"", ""},
         {"Version 2.0 & more", "Version 2.0 & more"},
         {"<b>Update</b> required<br/>now<BR />", "<b>Update</b> required<br>now<br>"},
@@ -27,13 +23,14 @@ TEST(NoticeText, KeepsPlainMarkupAndDropsTheRest)
         {"<<b", "&lt;&lt;b"},
         {"&lt;table&gt;", "&lt;table&gt;"},
     };
-    for (const auto &n : notices)
-        EXPECT_EQ(noticeText(n.html), n.shown) << n.html;
+    for (const auto &[html, shown] : notices)
+        EXPECT_EQ(noticeText(html), shown) << html;
 }
 
 TEST(NoticeText, IsLaidOutInAMomentWhateverTheServerSends)
 {
-    for (const char *piece : {"x", "<table><tr><td>a", "<img src=x width=100000>", "<ul><li>a", "<a href=http://x>y</a>", "<a a ","<h1><b>", "<", "</"}) {
+    for (const char *piece : {"x", "<table><tr><td>a", "<img src=x width=100000>", "<ul><li>a",
+                              "<a href=http://x>y</a>", "<a a ", "<h1><b>", "<", "</"}) {
         const QString notice = noticeText(QString(piece).repeated((1 << 20) / int(qstrlen(piece))));
         EXPECT_LE(notice.size(), 4 * 4000 + 1) << piece;
         QErrorMessage box;

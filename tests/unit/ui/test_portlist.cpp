@@ -14,24 +14,17 @@ SerialPort unixPort(const QString &name)
 
 TEST(PortList, AdaptersCarryASuffixAndTheLastOneIsChosen)
 {
-    const PortList list =
+    PortList list =
         portListOf({unixPort("ttyS0"), unixPort("ttyUSB0"), unixPort("ttyUSB1"), unixPort("ttyACM0")});
     EXPECT_EQ(list.items, QStringList({"/dev/ttyS0", "/dev/ttyUSB0 Possibly Zetabus V2 adapter",
                                        "/dev/ttyUSB1 Possibly Zetabus V2 adapter", "/dev/ttyACM0"}));
     EXPECT_EQ(list.current, 2);
-}
-
-TEST(PortList, WindowsPortsAreRecognisedByTheirUsbIdentity)
-{
-    const PortList list = portListOf(
+    // Windows' ports are recognised by their USB identity.
+    list = portListOf(
         {{"COM1", "COM1", "", "", 0, 0}, {"COM4", "COM4", "", "", 1027, 24577}, {"COM5", "COM5", "", "", 1027, 24592}});
     EXPECT_EQ(list.items, QStringList({"COM1", "COM4 Zetabus V2 adapter", "COM5"}));
     EXPECT_EQ(list.current, 1);
-}
-
-TEST(PortList, OtherNamesAreLeftOutAndAnEmptyListChoosesNothing)
-{
-    const PortList list = portListOf({unixPort("lp0"), unixPort("rfcomm0")});
+    list = portListOf({unixPort("lp0"), unixPort("rfcomm0")});
     EXPECT_TRUE(list.items.isEmpty());
     EXPECT_EQ(list.current, -1);
     EXPECT_EQ(portListOf({unixPort("ttyS0"), unixPort("ttyS1")}).current, 0);

@@ -45,21 +45,17 @@ TEST(SanityChecks, ThresholdsTooNearToAnotherWarn)
         EXPECT_EQ(text.contains("Homing hard stop threshold [HMH]"), row.hardStop) << &row - rows;
         EXPECT_EQ(text.contains("Over speed fault threshold [FEV]"), row.overSpeed) << &row - rows;
         EXPECT_EQ(text.isEmpty(), !row.hardStop && !row.overSpeed) << &row - rows;
-        EXPECT_TRUE(text.isEmpty() || (text.startsWith("Parameter sanity check warnings:<ul><li>") &&
-                                       text.contains("</li></ul>")));
+        EXPECT_TRUE(text.isEmpty() ||
+                    (text.startsWith("Parameter sanity check warnings:<ul><li>") && text.contains("</li></ul>")));
     }
 }
 
-TEST(PairRules, PolesComeInPairs)
+TEST(PairRules, PolesComeInPairsAndTheOtherOfAPairFollowsTheOneThatWasEdited)
 {
     EXPECT_EQ(evenPoleCount(7), 6);
     EXPECT_EQ(evenPoleCount(8), 8);
     EXPECT_EQ(evenPoleCount(1), 0);
     EXPECT_EQ(evenPoleCount(0), 0);
-}
-
-TEST(PairRules, TheOtherOfThePairFollowsTheOneThatWasEdited)
-{
     EXPECT_EQ(orderedAfterLow(5.0, 4.0), std::make_pair(5.0, 5.0));
     EXPECT_EQ(orderedAfterHigh(5.0, 4.0), std::make_pair(4.0, 4.0));
     EXPECT_EQ(orderedAfterLow(4.0, 4.0), std::make_pair(4.0, 4.0));
@@ -68,23 +64,17 @@ TEST(PairRules, TheOtherOfThePairFollowsTheOneThatWasEdited)
 
 TEST(UnderVoltageWarning, EachFamilyHasItsOwnLimitAndOtherModelsNone)
 {
-    const struct
-    {
-        const char *model;
-        double volts;
-        bool visible;
-        const char *text;
-    } rows[] = {
+    const std::tuple<const char *, double, bool, const char *> rows[] = {
         {"Tarnwell Devices Torva 4000", 69.99, true, "operating Torva under 70 VDC"},
         {"Tarnwell Devices TORVA", 70, false, ""},
         {"keta pro", 19.99, true, "operating Keta under 20 VDC"},
         {"KETA", 20, false, ""},
         {"N/A", 1, false, ""},
     };
-    for (const auto &row : rows) {
-        const SupplyWarning warning = underVoltageWarning(row.model, row.volts);
-        EXPECT_EQ(warning.visible, row.visible) << row.model;
-        EXPECT_THAT(warning.text.toStdString(), HasSubstr(row.text)) << row.model;
+    for (const auto &[model, volts, visible, text] : rows) {
+        const SupplyWarning warning = underVoltageWarning(model, volts);
+        EXPECT_EQ(warning.visible, visible) << model;
+        EXPECT_THAT(warning.text.toStdString(), HasSubstr(text)) << model;
     }
     EXPECT_TRUE(underVoltageWarning("N/A", 1).text.isEmpty());
 }

@@ -48,16 +48,12 @@ TEST(UnitConversion, SuffixOfTheLabelChoosesTheConversion)
     UnitConversion units = screwAxis();
     units.mul = 2;
     units.div = 4;
-    const struct
-    {
-        const char *label;
-        const char *text;
-    } expected[] = {
+    const std::pair<const char *, const char *> expected[] = {
         {"HLLrpos", "= 0.5 mm"},    {"CVLrvel", "= 625 mm/s"}, {"CALracc", "= 1.5625e+06 mm/s²"}, {"FPThpos", "= 1 mm"},
         {"FVThvel", "= 2500 mm/s"}, {"XYZhacc", "ERROR"},      {"somethingElse", "ERROR"},
     };
-    for (const auto &row : expected)
-        EXPECT_EQ(units.labelBySuffix(400, QString::fromLatin1(row.label)), row.text) << row.label;
+    for (const auto &[label, text] : expected)
+        EXPECT_EQ(units.labelBySuffix(400, QString::fromLatin1(label)), text) << label;
 }
 
 TEST(UnitConversion, LabelsThatFollowAControlAreToldByTheirNames)
@@ -85,15 +81,5 @@ TEST(UnitConversion, SetpointIsShownAsWhatItCommandsInTheActiveMode)
     for (const auto &[mode, text] : modes) {
         active.controlMode = mode;
         EXPECT_EQ(units.setpointLabel(8192, active), text) << mode;
-    }
-}
-
-TEST(AxisUnits, NamesOfAllAxisTypesAndOfNone)
-{
-    const char *plurals[] = {"error", "mm", "µm", "inches", "revolutions", "degrees", "error"};
-    const char *singulars[] = {"error", "mm", "µm", "inch", "revolution", "degree", "error"};
-    for (int type = -1; type <= 5; ++type) {
-        EXPECT_EQ(axisUnits(type).plural, plurals[type + 1]);
-        EXPECT_EQ(axisUnits(type).singular, singulars[type + 1]);
     }
 }
