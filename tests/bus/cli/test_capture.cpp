@@ -259,15 +259,17 @@ TEST_F(CliCapture, LostLineSaysThatTheDriveMayStillRunOrDisablesItThroughANewOpe
                         "fault", "--stimulus", "0,0.1,100,0.1", "--csv", "none.csv"});
         ASSERT_TRUE(bus().waitForRegister(DriveAddress, Setpoint, 100));
         bus().unplug();
-        if (comesBack)
+        if (comesBack) {
             ASSERT_EQ(bus().plugIn(), "");
+        }
         const Ran ran = failed(finish(process), testing::_);
         EXPECT_EQ(ran.err.contains("has not confirmed that it is disabled. It may still be running or start to"),
                   !comesBack);
         EXPECT_EQ(bus().read(DriveAddress, SoftEnable), !comesBack) << ran.err.toStdString();
         EXPECT_FALSE(QFile::exists("none.csv"));
-        if (!comesBack)
+        if (!comesBack) {
             ASSERT_EQ(bus().plugIn(), "");
+        }
     }
     EXPECT_TRUE(bus().waitForRegister(DriveAddress, Status, [](std::int32_t bits) { return !(bits & Running); }))
         << "the end of a controlled stop";

@@ -277,8 +277,9 @@ TEST_F(Stops, AStreamDoesNotOutliveItsConnectionWhateverHappensToOneReply)
             session().setStimulus(100, 0.1, -100, 0.1, false);
             ASSERT_TRUE(waitUntilIdle());
             bus().powerCycle();
-            if (session().isConnected())
+            if (session().isConnected()) {
                 ASSERT_TRUE(runToEnd(Connection::TaskDisconnect));
+            }
         }
     }
 }
