@@ -183,14 +183,14 @@ TEST_F(CliCapture, TellsAllThatItKnowsInJsonAndInThePage)
     EXPECT_EQ(overshoot, beginsBefore ? figures["overshoot"] : QJsonValue());
     EXPECT_FALSE(columns.json().object().contains("axisSheet")) << "it went one way only";
     EXPECT_THAT(run({"figures", "step.csv"}).out.toStdString(),
-                HasSubstr(beginsBefore ? "Peak tracking error\t1000 cnts\n" : "the setpoint does not change"));
+                HasSubstr(beginsBefore ? "Peak tracking error\t1000 counts\n" : "the setpoint does not change"));
     EXPECT_EQ(run({"figures", "missing.html"}).status, 1);
 }
 
 TEST_F(CliCapture, AMoveThereAndBackHasAnAxisSheet)
 {
     const Ran ran = good(onDrive({"--json", "capture", "--enable", "--channels", "posmeas,torquemeas", "--rate", "2500",
-                                  "--stimulus", "0,0.1,1000,0.1"}));
+                                  "--stimulus", "0,0.15,1200,0.15"}));
     const QJsonObject sheet = ran.json().object()["axisSheet"].toObject();
     EXPECT_TRUE(sheet["refusal"].isNull()) << sheet["refusal"].toString().toStdString();
     EXPECT_GT(sheet["acceleration"].toObject()["value"].toDouble(), 0.0);
