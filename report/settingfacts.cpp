@@ -182,9 +182,16 @@ std::optional<SettingFacts> settingFacts(const QString &name, bool isTorva)
                         isTorva ? row->torvaStandard : row->standard, choicesOf(name)};
 }
 
+/// What a value is called; empty for one that is no choice, as a file from anywhere may have.
+static QString wordOf(double value, const SettingFacts &facts)
+{
+    const bool isChoice = value >= 0.0 && value < double(facts.choices.size());
+    return isChoice ? facts.choices.at(int(value)) : QString();
+}
+
 QString settingCaption(const SingleParam &setting, const SettingFacts &facts)
 {
-    const QString word = facts.choices.value(int(setting.value)), standard = facts.choices.value(int(facts.standard));
+    const QString word = wordOf(setting.value, facts), standard = wordOf(facts.standard, facts);
     if (word.isEmpty())
         return facts.caption;
     if (differsFromStandard(setting, facts) && !standard.isEmpty())
