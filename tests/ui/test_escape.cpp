@@ -62,10 +62,11 @@ TEST_F(Escape, DisablesFromFieldsPopupsMenusAndModelessWindows)
     ASSERT_TRUE(waitFor([&] { return menu.isVisible(); }));
     expectDisable("a menu", &menu);
     menu.close();
+    ASSERT_TRUE(waitFor([] { return QApplication::activePopupWidget() == nullptr; }));
 
     press(Qt::Key_P, Qt::ControlModifier);
     auto *overrides = control<QDialog>("overrideParams");
-    ASSERT_TRUE(overrides->isVisible());
+    ASSERT_TRUE(waitFor([&] { return overrides->isVisible(); }));
     expectDisable("the overrides dialog", overrides);
     EXPECT_FALSE(overrides->isVisible());
 

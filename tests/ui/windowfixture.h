@@ -97,15 +97,7 @@ public:
     /// The next file dialog gets this name, or is cancelled.
     void chooseFile(const QString &file)
     {
-        expect([file](QWidget *widget) {
-            auto *dialog = qobject_cast<QFileDialog *>(widget);
-            if (!dialog)
-                return false;
-            if (file.isEmpty())
-                return dialog->close();
-            dialog->selectFile(file);
-            return QMetaObject::invokeMethod(dialog, "accept");
-        });
+        expect([this, file](QWidget *widget) { return answerFileDialog(widget, file); });
     }
     /// Whatever is open is handed to `action`.
     void expect(const std::function<bool(QWidget *)> &action) { m_expected << action; }
@@ -114,6 +106,19 @@ public:
     QStringList texts; ///< of all message boxes that were open, in order
 
 private:
+    bool answerFileDialog(QWidget *widget, const QString &file)
+    {
+        auto *dialog = qobject_cast<QFileDialog *>(widget);
+        if (!dialog)
+            return false;
+        if (file.isEmpty())
+            return dialog->close();
+        dialog->selectFile(file);
+        const bool isAnswered = QMetaObject::invokeMethod(dialog, "accept");
+        if (dialog->isVisible()) // still reading the folder, which unsets the name
+            m_expected.prepend([this, file](QWidget *again) { return answerFileDialog(again, file); });
+        return isAnswered;
+    }
     void look()
     {
         QWidget *open = QApplication::activeModalWidget();

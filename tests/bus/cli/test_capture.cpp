@@ -253,7 +253,7 @@ TEST_F(CliCapture, PlotPageHoldsAllThatItNeeds)
 
 TEST_F(CliCapture, LostLineSaysThatTheDriveMayStillRunOrDisablesItThroughANewOpening)
 {
-    for (const bool comesBack : {false, true}) {
+    for (const bool comesBack : {true, false}) { // the second leaves the drive enabled
         QProcess process;
         start(process, {"--port", port(), "--node", "5", "capture", "--enable", "--channels", "posmeas", "--trigger",
                         "fault", "--stimulus", "0,0.1,100,0.1", "--csv", "none.csv"});
@@ -267,10 +267,10 @@ TEST_F(CliCapture, LostLineSaysThatTheDriveMayStillRunOrDisablesItThroughANewOpe
                   !comesBack);
         EXPECT_EQ(bus().read(DriveAddress, SoftEnable), !comesBack) << ran.err.toStdString();
         EXPECT_FALSE(QFile::exists("none.csv"));
-        if (!comesBack) {
-            ASSERT_EQ(bus().plugIn(), "");
-        }
+        if (!comesBack)
+            break;
+        EXPECT_TRUE(bus().waitForRegister(DriveAddress, Status, [](std::int32_t bits) { return !(bits & Running); }))
+            << "the end of a controlled stop";
+        bus().powerCycle();
     }
-    EXPECT_TRUE(bus().waitForRegister(DriveAddress, Status, [](std::int32_t bits) { return !(bits & Running); }))
-        << "the end of a controlled stop";
 }
