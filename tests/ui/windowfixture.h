@@ -16,6 +16,7 @@
 #include <QDialogButtonBox>
 #include <QFileDialog>
 #include <QLabel>
+#include <QLineEdit>
 #include <QListWidget>
 #include <QMessageBox>
 #include <QPushButton>
@@ -97,7 +98,7 @@ public:
     /// The next file dialog gets this name, or is cancelled.
     void chooseFile(const QString &file)
     {
-        expect([this, file](QWidget *widget) { return answerFileDialog(widget, file); });
+        expect([file](QWidget *widget) { return answerFileDialog(widget, file); });
     }
     /// Whatever is open is handed to `action`.
     void expect(const std::function<bool(QWidget *)> &action) { m_expected << action; }
@@ -106,7 +107,7 @@ public:
     QStringList texts; ///< of all message boxes that were open, in order
 
 private:
-    bool answerFileDialog(QWidget *widget, const QString &file)
+    static bool answerFileDialog(QWidget *widget, const QString &file)
     {
         auto *dialog = qobject_cast<QFileDialog *>(widget);
         if (!dialog)
@@ -114,10 +115,9 @@ private:
         if (file.isEmpty())
             return dialog->close();
         dialog->selectFile(file);
-        const bool isAnswered = QMetaObject::invokeMethod(dialog, "accept");
-        if (dialog->isVisible()) // still reading the folder, which unsets the name
-            m_expected.prepend([this, file](QWidget *again) { return answerFileDialog(again, file); });
-        return isAnswered;
+        if (auto *name = dialog->findChild<QLineEdit *>("fileNameEdit")) // unset while the folder is being read
+            name->setText(file);
+        return QMetaObject::invokeMethod(dialog, "accept");
     }
     void look()
     {
