@@ -9,7 +9,7 @@ namespace {
 
 constexpr double twoPi = 6.283185307179586;
 constexpr double speedWindow = 0.002;    ///< s on either side
-constexpr double mostReach = 1e6;         ///< samples; no record has as many
+constexpr double mostReach = 1e6;        ///< samples; no record has as many
 constexpr double slowestShare = 0.03;    ///< of the highest speed
 constexpr double slowestSteps = 1.5;     ///< encoder steps in the time over which speed is taken
 constexpr double fewestCounts = 100.0;   ///< a run shorter than this is no motion

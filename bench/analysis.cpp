@@ -1,4 +1,5 @@
-// What the figures of a step, the axis sheet, a capture's file and the report cost, on a full record of the virtual drive.
+// What the figures of a step, the axis sheet, a capture's file and the report cost, on a full record of the virtual
+// drive.
 #include "capturejson.h"
 #include "catalogue.h"
 #include "registers.h"

@@ -1,5 +1,5 @@
-// What it takes from pressing "Start capture" to the plot, on a line as quick as a real one, and what drawing a capture of
-// sixteen channels into the open view takes. Each beside what it cannot be quicker than, measured in the same run.
+// What it takes from pressing "Start capture" to the plot, on a line as quick as a real one, and what drawing a capture
+// of sixteen channels into the open view takes. Each beside what it cannot be quicker than, measured in the same run.
 #include "connection.h"
 #include "enginestart.h"
 #include "helpview.h"
@@ -28,7 +28,7 @@ namespace {
 
 constexpr int rounds = 20;
 constexpr int limitMs = 30000;
-constexpr int words = 2000; // of the recorder
+constexpr int words = 2000;  // of the recorder
 constexpr int instantly = 3; // row of the trigger list
 
 bool waitUntil(const std::function<bool()> &holds)
@@ -103,7 +103,8 @@ bool draw()
         view.showPlot(page, base, HelpView::Zoom::Keep, scope);
     });
     desk.captured(sixteenChannels());
-    if (!waitUntil([&] { return ask(view, QStringLiteral("Boolean(window.velbrinView && velbrinView.drawn)")).toBool(); }))
+    if (!waitUntil(
+            [&] { return ask(view, QStringLiteral("Boolean(window.velbrinView && velbrinView.drawn)")).toBool(); }))
         return false;
     std::vector<double> drawn, alone;
     for (int i = 0; i < rounds; ++i) {
@@ -176,7 +177,8 @@ bool press()
         const QString idle = start->text();
         taken.start();
         start->click();
-        const QString count = QStringLiteral("window.velbrinScope && (velbrinScope.context.captures || [{id: 0}])[0].id");
+        const QString count =
+            QStringLiteral("window.velbrinScope && (velbrinScope.context.captures || [{id: 0}])[0].id");
         if (!waitUntil([&] { return int(data.size()) == i + 1; }) ||
             !waitUntil([&] { return ask(*view, count).toInt() == i + 1; }))
             return false;

@@ -1,6 +1,6 @@
 // What the window costs at its start, beside a bare window with an empty view of the same web engine under the same
-// switches: time to the first paint and to the first page, and memory of all processes then. Both are started in turn by
-// this program, so that the machine is the same; read the ratios, not the figures.
+// switches: time to the first paint and to the first page, and memory of all processes then. Both are started in turn
+// by this program, so that the machine is the same; read the ratios, not the figures.
 #include "enginestart.h"
 #include "helpview.h"
 #include "mw.h"

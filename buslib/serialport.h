@@ -9,8 +9,8 @@
 
 #include <cstdint>
 
-/// Read time-out of ports opened from now on, in ms (500 at first); a port takes it as whole tenths of a second, rounded
-/// down (below 100 a read never waits). Set through zbSetTimeout, 0-5000.
+/// Read time-out of ports opened from now on, in ms (500 at first); a port takes it as whole tenths of a second,
+/// rounded down (below 100 a read never waits). Set through zbSetTimeout, 0-5000.
 void setReadTimeout(std::uint16_t milliseconds);
 std::uint16_t readTimeout();
 

@@ -36,11 +36,11 @@ struct DriveIdentity
     int buildRevision = 0;
 };
 
-/// What a file may say at most. A drive records words of 16 bits, 50 microseconds apart or more; beyond these limits sums
-/// and squares would end in numbers that are none, and a figure's window would hold millions of samples.
-constexpr double largestCaptureNumber = 1e15;   ///< of any number in a capture, either sign
-constexpr double shortestSamplePeriod = 1e-6;   ///< s
-constexpr double longestSamplePeriod = 3600.0;  ///< s
+/// What a file may say at most. A drive records words of 16 bits, 50 microseconds apart or more; beyond these limits
+/// sums and squares would end in numbers that are none, and a figure's window would hold millions of samples.
+constexpr double largestCaptureNumber = 1e15;  ///< of any number in a capture, either sign
+constexpr double shortestSamplePeriod = 1e-6;  ///< s
+constexpr double longestSamplePeriod = 3600.0; ///< s
 
 /// A plain value, implicitly shared: copies are cheap and may travel between threads.
 struct CaptureRecord

@@ -20,7 +20,7 @@ struct Text
 
 bool isPipe(const QString &name)
 {
-    struct stat info{};
+    struct stat info = {};
     return stat(QFile::encodeName(name).constData(), &info) == 0 && S_ISFIFO(info.st_mode);
 }
 

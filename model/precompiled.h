@@ -1,6 +1,6 @@
 /// \file
-/// What the rooms with Qt's core are compiled with, compiled once: headers that do not change. A source still names what
-/// it uses.
+/// What the rooms with Qt's core are compiled with, compiled once: headers that do not change. A source still names
+/// what it uses.
 #ifndef VELBRIN_MODEL_PRECOMPILED_H
 #define VELBRIN_MODEL_PRECOMPILED_H
 

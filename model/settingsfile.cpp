@@ -145,8 +145,9 @@ QString readEntry(const IniValues &ini, const QString &entry, SingleParam *p)
 QString typeWarning(int fileType, int connectedType)
 {
     if (fileType == 0)
-        return Parameters::tr("Warning: the loaded file was saved without a drive. What nobody has typed into it are start "
-                              "values and nobody's settings: the drive's own stay in their place.");
+        return Parameters::tr(
+            "Warning: the loaded file was saved without a drive. What nobody has typed into it are start "
+            "values and nobody's settings: the drive's own stay in their place.");
     return Parameters::
         tr("Warning: the loaded file is saved on different device type <b>%1</b> while connected device type is "
            "<b>%2</b>. Some settings and their value ranges may be incompatible. Apply button might cause connection "

@@ -86,8 +86,9 @@ QString settingsSection(const CaptureRecord &capture)
     for (const ChangedSetting &changed : changedSettings(capture.settings, capture.drive.type)) {
         const QString value = html::number(changed.setting.value), standard = html::number(changed.facts.standard);
         rows += QLatin1String("<tr>");
-        for (const QString &cell : {changed.setting.name, value, changed.facts.unit,
-                                    Text::tr("new drive: %1").arg(standard), settingCaption(changed.setting, changed.facts)})
+        for (const QString &cell :
+             {changed.setting.name, value, changed.facts.unit, Text::tr("new drive: %1").arg(standard),
+              settingCaption(changed.setting, changed.facts)})
             rows += QLatin1String("<td>") + cell.toHtmlEscaped() + QLatin1String("</td>");
         rows += QLatin1String("</tr>\n");
     }

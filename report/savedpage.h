@@ -5,9 +5,9 @@
 
 #include "capturefigures.h"
 
-/// The plot page with its capture (see capturePage), which Velbrin opens again. Below the charts stand drive, time, note,
-/// what was recorded, the figures, and the settings that a new drive does not have, all of it without scripts; where
-/// there are none, a still picture takes the charts' place. It refers to the scripts; see standalonePage.
+/// The plot page with its capture (see capturePage), which Velbrin opens again. Below the charts stand drive, time,
+/// note, what was recorded, the figures, and the settings that a new drive does not have, all of it without scripts;
+/// where there are none, a still picture takes the charts' place. It refers to the scripts; see standalonePage.
 QString savedCapturePage(const CaptureRecord &capture, const CaptureFigures &figures);
 
 #endif

@@ -22,9 +22,9 @@ struct Received
     std::optional<QList<NodeType>> nodes;
     std::optional<Parameters> list;
     DriveState live;
-    int polls = 0; ///< of the live state
-    int errors = 0;     ///< messages that something went wrong
-    bool notes = true;  ///< whether what the session merely remarks is worth a message
+    int polls = 0;                                ///< of the live state
+    int errors = 0;                               ///< messages that something went wrong
+    bool notes = true;                            ///< whether what the session merely remarks is worth a message
     std::optional<DisableOutcome> disableOutcome; ///< how a disable, or an enable that was taken back, ended
     CaptureState captureState = CaptureState::Idle;
     std::optional<QList<CaptureData>> plot;

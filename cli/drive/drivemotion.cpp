@@ -106,8 +106,9 @@ bool disableDrive(DriveClient &client)
         client.say(tr("The drive has not confirmed that it is disabled. It may still be running or start to: use the "
                       "machine's own stop."));
     else if (*outcome == DisableOutcome::StillEnabled && (!client.isUp() || client.drive().isSoftEnabled()))
-        client.say(tr("The drive shows that it is still enabled. It may still be running or start to: use the machine's "
-                      "own stop."));
+        client.say(
+            tr("The drive shows that it is still enabled. It may still be running or start to: use the machine's "
+               "own stop."));
     else if (*outcome == DisableOutcome::StillEnabled)
         client.say(tr("The drive took the disable command but stays enabled: by its settings, its enable input alone "
                       "decides."));

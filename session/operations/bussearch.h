@@ -13,7 +13,8 @@ constexpr int scanTimeoutMs = 100; ///< read time-out of a search: what a silent
 class BusSearch : private Operation
 {
 public:
-    /// `serveDisable` disables a drive where that was asked for meanwhile; false when the line could not be opened again.
+    /// `serveDisable` disables a drive where that was asked for meanwhile; false when the line could not be opened
+    /// again.
     BusSearch(OperationContext &context, std::function<bool()> serveDisable)
         : Operation(context), m_serveDisable(std::move(serveDisable))
     {

@@ -31,7 +31,7 @@ private:
     std::function<bool()> m_poll;
     struct Run
     {
-        ScopeRequest request;    ///< as armed: what is ticked while the recorder waits is for the next capture
+        ScopeRequest request;      ///< as armed: what is ticked while the recorder waits is for the next capture
         double samplePeriod = 0.0; ///< s
         bool pending = false;      ///< armed and not read yet
     } m_run;

@@ -47,7 +47,8 @@ void DriveCommands::applyEnableState(const EnableRequest &request)
         writeCommand(reg::SoftEnable, 1, SessionText::tr("The drive refused to be enabled.<br>Device errors: <br>%1"));
     if (enabled == Reply::None)
         m_stops.undoEnable();
-    // Not past a disable that was asked for meanwhile, waiting or served already, and not on a drive that did not answer.
+    // Not past a disable that was asked for meanwhile, waiting or served already, and not on a drive that did not
+    // answer.
     if (!request.force || enabled != Reply::Done || m_pauses.serveWaitingDisable() ||
         m_stops.servedDisables() != servedBefore)
         return;

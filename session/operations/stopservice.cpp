@@ -183,7 +183,8 @@ void StopService::undoEnable()
     if (outcome == DisableOutcome::Disabled) {
         m_line.startTask();
         m_line.clearStatus(); // told here; the line works
-        // 2534 := 0 is refused by a drive that was not forced, which is nobody's news and not the next command's answer.
+        // 2534 := 0 is refused by a drive that was not forced, which is nobody's news and not the next command's
+        // answer.
         m_drive.writeSetting(reg::ErrorBits, 0);
         m_atStake.mayBeEnabled = false;
     } else {

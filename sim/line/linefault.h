@@ -33,7 +33,7 @@ struct LineFault
 
     Kind kind = None;
     int at = anyByte;
-    int skip = 0;        ///< replies that still pass unharmed
+    int skip = 0;          ///< replies that still pass unharmed
     int count = unlimited; ///< replies that are hit, then the line is well again
 
     /// Every kind but None, for whoever tries them all.

@@ -32,19 +32,22 @@ bool exists(const std::string &path)
 
 } // namespace
 
-/// Whether no other virtual drive that runs has this name. The kernel forgets the claim with the process, so that nothing
-/// is left behind by one that was killed; the terminal's own number would not tell, as it soon belongs to another.
+/// Whether no other virtual drive that runs has this name. The kernel forgets the claim with the process, so that
+/// nothing is left behind by one that was killed; the terminal's own number would not tell, as it soon belongs to
+/// another.
 bool PortLink::claimName()
 {
     if (m_claim >= 0)
         return true;
     std::error_code ignored;
-    const auto folder = std::filesystem::weakly_canonical(std::filesystem::absolute(m_path, ignored).parent_path(), ignored);
+    const auto folder =
+        std::filesystem::weakly_canonical(std::filesystem::absolute(m_path, ignored).parent_path(), ignored);
     const std::string full = (folder / std::filesystem::path(m_path).filename()).string();
     sockaddr_un name{};
     name.sun_family = AF_UNIX;
     // The first byte stays 0: a name without a file.
-    std::snprintf(name.sun_path + 1, sizeof name.sun_path - 1, "velbrin-sim-link-%016zx", std::hash<std::string>()(full));
+    std::snprintf(name.sun_path + 1, sizeof name.sun_path - 1, "velbrin-sim-link-%016zx",
+                  std::hash<std::string>()(full));
     const int claim = socket(AF_UNIX, SOCK_DGRAM | SOCK_CLOEXEC, 0);
     if (claim >= 0 && bind(claim, reinterpret_cast<const sockaddr *>(&name), sizeof name) == 0) {
         m_claim = claim;

@@ -1,5 +1,5 @@
-// Any bytes as a saved capture: refused without a change, or taken over as something that figures, pages and reports can be
-// made of and that comes back from a saved page as it was.
+// Any bytes as a saved capture: refused without a change, or taken over as something that figures, pages and reports
+// can be made of and that comes back from a saved page as it was.
 #include "capturefile.h"
 #include "capturejson.h"
 #include "capturetext.h"

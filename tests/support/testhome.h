@@ -1,6 +1,6 @@
 /// \file
-/// A home folder of their own for tests, so that they neither read nor change the user's settings. And English, whatever
-/// the machine's language and regional formats.
+/// A home folder of their own for tests, so that they neither read nor change the user's settings. And English,
+/// whatever the machine's language and regional formats.
 #ifndef VELBRIN_TESTS_TESTHOME_H
 #define VELBRIN_TESTS_TESTHOME_H
 

@@ -43,8 +43,7 @@ protected:
             drive.write(CONTROL_MODE, VELOCITY_CONTROL + 1);
         });
         ASSERT_GT(bus().read(DriveAddress, POSITION), 10000);
-        ASSERT_TRUE(waitFor(
-            [&] { return m_state.position == bus().read(DriveAddress, POSITION); }));
+        ASSERT_TRUE(waitFor([&] { return m_state.position == bus().read(DriveAddress, POSITION); }));
         applyMode(POSITION_CONTROL);
     }
 };

@@ -73,8 +73,7 @@ protected:
     {
         ASSERT_TRUE(waitFor([this] { return captureText() == "Start capture"; }));
         ASSERT_TRUE(waitFor([this] { return run("$('canvas.flot-base').length").toInt() > 0; }))
-            << qPrintable(connectionText() + ", " + shownMessage(m_window.get()) + ", " +
-                          shownText().left(80));
+            << qPrintable(connectionText() + ", " + shownMessage(m_window.get()) + ", " + shownText().left(80));
     }
     /// Types a target and presses "Set Abs".
     void stepTo(int target)
@@ -86,15 +85,15 @@ protected:
     HelpView *view() const { return control<HelpView>("helpView"); }
     QVariant run(const QString &script) const { return runScript(view(), script); }
     QString shownText() const { return pageText(view()); }
-    /// Samples (time in s, value as recorded) of a series in a chart of the plot on display, whatever its unit is there.
+    /// Samples (time in s, value as recorded) of a series in a chart of the plot on display, whatever its unit is
+    /// there.
     QVector<QPointF> samples(const char *group, int series) const
     {
-        const QString text =
-            run(QString("(c => JSON.stringify(c.times.map((t, k) => [t, c.values[k]])))"
-                        "(velbrinScope.charts.find(chart => chart.id === '%1').channels[%2])")
-                    .arg(group)
-                    .arg(series))
-                .toString();
+        const QString text = run(QString("(c => JSON.stringify(c.times.map((t, k) => [t, c.values[k]])))"
+                                         "(velbrinScope.charts.find(chart => chart.id === '%1').channels[%2])")
+                                     .arg(group)
+                                     .arg(series))
+                                 .toString();
         QVector<QPointF> result;
         for (const QJsonValue point : QJsonDocument::fromJson(text.toUtf8()).array())
             result << QPointF(point.toArray().at(0).toDouble(), point.toArray().at(1).toDouble());

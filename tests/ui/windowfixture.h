@@ -7,9 +7,9 @@
 #include "virtualbusfixture.h" // before Qt, whose keywords it uses as names
 
 #include "loopbackhttpserver.h"
-#include "waitfor.h"
 #include "mw.h"
 #include "printqt.h"
+#include "waitfor.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -59,7 +59,8 @@ public:
     }
 
     /// The next message box gets this button pressed, after it was looked at.
-    void press(const QString &buttonText, const std::function<void(QWidget *)> &look = [](QWidget *) {})
+    void press(
+        const QString &buttonText, const std::function<void(QWidget *)> &look = [](QWidget *) {})
     {
         expect([buttonText, look](QWidget *box) {
             look(box);
@@ -178,10 +179,11 @@ protected:
         options.pauseScale = 0.01;
         options.webEngine = m_webEngine;
         m_window = std::make_unique<MW>(options);
-        QObject::connect(&m_window->session(), &Connection::statePolled, m_window.get(), [this](const DriveState &state) {
-            m_state = state;
-            ++m_polls;
-        });
+        QObject::connect(&m_window->session(), &Connection::statePolled, m_window.get(),
+                         [this](const DriveState &state) {
+                             m_state = state;
+                             ++m_polls;
+                         });
         m_window->show();
         bringToFront();
     }

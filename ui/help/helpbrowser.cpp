@@ -110,7 +110,7 @@ void HelpBrowser::follow(const QUrl &url)
         if (m_shows == Shows::Plot) // no other page has a say in the scope
             emit scopeLink(url);
     } else {
-        m_limit.stop();  // the page that was loading is given up, which says nothing about the network
+        m_limit.stop();   // the page that was loading is given up, which says nothing about the network
         m_shows = m_help; // a plot that stood here is gone, and with it its link back to the help
         m_view->loadPage(offlineCopyOf(url));
         emit plotLeft();

@@ -48,8 +48,8 @@ public:
 signals:
     /// The wiki did not answer in time.
     void timedOut();
-    void saveWanted();   ///< the plot page's link, or the button
-    void redrawWanted(); ///< the plot as it was captured, without any zoom
+    void saveWanted();               ///< the plot page's link, or the button
+    void redrawWanted();             ///< the plot as it was captured, without any zoom
     void scopeLink(const QUrl &url); ///< of the bar and the tables around the charts
     void plotLeft();                 ///< for help or another address
     /// The picture is written, or not: then with the reason.

@@ -49,7 +49,8 @@ void HelpEngine::followPalette(const QPalette &palette)
     const bool dark = palette.color(QPalette::Window).lightness() < 128;
     QWebEngineScript script;
     script.setName(QStringLiteral("palette"));
-    script.setSourceCode(QString::fromLatin1(paletteScript).arg(dark ? QStringLiteral("dark") : QStringLiteral("light")));
+    script.setSourceCode(
+        QString::fromLatin1(paletteScript).arg(dark ? QStringLiteral("dark") : QStringLiteral("light")));
     page.setBackgroundColor(dark ? QColor(0x1e, 0x1e, 0x1e) : QColor(Qt::white)); // no white flash before a page
     script.setInjectionPoint(QWebEngineScript::DocumentCreation);
     script.setWorldId(QWebEngineScript::MainWorld);

@@ -11,8 +11,8 @@
 #include <QWebEngineView>
 #include <memory>
 
-/// To be made once the window is on the screen. The members stand in the order in which the engine wants to be ended: the
-/// last first.
+/// To be made once the window is on the screen. The members stand in the order in which the engine wants to be ended:
+/// the last first.
 struct HelpEngine
 {
     explicit HelpEngine(QWidget *owner);

@@ -10,11 +10,10 @@ HelpPage::HelpPage(QWebEngineProfile *profile, QObject *owner) : QWebEnginePage(
 {
     QWebEngineSettings *can = settings();
     for (const auto denied :
-         {QWebEngineSettings::PluginsEnabled, QWebEngineSettings::PdfViewerEnabled,
-          QWebEngineSettings::WebGLEnabled, QWebEngineSettings::JavascriptCanOpenWindows,
-          QWebEngineSettings::JavascriptCanAccessClipboard, QWebEngineSettings::LocalContentCanAccessRemoteUrls,
-          QWebEngineSettings::FullScreenSupportEnabled, QWebEngineSettings::ScreenCaptureEnabled,
-          QWebEngineSettings::NavigateOnDropEnabled})
+         {QWebEngineSettings::PluginsEnabled, QWebEngineSettings::PdfViewerEnabled, QWebEngineSettings::WebGLEnabled,
+          QWebEngineSettings::JavascriptCanOpenWindows, QWebEngineSettings::JavascriptCanAccessClipboard,
+          QWebEngineSettings::LocalContentCanAccessRemoteUrls, QWebEngineSettings::FullScreenSupportEnabled,
+          QWebEngineSettings::ScreenCaptureEnabled, QWebEngineSettings::NavigateOnDropEnabled})
         can->setAttribute(denied, false);
     // Pages that would open a window of their own are handed out like any other link.
     connect(this, &QWebEnginePage::newWindowRequested, this,

@@ -231,9 +231,9 @@ void HelpView::savePng(const QString &fileName, int width)
     if (isSaving())
         return;
     if (!isRunning() || !m_engine->plotStands) {
-        emit pictureSaved(tr("Error writing graphs to file %1: %2")
-                              .arg(QDir::toNativeSeparators(fileName).toHtmlEscaped(),
-                                   tr("no plot is shown to make a picture of")));
+        emit pictureSaved(
+            tr("Error writing graphs to file %1: %2")
+                .arg(QDir::toNativeSeparators(fileName).toHtmlEscaped(), tr("no plot is shown to make a picture of")));
         return;
     }
     m_engine->picture = std::make_unique<PlotPicture>(&m_engine->profile, m_engine->plotFiles.pageUrl, fileName,

@@ -90,15 +90,15 @@ private:
     QLabel *m_note;
     QString m_noteText;
     std::unique_ptr<HelpEngine> m_engine; ///< once started
-    bool m_begun = false;               ///< the start is on its way
-    bool m_loading = false;             ///< whoever asked for the page waits for its end
-    bool m_isUnderWay = false;          ///< no end of the last load was reported yet
-    bool m_replaces = false;            ///< the wanted load has not begun, and the one before may still fail
-    QUrl m_wantedUrl;                   ///< the page on display, or to be loaded as soon as the engine stands
+    bool m_begun = false;                 ///< the start is on its way
+    bool m_loading = false;               ///< whoever asked for the page waits for its end
+    bool m_isUnderWay = false;            ///< no end of the last load was reported yet
+    bool m_replaces = false;              ///< the wanted load has not begun, and the one before may still fail
+    QUrl m_wantedUrl;                     ///< the page on display, or to be loaded as soon as the engine stands
     Failure m_failure = Failure::Shown;
-    QString m_plainPlot;                ///< text of the plot page as it was given
-    QJsonObject m_scope;                ///< what stands in it for the scripts around the charts
-    QString m_plot;                     ///< the two together; empty while help is shown
+    QString m_plainPlot; ///< text of the plot page as it was given
+    QJsonObject m_scope; ///< what stands in it for the scripts around the charts
+    QString m_plot;      ///< the two together; empty while help is shown
     QUrl m_plotBase;
 };
 

@@ -11,8 +11,8 @@ namespace {
 constexpr int timeLimitMs = 20000;
 constexpr int stepMs = 40;
 
-/// The view's size for so many pixels of the picture. Where the scale of the screen does not divide them, the last pixels
-/// of the view are only partly covered and hold anything: then it is larger, and compare() cuts that off.
+/// The view's size for so many pixels of the picture. Where the scale of the screen does not divide them, the last
+/// pixels of the view are only partly covered and hold anything: then it is larger, and compare() cuts that off.
 int logicalSize(int pixels, double scale)
 {
     const double exact = pixels / scale;
@@ -59,12 +59,11 @@ void PlotPicture::look()
     m_asking = true;
     const QString question = m_height == 0 ? QStringLiteral("prepareForPicture(%1)").arg(m_state)
                                            : QStringLiteral("isPainted(%1)").arg(m_height);
-    m_page.runJavaScript(
-        QStringLiteral("window.velbrinView && velbrinView.drawn ? velbrinView.%1 : 0").arg(question), 0,
-        [self = QPointer<PlotPicture>(this)](const QVariant &answer) {
-            if (self)
-                self->take(answer);
-        });
+    m_page.runJavaScript(QStringLiteral("window.velbrinView && velbrinView.drawn ? velbrinView.%1 : 0").arg(question),
+                         0, [self = QPointer<PlotPicture>(this)](const QVariant &answer) {
+                             if (self)
+                                 self->take(answer);
+                         });
 }
 
 void PlotPicture::take(const QVariant &answer)

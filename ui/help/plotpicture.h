@@ -27,8 +27,8 @@ public:
     void giveUp(const QString &reason) { end(reason); }
 
 signals:
-    /// Once: the file is written, or not, after 20 s at the latest and at once when the engine's process dies; then with
-    /// the reason. Nobody may delete the picture within this call.
+    /// Once: the file is written, or not, after 20 s at the latest and at once when the engine's process dies; then
+    /// with the reason. Nobody may delete the picture within this call.
     void ended(const QString &failure);
 
 private:

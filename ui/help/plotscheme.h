@@ -1,8 +1,8 @@
 /// \file
 /// The addresses that the pane's pages may have, and who answers for those of plots.
 ///
-/// Plot pages have a scheme of their own, "velbrin-plot:": a text of several megabytes, which setHtml() would refuse, and
-/// next to it the scripts of the "flot" folder under the addresses that the page gives them.
+/// Plot pages have a scheme of their own, "velbrin-plot:": a text of several megabytes, which setHtml() would refuse,
+/// and next to it the scripts of the "flot" folder under the addresses that the page gives them.
 #ifndef VELBRIN_UI_PLOTSCHEME_H
 #define VELBRIN_UI_PLOTSCHEME_H
 

@@ -6,8 +6,8 @@
 #include <QJsonObject>
 #include <QString>
 
-/// What runs in every plot page, behind the page's own scripts: resources/scope/*.js and plotview.js as one script, since
-/// the engine keeps several in no order.
+/// What runs in every plot page, behind the page's own scripts: resources/scope/*.js and plotview.js as one script,
+/// since the engine keeps several in no order.
 QString plotScripts();
 /// A text as a literal of the script language.
 QString scriptLiteral(const QString &text);

@@ -18,8 +18,8 @@
 
 ApplyDesk::ApplyDesk(QWidget *window, const Controls &controls, Connection &session, EditedSettings &settings,
                      ParameterPages *pages, DriveBoard *board, const Reports &reports)
-    : QObject(window), m_window(window), m_controls(controls), m_session(session), m_settings(settings),
-      m_pages(pages), m_board(board), m_reports(reports)
+    : QObject(window), m_window(window), m_controls(controls), m_session(session), m_settings(settings), m_pages(pages),
+      m_board(board), m_reports(reports)
 {
 }
 
@@ -116,8 +116,7 @@ void ApplyDesk::takeSettings(const Parameters &list, bool loadedFromFile)
     m_pages->take(list, loadedFromFile);
     const QString file = loadedFromFile ? std::exchange(m_loading, QString()) : QString();
     if (!file.isEmpty())
-        m_reports.status->showMessage(
-            tr("Loaded %1. Nothing of it is in the drive before it is applied").arg(file));
+        m_reports.status->showMessage(tr("Loaded %1. Nothing of it is in the drive before it is applied").arg(file));
     m_board->fillingEnds(file);
 }
 
@@ -213,8 +212,9 @@ void ApplyDesk::saveFile()
     if (!commitEditedField(m_window))
         return;
     // Without the ending the open dialog would not list the file.
-    const QString file = askFileToSave(m_window, {tr("Save settings to file"), m_lastFolder + QLatin1String("/settings.drc"),
-                                                  tr("Drive settings (*.drc)"), QStringLiteral("drc")});
+    const QString file =
+        askFileToSave(m_window, {tr("Save settings to file"), m_lastFolder + QLatin1String("/settings.drc"),
+                                 tr("Drive settings (*.drc)"), QStringLiteral("drc")});
     if (file.isEmpty())
         return;
     m_lastFolder = folderOf(file);
@@ -223,8 +223,9 @@ void ApplyDesk::saveFile()
     m_session.setSettingsFileName(file);
     m_session.command(Connection::TaskSaveSettingsFile);
     if (m_settings.value(QStringLiteral("HWTYPE")) <= 0)
-        m_reports.errors->note(tr("This file is saved without a drive: what nobody has typed into it are start values of "
-                          "this program, not the settings of a drive."));
+        m_reports.errors->note(
+            tr("This file is saved without a drive: what nobody has typed into it are start values of "
+               "this program, not the settings of a drive."));
 }
 
 void ApplyDesk::loadFile()

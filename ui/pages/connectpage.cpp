@@ -138,9 +138,9 @@ void ConnectPage::showConnection(Reach reach)
     m_form.driveControlsGroup->setEnabled(connected || m_lastAddress != 0);
     for (QWidget *widget : {m_form.disconnect_button, m_form.clear_faults, m_form.restartDrive})
         widget->setEnabled(connected);
-    for (QWidget *widget : {static_cast<QWidget *>(m_form.connect_button),
-                            static_cast<QWidget *>(m_form.communicationInterface),
-                            static_cast<QWidget *>(m_form.refreshPorts)})
+    for (QWidget *widget :
+         {static_cast<QWidget *>(m_form.connect_button), static_cast<QWidget *>(m_form.communicationInterface),
+          static_cast<QWidget *>(m_form.refreshPorts)})
         widget->setEnabled(!connected);
     for (QWidget *button : {m_form.enable_drive, m_form.force_enable, m_form.saveToFlash, m_form.restartToDFUMode})
         enableByReach(button, reach);

@@ -26,8 +26,9 @@ DriveDesk::DriveDesk(QWidget *window, Connection &session, ConnectPage *connectP
         if (status->currentMessage() == last)
             status->showMessage(text);
     });
-    connect(&m_watch, &DisableWatch::unconfirmed, this,
-            [this](const QString &text) { m_reports.errors->tell({MessageKind::UnconfirmedStop, text}); });
+    connect(&m_watch, &DisableWatch::unconfirmed, this, [this](const QString &text) {
+        m_reports.errors->tell({MessageKind::UnconfirmedStop, text});
+    });
 }
 
 void DriveDesk::enable(Enable how)
@@ -47,8 +48,8 @@ void DriveDesk::disable()
     m_testing->stopStimulus();
     m_session.command(Connection::TaskApplyEnableState);
     if (m_session.isInFirmwareUpgradeMode())
-        m_reports.status->showMessage(tr("Nothing to disable: the drive is in firmware upgrade mode, which drives no motor"),
-                              upgradeModeNoteMs);
+        m_reports.status->showMessage(
+            tr("Nothing to disable: the drive is in firmware upgrade mode, which drives no motor"), upgradeModeNoteMs);
     else
         m_watch.disableAsked(m_session.isConnected()             ? DisableWatch::Reach::Connected
                              : m_connectPage->lastAddress() != 0 ? DisableWatch::Reach::LastKnown

@@ -29,10 +29,10 @@ void ParameterPages::hideForGood()
 {
     const Ui_GoalsPage &goals = m_forms.goals;
     const Ui_TuningPage &tuning = m_forms.tuning;
-    for (QWidget *widget : {static_cast<QWidget *>(goals.CSD), static_cast<QWidget *>(goals.CSDl),
-                            static_cast<QWidget *>(goals.CSDracc), static_cast<QWidget *>(tuning.AD),
-                            static_cast<QWidget *>(tuning.ADl), static_cast<QWidget *>(m_forms.faultLimits.FUVwarning),
-                            static_cast<QWidget *>(m_forms.machine.dualfbgroup)})
+    for (QWidget *widget :
+         {static_cast<QWidget *>(goals.CSD), static_cast<QWidget *>(goals.CSDl), static_cast<QWidget *>(goals.CSDracc),
+          static_cast<QWidget *>(tuning.AD), static_cast<QWidget *>(tuning.ADl),
+          static_cast<QWidget *>(m_forms.faultLimits.FUVwarning), static_cast<QWidget *>(m_forms.machine.dualfbgroup)})
         widget->hide();
 }
 
@@ -174,7 +174,8 @@ QString ParameterPages::sanityWarnings() const
 
 void ParameterPages::showConnection(Reach reach)
 {
-    for (QWidget *button : {m_forms.machine.start_homing, m_forms.machine.abort_homing, m_forms.machine.measureRLbutton})
+    for (QWidget *button :
+         {m_forms.machine.start_homing, m_forms.machine.abort_homing, m_forms.machine.measureRLbutton})
         enableByReach(button, reach);
     m_forms.machine.measureRLbutton->setVisible(m_session.deviceHasCapability(Connection::CapMeasureRL));
 }

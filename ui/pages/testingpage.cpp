@@ -1,11 +1,11 @@
 #include "testingpage.h"
 
 #include "applydesk.h"
-#include "connectpage.h"
-#include "editedsettings.h"
 #include "captureaid.h"
 #include "connection.h"
+#include "connectpage.h"
 #include "editedfield.h"
+#include "editedsettings.h"
 #include "parameterpages.h"
 #include "ui_testingpage.h"
 
@@ -117,9 +117,8 @@ void TestingPage::sendStimulus()
 void TestingPage::stimulusTicked()
 {
     // No motion to an old target in place of one that was typed and refused.
-    if (m_form.stimulusEnabled->isChecked() &&
-        anyNumberRefused(
-            {m_form.stimulusTarget1, m_form.stimulusDelay1, m_form.stimulusTarget2, m_form.stimulusDelay2})) {
+    if (m_form.stimulusEnabled->isChecked() && anyNumberRefused({m_form.stimulusTarget1, m_form.stimulusDelay1,
+                                                                 m_form.stimulusTarget2, m_form.stimulusDelay2})) {
         m_form.stimulusEnabled->setChecked(false);
         return;
     }

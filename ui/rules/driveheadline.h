@@ -22,12 +22,12 @@ enum class DriveLook {
 struct DriveNews
 {
     bool connected = false;
-    bool polled = false;      ///< a poll of this drive, or of the last one, has come
-    bool leftByUser = false;  ///< the connection ended because the user wanted it
-    double secondsOld = 0.0;  ///< since the last poll
-    DriveState state;         ///< of that poll
-    int busAddress = 0;       ///< 0 when none is known
-    int serialNumber = 0;     ///< likewise
+    bool polled = false;     ///< a poll of this drive, or of the last one, has come
+    bool leftByUser = false; ///< the connection ended because the user wanted it
+    double secondsOld = 0.0; ///< since the last poll
+    DriveState state;        ///< of that poll
+    int busAddress = 0;      ///< 0 when none is known
+    int serialNumber = 0;    ///< likewise
 };
 
 /// A poll older than this is not the present any more, s: several in a row have not come.

@@ -38,8 +38,7 @@ TypedNumber readTypedNumber(const QString &text, int decimals)
     if (fraction.size() > decimals)
         return {TypedNumber::TooManyDecimals};
     return {TypedNumber::Number,
-            QString(match.captured(1) + QLatin1Char('0') + match.captured(2) + QLatin1Char('.') + fraction)
-                .toDouble()};
+            QString(match.captured(1) + QLatin1Char('0') + match.captured(2) + QLatin1Char('.') + fraction).toDouble()};
 }
 
 NumberField::NumberField(QAbstractSpinBox *box, QLineEdit *line, std::function<Limits()> limits)

@@ -8,7 +8,8 @@
 #include <functional>
 
 /// What a typed text stands for. Comma and point are both the decimal point, whatever the locale; shown is always the
-/// point, as in files, help, plots and data sheets of the drives. There are no group separators, so "1.000" is one and "1.000,5" is nothing.
+/// point, as in files, help, plots and data sheets of the drives. There are no group separators, so "1.000" is one and
+/// "1.000,5" is nothing.
 struct TypedNumber
 {
     enum Verdict {

@@ -10,8 +10,8 @@ class QPushButton;
 class QSpinBox;
 class WholeNumberBox;
 
-/// Each field follows the control of the Tuning page and the other way round: there is one value, in two places. Applying
-/// is the Apply button's business. User-interface thread.
+/// Each field follows the control of the Tuning page and the other way round: there is one value, in two places.
+/// Applying is the Apply button's business. User-interface thread.
 class GainsPanel : public QGroupBox
 {
     Q_OBJECT

@@ -14,7 +14,7 @@
 
 namespace {
 
-constexpr int onFault = 3; ///< trigger code of the recorder
+constexpr int onFault = 3;            ///< trigger code of the recorder
 constexpr int longestShownNote = 100; ///< characters, beside a capture's time
 enum NoteColumn { NameColumn, ValueColumn, StandardColumn, WordsColumn, NoteColumns };
 

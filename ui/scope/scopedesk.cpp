@@ -101,6 +101,6 @@ void ScopeDesk::takeFeedForward()
     if (!shown || !shown->figures || !shown->figures->axis || !shown->figures->axis->isUsable())
         return;
     const AxisSheet &sheet = *shown->figures->axis;
-    emit settingsWanted({{QStringLiteral("AFF"), std::round(sheet.aff.value)},
-                         {QStringLiteral("VFF"), std::round(sheet.vff.value)}});
+    emit settingsWanted(
+        {{QStringLiteral("AFF"), std::round(sheet.aff.value)}, {QStringLiteral("VFF"), std::round(sheet.vff.value)}});
 }

@@ -129,8 +129,8 @@ void TriesDesk::fail(const QString &fileName, const QString &problem)
 
 void TriesDesk::open()
 {
-    const QString file = askFileToOpen(m_window, {tr("Open capture"), m_lastFolder,
-                                                  tr("Captures (*.html *.json *.csv);;All files (*)"), QString()});
+    const QString file = askFileToOpen(
+        m_window, {tr("Open capture"), m_lastFolder, tr("Captures (*.html *.json *.csv);;All files (*)"), QString()});
     if (file.isEmpty())
         return;
     m_lastFolder = folderOf(file);
@@ -146,8 +146,9 @@ void TriesDesk::save()
     width.setSuffix(tr(" pixels"));
     width.setValue(HelpView::widestPicture);
     QString filter;
-    const QString file = askFileToSave(m_window, {tr("Save graphs to file"), QStringLiteral("~/graphs.png"),
-                                                  captureFilters(), QString(), tr("Width of a picture:"), &width},
+    const QString file = askFileToSave(m_window,
+                                       {tr("Save graphs to file"), QStringLiteral("~/graphs.png"), captureFilters(),
+                                        QString(), tr("Width of a picture:"), &width},
                                        &filter);
     qDebug() << "Print file name is " << file;
     if (file.isEmpty())
@@ -157,8 +158,8 @@ void TriesDesk::save()
     if (format == CaptureFormat::Picture)
         return m_use.browser->savePng(file, width.value());
     if (format == CaptureFormat::None) {
-        m_use.reports.status->showMessage(
-            tr("Nothing saved: give the file a name that ends in .png, .csv or .html"), hintMs);
+        m_use.reports.status->showMessage(tr("Nothing saved: give the file a name that ends in .png, .csv or .html"),
+                                          hintMs);
         return;
     }
     const KeptCapture capture = shown ? *shown : KeptCapture();
@@ -221,9 +222,8 @@ void TriesDesk::putIntoPages(const QList<QPair<QString, double>> &settings)
     const int changed = m_use.pages->edit(settings);
     m_gains->refresh();
     m_use.apply->updateButton();
-    m_use.reports.status->showMessage(changed == 0
-                                          ? tr("The pages have these settings already")
-                                          : tr("Settings put into the pages: %1. The drive gets them with Apply")
-                                                .arg(changed),
-                                      hintMs);
+    m_use.reports.status->showMessage(
+        changed == 0 ? tr("The pages have these settings already")
+                     : tr("Settings put into the pages: %1. The drive gets them with Apply").arg(changed),
+        hintMs);
 }

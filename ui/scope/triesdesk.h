@@ -20,8 +20,8 @@ class QVBoxLayout;
 class ScopeDesk;
 class TriesPanel;
 
-/// Moves nothing and writes nothing to a drive: what it takes from a capture becomes an edit in the pages, for Apply. Of
-/// the session it asks what the drive has, for the report. User-interface thread.
+/// Moves nothing and writes nothing to a drive: what it takes from a capture becomes an edit in the pages, for Apply.
+/// Of the session it asks what the drive has, for the report. User-interface thread.
 class TriesDesk : public QObject
 {
     Q_OBJECT

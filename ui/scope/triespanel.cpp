@@ -15,7 +15,7 @@
 namespace {
 
 constexpr int visibleRows = 6;
-constexpr int widestNote = 300; // pixels, where there is no more room anyway
+constexpr int widestNote = 300;  // pixels, where there is no more room anyway
 constexpr int mostSettings = 12; ///< columns; another drive's capture differs in everything
 
 struct FigureColumn
@@ -40,8 +40,9 @@ TriesPanel::TriesPanel(QWidget *parent) : QGroupBox(parent)
     auto *layout = new QVBoxLayout(this);
     layout->addWidget(m_table);
     layout->addLayout(buttons);
-    m_take = addButton(QStringLiteral("triesTake"), tr("Take these settings"),
-                       tr("<p>Puts the settings of the selected try into the pages. The drive gets them with Apply.</p>"));
+    m_take =
+        addButton(QStringLiteral("triesTake"), tr("Take these settings"),
+                  tr("<p>Puts the settings of the selected try into the pages. The drive gets them with Apply.</p>"));
     m_under = addButton(QStringLiteral("triesUnder"), tr("Lay under"),
                         tr("<p>Draws the selected try in grey under the newest one.</p>"));
     auto *open = addButton(QStringLiteral("triesOpen"), tr("Open capture..."),
@@ -74,8 +75,9 @@ void TriesPanel::buildTable()
     m_table->setEditTriggers(QAbstractItemView::DoubleClicked);
     m_table->verticalHeader()->setMaximumSectionSize(3 * m_table->fontMetrics().height()); // notes may have many lines
     m_table->verticalHeader()->hide();
-    m_table->setToolTip(tr("<p>Every capture of this session, the newest on top, with the settings in which they differ. "
-                           "A click shows it; a double click on its note, or F2, changes the note.</p>"));
+    m_table->setToolTip(
+        tr("<p>Every capture of this session, the newest on top, with the settings in which they differ. "
+           "A click shows it; a double click on its note, or F2, changes the note.</p>"));
     m_table->setAccessibleName(tr("Tries"));
     m_table->setTabKeyNavigation(false);
 }
@@ -188,8 +190,9 @@ void TriesPanel::fillRow(int row, const KeptCapture &capture, const QStringList 
         }
         put(text, reason);
     }
-    put(capture.record.note, tr("<p>Your own words on this try: double-click, or F2. They go into a saved page and into the "
-                                "report.</p>"));
+    put(capture.record.note,
+        tr("<p>Your own words on this try: double-click, or F2. They go into a saved page and into the "
+           "report.</p>"));
     QTableWidgetItem *note = m_table->item(row, column - 1);
     note->setFlags(note->flags() | Qt::ItemIsEditable);
     note->setTextAlignment(Qt::AlignLeft | Qt::AlignVCenter);

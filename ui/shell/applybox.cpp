@@ -16,7 +16,8 @@ ApplyBox::ApplyBox(const QList<SettingChange> &changes, const QString &warnings,
     addWarnings(layout, warnings, growth);
     QString heading = tr("%1 settings of the drive will change:").arg(changes.size());
     if (changes.size() < 2)
-        heading = changes.isEmpty() ? tr("No setting differs from the drive's.") : tr("One setting of the drive will change:");
+        heading = changes.isEmpty() ? tr("No setting differs from the drive's.")
+                                    : tr("One setting of the drive will change:");
     layout->addWidget(new QLabel(heading, this));
     addTable(layout, changes);
     auto *buttons = new QDialogButtonBox(this);

@@ -4,8 +4,8 @@
 #include "applybox.h"
 #include "editmarks.h"
 #include "numberbox.h"
-#include "settingschecks.h"
 #include "settingfinder.h"
+#include "settingschecks.h"
 #include "statusstrip.h"
 
 #include <QApplication>

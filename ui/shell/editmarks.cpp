@@ -65,7 +65,11 @@ QList<SettingChange> EditMarks::show(const Parameters &drive, const Parameters &
         SettingChange change;
         const bool looked = names.contains(field.parameter);
         if (looked) {
-            change = {field.name, field.caption, QString(), QString(), field.valueOf(drive.getParam(field.parameter).value),
+            change = {field.name,
+                      field.caption,
+                      QString(),
+                      QString(),
+                      field.valueOf(drive.getParam(field.parameter).value),
                       field.valueOf(edited.getParam(field.parameter).value)};
             change.before = field.text(change.beforeNumber);
             change.after = field.text(change.afterNumber);
@@ -93,7 +97,8 @@ void EditMarks::mark(const SettingField &field, const SettingChange *change)
     const QString text = tr("drive: %1").arg(field.bareText(change->beforeNumber)); // the field has the unit
     if (button->text() != text) {
         button->setText(text);
-        button->setAccessibleName(tr("%1 edited, the drive has %2: take the edit back").arg(field.name, change->before));
+        button->setAccessibleName(
+            tr("%1 edited, the drive has %2: take the edit back").arg(field.name, change->before));
     }
     // With its field: a setting that a rule has hidden keeps its mark hidden, too.
     button->setVisible(!field.control->isHidden());

@@ -65,7 +65,8 @@ void ElidedButton::paintEvent(QPaintEvent *)
     initStyleOption(&option);
     const int missing = sizeHint().width() - width();
     if (missing > 0)
-        option.text = fontMetrics().elidedText(text(), Qt::ElideRight, fontMetrics().horizontalAdvance(text()) - missing);
+        option.text =
+            fontMetrics().elidedText(text(), Qt::ElideRight, fontMetrics().horizontalAdvance(text()) - missing);
     QStylePainter(this).drawComplexControl(QStyle::CC_ToolButton, option);
 }
 

@@ -70,8 +70,8 @@ void ErrorWindow::tell(const Message &message)
     const auto isEqual = [&message](const Message &other) { return other.text == message.text; };
     if (message.text == m_shown || std::any_of(m_waiting.cbegin(), m_waiting.cend(), isEqual))
         return;
-    const auto place = isVital(message) ? std::find_if_not(m_waiting.begin(), m_waiting.end(), isVital)
-                                        : m_waiting.end();
+    const auto place =
+        isVital(message) ? std::find_if_not(m_waiting.begin(), m_waiting.end(), isVital) : m_waiting.end();
     m_waiting.insert(place, message);
     showNext();
 }

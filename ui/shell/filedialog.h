@@ -12,11 +12,11 @@ class QWidget;
 struct FileQuestion
 {
     QString title;
-    QString start;         ///< a folder, or a folder and a proposed name
-    QString filters;       ///< as QFileDialog takes them
-    QString defaultSuffix; ///< added to a name without one
-    QString moreCaption = {};   ///< of one more control below the names
-    QWidget *more = nullptr;    ///< that control; it stays the caller's
+    QString start;            ///< a folder, or a folder and a proposed name
+    QString filters;          ///< as QFileDialog takes them
+    QString defaultSuffix;    ///< added to a name without one
+    QString moreCaption = {}; ///< of one more control below the names
+    QWidget *more = nullptr;  ///< that control; it stays the caller's
 };
 
 /// The name of an existing file, empty when the user gave none.

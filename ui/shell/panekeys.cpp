@@ -3,11 +3,11 @@
 #include <QApplication>
 #include <QEvent>
 #include <QHash>
-#include <QListWidget>
-#include <QShortcut>
 #include <QLayout>
+#include <QListWidget>
 #include <QScrollArea>
 #include <QScrollBar>
+#include <QShortcut>
 #include <QSplitter>
 #include <QStackedWidget>
 #include <algorithm>
@@ -21,7 +21,8 @@ constexpr int usefulHelpWidth = 320;
 
 PaneKeys::PaneKeys(QWidget *window, QListWidget *pages, QSplitter *splitter, QWidget *help,
                    const QVector<QWidget *> &panes)
-    : QObject(window), m_pages(pages), m_stack(splitter->findChild<QStackedWidget *>()), m_splitter(splitter), m_help(help), m_panes(panes.cbegin(), panes.cend())
+    : QObject(window), m_pages(pages), m_stack(splitter->findChild<QStackedWidget *>()), m_splitter(splitter),
+      m_help(help), m_panes(panes.cbegin(), panes.cend())
 {
     const auto add = [window](const QKeySequence &keys) {
         auto *shortcut = new QShortcut(keys, window);

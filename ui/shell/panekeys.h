@@ -52,7 +52,7 @@ private:
     QWidget *m_help;
     QVector<QPointer<QWidget>> m_panes;
     QHash<QWidget *, QPointer<QWidget>> m_last; ///< control of each pane that had the keyboard
-    int m_plotPage = -1; ///< the page beside which there is something to be seen
+    int m_plotPage = -1;                        ///< the page beside which there is something to be seen
     enum class Wish { None, Shown, Plot, Hidden } m_wish = Wish::None; ///< what was asked for goes before what fits
 };
 

@@ -10,18 +10,18 @@
 #include <QWidget>
 #include <vector>
 
-/// One control, or a setting that has none. A bit field has one field a control. A value is the control's own: a number,
-/// the index of a choice, 0 or 1 of a check box.
+/// One control, or a setting that has none. A bit field has one field a control. A value is the control's own: a
+/// number, the index of a choice, 0 or 1 of a check box.
 struct SettingField
 {
     QString name;      ///< object name of the control, the mnemonic in its caption: "KVP", "CEN"
     QString parameter; ///< the setting that it is (a part of): "KVP", "FLAGS"
     const BitFieldControl *bits = nullptr;
     QPointer<QWidget> control;
-    QString caption;   ///< "[KVP] Velocity P gain"
-    QString unit;      ///< "A"; empty when there is none
-    QString help;      ///< its tool tip as plain text, as the form has it
-    int page = -1;     ///< of the page list; -1 when it is on none
+    QString caption; ///< "[KVP] Velocity P gain"
+    QString unit;    ///< "A"; empty when there is none
+    QString help;    ///< its tool tip as plain text, as the form has it
+    int page = -1;   ///< of the page list; -1 when it is on none
     bool isEditable = false;
 
     /// Of the setting's value, in display units.

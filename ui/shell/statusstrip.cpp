@@ -14,7 +14,7 @@ namespace {
 
 constexpr int ageIntervalMs = 500;
 constexpr int keptCharacters = 12; // of the words behind the state, in the narrowest window
-constexpr int stallMs = 1200; // a window that could not look has no right to say that nothing came
+constexpr int stallMs = 1200;      // a window that could not look has no right to say that nothing came
 
 void setTextOf(QLabel *label, const QString &text)
 {
@@ -157,8 +157,7 @@ void StatusStrip::lookAtAge()
 void StatusStrip::refresh()
 {
     if (m_news.polled)
-        m_news.secondsOld =
-            std::chrono::duration<double>(std::chrono::steady_clock::now() - m_news.state.when).count();
+        m_news.secondsOld = std::chrono::duration<double>(std::chrono::steady_clock::now() - m_news.state.when).count();
     const DriveHeadline line = driveHeadline(m_news);
     const bool isNews = line.word != m_shown.word || line.look != m_shown.look;
     m_shown = line;

@@ -41,7 +41,7 @@ QString flashText(const ValueHomes &homes)
         return ValueMarks::tr("Being saved over power-off");
     case ValueHomes::Flash::Saved:
         return homes.isPending || homes.changes > 0 ? ValueMarks::tr("Edits not saved over power-off")
-                               : ValueMarks::tr("Saved over power-off");
+                                                    : ValueMarks::tr("Saved over power-off");
     case ValueHomes::Flash::Unknown:
         break;
     }
@@ -94,8 +94,7 @@ void ValueMarks::show(const ValueHomes &homes)
     else if (isEdited)
         working = tr("Not in the drive yet");
     setMark(m_working, inDrive || behind, working);
-    setMark(m_flash, homes.driveKnown && !isEdited && homes.flash == Flash::Saved,
-            flashText(homes));
+    setMark(m_flash, homes.driveKnown && !isEdited && homes.flash == Flash::Saved, flashText(homes));
     if (m_save->isHidden() == behind)
         m_save->setVisible(behind);
     setMark(m_file, !homes.file.isEmpty(),

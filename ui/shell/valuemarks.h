@@ -24,7 +24,7 @@ struct ValueHomes
     bool isPending = false;  ///< also a file that was loaded and differs in nothing
     bool driveKnown = false; ///< the values of the connected drive have been read
     Flash flash = Flash::Unknown;
-    QString file;            ///< name of the file that holds exactly what is shown; empty when none is known
+    QString file; ///< name of the file that holds exactly what is shown; empty when none is known
 };
 
 /// One line of four marks. A full disc stands for "yes", an open one for "no"; the words say it too.

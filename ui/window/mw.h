@@ -49,7 +49,7 @@ public:
         QString virtualPort;      ///< port of the built-in virtual drive, empty when there is none
         bool debugValues = false; ///< show the drive's debug values in the fault panel
         HelpView::Engine webEngine = HelpView::Engine::Allowed;
-        double pauseScale = 1.0;  ///< factor on every pause of the session (restart, measurement, ...); for tests
+        double pauseScale = 1.0; ///< factor on every pause of the session (restart, measurement, ...); for tests
     };
 
     /// Builds the window, asks the user to accept the disclaimer (a modal box) and queues close() if they do not.

@@ -1,8 +1,8 @@
 // The switchboard: each slot, and the page or desk whose topic it is.
 #include "mw.h"
 
-#include "applydesk.h"
 #include "actwatch.h"
+#include "applydesk.h"
 #include "connectpage.h"
 #include "controlmoderule.h"
 #include "driveboard.h"

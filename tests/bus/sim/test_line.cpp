@@ -83,7 +83,7 @@ TEST_F(Line, EachKindOfDamageHitsTheReplyAsDescribed)
     for (const LineFault::Kind kind : LineFault::allKinds()) {
         SCOPED_TRACE(LineFault::name(kind));
         if (kind == LineFault::Flip || kind == LineFault::Noise || kind == LineFault::Unplugged)
-            continue; // below
+            continue;                // below
         if (rows.count(kind) == 0) { // a new one: whatever it does, it does something
             bus().setFault({kind, 4, 0, 1});
             EXPECT_NE(line.exchange(ReadType, whole, 200ms), TypeReply);

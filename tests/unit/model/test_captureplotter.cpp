@@ -113,8 +113,8 @@ TEST(CapturePlotter, CsvHasAsManyRowsAsTheShortestChannel)
     const QString path = folder.filePath("capture.csv");
     ASSERT_TRUE(CapturePlotter().saveCaptureDataCSV(recurring(), path));
     EXPECT_EQ(contents(path), "Time;Torque setpoint [A];Velocity achieved;Flux current\n"
-                               "0;1e-05;1.23457e+06;655.35\n"
-                               "0.000114286;-0.00178571;-0.5;0\n");
+                              "0;1e-05;1.23457e+06;655.35\n"
+                              "0.000114286;-0.00178571;-0.5;0\n");
     ASSERT_TRUE(CapturePlotter().saveCaptureDataCSV({}, path));
     EXPECT_EQ(contents(path), "Time\n");
 }

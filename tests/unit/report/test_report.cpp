@@ -124,9 +124,11 @@ TEST(SavedPage, TellsWithoutScriptsWhatWasRecordedAndKeepsTextsFromActing)
     capture.note = "<script>1</script> at 100 % %DATETIME%";
     capture.motion = {CaptureMotion::Kind::SquareWave, 0, 1900, 0.1, 0.2};
     const std::string text = savedCapturePage(capture, captureFigures(capture)).toStdString();
-    const std::string about = text.substr(text.find("class=\"about\""), text.rfind("<script") - text.find("class=\"about\""));
-    for (const char *part : {"2026-03-04 14:02:11", "<td>17</td>", "&lt;script&gt;1&lt;/script&gt; at 100 % &#37;DATETIME%",
-                             "setpoint 0 for 0.1 s, 1900 for 0.2 s", "Overshoot", "<td>KVP</td><td>400</td>", "new drive: 360"})
+    const std::string about =
+        text.substr(text.find("class=\"about\""), text.rfind("<script") - text.find("class=\"about\""));
+    for (const char *part :
+         {"2026-03-04 14:02:11", "<td>17</td>", "&lt;script&gt;1&lt;/script&gt; at 100 % &#37;DATETIME%",
+          "setpoint 0 for 0.1 s, 1900 for 0.2 s", "Overshoot", "<td>KVP</td><td>400</td>", "new drive: 360"})
         EXPECT_THAT(about, HasSubstr(part));
     EXPECT_THAT(about, Not(HasSubstr("<td>KVI</td><td>360</td><td></td><td>new drive"))) << "not changed";
     EXPECT_THAT(text, testing::ContainsRegex("<noscript>[^\001]*<svg")) << "a picture where no script draws";

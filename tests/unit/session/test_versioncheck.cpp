@@ -36,8 +36,9 @@ const char coreTooOld[] =
     "at https://wiki.tarnwell.example/wiki/Firmware. Connected TC FW Version is %1 and the olders supported TC FW "
     "version is %2.<br/><br/>You <i>may</i> need to use older Velbrin version to upgrade firmware. Old Velbrin "
     "release can be found from https://wiki.tarnwell.example/wiki/Velbrin";
-const char restarted[] = "<br/><br/><b>Device now has been restarted in firmware upgrade mode. Try connecting again and "
-                         "installing a newer firmware to it";
+const char restarted[] =
+    "<br/><br/><b>Device now has been restarted in firmware upgrade mode. Try connecting again and "
+    "installing a newer firmware to it";
 const char protocolTooOld[] =
     "Zetabus protocol version too old, not supported by this software version. Check older Velbrin versions from "
     "https://wiki.tarnwell.example/wiki/Velbrin. Connected ZBV2 Version: %1";
@@ -95,14 +96,14 @@ TEST(VersionCheck, RefusesWhatIsTooNewOrTooOldAndRestartsAnOutdatedKeta)
         {torva, &D::firmwareVersion, &D::firmwareCompanion, 1091,
          "Device firmware version too new, not supported by this software version. Check for Velbrin upgrades from "
          "https://wiki.tarnwell.example/wiki/Velbrin. Connected FW version: 1091"},
-        {keta(), &D::firmwareVersion, &D::firmwareCompanion, 1077,
-         outdated.arg(1077).arg(1078) + restarted + ".</b>", true},
+        {keta(), &D::firmwareVersion, &D::firmwareCompanion, 1077, outdated.arg(1077).arg(1078) + restarted + ".</b>",
+         true},
         {torva, &D::firmwareVersion, &D::firmwareCompanion, 1089, outdated.arg(1089).arg(1090)},
         {keta(), &D::coreVersion, &D::coreCompanion, 1079,
          "Device TarnwellCore firmware version too new, not supported by this software version. Check for Velbrin "
          "upgrades from https://wiki.tarnwell.example/wiki/Velbrin. Connected TC FW version: 1079"},
-        {keta(), &D::coreVersion, &D::coreCompanion, 1077,
-         outdatedCore.arg(1077).arg(1078) + restarted + "</b>.", true},
+        {keta(), &D::coreVersion, &D::coreCompanion, 1077, outdatedCore.arg(1077).arg(1078) + restarted + "</b>.",
+         true},
         {torva, &D::coreVersion, &D::coreCompanion, 1089, outdatedCore.arg(1089).arg(1090)},
         {keta(), &D::protocolVersion, &D::protocolCompanion, 24, QString(protocolTooOld).arg(24)},
         {keta(), &D::protocolVersion, &D::protocolCompanion, 26, QString(protocolTooNew).arg(26)},
@@ -116,7 +117,8 @@ TEST(VersionCheck, RefusesWhatIsTooNewOrTooOldAndRestartsAnOutdatedKeta)
         {bootloader, &D::protocolVersion, &D::protocolCompanion, 26, QString(protocolTooNew).arg(26)},
     };
     for (const auto &row : rows) {
-        const VersionVerdict verdict = checkVersions(with(row.drive, {{row.version, row.value}, {row.companion, row.value}}));
+        const VersionVerdict verdict =
+            checkVersions(with(row.drive, {{row.version, row.value}, {row.companion, row.value}}));
         EXPECT_FALSE(verdict.accepted) << row.text.toStdString();
         EXPECT_EQ(verdict.restartToDFU, row.restart) << row.text.toStdString();
         EXPECT_EQ(verdict.errorText, row.text + note);

@@ -95,7 +95,7 @@ TEST(RecordLength, IsToldWithTheMoveThatDoesNotFit)
     EXPECT_EQ(recordText(100, 1, 0), "20 s at 100 Hz with 1 channel");
     EXPECT_EQ(recordText(100, 0, 0), "No channel is chosen: there is nothing to record");
     MoveLimits limits{2.0, 200, 1.6, 2500};
-    EXPECT_NEAR(moveSeconds(-500, limits), 0.020, 1e-9);  // 1000 counts: 25 cycles up, 25 down
-    EXPECT_NEAR(moveSeconds(50000, limits), 0.25, 1e-9);  // 100000 counts at 200 a cycle, and 125 cycles of ramps
+    EXPECT_NEAR(moveSeconds(-500, limits), 0.020, 1e-9); // 1000 counts: 25 cycles up, 25 down
+    EXPECT_NEAR(moveSeconds(50000, limits), 0.25, 1e-9); // 100000 counts at 200 a cycle, and 125 cycles of ramps
     EXPECT_EQ(moveSeconds(100, MoveLimits()), 0.0);
 }

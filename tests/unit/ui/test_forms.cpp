@@ -90,7 +90,8 @@ TEST(Forms, EveryRawValueSurvivesItsControl)
         const Widget *control = findWidget(p.name);
         // The toolkit's own boxes read numbers by the desktop's rules.
         EXPECT_FALSE(control && control->kind.endsWith(QLatin1String("SpinBox"))) << qPrintable(p.name);
-        if (!control || (control->kind != QLatin1String("WholeNumberBox") && control->kind != QLatin1String("DecimalBox")))
+        if (!control ||
+            (control->kind != QLatin1String("WholeNumberBox") && control->kind != QLatin1String("DecimalBox")))
             continue;
         QDoubleSpinBox box;
         box.setDecimals(control->kind == QLatin1String("WholeNumberBox") ? 0 : control->properties["decimals"].toInt());

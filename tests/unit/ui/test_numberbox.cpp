@@ -70,9 +70,9 @@ INSTANTIATE_TEST_SUITE_P(Desktops, NumberFields, testing::Values(QLocale::Englis
 
 TEST_P(NumberFields, CommaAndPointAreBothTheDecimalPoint)
 {
-    const std::pair<const char *, double> cases[] = {{"1.5", 1.5},  {"1,5", 1.5},   {"1.000", 1}, {",25", 0.25},
-                                                     {" 2,5", 2.5}, {"12A", 12},    {"3,", 3},    {"0012.50000", 12.5},
-                                                     {"35", 35},    {"+0,001", 0.001}};
+    const std::pair<const char *, double> cases[] = {
+        {"1.5", 1.5}, {"1,5", 1.5}, {"1.000", 1},         {",25", 0.25}, {" 2,5", 2.5},
+        {"12A", 12},  {"3,", 3},    {"0012.50000", 12.5}, {"35", 35},    {"+0,001", 0.001}};
     for (const auto &[text, value] : cases) {
         current->setValue(13);
         EXPECT_EQ(type(current, text), "") << text;

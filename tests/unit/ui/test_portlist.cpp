@@ -14,8 +14,7 @@ SerialPort unixPort(const QString &name)
 
 TEST(PortList, AdaptersCarryASuffixAndTheLastOneIsChosen)
 {
-    PortList list =
-        portListOf({unixPort("ttyS0"), unixPort("ttyUSB0"), unixPort("ttyUSB1"), unixPort("ttyACM0")});
+    PortList list = portListOf({unixPort("ttyS0"), unixPort("ttyUSB0"), unixPort("ttyUSB1"), unixPort("ttyACM0")});
     EXPECT_EQ(list.items, QStringList({"/dev/ttyS0", "/dev/ttyUSB0 Possibly Zetabus V2 adapter",
                                        "/dev/ttyUSB1 Possibly Zetabus V2 adapter", "/dev/ttyACM0"}));
     EXPECT_EQ(list.current, 2);

@@ -27,7 +27,8 @@ TEST(ProgramOptions, WrongUsageIsNamed)
     EXPECT_TRUE(parseProgramOptions({"velbrin", "one.drc", "two.drc"}).error.contains("two.drc"));
     for (const QStringList &withTour : {QStringList{"--port", "COM7"}, QStringList{"one.drc"}, QStringList{}})
         EXPECT_TRUE(parseProgramOptions(QStringList{"velbrin", "--tour", "shots"} + withTour).error.contains("--tour"));
-    EXPECT_TRUE(parseProgramOptions({"velbrin", "--virtual-drive", "--tour", "shots", "one.drc"}).error.contains("file"));
+    EXPECT_TRUE(
+        parseProgramOptions({"velbrin", "--virtual-drive", "--tour", "shots", "one.drc"}).error.contains("file"));
     EXPECT_EQ(parseProgramOptions({"velbrin", "--version"}).text, "velbrin 1.9.0\n");
     EXPECT_TRUE(parseProgramOptions({"velbrin", "--help"}).text.contains("--virtual-drive"));
 }

@@ -11,8 +11,8 @@
 #include <QJsonDocument>
 #include <QSignalSpy>
 #include <QTemporaryDir>
-#include <QThread>
 #include <QTest>
+#include <QThread>
 #include <QUrl>
 
 namespace {
@@ -105,7 +105,9 @@ TEST(ScopeContext, TellsThePageChannelsUnitsCapturesAndWhatLiesUnder)
 
 TEST(ScopeContext, UnitsFollowTheFeedbackResolutionAndTheMachine)
 {
-    const auto factor = [](const QJsonValue &system, const char *unit) { return system["units"][unit]["factor"].toDouble(); };
+    const auto factor = [](const QJsonValue &system, const char *unit) {
+        return system["units"][unit]["factor"].toDouble();
+    };
     const QJsonArray units = unitSystems(record(settings({{"FBR", 2500}, {"PIF", 2500}, {"AXS", 5}, {"AXT", 0}})));
     ASSERT_EQ(units.size(), 2);
     EXPECT_DOUBLE_EQ(factor(units[0], "vel"), 0.25) << "2500 cycles of 1 count are a quarter of 10000 counts";
