@@ -60,9 +60,9 @@ QJsonObject toJson(const CaptureFigures &figures)
     return object;
 }
 
-QList<FigureLine> figureLines(const CaptureFigures &figures)
+QList<FigureLine> figureLines(const CaptureFigures &figures, Reasons reasons)
 {
-    QList<FigureLine> lines = figureLines(figures.step);
+    QList<FigureLine> lines = figureLines(figures.step, reasons);
     if (figures.axis)
         lines += axisLines(*figures.axis, figures.countsPerRevolution);
     return lines;

@@ -23,6 +23,6 @@ CaptureFigures captureFigures(const CaptureRecord &capture);
 QJsonObject toJson(const CaptureFigures &figures);
 
 /// The figures, then the sheet's lines where there is one.
-QList<FigureLine> figureLines(const CaptureFigures &figures);
+QList<FigureLine> figureLines(const CaptureFigures &figures, Reasons reasons = Reasons::EachLine);
 
 #endif

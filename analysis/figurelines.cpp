@@ -34,9 +34,15 @@ QString withRange(const Estimate &estimate, double scale, const QString &unit)
     return unit.isEmpty() ? range : AnalysisText::tr("%1 %2").arg(range, unit);
 }
 
+bool isTheSameRefusal(const QList<FigureLine> &lines)
+{
+    return std::all_of(lines.begin(), lines.end(),
+                       [&](const FigureLine &line) { return !line.isDefined && line.value == lines.first().value; });
+}
+
 } // namespace
 
-QList<FigureLine> figureLines(const StepFigures &figures)
+QList<FigureLine> figureLines(const StepFigures &figures, Reasons reasons)
 {
     const bool isCounts = figures.unit == QLatin1String("cnts"); // the only unit of a channel that is a word
     const QString unit = isCounts ? AnalysisText::tr("counts") : figures.unit;
@@ -65,9 +71,13 @@ QList<FigureLine> figureLines(const StepFigures &figures)
     QList<FigureLine> lines;
     for (const auto &row : rows) {
         const std::optional<double> &value = row.figure.value;
+        const bool isError = &row.figure == &figures.peakError || &row.figure == &figures.rmsError;
         lines.append({QLatin1String(row.name), AnalysisText::tr(row.caption),
-                      value ? withUnit(*value * row.scale, row.unit) : row.figure.reason, value.has_value()});
+                      value ? withUnit(*value * row.scale, row.unit) : row.figure.reason, value.has_value(),
+                      value.value_or(0.0), isError ? figures.unit : QString()});
     }
+    if (reasons == Reasons::Once && isTheSameRefusal(lines))
+        return {{QStringLiteral("stepFigures"), AnalysisText::tr("Step figures"), lines.first().value, false}};
     return lines;
 }
 

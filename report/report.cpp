@@ -126,7 +126,7 @@ QString captured(const ReportedCapture &capture, const Report &report)
         text += paragraph(Text::tr("Note: %1").arg(capture.record.note));
     text += whatIsOther(capture.record, report) + captureChart(capture.record);
     html::Facts rows;
-    for (const FigureLine &line : figureLines(captureFigures(capture.record)))
+    for (const FigureLine &line : figureLines(captureFigures(capture.record), Reasons::Once))
         rows.append({line.caption, line.value});
     return QLatin1String("<section class=\"capture\">\n") + text + table(rows) + QLatin1String("</section>\n");
 }
@@ -202,8 +202,11 @@ QByteArray reportPage(const Report &report)
     const QString title = report.machine.isEmpty() ? Text::tr("Commissioning report")
                                                    : Text::tr("Commissioning report: %1").arg(report.machine);
     const QString escaped = title.toHtmlEscaped();
-    const QString page = QStringLiteral("<!DOCTYPE html>\n<html>\n<head>\n<meta charset=\"utf-8\">\n<title>") +
-                         escaped + QLatin1String("</title>\n<style>") + QLatin1String(style) +
+    //: The language of the report, two letters as in HTML.
+    const QString language = Text::tr("en");
+    const QString page = QLatin1String("<!DOCTYPE html>\n<html lang=\"") + language +
+                         QLatin1String("\">\n<head>\n<meta charset=\"utf-8\">\n<title>") + escaped +
+                         QLatin1String("</title>\n<style>") + QLatin1String(style) +
                          QLatin1String("</style>\n</head>\n<body>\n<h1>") + escaped + QLatin1String("</h1>\n") +
                          driveSection(report) + settings(report) + captures(report) + stopTest(report) + whatToSign() +
                          QLatin1String("</body>\n</html>\n");

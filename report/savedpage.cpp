@@ -73,7 +73,7 @@ QString captureSection(const CaptureRecord &capture)
 QString figuresSection(const CaptureFigures &figures)
 {
     html::Facts rows;
-    for (const FigureLine &line : figureLines(figures))
+    for (const FigureLine &line : figureLines(figures, Reasons::Once))
         rows.append({line.caption, line.value});
     return html::section(Text::tr("Figures"), html::table(rows));
 }

@@ -258,6 +258,10 @@
         <source>counts</source>
         <translation>Ink</translation>
     </message>
+    <message>
+        <source>Step figures</source>
+        <translation>Sprungantwort</translation>
+    </message>
 </context>
 <context>
     <name>ApplyBox</name>
@@ -3450,6 +3454,11 @@
     <message>
         <source>Commissioning report: %1</source>
         <translation>Inbetriebnahmeprotokoll: %1</translation>
+    </message>
+    <message>
+        <source>en</source>
+        <extracomment>The language of the report, two letters as in HTML.</extracomment>
+        <translation>de</translation>
     </message>
 </context>
 <context>

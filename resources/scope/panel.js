@@ -53,10 +53,16 @@
         return section("cursors", "Cursors", children);
     }
 
+    // What has a channel's unit is shown in the one that the charts have. A raw word has no error of a fraction.
+    function figureValue(line) {
+        var unit = line.isDefined && (scope.unitSystem().units || {})[line.unit];
+        return unit ? number(Number((line.number * unit.factor).toPrecision(4))) + " " + unit.unit : line.value;
+    }
+
     function figureTable(lines, isStale) {
         return element("table", { "class": "scope-figures" + (isStale ? " scope-stale" : "") },
             lines.map(function (line) {
-                var made = row([line.caption, line.value]);
+                var made = row([line.caption, figureValue(line)]);
                 if (!line.isDefined)
                     made.className = "scope-undefined";
                 return made;
@@ -141,7 +147,7 @@
     function summary() {
         var lines = (scope.context.figures || []).filter(function (line) { return line.isDefined && line.brief; });
         return element("p", { id: "scope-summary" }, [lines.map(function (line) {
-            return line.brief + " " + line.value;
+            return line.brief + " " + figureValue(line);
         }).join("  \u00b7  ")]);
     }
 

@@ -1,4 +1,5 @@
 // The program: command line, the built-in virtual drives, the window, and a clean end.
+#include "boxstyle.h"
 #include "datafolder.h"
 #include "disabledink.h"
 #include "enginestart.h"
@@ -13,7 +14,6 @@
 #include <QApplication>
 #include <QDebug>
 #include <QLocale>
-#include <QStyleFactory>
 #include <cstdio>
 #include <cstring>
 
@@ -31,11 +31,6 @@ bool wantsTextOnly(int argc, char **argv)
         }
     }
     return false;
-}
-
-void setStyle()
-{
-    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
 }
 
 int failed(const QString &text, int exitCode)
@@ -82,7 +77,7 @@ int main(int argc, char **argv)
     if (!options.tourFolder.isEmpty())
         tour.start(); // before the window, whose disclaimer is its first stop
     MW mainWindow(window);
-    setStyle();
+    QApplication::setStyle(new BoxStyle);
     new DisabledInk(&application);
     mainWindow.show();
     const int status = QApplication::exec();

@@ -92,6 +92,8 @@ QJsonArray lines(const QList<FigureLine> &figures)
         list.append(QJsonObject{{QStringLiteral("caption"), line.caption},
                                 {QStringLiteral("value"), line.value},
                                 {QStringLiteral("isDefined"), line.isDefined},
+                                {QStringLiteral("number"), line.number},
+                                {QStringLiteral("unit"), line.channelUnit},
                                 {QStringLiteral("brief"), briefCaption(line.name)}});
     return list;
 }
@@ -135,7 +137,7 @@ QJsonObject figuresContext(const KeptCapture &capture)
     if (!capture.figures)
         return {{QStringLiteral("figures"), QJsonValue()}, {QStringLiteral("axisSheet"), QJsonValue()}};
     const std::optional<AxisSheet> &sheet = capture.figures->axis;
-    return {{QStringLiteral("figures"), lines(figureLines(capture.figures->step))},
+    return {{QStringLiteral("figures"), lines(figureLines(capture.figures->step, Reasons::Once))},
             {QStringLiteral("axisSheet"),
              sheet ? lines(axisLines(*sheet, countsPerRevolution(capture.record))) : QJsonArray()},
             {QStringLiteral("canTakeFeedForward"), sheet && sheet->isUsable()}};

@@ -1,5 +1,7 @@
 #include "disabledink.h"
 
+#include "ink.h"
+
 #include <QApplication>
 #include <QEvent>
 #include <QPalette>
@@ -7,13 +9,6 @@
 namespace {
 
 constexpr double share = 0.45; ///< of the text's colour
-
-QColor mixed(const QColor &text, const QColor &ground)
-{
-    const auto channel = [](int a, int b) { return int(share * a + (1.0 - share) * b); };
-    return QColor(channel(text.red(), ground.red()), channel(text.green(), ground.green()),
-                  channel(text.blue(), ground.blue()));
-}
 
 struct Ink
 {
@@ -46,8 +41,9 @@ void DisabledInk::mix()
     m_isMixing = true;
     QPalette colours = QApplication::palette();
     for (const Ink &ink : inks)
-        colours.setColor(QPalette::Disabled, ink.text,
-                         mixed(colours.color(QPalette::Active, ink.text), colours.color(QPalette::Active, ink.ground)));
+        colours.setColor(
+            QPalette::Disabled, ink.text,
+            mixedInk(colours.color(QPalette::Active, ink.text), colours.color(QPalette::Active, ink.ground), share));
     QApplication::setPalette(colours);
     m_isMixing = false;
 }

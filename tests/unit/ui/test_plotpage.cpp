@@ -258,6 +258,11 @@ TEST_F(PlotPage, ANewCaptureKeepsZoomCursorsUnitsAndHiddenChannelsAndAnOlderOneL
     const QJsonObject rise{{"caption", "Rise"}, {"value", "12 ms"}, {"isDefined", true}};
     view.updateScope({{"figures", QJsonArray{rise}}});
     EXPECT_EQ(textOf("#scope-figures td"), "Rise12 ms");
+    const QJsonObject error{{"brief", "RMS"}, {"value", "20 counts"}, {"isDefined", true}, {"number", 20}, {"unit", "cnts"}};
+    view.updateScope({{"figures", QJsonArray{error}}});
+    EXPECT_EQ(textOf("#scope-summary"), "RMS 20 counts") << "a raw word has no fractions";
+    run("velbrinScope.setUnits(0)");
+    EXPECT_EQ(textOf("#scope-summary"), "RMS 1.8 degrees") << "in the unit of the charts";
     EXPECT_EQ(axis("Torque", "xaxis.min"), 0.1) << "figures move nothing";
     view.updateScope({{"overlay", QJsonValue()}});
     EXPECT_LT(axis("Position", "yaxis.max"), 1100);
