@@ -168,8 +168,10 @@ TEST_F(Scope, ACaptureThatNeverTriggersWaitsUntilItIsArmedAnewOrLeft)
     ASSERT_TRUE(connectTo());
     bus().set(5, 552, 4);
     ASSERT_TRUE(bus().waitForRegister(5, 5011, 0)) << "it is full";
-    const int before = log().statusPanels.size();
-    ASSERT_TRUE(waitUntil([&] { return log().statusPanels.size() > before + 1; }));
+    log().states.clear();
+    const auto showsItFull = [](const DriveState &state) { return state.scopeState == 0; };
+    // A download that the first such poll led to would be queued before the second.
+    ASSERT_TRUE(waitUntil([&] { return std::count_if(log().states.begin(), log().states.end(), showsItFull) > 1; }));
     ASSERT_TRUE(waitUntilIdle());
     EXPECT_THAT(log().plots, SizeIs(1));
     EXPECT_TRUE(log().errors.isEmpty());
