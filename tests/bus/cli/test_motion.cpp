@@ -204,6 +204,8 @@ TEST_F(CliMotion, HomingThatTakesTooLongOrIsInterruptedIsAborted)
 
     bus().clearReceived();
     bus().withDrive(DriveAddress, [](sim::VirtualDrive &drive) { drive.refuseWrites(7532, 0); });
+    // Time to interrupt it before a poll shows that it homes: what was polled before the abort must not count.
+    bus().setTurnAround(std::chrono::milliseconds(50));
     start(process, {"--port", port(), "--node", "5", "home"});
     ASSERT_TRUE(waitForPayload(bus(), "9d6c00000001"));
     sendSignal(process);
