@@ -5,6 +5,8 @@
 #include <QStringList>
 #include <QtEndian>
 
+#include <numeric>
+
 namespace {
 
 constexpr int headerSize = 16;
@@ -18,17 +20,10 @@ void appendWords(const QList<quint16> &words, QByteArray *bytes)
     }
 }
 
-quint32 sumOf(const QByteArray &bytes)
-{
-    quint32 sum = 0;
-    for (const char byte : bytes)
-        sum += static_cast<quint8>(byte);
-    return sum;
-}
-
 QByteArray checksumOf(const QByteArray &bytes)
 {
-    const quint32 sum = qToLittleEndian(sumOf(bytes));
+    const auto add = [](quint32 sum, char byte) { return sum + static_cast<quint8>(byte); };
+    const quint32 sum = qToLittleEndian(std::accumulate(bytes.begin(), bytes.end(), quint32(0), add));
     return QByteArray(reinterpret_cast<const char *>(&sum), checksumSize);
 }
 
@@ -70,8 +65,9 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     load(summed + checksumOf(summed), qFromLittleEndian<qint16>(bytes.constData() + 6));
     // The bytes as two images behind a header that is right must be accepted, whatever they are.
     QByteArray sound = QByteArray::fromHex("544446572c01f82a");
-    const quint32 lengths[] = {qToLittleEndian<quint32>((size / 4) * 2), qToLittleEndian<quint32>((size / 4) * 2)};
-    sound.append(reinterpret_cast<const char *>(lengths), sizeof lengths);
+    const quint32 length = qToLittleEndian<quint32>((size / 4) * 2);
+    for (int image = 0; image < 2; ++image)
+        sound.append(reinterpret_cast<const char *>(&length), sizeof length);
     sound += bytes.left(static_cast<int>(size / 4 * 4));
     require(load(sound + checksumOf(sound), 11001), "a sound file is accepted");
     return 0;

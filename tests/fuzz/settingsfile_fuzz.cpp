@@ -6,6 +6,7 @@
 #include <QTemporaryDir>
 
 #include <cmath>
+#include <tuple>
 
 namespace {
 
@@ -25,23 +26,16 @@ Parameters connectedDrive()
     return list;
 }
 
-bool isSame(const SingleParam &a, const SingleParam &b)
-{
-    return a.name == b.name && a.addr == b.addr && a.scaling == b.scaling && a.offset == b.offset &&
-           a.readonly == b.readonly && a.value == b.value && a.min == b.min && a.max == b.max &&
-           a.devices == b.devices && a.group == b.group;
-}
-
 /// Whether both lists are alike from the record at `first` on.
 bool isSame(const Parameters &a, const Parameters &b, int first)
 {
-    if (a.getParamCount() != b.getParamCount())
-        return false;
-    for (int i = first; i < a.getParamCount(); ++i) {
-        if (!isSame(a.getParam(i), b.getParam(i)))
-            return false;
-    }
-    return true;
+    const auto all = [](const SingleParam &p) {
+        return std::tuple(p.name, p.addr, p.scaling, p.offset, p.readonly, p.value, p.min, p.max, p.devices, p.group);
+    };
+    bool isSame = a.getParamCount() == b.getParamCount();
+    for (int i = first; isSame && i < a.getParamCount(); ++i)
+        isSame = all(a.getParam(i)) == all(b.getParam(i));
+    return isSame;
 }
 
 void checkTaken(const Parameters &list)

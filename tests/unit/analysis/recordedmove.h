@@ -6,17 +6,9 @@
 #include "capture.h"
 #include "registers.h"
 #include "virtualdrive.h"
+#include "withvalues.h"
 
 #include <map>
-
-inline CaptureData recordedChannel(const char *key, double scale)
-{
-    CaptureData channel;
-    channel.key = QString::fromLatin1(key);
-    channel.scale = scale;
-    channel.enabled = true;
-    return channel;
-}
 
 struct Move
 {
@@ -54,20 +46,17 @@ inline CaptureRecord recordMove(const Move &move)
 
     CaptureRecord capture;
     capture.samplePeriod = (move.divider + 1.0) / drive.profile().recorderRate;
-    capture.channels = {recordedChannel("torqueref", 1.0 / 560), recordedChannel("torquemeas", 1.0 / 560),
-                        recordedChannel("posmeas", 1.0)};
-    if (move.withSetpoint)
-        capture.channels[1] = recordedChannel("posreference", 1.0);
+    capture.channels = {channelOf("torqueref"), channelOf(move.withSetpoint ? "posreference" : "torquemeas"),
+                        channelOf("posmeas")};
+    for (CaptureData &channel : capture.channels)
+        channel.scale = channel.key.startsWith("torque") ? 1.0 / 560 : 1.0;
     for (int word = 0; word < sim::Recorder::words; ++word) {
         CaptureData &channel = capture.channels[word % 3];
         drive.write(sim::reg::RecorderAddress, word);
         const double value = drive.read(sim::reg::RecorderWord) * channel.scale;
         channel.samples.append({channel.samples.size() * capture.samplePeriod, value});
     }
-    SingleParam limit;
-    limit.name = QStringLiteral("MMC");
-    limit.value = drive.read(sim::reg::PeakCurrent) / 1000.0;
-    capture.settings.addParameter(limit);
+    capture.settings = withValues({}, {{"MMC", drive.read(sim::reg::PeakCurrent) / 1000.0}});
     return capture;
 }
 

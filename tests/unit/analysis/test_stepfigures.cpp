@@ -147,35 +147,23 @@ TEST(StepFigures, WhatIsNoStepHasNoNumbers)
 
 TEST(StepFigures, ChannelsOfACaptureAreChosenByControlModeAndMotion)
 {
-    const auto channel = [](const char *key, const char *unit, QList<double> values) {
-        CaptureData data;
-        data.key = QString::fromLatin1(key);
-        data.unit = QString::fromLatin1(unit);
-        data.enabled = true;
-        for (const double value : values)
-            data.samples.append({data.samples.size() * 0.001, value});
-        return data;
-    };
     CaptureRecord capture;
     capture.samplePeriod = 0.001;
-    capture.channels = {channel("velreference", "vel", {0, 10, 10, 10}), channel("velmeas", "vel", {0, 5, 10, 10}),
-                        channel("posreference", "cnts", {0, 0, 0}), channel("posferror", "cnts", {0, 0, 0})};
+    capture.channels = {channelOf("velreference", {0, 10, 10, 10}), channelOf("velmeas", {0, 5, 10, 10}),
+                        channelOf("posreference", {0, 0, 0}), channelOf("posferror", {0, 0, 0})};
     EXPECT_EQ(stepRecordOf(capture).channel, "velmeas") << "the position setpoint stands";
 
-    capture.channels[2] = channel("posreference", "cnts", {0, 100, 100});
-    capture.channels[3] = channel("posferror", "cnts", {0, 100, 40});
+    capture.channels[2] = channelOf("posreference", {0, 100, 100});
+    capture.channels[3] = channelOf("posferror", {0, 100, 40});
     const StepRecord position = stepRecordOf(capture);
     EXPECT_EQ(position.channel, "posmeas");
     EXPECT_EQ(position.measured, (std::vector<double>{0, 0, 60}));
 
-    SingleParam mode;
-    mode.name = "CM";
-    mode.value = 1;
-    capture.settings.addParameter(mode);
+    capture.settings = withValues({}, {{"CM", 1}});
     EXPECT_EQ(stepRecordOf(capture).channel, "velmeas") << "velocity control";
 
     // The recorder's first word may be behind the step that started it: what was set before is known from the motion.
-    capture.channels = {channel("posreference", "cnts", {100, 100, 100}), channel("posmeas", "cnts", {0, 40, 95})};
+    capture.channels = {channelOf("posreference", {100, 100, 100}), channelOf("posmeas", {0, 40, 95})};
     capture.motion = {CaptureMotion::Kind::Step, 0, 100, 0, 0};
     EXPECT_FALSE(stepFigures(capture).timeTo90.value);
     capture.trigger = 2;
@@ -183,13 +171,13 @@ TEST(StepFigures, ChannelsOfACaptureAreChosenByControlModeAndMotion)
     ASSERT_TRUE(figure.value);
     EXPECT_NEAR(*figure.value, 0.001 * (1.0 + 50.0 / 55.0), 1e-12);
 
-    capture.channels << channel("velreference", "vel", {0, 10, 5}) << channel("velmeas", "vel", {0, 5, 5});
+    capture.channels << channelOf("velreference", {0, 10, 5}) << channelOf("velmeas", {0, 5, 5});
     capture.settings = Parameters();
     EXPECT_EQ(stepRecordOf(capture).channel, "posmeas") << "it has moved, though no sample shows it";
 
     // Positions are 16-bit words.
-    capture.channels = {channel("posreference", "cnts", {32700, -32736, -32736}),
-                        channel("posmeas", "cnts", {32700, -32766, -32736})};
+    capture.channels = {channelOf("posreference", {32700, -32736, -32736}),
+                        channelOf("posmeas", {32700, -32766, -32736})};
     EXPECT_EQ(stepRecordOf(capture).measured, (std::vector<double>{32700, 32770, 32800}));
     EXPECT_EQ(stepRecordOf(capture).setpoint.back(), 32800);
 }

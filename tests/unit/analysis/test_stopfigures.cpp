@@ -1,6 +1,7 @@
 // Time and distance to standstill, and back-and-forth moves.
 #include "capturefigures.h"
 #include "stopfigures.h"
+#include "withvalues.h"
 
 #include "printqt.h"
 
@@ -12,12 +13,7 @@ CaptureRecord positions(const std::vector<double> &counts, const char *key = "po
 {
     CaptureRecord capture;
     capture.samplePeriod = 0.002;
-    CaptureData channel;
-    channel.key = key;
-    channel.enabled = true;
-    for (std::size_t i = 0; i < counts.size(); ++i)
-        channel.samples.append({0.002 * double(i), counts[i]});
-    capture.channels.append(channel);
+    capture.channels.append(channelOf(key, counts, capture.samplePeriod));
     return capture;
 }
 

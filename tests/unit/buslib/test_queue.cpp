@@ -57,14 +57,12 @@ TEST_F(Queue, EncodesItemsBigEndianWithTheirLengthInTheTopBits)
 TEST_F(Queue, EncodesAReadInTenBytesAndAWriteInSix)
 {
     EXPECT_EQ(zbAppendGetParamCommandToQueue(handle, 6012), ZB_OK);
-    EXPECT_EQ(queued(), (Bytes{0x80, 0x0A, 0x40, 0x00, 0x00, 0x80, 0x09, 0x40, 0x17, 0x7C}));
-    zbResetZB485variables(handle);
     EXPECT_EQ(zbAppendSetParamCommandToQueue(handle, 404, -1), ZB_OK);
-    EXPECT_EQ(queued(), (Bytes{0x81, 0x94, 0x3F, 0xFF, 0xFF, 0xFF}));
-    zbResetZB485variables(handle);
     // The maximum of a parameter is asked for with bit 15 of its address, which makes the address negative.
     EXPECT_EQ(zbAppendGetParamCommandToQueue(handle, static_cast<std::int16_t>(405 + 0x8000)), ZB_OK);
-    EXPECT_EQ(queued(), (Bytes{0x80, 0x0A, 0x40, 0x00, 0x00, 0x80, 0x09, 0x7F, 0x81, 0x95}));
+    EXPECT_EQ(queued(), (Bytes{0x80, 0x0A, 0x40, 0x00, 0x00, 0x80, 0x09, 0x40, 0x17, 0x7C, //
+                               0x81, 0x94, 0x3F, 0xFF, 0xFF, 0xFF,                         //
+                               0x80, 0x0A, 0x40, 0x00, 0x00, 0x80, 0x09, 0x7F, 0x81, 0x95}));
 }
 
 TEST_F(Queue, TakesItemsUpToExactlyOneHundredTwentyBytes)
@@ -83,24 +81,14 @@ TEST_F(Queue, TakesItemsUpToExactlyOneHundredTwentyBytes)
     EXPECT_EQ(getCumulativeStatus(handle), ZB_OK | ZB_ERR_LENGTH);
 }
 
-TEST_F(Queue, RefusesAnUnknownItemKindAndAClosedHandle)
+TEST_F(Queue, RefusesAnUnknownItemKind)
 {
     for (int kind : {-1, 3})
         EXPECT_EQ(zbAppendZBCommandToQueue(handle, kind, 0), ZB_ERR_PARAMETER);
     EXPECT_EQ(bus().queueWriteLength, 0);
-    for (ZbHandle closed : {-1, 1, 10}) {
-        long value = 0;
-        std::uint16_t clock = 0;
-        EXPECT_EQ(zbAppendZBCommandToQueue(closed, ZB_QUEUE_ADDRESS, 0), ZB_ERR_NODEVICE);
-        EXPECT_EQ(zbExecuteCommandQueue(closed, 3), ZB_ERR_NODEVICE);
-        EXPECT_EQ(zbGetQueuedZBCommandReturnValue(closed, &value), ZB_ERR_NODEVICE);
-        EXPECT_EQ(zbSetParameter(closed, 3, 404, 0), ZB_ERR_NODEVICE);
-        EXPECT_EQ(zbGetBufferClock(closed, 3, &clock), ZB_ERR_NODEVICE);
-        EXPECT_EQ(zbCloseBus(closed), ZB_ERR_NODEVICE);
-    }
 }
 
-TEST_F(Queue, ThatOverflowedExchangesNothingAndStillReportsSuccess)
+TEST_F(Queue, ThatOverflowedExchangesNothingAndReportsSuccessOnceAndAFailedSendKeepsIt)
 {
     received({0x80, 0x07});
     bus().queueWriteLength = 118;
@@ -109,14 +97,10 @@ TEST_F(Queue, ThatOverflowedExchangesNothingAndStillReportsSuccess)
     EXPECT_EQ(zbExecuteCommandQueue(handle, 3), ZB_OK);
     EXPECT_EQ(bus().queueWriteLength, 0);
     EXPECT_EQ(next(), 7); // the previous reply is still there
-    EXPECT_EQ(zbExecuteCommandQueue(handle, 3), ZB_ERR_BUS) << "the overflow counts once";
-}
-
-TEST_F(Queue, StaysFilledWhenTheSendFails)
-{
+    resetCumulativeStatus(handle);
     ASSERT_EQ(zbAppendGetParamCommandToQueue(handle, 404), ZB_OK);
-    EXPECT_EQ(zbExecuteCommandQueue(handle, 3), ZB_ERR_BUS);
-    EXPECT_EQ(bus().queueWriteLength, 10);
+    EXPECT_EQ(zbExecuteCommandQueue(handle, 3), ZB_ERR_BUS) << "the overflow counts once";
+    EXPECT_EQ(bus().queueWriteLength, 10) << "what could not be sent stays";
     EXPECT_EQ(getCumulativeStatus(handle), ZB_OK | ZB_ERR_BUS);
 }
 
@@ -136,16 +120,12 @@ TEST_F(Queue, DecodesReturnValuesOfEveryLengthWithTheirSign)
 
 TEST_F(Queue, CountsTheBytesThatAreNotDecodedYet)
 {
-    received({0x80, 0x01, 0x80, 0x02, 0x80, 0x03, 0x80, 0x04});
     int count = 0;
+    received({0x80, 0x01, 0x80, 0x02, 0x80, 0x03});
     next();
     next();
     EXPECT_EQ(zbBytesReceived(handle, &count), ZB_OK);
-    EXPECT_EQ(count, 4);
-    next();
-    EXPECT_EQ(next(), 4);
-    EXPECT_EQ(next(ZB_ERR_LENGTH), 0);
-
+    EXPECT_EQ(count, 2);
     received({0x3F}); // an item that begins on the last byte is decoded whole
     next();
     EXPECT_EQ(zbBytesReceived(handle, &count), ZB_OK);

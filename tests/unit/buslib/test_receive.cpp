@@ -14,11 +14,11 @@ const Bytes fourValues = {0x25, 0x08, 0x03, 0x80, 0x01, 0x80, 0x02, 0x80, 0x03, 
 class Receive : public OpenRecord
 {
 protected:
-    // Feeds bytes until one is refused; returns the last status.
+    // Feeds bytes until one is refused or a reply is whole; returns the last status.
     ZbStatus feed(const Bytes &bytes)
     {
         ZbStatus status = ZB_OK;
-        for (std::size_t i = 0; i < bytes.size() && status == ZB_OK; ++i)
+        for (std::size_t i = 0; i < bytes.size() && status == ZB_OK && (i == 0 || !bus().packetComplete); ++i)
             status = zbParseReturnData(handle, bytes[i]);
         return status;
     }
@@ -99,13 +99,8 @@ TEST_F(Receive, RefusesAnyFlippedBitAndTakesTheNextReply)
         for (int bit = 0; bit < 8; ++bit) {
             Bytes damaged = fourValues;
             damaged[byte] ^= static_cast<std::uint8_t>(1 << bit);
-            ZbStatus status = ZB_OK;
-            bool complete = false;
-            for (std::size_t i = 0; i < damaged.size() && status == ZB_OK && !complete; ++i) {
-                status = zbParseReturnData(handle, damaged[i]);
-                complete = bus().packetComplete;
-            }
-            EXPECT_FALSE(complete && status == ZB_OK) << "byte " << byte << " bit " << bit;
+            const bool isTaken = feed(damaged) == ZB_OK && bus().packetComplete;
+            EXPECT_FALSE(isTaken) << "byte " << byte << " bit " << bit;
             zbReceiveErrorHandler(handle, false);
             ASSERT_EQ(feed(fourValues), ZB_OK) << "byte " << byte << " bit " << bit;
             ASSERT_EQ(bus().packetComplete, 1);
@@ -123,8 +118,13 @@ TEST_F(Receive, OnAClosedHandleReportsNoDeviceOnly)
         EXPECT_EQ(zbDiscardInput(closed), ZB_ERR_NODEVICE);
         EXPECT_EQ(zbResetZB485variables(closed), ZB_ERR_NODEVICE);
         EXPECT_EQ(getCumulativeStatus(closed), ZB_ERR_NODEVICE);
-        EXPECT_EQ(zbIsHandleOpen(closed), 0);
-        EXPECT_EQ(zbIsLineGone(closed), 0);
+        EXPECT_EQ(zbIsHandleOpen(closed) + zbIsLineGone(closed), 0);
+        EXPECT_EQ(zbAppendZBCommandToQueue(closed, ZB_QUEUE_ADDRESS, 0), ZB_ERR_NODEVICE);
+        EXPECT_EQ(zbExecuteCommandQueue(closed, 3), ZB_ERR_NODEVICE);
+        EXPECT_EQ(zbGetQueuedZBCommandReturnValue(closed, nullptr), ZB_ERR_NODEVICE);
+        EXPECT_EQ(zbSetParameter(closed, 3, 404, 0), ZB_ERR_NODEVICE);
+        EXPECT_EQ(zbGetBufferClock(closed, 3, nullptr), ZB_ERR_NODEVICE);
+        EXPECT_EQ(zbCloseBus(closed), ZB_ERR_NODEVICE);
     }
     EXPECT_EQ(getCumulativeStatus(handle), 0u);
 }

@@ -5,6 +5,7 @@
 #include "virtualport.h"
 
 #include "printqt.h"
+#include "testfiles.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -28,10 +29,9 @@ protected:
         qputenv("TMPDIR", m_folder.path().toLocal8Bit());
         qputenv("VELBRIN_DATA", m_folder.filePath("data").toLocal8Bit());
         for (const char *folder : {"data", "downloads"}) {
-            ASSERT_TRUE(QDir(m_folder.path()).mkpath(QString("%1/flot").arg(folder)));
-            ASSERT_TRUE(QDir(m_folder.path()).mkpath(QString("%1/help").arg(folder)));
-            QFile script(m_folder.filePath(QString("%1/flot/jquery.flot.js").arg(folder)));
-            ASSERT_TRUE(script.open(QIODevice::WriteOnly));
+            for (const char *part : {"flot", "help"})
+                ASSERT_TRUE(QDir(m_folder.path()).mkpath(QString("%1/%2").arg(folder, part)));
+            put(m_folder.filePath(QString("%1/flot/jquery.flot.js").arg(folder)), {});
         }
         ASSERT_TRUE(QDir::setCurrent(m_folder.filePath("downloads"))); // somebody else's
     }
@@ -41,7 +41,6 @@ protected:
         qunsetenv("TMPDIR");
         QDir::setCurrent("/");
     }
-    QStringList privateFolders() const { return QDir(m_folder.path()).entryList({"velbrin-desk-*"}, QDir::Dirs); }
 
     QTemporaryDir m_folder;
 };
@@ -60,13 +59,14 @@ void makeOld(const QString &folder)
 
 TEST_F(Desk, OwnDataGoBeforeThoseOfTheWorkingFolder)
 {
-    EXPECT_EQ(findDataFolder(), QDir(m_folder.filePath("data")).canonicalPath());
+    const QString own = QDir(m_folder.filePath("data")).canonicalPath();
+    EXPECT_EQ(findDataFolder(), own);
     EXPECT_TRUE(enterDataFolder());
-    EXPECT_EQ(QDir::currentPath(), QDir(m_folder.filePath("data")).canonicalPath());
+    EXPECT_EQ(QDir::currentPath(), own);
 
     ASSERT_TRUE(QFile::remove(m_folder.filePath("data/flot/jquery.flot.js"))); // as in the sources: a style sheet only
     ASSERT_TRUE(QDir::setCurrent("/"));
-    EXPECT_NE(findDataFolder(), QDir(m_folder.filePath("data")).canonicalPath());
+    EXPECT_NE(findDataFolder(), own);
 }
 
 TEST_F(Desk, VirtualDriveHasAPrivateFolderThatGoesAway)
@@ -102,7 +102,7 @@ TEST_F(Desk, FoldersOfKilledProgramsAreRemovedAndThoseInUseAreNot)
         const VirtualPort next("keta", VirtualPort::Pace::AsItGoes);
         EXPECT_FALSE(place.exists("velbrin-desk-killed"));
         EXPECT_TRUE(place.exists("velbrin-desk-justnw")) << "another program may be about to lock it";
-        EXPECT_EQ(privateFolders().size(), 3);
+        EXPECT_EQ(place.entryList({"velbrin-desk-*"}, QDir::Dirs).size(), 3);
     }
     EXPECT_TRUE(QFileInfo::exists(QFileInfo("COM1").symLinkTarget()));
 }

@@ -1,5 +1,6 @@
 #include "captureplotter.h"
 #include "testfiles.h"
+#include "withvalues.h"
 
 #include <gtest/gtest.h>
 
@@ -7,19 +8,13 @@
 #include <QLocale>
 #include <QTemporaryDir>
 
-#include <cstring>
-
 namespace {
 
-CaptureData channel(const char *name, const char *key, const char *group, QList<double> values)
+CaptureData channel(const char *name, const char *key, const char *group, const std::vector<double> &values)
 {
-    CaptureData c;
+    CaptureData c = channelOf(key, values, 2 / 17500.0);
     c.name = QString::fromLatin1(name);
-    c.key = QString::fromLatin1(key);
     c.group = QString::fromLatin1(group);
-    c.enabled = true;
-    for (int i = 0; i < values.size(); ++i)
-        c.samples.append({i * 2 / 17500.0, values.at(i)});
     return c;
 }
 
@@ -46,20 +41,6 @@ struct DecimalComma
 
 } // namespace
 
-TEST(CapturePlotter, WritesTheScriptOfAGroup)
-{
-    const CapturePlotter plotter;
-    EXPECT_EQ(plotter.getPlotPlaceholderString("Torque"),
-              "<div id=\"Torque\" style=\"width:100%;height:400px;\"></div>\n");
-    const QString script = plotter.getPlottingScript(recurring(), "Torque");
-    const QString series = "[{ data: torqueref, label: \"Torque setpoint [A]\"} , "
-                           "{ data: fluxcurrent, label: \"Flux current\"} ]";
-    EXPECT_TRUE(script.startsWith("var Torque=$.plot($(\"#Torque\")," + series +
-                                  ", options);\n"
-                                  "$(\"#Torque\").bind(\"plotselected\", function (event, ranges) {\n"));
-    EXPECT_TRUE(script.contains("    Torque = $.plot($(\"#Torque\"), " + series + ",\n"));
-}
-
 TEST(CapturePlotter, PageRepeatsTheScriptOfAGroupThatRecurs)
 {
     const DecimalComma locale;
@@ -82,16 +63,19 @@ TEST(CapturePlotter, PageRepeatsTheScriptOfAGroupThatRecurs)
         "\nvar torqueref=[[0,1e-05],[0.000114286,-0.00178571]];\n"
         "var velmeas=[[0,1.23457e+06],[0.000114286,-0.5]];\n"
         "var fluxcurrent=[[0,655.35],[0.000114286,0]];\n"
-        "var Torque=$.plot($(\"#Torque\"),",
+        "var Torque=$.plot($(\"#Torque\"),[{ data: torqueref, label: \"Torque setpoint [A]\"} , "
+        "{ data: fluxcurrent, label: \"Flux current\"} ], options);\n"
+        "$(\"#Torque\").bind(\"plotselected\", function (event, ranges) {\n",
+        "    Torque = $.plot($(\"#Torque\"), [{ data: torqueref, label: \"Torque setpoint [A]\"} , ",
         "var Velocity=$.plot($(\"#Velocity\"),",
         "var Torque=$.plot($(\"#Torque\"),",
         "\t\n});\n</script>\n<h2>Parameters</h2> %1\n</body>\n</html>\n",
     };
-    int from = 0;
-    for (const char *part : parts) {
-        const int at = page.indexOf(part, from);
-        ASSERT_GE(at, from) << part;
-        from = at + static_cast<int>(strlen(part));
+    qsizetype from = 0;
+    for (const QString part : parts) {
+        const qsizetype at = page.indexOf(part, from);
+        ASSERT_GE(at, from) << part.toStdString();
+        from = at + part.size();
     }
     EXPECT_EQ(from, page.size());
     EXPECT_EQ(page.count("$.plot($(\"#"), 6) << "three scripts, each of which plots again when zoomed";
@@ -117,11 +101,7 @@ TEST(CapturePlotter, CsvHasAsManyRowsAsTheShortestChannel)
                               "0.000114286;-0.00178571;-0.5;0\n");
     ASSERT_TRUE(CapturePlotter().saveCaptureDataCSV({}, path));
     EXPECT_EQ(contents(path), "Time\n");
-}
 
-TEST(CapturePlotter, CsvThatCannotBeWrittenIsReported)
-{
-    const QTemporaryDir folder;
     EXPECT_FALSE(CapturePlotter().saveCaptureDataCSV(recurring(), folder.path()));
     EXPECT_FALSE(CapturePlotter().saveCaptureDataCSV(recurring(), folder.filePath("gone/capture.csv")));
     EXPECT_FALSE(CapturePlotter().saveCaptureDataCSV(recurring(), "/dev/full"));

@@ -1,5 +1,6 @@
 // When edits count as pending, what differs from the drive, and what a control's rounding does not change.
 #include "editedsettings.h"
+#include "withvalues.h"
 
 #include <cmath>
 #include <gtest/gtest.h>
@@ -12,20 +13,9 @@ constexpr int kvp = 0, cvl = 1, pif = 2;
 Parameters valuesOf(double kvpValue, double cvlValue)
 {
     Parameters list;
-    for (const char *name : {"KVP", "CVL", "PIF"}) {
-        SingleParam p;
-        p.name = name;
-        p.readonly = p.name == "PIF";
-        list.addParameter(p);
-    }
-    SingleParam p = list.getParam(kvp);
-    p.value = kvpValue;
-    list.replaceParam(p, kvp);
-    p = list.getParam(cvl);
-    p.value = cvlValue;
-    p.scaling = 100.0;
-    list.replaceParam(p, cvl);
-    return list;
+    for (const char *name : {"KVP", "CVL", "PIF"})
+        list.addParameter(0, name, list.getParamCount() == cvl ? 100.0 : 1.0, 0.0, list.getParamCount() == pif, true, "KETA");
+    return withValues(list, {{"KVP", kvpValue}, {"CVL", cvlValue}});
 }
 
 /// As the window takes a list over.

@@ -1,5 +1,6 @@
 #include "outputfile.h"
 #include "testfiles.h"
+#include "withvalues.h"
 
 #include "captureplotter.h"
 #include "printqt.h"
@@ -7,7 +8,6 @@
 #include <gtest/gtest.h>
 
 #include <QDir>
-#include <QElapsedTimer>
 #include <QTemporaryDir>
 
 #include <sys/stat.h>
@@ -16,10 +16,7 @@ TEST(OutputFile, LeavesTheOldOneWhereTheDiskIsFull)
 {
     const QTemporaryDir folder;
     const QString name = folder.filePath("old.csv");
-    CaptureData channel;
-    channel.enabled = true;
-    for (int i = 0; i < 100; ++i)
-        channel.samples.append({i, i});
+    const CaptureData channel = channelOf("posmeas", std::vector<double>(100, 1.0));
     put(name, "old");
     {
         const SmallDisk disk;

@@ -1,13 +1,12 @@
 #include "devicemodel.h"
 #include "makerlinks.h"
-#include "parameters.h"
+#include "withvalues.h"
 
 #include <gtest/gtest.h>
 
 #include <QSettings>
 
 #include <cmath>
-#include <limits>
 
 TEST(SingleParam, ConvertsBothWaysAndRoundsHalvesAwayFromZero)
 {
@@ -48,35 +47,20 @@ TEST(SingleParam, CutsValuesOfAnySizeToAnInteger)
     EXPECT_EQ(truncateToInt32(NAN), 0);
 }
 
-namespace {
-
-Parameters namedList(const QStringList &names)
-{
-    Parameters list;
-    for (const QString &name : names)
-        list.addParameter(1, name, 1.0, 0.0, false, true, QStringLiteral("Keta"));
-    return list;
-}
-
-} // namespace
-
 TEST(Parameters, AreFoundByExactNameAndFirstMatch)
 {
-    Parameters list = namedList({"KVP", "KVI"});
-    SingleParam twin;
-    twin.name = "KVP";
-    twin.addr = 99;
-    list.addParameter(twin);
+    Parameters list;
+    for (const char *name : {"KVP", "KVI", "KVP"})
+        list.addParameter(list.getParamCount(), name, 1.0, 0.0, false, true, "Keta");
     EXPECT_EQ(list.getParamCount(), 3);
-    EXPECT_EQ(list.getParam("KVP").addr, 1);
-    EXPECT_EQ(list.getParam(2).addr, 99);
-    const SingleParam none = list.getParam("kvp");
-    EXPECT_EQ(none.name, "NULL");
+    EXPECT_EQ(list.getParam("KVP").addr, 0);
+    EXPECT_EQ(list.getParam(2).addr, 2);
+    EXPECT_EQ(list.getParam("kvp").name, "NULL");
 }
 
 TEST(Parameters, ReplacingTellsWhetherTheValueChanged)
 {
-    Parameters list = namedList({"KVP"});
+    Parameters list = withValues({}, {{"KVP", 0}});
     const Parameters before = list;
     SingleParam p = list.getParam("KVP");
     p.group = "ELMODE";
@@ -94,13 +78,8 @@ TEST(Parameters, ReplacingTellsWhetherTheValueChanged)
 
 TEST(Parameters, ListAsTableOfFourPairsToARow)
 {
-    Parameters list = namedList({"HWSERIAL", "UID", "BUILDREVISION", "KVP", "FOC"});
-    const double values[] = {123456.9, 48879.0, -1.0, 1234567.0, 16.666666666666668};
-    for (int i = 0; i < 5; ++i) {
-        SingleParam p = list.getParam(i);
-        p.value = values[i];
-        list.replaceParam(p, i);
-    }
+    const Parameters list = withValues({}, {{"HWSERIAL", 123456.9}, {"UID", 48879.0}, {"BUILDREVISION", -1.0},
+                                            {"KVP", 1234567.0}, {"FOC", 16.666666666666668}});
     EXPECT_EQ(list.getParamsHTMLList(), "<h2>Parameters</h2><table class=\"paramslist\">"
                                         "<tr><td>HWSERIAL</td><td>123456</td><td>UID</td><td>beef</td>"
                                         "<td>BUILDREVISION</td><td>ffffffff</td><td>KVP</td><td>1.23457e+06</td></tr>\n"

@@ -1,5 +1,5 @@
-#include "parameters.h"
 #include "testfiles.h"
+#include "withvalues.h"
 
 #include <gtest/gtest.h>
 
@@ -39,13 +39,7 @@ protected:
             p.group = "ELMODE";
             list.addParameter(p);
         }
-        setType(0);
-    }
-    void setType(double type)
-    {
-        SingleParam p = list.getParam("HWTYPE");
-        p.value = type;
-        list.replaceParam(p);
+        list = withValues(list, {{"HWTYPE", 0}});
     }
     void write(const QByteArray &bytes) { put(path, bytes); }
     QByteArray content() const { return contents(path); }
@@ -166,9 +160,9 @@ TEST_F(SettingsFile, FromAnotherDeviceTypeIsTakenWithAWarning)
                             entry(3, "FWVER", "57") + "size=3\n";
     EXPECT_EQ(load(file), "") << "no drive connected";
     EXPECT_EQ(list.getParam("HWTYPE").value, 0);
-    setType(11001);
+    list = withValues(list, {{"HWTYPE", 11001}});
     EXPECT_EQ(load(file), "");
-    setType(4000);
+    list = withValues(list, {{"HWTYPE", 4000}});
     EXPECT_EQ(load(file),
               "Warning: the loaded file is saved on different device type <b>KETA Pro</b> while connected device type "
               "is <b>TORVA</b>. Some settings and their value ranges may be incompatible. Apply button might cause "
@@ -184,21 +178,17 @@ TEST_F(SettingsFile, SavedWithoutADriveLeavesADriveItsOwn)
     Parameters bare;
     for (const char *name : {"HWTYPE", "KVP", "CEI", "FBD"})
         bare.addParameter(1, name, 1, 0, false, true, "Keta");
-    SingleParam typed = bare.getParam("KVP");
-    typed.value = 7;
-    bare.replaceParam(typed);
-    ASSERT_EQ(bare.saveToFile(path), "");
+    ASSERT_EQ(withValues(bare, {{"KVP", 7}}).saveToFile(path), "");
     LoadOutcome outcome = LoadOutcome::Refused;
     ASSERT_EQ(list.loadFromFile(path, &outcome), "") << "nobody is connected";
     EXPECT_EQ(outcome, LoadOutcome::Taken);
     EXPECT_EQ(list.getParam("FBD").value, 1) << "0 would be no feedback device";
     EXPECT_EQ(list.getParam("CEI").value, 0);
 
-    setType(11000);
+    list = withValues(list, {{"HWTYPE", 11000}, {"FBD", 5}, {"CEI", 5}, {"KVP", 5}});
     for (const char *name : {"FBD", "CEI", "KVP"}) {
         SingleParam held = list.getParam(name);
-        held.value = 5;
-        held.max = 6;
+        held.max = 6; // of a drive that was read
         list.replaceParam(held);
     }
     EXPECT_TRUE(list.loadFromFile(path, &outcome).startsWith("Warning: the loaded file was saved without a drive."));

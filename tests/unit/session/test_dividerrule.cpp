@@ -1,23 +1,7 @@
 #include "dividerrule.h"
-#include "parameters.h"
+#include "withvalues.h"
 
 #include <gtest/gtest.h>
-
-namespace {
-
-Parameters listOf(std::initializer_list<std::pair<const char *, double>> values)
-{
-    Parameters list;
-    for (const auto &v : values) {
-        SingleParam p;
-        p.name = v.first;
-        p.value = v.second;
-        list.addParameter(p);
-    }
-    return list;
-}
-
-} // namespace
 
 TEST(DividerRule, TakesTheFirstStepAboveTheLimit)
 {
@@ -36,18 +20,16 @@ TEST(DividerRule, TakesTheFirstStepAboveTheLimit)
 
 TEST(DividerRule, SetsTheDividerAndTellsWhetherItChanged)
 {
-    Parameters list = listOf({{"DIV", 50}, {"MMS", 3000.9}, {"FBR", 4000.9}});
+    Parameters list = withValues({}, {{"DIV", 50}, {"MMS", 3000.9}, {"FBR", 4000.9}});
     EXPECT_TRUE(autoSetDIVvalue(list));
     EXPECT_EQ(list.getParam("DIV").value, 200.0);
     EXPECT_FALSE(autoSetDIVvalue(list));
-}
 
-TEST(DividerRule, LeavesAListThatLacksASettingAlone)
-{
-    for (Parameters list : {listOf({{"MMS", 3000}, {"FBR", 4000}}), listOf({{"DIV", 50}, {"FBR", 4000}}),
-                            listOf({{"DIV", 50}, {"MMS", 3000}})}) {
-        const double before = list.getParam("DIV").value;
-        EXPECT_FALSE(autoSetDIVvalue(list));
-        EXPECT_EQ(list.getParam("DIV").value, before);
+    // Nor does a list change that lacks one of them.
+    for (Parameters lacking : {withValues({}, {{"MMS", 3000}, {"FBR", 4000}}),
+                               withValues({}, {{"DIV", 50}, {"FBR", 4000}}), withValues({}, {{"DIV", 50}, {"MMS", 3000}})}) {
+        const double before = lacking.getParam("DIV").value;
+        EXPECT_FALSE(autoSetDIVvalue(lacking));
+        EXPECT_EQ(lacking.getParam("DIV").value, before);
     }
 }

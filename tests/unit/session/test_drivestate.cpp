@@ -1,10 +1,8 @@
 #include "drivestate.h"
-#include "parameters.h"
+#include "withvalues.h"
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
-#include <iterator>
 #include <variant>
 
 namespace {
@@ -40,27 +38,17 @@ const struct
 };
 const QVector<int> debugRegisters = {971, 972, 973, 974, 975, 976};
 
-SingleParam named(const char *name, double value)
-{
-    SingleParam p;
-    p.name = name;
-    p.value = value;
-    return p;
-}
-
 } // namespace
 
 TEST(StatusPoll, ReadsDebugValuesAndWatchedRegisterOnlyWhenWanted)
 {
     const QVector<int> alwaysRead = StatusPoll(wanting(false, 0)).registers();
-    QVector<int> known;
-    std::copy_if(alwaysRead.begin(), alwaysRead.end(), std::back_inserter(known), [](int address) {
-        return std::any_of(std::begin(liveValues), std::end(liveValues),
-                           [address](const auto &live) { return live.address == address; });
-    });
-    ASSERT_EQ(std::size_t(known.size()), std::size(liveValues));
-    for (int i = 0; i < known.size(); ++i)
-        EXPECT_EQ(known[i], liveValues[i].address);
+    qsizetype from = 0;
+    for (const auto &live : liveValues) {
+        const qsizetype at = alwaysRead.indexOf(live.address, from);
+        ASSERT_GE(at, from) << live.address << " is read, and in this order";
+        from = at + 1;
+    }
     EXPECT_EQ(StatusPoll(wanting(true, 0)).registers(), alwaysRead + debugRegisters);
     EXPECT_EQ(StatusPoll(wanting(false, 202)).registers(), alwaysRead + QVector<int>{202});
     EXPECT_EQ(StatusPoll(wanting(true, 202)).registers(), alwaysRead + debugRegisters + QVector<int>{202});
@@ -120,34 +108,25 @@ TEST(StatusPoll, StoresEveryReturnValueInItsUnit)
     EXPECT_EQ(state.watchedAddress, 202) << "the value must stand beside the register it came from";
 }
 
-TEST(StatusPoll, TakesTheWatchedValueAlsoWithoutDebugValues)
+TEST(StatusPoll, StoresWhatItAskedForAndNothingOfAnotherNumberOfValues)
 {
     DriveState state = wanting(false, 202);
-    QVector<qint32> returned(StatusPoll(state).registers().size(), 0);
+    const StatusPoll watching(state);
+    QVector<qint32> returned(watching.registers().size(), 0);
     returned.last() = 4711;
-    ASSERT_TRUE(StatusPoll(state).store(returned, state));
+    ASSERT_TRUE(watching.store(returned, state));
     EXPECT_EQ(state.watchedValue, 4711);
     EXPECT_EQ(state.debugValues, (std::array<qint32, 6>{}));
-}
+    for (const qsizetype count : {qsizetype(0), qsizetype(3), returned.size() - 1, returned.size() + 1}) {
+        EXPECT_FALSE(watching.store(QVector<qint32>(count, 1), state)) << count;
+        EXPECT_EQ(state.faultRegister, 0) << count;
+    }
 
-TEST(StatusPoll, InFirmwareUpgradeModeChangesTheFaultsOnly)
-{
-    DriveState state = wanting(false, 0, true);
+    state = wanting(false, 0, true);
     state.statusRegister = 8;
     ASSERT_TRUE(StatusPoll(state).store({0x120}, state));
     EXPECT_EQ(state.faultRegister, 0x120);
     EXPECT_EQ(state.statusRegister, 8);
-}
-
-TEST(StatusPoll, RefusesAnotherNumberOfValuesUntouched)
-{
-    DriveState state = wanting(false, 0);
-    const StatusPoll poll(state);
-    const int wanted = int(poll.registers().size());
-    for (int count : {0, 3, wanted - 1, wanted + 1}) {
-        EXPECT_FALSE(poll.store(QVector<qint32>(count, 1), state)) << count;
-        EXPECT_EQ(state.faultRegister, 0) << count;
-    }
 }
 
 TEST(DriveState, TakesTheLimitSwitchSettingByEitherName)
@@ -159,13 +138,11 @@ TEST(DriveState, TakesTheLimitSwitchSettingByEitherName)
     EXPECT_EQ(state.limitSwitchFunction, 0.0);
     EXPECT_EQ(state.feedbackResolution, 0.0);
 
-    list.addParameter(named("LSF", 3));
-    list.addParameter(named("FBR", 2048));
+    list = withValues(list, {{"LSF", 3}, {"FBR", 2048}});
     takeWordingSettings(list, state);
     EXPECT_EQ(state.limitSwitchFunction, 3.0);
     EXPECT_EQ(state.feedbackResolution, 2048.0);
 
-    list.addParameter(named("LFS", 1));
-    takeWordingSettings(list, state);
+    takeWordingSettings(withValues(list, {{"LFS", 1}}), state);
     EXPECT_EQ(state.limitSwitchFunction, 1.0);
 }

@@ -54,10 +54,7 @@ TEST(ScopeChannels, SelectionShorterThanTheListKeepsTheRestUncounted)
     EXPECT_TRUE(channels[fluxVoltage].enabled);
     EXPECT_EQ(scopeSourceMask(channels), 0x1000000u + 0x4u + 0x8u);
 
-    QList<bool> tooMany;
-    for (int i = 0; i < 20; ++i)
-        tooMany.append(true);
-    EXPECT_EQ(selectScopeChannels(channels, tooMany), 16);
+    EXPECT_EQ(selectScopeChannels(channels, QList<bool>(20, true)), 16);
     EXPECT_EQ(selectScopeChannels(channels, {}), 0);
 }
 
@@ -75,10 +72,8 @@ TEST(ScopeRates, DividersOfTheOfferedRates)
     }
     EXPECT_DOUBLE_EQ(scopeSamplePeriod(17500.0, 1), 2.0 / 17500.0);
     EXPECT_DOUBLE_EQ(scopeSamplePeriod(20000.0, 0), 1.0 / 20000.0);
-}
 
-TEST(ScopeRates, ImpossibleRatesStayWithinWhatTheDriveTakes)
-{
+    // Impossible ones stay within what the drive takes.
     for (double rate : {1e9, 40000.0, 0.0, -5.0})
         EXPECT_EQ(scopeDivider(17500.0, rate), 0) << rate;
     EXPECT_EQ(scopeDivider(17500.0, 1e-12), 536870911);

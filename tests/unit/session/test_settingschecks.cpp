@@ -2,6 +2,7 @@
 
 #include "catalogue.h"
 #include "printqt.h"
+#include "withvalues.h"
 
 #include <gtest/gtest.h>
 
@@ -12,9 +13,8 @@ const QString keta = QStringLiteral("KETA");
 /// The catalogue with one setting as a drive has it.
 Parameters withSetting(const char *name, double value, double min, double max)
 {
-    Parameters list = driveParameterCatalogue();
+    Parameters list = withValues(driveParameterCatalogue(), {{name, value}});
     SingleParam param = list.getParam(QLatin1String(name));
-    param.value = value;
     param.min = min;
     param.max = max;
     list.replaceParam(param);
@@ -56,30 +56,17 @@ TEST(SettingsChecks, AssignmentsAreNamesAndFiniteNumbers)
 
 TEST(ApplyResults, TellWhatTheDriveTookAndWhatItHasInstead)
 {
-    Parameters before = driveParameterCatalogue();
-    const auto with = [](Parameters list, const QList<QPair<QString, double>> &values) {
-        for (const auto &[name, value] : values) {
-            SingleParam p = list.getParam(name);
-            p.value = value;
-            list.replaceParam(p);
-        }
-        return list;
+    using Values = std::initializer_list<std::pair<const char *, double>>;
+    const Parameters before = withValues(driveParameterCatalogue(), {{"KVP", 360}, {"KVI", 360}, {"MCC", 13}});
+    const auto lineOf = [&before](Values wanted, Values held) {
+        return applyLine(applyResult(before, withValues(before, wanted), withValues(before, held), "KETA"));
     };
-    before = with(before, {{"KVP", 360}, {"KVI", 360}, {"MCC", 13}});
-    struct Row
-    {
-        QList<QPair<QString, double>> wanted, held;
-        const char *line;
-    };
-    const Row rows[] = {
-        {{{"KVP", 400}, {"KVI", 500}, {"MCC", 14}}, {{"KVP", 400}, {"KVI", 500}, {"MCC", 14}}, "3 applied"},
-        {{{"KVP", 4000}, {"KVI", 500}, {"MCC", 14}},
-         {{"KVP", 3800}, {"KVI", 500}, {"MCC", 14}},
-         "2 applied, 1 not taken: KVP 4000 -> 3800"},
-        {{{"KVP", 400}}, {}, "0 applied, 1 not taken: KVP 400 -> 360"},
-        {{{"KVI", 500}}, {{"KVI", 500}, {"MCC", 2.5}}, "1 applied, 1 not taken: MCC 13 -> 2.5"}, // by another hand
-        {{{"MCC", 13.0000001}}, {}, "Applied: the drive had these values already"}, // the same on the bus
-    };
-    for (const Row &row : rows)
-        EXPECT_EQ(applyLine(applyResult(before, with(before, row.wanted), with(before, row.held), "KETA")), row.line);
+    const Values all = {{"KVP", 400}, {"KVI", 500}, {"MCC", 14}};
+    EXPECT_EQ(lineOf(all, all), "3 applied");
+    EXPECT_EQ(lineOf({{"KVP", 4000}, {"KVI", 500}, {"MCC", 14}}, {{"KVP", 3800}, {"KVI", 500}, {"MCC", 14}}),
+              "2 applied, 1 not taken: KVP 4000 -> 3800");
+    EXPECT_EQ(lineOf({{"KVP", 400}}, {}), "0 applied, 1 not taken: KVP 400 -> 360");
+    EXPECT_EQ(lineOf({{"KVI", 500}}, {{"KVI", 500}, {"MCC", 2.5}}), "1 applied, 1 not taken: MCC 13 -> 2.5")
+        << "by another hand";
+    EXPECT_EQ(lineOf({{"MCC", 13.0000001}}, {}), "Applied: the drive had these values already") << "the same on the bus";
 }

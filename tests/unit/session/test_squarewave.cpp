@@ -30,9 +30,10 @@ TEST(SquareWave, SwitchingOffIsToldOnceAndRestartsTheClock)
     EXPECT_FALSE(wave.set(7, 0.5, 9, 0.5, true));
     EXPECT_TRUE(wave.isActive());
     samples(wave, 3, 4.0);
-    EXPECT_TRUE(wave.set(7, 0.5, 9, 0.5, false));
-    EXPECT_FALSE(wave.isActive());
-    EXPECT_FALSE(wave.set(7, 0.5, 9, 0.5, false));
+    for (const bool isTold : {true, false}) {
+        EXPECT_EQ(wave.set(7, 0.5, 9, 0.5, false), isTold);
+        EXPECT_FALSE(wave.isActive());
+    }
     wave.set(7, 0.5, 9, 0.5, true);
     EXPECT_EQ(wave.next(4.0), 7.0) << "a start begins at target 1";
 }

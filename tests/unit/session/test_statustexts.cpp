@@ -13,6 +13,7 @@ const QString off = "&#9675;&nbsp;&nbsp;";
 const QString mark = "<b><font style=\"color:#e00\"> !</font></b>";
 const QString legend = "<br><font style=\"color:#e00\"><b>!</b> = reason for inactivity</font>";
 const QString help = " <a href=https://wiki.tarnwell.example/wiki/Fault_location>?</a>";
+const QString noLocation = "<br>Fault location ID 1 0" + help + "<br>Fault location ID 2 0" + help;
 
 /// One flag of a panel, in the panel's order.
 struct Row
@@ -96,12 +97,6 @@ Panel panelOf(Wording wording, const DriveState &state, bool marked = false)
 Panel statusPanel(const DriveState &state) { return panelOf(getStatusRegString, state); }
 Panel faultPanel(const DriveState &state, bool marked = false) { return panelOf(getFaultRegString, state, marked); }
 
-QString valueLineAfter(const QString &text, const QString &label)
-{
-    const int begin = text.indexOf(label) + label.size();
-    return text.mid(begin, text.indexOf("<br>", begin) - begin);
-}
-
 /// The panel has these lines whole, in this order; others may stand between them.
 void expectLines(const QString &text, const QStringList &expected)
 {
@@ -152,16 +147,21 @@ TEST(Panels, EveryFlagHasItsBitAndItsMarkAndStandsInTheValuesToo)
     EXPECT_TRUE(statusFlagsOf(bootloader).isEmpty() && inputFlagsOf(bootloader).isEmpty());
 }
 
-TEST(Panels, OfARunningDriveHaveNoMarks)
+TEST(Panels, OfADriveThatRunsOrWouldBeReadyHaveNoMarks)
 {
     DriveState state = keta();
     state.statusRegister = state.faultRegister = 0x3FFFFFFF;
-    state.limitSwitchFunction = 1;
     for (const auto &panel : panels)
         EXPECT_FALSE(panelOf(panel.wording, state).marked);
     EXPECT_TRUE(statusPanel(state).text.startsWith(linesOf(statusRows, nullptr, true, true) + "<br>"));
-    EXPECT_EQ(faultPanel(state).text, linesOf(faultRows, nullptr, true, true) + "<br>Fault location ID 1 0" + help +
-                                          "<br>Fault location ID 2 0" + help);
+    EXPECT_EQ(faultPanel(state).text, linesOf(faultRows, nullptr, true, true) + noLocation);
+
+    state.statusRegister = 4096 + 16 + 8192;
+    EXPECT_FALSE(statusPanel(state).marked);
+    state.softEnable = state.controlInputs = 1;
+    EXPECT_TRUE(panelOf(getDigitalInsString, state).marked);
+    state.limitSwitchFunction = 0; // the feed inputs do not matter then
+    EXPECT_FALSE(panelOf(getDigitalInsString, state).marked);
 }
 
 TEST(Panels, EndWithTheirValues)
@@ -199,26 +199,14 @@ TEST(Panels, EndWithTheirValues)
     EXPECT_TRUE(faultPanel(state).marked);
 }
 
-TEST(Panels, OfADriveThatWouldBeReadyHaveNoMarks)
-{
-    DriveState state = keta();
-    state.statusRegister = 4096 + 16 + 8192;
-    EXPECT_FALSE(statusPanel(state).marked);
-    state.softEnable = state.controlInputs = 1;
-    EXPECT_TRUE(panelOf(getDigitalInsString, state).marked);
-    state.limitSwitchFunction = 0; // the feed inputs do not matter then
-    EXPECT_FALSE(panelOf(getDigitalInsString, state).marked);
-}
-
 TEST(StatusPanel, TorvaShowsNoTemperature)
 {
     DriveState state = keta();
     state.deviceType = 4000;
-    const Panel panel = statusPanel(state);
-    EXPECT_TRUE(panel.text.contains("HV bus voltage&nbsp;&nbsp;0.0 VDC<br>"));
-    EXPECT_FALSE(panel.text.contains("Device temperature"));
+    EXPECT_FALSE(statusPanel(state).text.contains("Device temperature"));
+    expectLines(statusPanel(state).text, {"HV bus voltage&nbsp;&nbsp;0.0 VDC"});
     state.deviceType = 0; // not identified: nothing says that it is a Torva
-    EXPECT_TRUE(statusPanel(state).text.contains("Device temperature&nbsp;&nbsp;0 &deg;C<br>"));
+    expectLines(statusPanel(state).text, {"Device temperature&nbsp;&nbsp;0 &deg;C"});
 }
 
 TEST(StatusPanel, VelocityWithoutAFeedbackResolutionIsPerCount)
@@ -234,7 +222,7 @@ TEST(StatusPanel, VelocityWithoutAFeedbackResolutionIsPerCount)
         DriveState state = keta();
         state.feedbackResolution = c.resolution;
         state.rawVelocity = c.raw;
-        EXPECT_EQ(valueLineAfter(statusPanel(state).text, "Velocity feedback&nbsp;&nbsp;"), c.text) << c.resolution;
+        expectLines(statusPanel(state).text, {QString("Velocity feedback&nbsp;&nbsp;") + c.text});
     }
 }
 
@@ -243,7 +231,7 @@ TEST(FaultPanel, ShowsDebugValuesAndTheWatchedRegisterWhenWanted)
     DriveState state = keta();
     state.debugValues = {1, -2, 3, 4, 5, 600000};
     state.watchedValue = -42;
-    const QString plain = linesOf(faultRows) + "<br>Fault location ID 1 0" + help + "<br>Fault location ID 2 0" + help;
+    const QString plain = linesOf(faultRows) + noLocation;
     const QString debug = "<br><br>Debug 1&nbsp;&nbsp;1<br>Debug 2&nbsp;&nbsp;-2<br>Debug 3&nbsp;&nbsp;3<br>"
                           "Debug 4&nbsp;&nbsp;4<br>Debug 5&nbsp;&nbsp;5<br>Debug 6&nbsp;&nbsp;600000<br>";
     const QString watched = "Param 202&nbsp;&nbsp;-42<br>";

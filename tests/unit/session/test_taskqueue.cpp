@@ -49,19 +49,6 @@ TEST(TaskQueue, PutsStopsFirstAndKeepsTheOrderOfTheRest)
     }
 }
 
-TEST(TaskQueue, OnlyADisableIsServedOutOfTurn)
-{
-    TaskQueue queue;
-    queue.push(SessionTasks::TaskGetParams);
-    queue.push(enableTask(false));
-    queue.push(enableTask(true));
-    QueuedTask taken;
-    EXPECT_TRUE(queue.takeDisable(taken));
-    EXPECT_TRUE(taken.isDisable());
-    EXPECT_FALSE(queue.takeDisable(taken));
-    EXPECT_THAT(queue.codes(), ElementsAre(4, 11));
-}
-
 TEST(TaskQueue, OneScanWaitsAtATimeTheNewest)
 {
     TaskQueue queue;
@@ -98,13 +85,15 @@ TEST(TaskQueue, APauseIsInterruptedByADisableOnly)
     TaskQueue queue;
     std::thread user([&queue] {
         queue.push(SessionTasks::TaskGetParams);
-        queue.push(enableTask(true));
-        queue.push(enableTask(false));
+        for (const bool enable : {true, false, true})
+            queue.push(enableTask(enable));
     });
     EXPECT_EQ(queue.pauseUntil(std::chrono::steady_clock::now() + 1h), TaskQueue::Wake::Disable);
     user.join();
     QueuedTask taken;
-    ASSERT_TRUE(queue.takeDisable(taken));
+    EXPECT_TRUE(queue.takeDisable(taken) && taken.isDisable());
+    EXPECT_FALSE(queue.takeDisable(taken)) << "only a disable is served out of turn";
+    EXPECT_THAT(queue.codes(), ElementsAre(4, 11));
     EXPECT_EQ(queue.pauseUntil(std::chrono::steady_clock::now()), TaskQueue::Wake::TimeOver);
 }
 

@@ -13,11 +13,36 @@
 /// Register and value, in the order in which they are written.
 using Writes = std::vector<std::pair<int, std::int32_t>>;
 
+/// A drive that goes on by the cycle, at address 5.
+struct BenchDrive : sim::VirtualDrive
+{
+    explicit BenchDrive(const char *profile = "keta", const Writes &settings = {}, const sim::Machine &load = {})
+        : VirtualDrive(*sim::findProfile(profile), 5, load)
+    {
+        writeAll(settings);
+    }
+    void writeAll(const Writes &writes)
+    {
+        for (const auto &[address, value] : writes)
+            EXPECT_EQ(write(address, value), sim::Outcome::Done) << address << " := " << value;
+    }
+    void enable()
+    {
+        write(sim::reg::SoftEnable, 1);
+        advanceCycles(5);
+    }
+    /// Where it is after this setpoint and this many cycles.
+    int moved(int setpoint, int cycles = 2500)
+    {
+        write(sim::reg::SetpointAbsolute, setpoint);
+        advanceCycles(cycles);
+        return read(sim::reg::PositionFeedback);
+    }
+};
+
 class DriveBench : public testing::Test
 {
 protected:
-    explicit DriveBench(const char *profile = "keta") : drive(*sim::findProfile(profile), 5) {}
-
     /// Payload of the reply to an instant command; empty when there is none.
     sim::Bytes ask(const sim::Bytes &items, std::uint8_t id = sim::InstantCommand)
     {
@@ -34,25 +59,28 @@ protected:
         return errors;
     }
 
-    void write(const Writes &writes)
+    bool has(std::int32_t statusBit) const { return drive.read(sim::reg::Status) & statusBit; }
+    std::int32_t faults() const { return drive.read(sim::reg::Faults); }
+    int position() const { return drive.read(sim::reg::PositionFeedback); }
+
+    /// Runs until the status bit is as wanted; cycles that took, -1 when it never was.
+    int cyclesUntil(std::int32_t statusBit, bool isSet, int limit = 10000)
     {
-        for (const auto &[address, value] : writes)
-            EXPECT_EQ(drive.write(address, value), sim::Outcome::Done) << address << " := " << value;
-    }
-    void enable()
-    {
-        drive.write(sim::reg::SoftEnable, 1);
-        drive.advanceCycles(5);
+        for (int cycle = 0; cycle < limit; ++cycle) {
+            if (has(statusBit) == isSet)
+                return cycle;
+            drive.advanceCycles(1);
+        }
+        return -1;
     }
     /// Off and on again as it left the factory, for the next row of a table.
     void startAfresh()
     {
         drive.powerUp({});
         drive.axis().inputs() = fresh;
-        drive.acceptWrites();
     }
 
-    sim::VirtualDrive drive;
+    BenchDrive drive;
     const sim::AxisInputs fresh = drive.axis().inputs();
 };
 

@@ -23,26 +23,9 @@ inline Machine machine(const std::string &text)
     return made;
 }
 
-struct Axis : VirtualDrive
+struct Axis : BenchDrive
 {
-    explicit Axis(const std::string &load, const Writes &settings = {})
-        : VirtualDrive(*findProfile("keta"), 5, machine(load))
-    {
-        for (const auto &[address, value] : settings)
-            EXPECT_EQ(write(address, value), Outcome::Done) << address;
-    }
-    void enable()
-    {
-        write(reg::SoftEnable, 1);
-        advanceCycles(5);
-    }
-    /// Where it is after this setpoint and this many cycles.
-    int moved(int setpoint, int cycles = 2500)
-    {
-        write(reg::SetpointAbsolute, setpoint);
-        advanceCycles(cycles);
-        return read(reg::PositionFeedback);
-    }
+    explicit Axis(const std::string &load, const Writes &settings = {}) : BenchDrive("keta", settings, machine(load)) {}
     double amperes() { return read(reg::OutputCurrent) / 560.0; }
 };
 

@@ -1,5 +1,5 @@
 // Homing: every kind of search, and what may not happen meanwhile.
-#include "runningaxis.h"
+#include "drivebench.h"
 
 #include <algorithm>
 #include <cmath>
@@ -8,14 +8,14 @@ using namespace sim;
 
 namespace {
 
-class HomingSearch : public RunningAxis
+class HomingSearch : public DriveBench
 {
 protected:
     /// Seconds that homing took; -1 when it did not end.
     double home(std::int32_t bits)
     {
         drive.write(reg::Homing, bits);
-        enable();
+        drive.enable();
         if (drive.write(reg::HomingCommand, 1) != Outcome::Done)
             return -1.0;
         const int cycles = cyclesUntil(StatusHoming, false, 25000);
@@ -70,7 +70,7 @@ TEST_F(HomingSearch, OffsetMoveComesBeforeTheZero)
     home(0x80 | 0x08 | 0x04);
     const double plain = drive.axis().motor().angle();
     // From behind the switch: away first, so that it is found at the same place again.
-    write({{reg::HomingOffset, -3000}, {reg::SetpointAbsolute, -1900}});
+    drive.writeAll({{reg::HomingOffset, -3000}, {reg::SetpointAbsolute, -1900}});
     drive.advanceCycles(500);
     ASSERT_EQ(drive.write(reg::HomingCommand, 1), Outcome::Done);
     ASSERT_GT(cyclesUntil(StatusHoming, false), 0);
@@ -78,10 +78,20 @@ TEST_F(HomingSearch, OffsetMoveComesBeforeTheZero)
     EXPECT_NEAR(std::remainder(drive.axis().motor().angle() - plain, 20000.0), -3000.0, 30.0);
 }
 
-TEST_F(HomingSearch, CurrentLimitHoldsAtTheStop)
+TEST_F(HomingSearch, AbortStaysWhereItIsAndCurrentLimitHoldsAtTheStop)
 {
     drive.write(reg::Homing, 0x80);
-    enable();
+    drive.enable();
+    drive.write(reg::HomingCommand, 1);
+    drive.advanceCycles(300);
+    drive.write(reg::HomingCommand, 0);
+    EXPECT_FALSE(has(StatusHoming));
+    const int stopped = position();
+    drive.advanceCycles(1000);
+    EXPECT_NEAR(position(), stopped, 100);
+    EXPECT_EQ(faults(), 0);
+    EXPECT_TRUE(has(StatusTargetReached));
+
     drive.write(reg::HomingCommand, 1);
     int highest = 0;
     while (has(StatusHoming)) {
@@ -92,25 +102,10 @@ TEST_F(HomingSearch, CurrentLimitHoldsAtTheStop)
     EXPECT_GT(highest, 1.0 * 560) << "it did lean on the stop";
 }
 
-TEST_F(HomingSearch, AbortStaysWhereItIs)
-{
-    drive.write(reg::Homing, 0x80);
-    enable();
-    drive.write(reg::HomingCommand, 1);
-    drive.advanceCycles(300);
-    drive.write(reg::HomingCommand, 0);
-    EXPECT_FALSE(has(StatusHoming));
-    const int stopped = position();
-    drive.advanceCycles(1000);
-    EXPECT_NEAR(position(), stopped, 100);
-    EXPECT_EQ(faults(), 0);
-    EXPECT_TRUE(has(StatusTargetReached));
-}
-
 TEST_F(HomingSearch, RefusedWhenSwitchedOffOrNotRunning)
 {
     EXPECT_EQ(errorsOfWriting(reg::HomingCommand, 1), ErrorValueNotAllowed);
-    enable();
+    drive.enable();
     EXPECT_EQ(errorsOfWriting(reg::HomingCommand, 1), ErrorValueNotAllowed);
     drive.write(reg::Homing, 0x80);
     drive.advanceCycles(1);
@@ -120,27 +115,25 @@ TEST_F(HomingSearch, RefusedWhenSwitchedOffOrNotRunning)
 TEST_F(HomingSearch, RunsAtTheFirstEnableWhenAskedFor)
 {
     drive.write(reg::Homing, 0xA0);
-    enable();
+    drive.enable();
     EXPECT_TRUE(has(StatusHoming) && !has(StatusReady));
     ASSERT_GT(cyclesUntil(StatusHoming, false), 0);
     EXPECT_TRUE(has(StatusReady));
     drive.write(reg::SoftEnable, 0);
     drive.advanceCycles(5);
-    enable();
+    drive.enable();
     EXPECT_FALSE(has(StatusHoming)) << "once is enough";
 }
 
 TEST_F(HomingSearch, SoftLimitsHoldAfterHomingOnly)
 {
-    write({{reg::LowLimit, -500}, {reg::HighLimit, 500}});
-    enable();
-    const auto faultsAt = [this](int setpoint) {
-        drive.write(reg::SetpointAbsolute, setpoint);
-        drive.advanceCycles(300);
-        return faults();
-    };
-    EXPECT_EQ(faultsAt(1000), 0);
+    drive.writeAll({{reg::LowLimit, -500}, {reg::HighLimit, 500}});
+    drive.enable();
+    drive.moved(1000, 300);
+    EXPECT_EQ(faults(), 0);
     ASSERT_GT(home(0x80), 0.0);
-    EXPECT_EQ(faultsAt(-400), 0);
-    EXPECT_EQ(faultsAt(501), FaultMotionRange);
+    for (const auto &[setpoint, fault] : {std::pair(-400, 0), std::pair(501, int(FaultMotionRange))}) {
+        drive.moved(setpoint, 300);
+        EXPECT_EQ(faults(), fault) << setpoint;
+    }
 }

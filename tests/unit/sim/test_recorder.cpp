@@ -83,7 +83,7 @@ TEST_F(RecorderBench, TriggersFireAtTheirEventOnly)
     for (const auto &row : rows) {
         SCOPED_TRACE(testing::Message() << "trigger " << row.trigger << ", event " << row.fires);
         startAfresh();
-        enable();
+        drive.enable();
         drive.set(reg::Faults, FaultFeedback);
         drive.advanceCycles(1);
         arm(0x20, 0, row.trigger);
@@ -128,20 +128,12 @@ TEST_F(RecorderBench, RefusesUnknownTriggersAndNoSources)
 
 TEST_F(RecorderBench, EverySourceOfAMoveIsPlausible)
 {
-    enable();
+    drive.enable();
     arm(AllSources, 7, 1); // 50 ms of a step
     drive.write(reg::SetpointAbsolute, 1900);
     drive.advanceCycles(200);
     ASSERT_TRUE(isDone());
     const std::vector<std::int32_t> all = words();
-    std::int32_t low[16], high[16];
-    for (std::size_t source = 0; source < 16; ++source) {
-        low[source] = high[source] = all[source];
-        for (std::size_t i = source; i < all.size(); i += 16) {
-            low[source] = std::min(low[source], all[i]);
-            high[source] = std::max(high[source], all[i]);
-        }
-    }
     const struct
     {
         const char *name;
@@ -166,9 +158,12 @@ TEST_F(RecorderBench, EverySourceOfAMoveIsPlausible)
     };
     for (std::size_t source = 0; source < 16; ++source) {
         SCOPED_TRACE(sources[source].name);
-        EXPECT_GE(low[source], sources[source].lowAtLeast);
-        EXPECT_LE(low[source], sources[source].lowAtMost);
-        EXPECT_GE(high[source], sources[source].highAtLeast);
-        EXPECT_LE(high[source], sources[source].highAtMost);
+        std::int32_t low = all[source], high = all[source];
+        for (std::size_t i = source; i < all.size(); i += 16)
+            low = std::min(low, all[i]), high = std::max(high, all[i]);
+        EXPECT_GE(low, sources[source].lowAtLeast);
+        EXPECT_LE(low, sources[source].lowAtMost);
+        EXPECT_GE(high, sources[source].highAtLeast);
+        EXPECT_LE(high, sources[source].highAtMost);
     }
 }

@@ -123,7 +123,7 @@ TEST_F(Registers, ValuesCanBeSetFromOutside)
 
 TEST_F(Registers, RestartTakesWhatWasSaved)
 {
-    write({{reg::VelocityP, 400}, {reg::AddressOffset, 3}, {reg::Command, 1}, {reg::VelocityP, 500}});
+    drive.writeAll({{reg::VelocityP, 400}, {reg::AddressOffset, 3}, {reg::Command, 1}, {reg::VelocityP, 500}});
     drive.set(reg::Faults, FaultFeedback);
     EXPECT_EQ(drive.address(), 5) << "saved, but not restarted";
     drive.write(reg::Command, 2);
@@ -147,14 +147,12 @@ TEST_F(Registers, RestartIsAnsweredFirstThenSilent)
 TEST_F(Registers, MeasuringGivesTheMotorsValuesUnlessEnabled)
 {
     drive.write(reg::MotorResistance, 77);
-    drive.write(reg::SoftEnable, 1);
-    drive.write(reg::Command, 256);
-    EXPECT_EQ(drive.read(reg::MeasureResult), 801);
-    EXPECT_EQ(drive.read(reg::MotorResistance), 77);
-    drive.write(reg::SoftEnable, 0);
-    drive.write(reg::Command, 256);
-    EXPECT_EQ(drive.read(reg::MeasureResult), 800);
-    EXPECT_EQ(drive.read(reg::MotorResistance), 150);
+    for (const auto &[enabled, result, resistance] : {std::tuple(1, 801, 77), std::tuple(0, 800, 150)}) {
+        drive.write(reg::SoftEnable, enabled);
+        drive.write(reg::Command, 256);
+        EXPECT_EQ(drive.read(reg::MeasureResult), result);
+        EXPECT_EQ(drive.read(reg::MotorResistance), resistance);
+    }
     EXPECT_EQ(drive.read(reg::MotorInductance), 500);
 }
 
@@ -162,27 +160,18 @@ TEST_F(Registers, MotorSettingsChangedWhileRunningStopUntilRestart)
 {
     for (const int address : {reg::FeedbackDevice, reg::MotorType, reg::PolePairs, reg::VelocityFeedbackDevice}) {
         SCOPED_TRACE(address);
-        VirtualDrive other(*findProfile("keta"));
-        other.write(address, 2);
-        EXPECT_FALSE(other.read(reg::Status) & StatusPermanentStop) << "not while it rests";
-        other.powerUp(other.flash());
-        other.write(reg::SoftEnable, 1);
-        other.write(address, other.read(address));
-        EXPECT_FALSE(other.read(reg::Status) & StatusPermanentStop) << "the same value is no change";
-        other.write(address, 2);
-        EXPECT_TRUE(other.read(reg::Status) & StatusPermanentStop);
-        EXPECT_FALSE(other.read(reg::Status) & StatusRun);
-        other.write(reg::Command, 2);
-        EXPECT_FALSE(other.read(reg::Status) & StatusPermanentStop);
+        const auto hasStopped = [this] { return (drive.read(reg::Status) & StatusPermanentStop) != 0; };
+        startAfresh();
+        drive.write(address, 2);
+        EXPECT_FALSE(hasStopped()) << "not while it rests";
+        startAfresh();
+        drive.write(reg::SoftEnable, 1);
+        drive.write(address, drive.read(address));
+        EXPECT_FALSE(hasStopped()) << "the same value is no change";
+        drive.write(address, 2);
+        EXPECT_TRUE(hasStopped());
+        EXPECT_FALSE(drive.read(reg::Status) & StatusRun);
+        drive.write(reg::Command, 2);
+        EXPECT_FALSE(hasStopped());
     }
-}
-
-TEST_F(Registers, WritesCanBeRefusedOnPurpose)
-{
-    drive.refuseWrites(reg::VelocityP, std::nullopt, 1);
-    EXPECT_EQ(errorsOfWriting(reg::VelocityP, 10), 0);
-    EXPECT_EQ(errorsOfWriting(reg::VelocityP, 11), ErrorValueNotAllowed);
-    EXPECT_EQ(drive.read(reg::VelocityP), 10);
-    drive.acceptWrites();
-    EXPECT_EQ(errorsOfWriting(reg::VelocityP, 11), 0);
 }

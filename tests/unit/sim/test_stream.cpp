@@ -19,10 +19,7 @@ protected:
 TEST_F(Stream, EverySetpointTakesAPeriodAndEverythingElseNoTime)
 {
     // Period in 0.1 ms; cycles of 0.4 ms until the setpoint in use is looked at.
-    const struct
-    {
-        int period, cycles, setpoint, freeBytes;
-    } rows[] = {
+    const std::tuple<int, int, int, int> rows[] = {
         {200, 0, 0, 2048 - 105 * 4}, // the five items of the set-up and a hundred setpoints
         {200, 1, 1, 2048 - 99 * 4},  // set-up and first setpoint in the first cycle
         {200, 50, 1, 2048 - 99 * 4},
@@ -31,16 +28,16 @@ TEST_F(Stream, EverySetpointTakesAPeriodAndEverythingElseNoTime)
         {10, 126, 51, 2048 - 49 * 4}, // two and a half cycles each: the mean rate is exact
         {10, 251, 100, 2048},
     };
-    for (const auto &row : rows) {
-        SCOPED_TRACE(testing::Message() << row.period << " after " << row.cycles);
+    for (const auto &[period, cycles, inUse, free] : rows) {
+        SCOPED_TRACE(testing::Message() << period << " after " << cycles);
         startAfresh();
-        drive.write(reg::StreamPeriod, row.period);
+        drive.write(reg::StreamPeriod, period);
         setUp();
         for (int i = 1; i <= 100; ++i)
             setpoint(i);
-        drive.advanceCycles(row.cycles);
-        EXPECT_EQ(drive.axis().setpoint(), row.setpoint);
-        EXPECT_EQ(freeBytes(), row.freeBytes);
+        drive.advanceCycles(cycles);
+        EXPECT_EQ(drive.axis().setpoint(), inUse);
+        EXPECT_EQ(freeBytes(), free);
     }
 }
 
@@ -71,11 +68,10 @@ TEST_F(Stream, WhatDoesNotFitIsDroppedWithAnError)
 {
     drive.write(reg::StreamPeriod, 100000);
     setUp();
-    for (int i = 0; i < 507; ++i)
-        setpoint(i); // with the five set-up items 512 of 4 bytes
-    EXPECT_EQ(freeBytes(), 0);
-    EXPECT_EQ(drive.read(reg::ErrorBits), 0);
-    setpoint(0);
+    for (int i = 0; i < 508; ++i) { // with the five set-up items 512 of 4 bytes fit
+        EXPECT_EQ(drive.read(reg::ErrorBits), 0);
+        setpoint(i);
+    }
     EXPECT_EQ(freeBytes(), 0);
     EXPECT_EQ(drive.read(reg::ErrorBits), ErrorValueNotAllowed);
 }
