@@ -26,31 +26,19 @@ bool covers(const Estimate &estimate, double truth)
 
 TEST(AxisSheet, TellsWhatTheVirtualMotorIsMadeOf)
 {
-    const struct
-    {
-        const char *profile;
-        int counts, divider;
-        double torquePerAmpere, load; // Nm/A, Nm
-    } rows[] = {
-        {"keta", 1900, 7, 0.1, 0.0},  {"keta", 1000, 7, 0.1, 0.0},   {"keta", -1500, 7, 0.1, 0.0},
-        {"keta", 1900, 7, 0.1, 0.1},  {"keta", 1900, 7, 0.1, -0.05}, {"keta", 1900, 3, 0.1, 0.0},
-        {"torva", 1900, 6, 0.4, 0.0},
+    const Move moves[] = {
+        {"keta", 1900, 300, 7},      {"keta", 1000, 300, 7},        {"keta", -1500, 300, 7}, {"keta", 1900, 300, 7, 0.1},
+        {"keta", 1900, 300, 7, -0.05}, {"keta", 1900, 160, 3}, {"torva", 1900, 300, 6},
     };
-    for (const auto &row : rows) {
-        SCOPED_TRACE(testing::Message() << row.profile << ' ' << row.counts << " load " << row.load);
-        Move move;
-        move.profile = row.profile;
-        move.counts = row.counts;
-        move.divider = row.divider;
-        move.loadTorque = row.load;
-        move.holdCycles = row.divider == 3 ? 160 : 300;
+    for (const Move &move : moves) {
+        SCOPED_TRACE(testing::Message() << move.profile << ' ' << move.counts << " load " << move.loadTorque);
         const AxisSheet sheet = axisSheet(recordMove(move));
         ASSERT_TRUE(sheet.isUsable()) << sheet.refusal.toStdString();
-        const double share = row.torquePerAmpere / 0.1;
+        const double share = move.profile == std::string("torva") ? 4.0 : 1.0, load = move.loadTorque / (0.1 * share);
         EXPECT_NEAR(sheet.acceleration.value, acceleration * share, 0.01 * acceleration * share);
         EXPECT_NEAR(sheet.dryFriction.value, dryFriction / share, 0.05 * dryFriction / share);
-        EXPECT_NEAR(sheet.hangingLoad.value, row.load / row.torquePerAmpere, 0.05 * dryFriction / share);
-        EXPECT_NEAR(sheet.dragForward.value - sheet.dragBackward.value, 2 * row.load / row.torquePerAmpere, 0.02);
+        EXPECT_NEAR(sheet.hangingLoad.value, load, 0.05 * dryFriction / share);
+        EXPECT_NEAR(sheet.dragForward.value - sheet.dragBackward.value, 2 * load, 0.02);
         EXPECT_TRUE(covers(sheet.viscousFriction, viscousFriction / share)) << sheet.viscousFriction.plusMinus;
         EXPECT_NEAR(sheet.aff.value, 2200 / share, 22 / share); // what cancels the inertia of this motor
     }

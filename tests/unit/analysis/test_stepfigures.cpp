@@ -6,8 +6,6 @@
 
 #include <gtest/gtest.h>
 
-#include <QJsonArray>
-
 #include <cstdio>
 #include <map>
 

@@ -1,7 +1,6 @@
 #include "openrecord.h"
 #include "packet.h"
 
-#include <string>
 #include <vector>
 
 namespace {

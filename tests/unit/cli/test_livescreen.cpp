@@ -19,7 +19,7 @@ StatusReport report()
 
 } // namespace
 
-TEST(LiveScreen, PutsPanelsBesideEachOtherWhereThereIsRoom)
+TEST(LiveScreen, PutsPanelsBesideEachOtherWhereThereIsRoomAndDrawsNoMore)
 {
     EXPECT_THAT(screenLines(report(), 40, 20),
                 ElementsAre(QString("Port: COM1   Address: 5"), QString(""), QString("Inputs   Faults"),
@@ -28,10 +28,7 @@ TEST(LiveScreen, PutsPanelsBesideEachOtherWhereThereIsRoom)
                 ElementsAre(QString("Port: COM1"), QString("Address: 5"), QString(""), QString("Inputs"),
                             QString("GPI 1"), QString("GPI 2"), QString("GPI 3"), QString(""), QString("Faults"),
                             QString("Hardware"), QString("ID 1 201")));
-}
-
-TEST(LiveScreen, NeverDrawsMoreThanTheScreenHolds)
-{
+    // Never more than the screen holds.
     EXPECT_THAT(screenLines(report(), 9, 4),
                 ElementsAre(QString("Port: COM"), QString("Address: "), QString(""), QString("(8 more l")));
 }

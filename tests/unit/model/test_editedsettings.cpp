@@ -45,6 +45,11 @@ TEST(EditedSettings, AnEditIsPendingUntilUndoneOrApplied)
     EXPECT_FALSE(settings.isSaved());
     settings.edit(cvl, 2);
     EXPECT_TRUE(settings.isPending());
+
+    settings = settledOn(valuesOf(NAN, 2));
+    EXPECT_FALSE(settings.isPending()) << "what is no number is no edit for ever";
+    settings.edit(kvp, 1);
+    EXPECT_TRUE(settings.isPending());
 }
 
 TEST(EditedSettings, AFileIsPendingEvenWithoutADifferenceAndAcrossWhatASecondOneBrings)
@@ -58,14 +63,6 @@ TEST(EditedSettings, AFileIsPendingEvenWithoutADifferenceAndAcrossWhatASecondOne
     settings.settle();
     EXPECT_FALSE(settings.isPending());
     EXPECT_TRUE(settings.isSaved()); // nothing was given to the drive
-}
-
-TEST(EditedSettings, ValueThatIsNoNumberIsNotAnEditForEver)
-{
-    EditedSettings settings = settledOn(valuesOf(NAN, 2));
-    EXPECT_FALSE(settings.isPending());
-    settings.edit(kvp, 1);
-    EXPECT_TRUE(settings.isPending());
 }
 
 TEST(EditedSettings, OnlyAWholeReadOfThisConnectionCountsAsTheDrives)

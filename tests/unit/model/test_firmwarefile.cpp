@@ -20,20 +20,19 @@ protected:
     QString load(const QByteArray &hex, int type = 11001)
     {
         put(path, QByteArray::fromHex(hex));
-        return FirmwareFile().loadFile(path, type);
+        return firmware.loadFile(path, type);
     }
 
     QTemporaryDir folder;
     QString path = folder.filePath("drive.tdf");
+    FirmwareFile firmware;
 };
 
 } // namespace
 
 TEST_F(Firmware, HoldsBothImagesAsWordsIOSideFirst)
 {
-    ASSERT_EQ(load(sound), "");
-    FirmwareFile firmware;
-    ASSERT_EQ(firmware.loadFile(path, 11999), "");
+    ASSERT_EQ(load(sound, 11999), "");
     EXPECT_EQ(firmware.ioImage, (QList<quint16>{0x0201, 0x80ff}));
     EXPECT_EQ(firmware.tcImage, (QList<quint16>{0x1234}));
     EXPECT_EQ(firmware.fileVersion, 300);
@@ -75,14 +74,12 @@ TEST_F(Firmware, FirstFlawInTheOrderOfTheHeaderIsNamed)
 
 TEST_F(Firmware, ThatIsNoPlainFileOrFarTooLargeEndsAtOnce)
 {
-    EXPECT_EQ(FirmwareFile().loadFile(path, 11000), "Can't open file") << "missing";
-    EXPECT_EQ(FirmwareFile().loadFile(folder.path(), 11000), "Can't open file") << "a directory";
-    EXPECT_EQ(FirmwareFile().loadFile("/dev/zero", 11000), "Can't open file");
     const QString pipe = folder.filePath("pipe");
     ASSERT_EQ(::mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
-    EXPECT_EQ(FirmwareFile().loadFile(pipe, 11000), "Can't open file") << "a pipe";
+    for (const QString &name : {path, folder.path(), pipe, QString("/dev/zero")}) // the first: not there
+        EXPECT_EQ(firmware.loadFile(name, 11000), "Can't open file") << name.toStdString();
 
     load("54444657 2c01 f82a e8ffff3f e8ffff3f");
     ASSERT_TRUE(QFile::resize(path, 0x7fffffe4)) << "two images that fill 2 GB, as a sparse file";
-    EXPECT_EQ(FirmwareFile().loadFile(path, 11000), "File corrupted");
+    EXPECT_EQ(firmware.loadFile(path, 11000), "File corrupted");
 }

@@ -4,20 +4,26 @@
 #include <QSet>
 #include <gtest/gtest.h>
 
-TEST(Catalogue, NamesEveryRecordAndRegisterOnce)
+TEST(Catalogue, NamesEveryRecordAndRegisterOnceAndNeverWritesWhatIdentifiesTheDrive)
 {
     const Parameters list = driveParameterCatalogue();
-    ASSERT_GT(list.getParamCount(), 0);
     QSet<QString> names;
     QSet<int> addresses;
+    QStringList readOnly, withoutAux;
     for (int i = 0; i < list.getParamCount(); ++i) {
         const SingleParam p = list.getParam(i);
         names.insert(p.name);
         addresses.insert(p.addr);
         EXPECT_TRUE(p.value == 0.0 && p.min == 0.0 && p.max == 0.0) << p.name.toStdString();
+        if (p.readonly)
+            readOnly.append(p.name);
+        if (!p.auxFlag)
+            withoutAux.append(p.name);
     }
     EXPECT_EQ(names.size(), list.getParamCount());
     EXPECT_EQ(addresses.size(), list.getParamCount());
+    EXPECT_EQ(readOnly.join(' '), "TCFWVER FWVER HWTYPE HWSERIAL BUILDREVISION UID PIF");
+    EXPECT_EQ(withoutAux.join(' '), "FLAGS PIF");
 }
 
 TEST(Catalogue, ConvertsByTheUnevenScalings)
@@ -35,19 +41,4 @@ TEST(Catalogue, ConvertsByTheUnevenScalings)
         EXPECT_NEAR(p.convertToGUIScale(deviceValue), displayValue, 1e-9) << name;
         EXPECT_EQ(p.convertToDeviceScale(displayValue), deviceValue) << name;
     }
-}
-
-TEST(Catalogue, NeverWritesWhatIdentifiesTheDrive)
-{
-    const Parameters list = driveParameterCatalogue();
-    QStringList readOnly, withoutAux;
-    for (int i = 0; i < list.getParamCount(); ++i) {
-        const SingleParam p = list.getParam(i);
-        if (p.readonly)
-            readOnly.append(p.name);
-        if (!p.auxFlag)
-            withoutAux.append(p.name);
-    }
-    EXPECT_EQ(readOnly.join(' '), "TCFWVER FWVER HWTYPE HWSERIAL BUILDREVISION UID PIF");
-    EXPECT_EQ(withoutAux.join(' '), "FLAGS PIF");
 }

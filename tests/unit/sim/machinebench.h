@@ -13,8 +13,8 @@ namespace machinebench {
 
 using namespace sim;
 
-constexpr double Pi = 3.14159265358979;
-constexpr double CountsPerRadian = 10000.0 / (2.0 * Pi);
+constexpr double pi = 3.14159265358979;
+constexpr double countsPerRadian = 10000.0 / (2.0 * pi);
 
 inline Machine machine(const std::string &text)
 {
@@ -63,9 +63,9 @@ inline double amplitude(const std::vector<double> &values, double frequency)
     const double middle = mean(values), count = double(values.size());
     double sine = 0.0, cosine = 0.0;
     for (std::size_t i = 0; i < values.size(); ++i) {
-        const double window = 1.0 - std::cos(2.0 * Pi * double(i) / count);
-        sine += window * (values[i] - middle) * std::sin(2.0 * Pi * frequency * double(i) / cycleRate);
-        cosine += window * (values[i] - middle) * std::cos(2.0 * Pi * frequency * double(i) / cycleRate);
+        const double window = 1.0 - std::cos(2.0 * pi * double(i) / count);
+        sine += window * (values[i] - middle) * std::sin(2.0 * pi * frequency * double(i) / cycleRate);
+        cosine += window * (values[i] - middle) * std::cos(2.0 * pi * frequency * double(i) / cycleRate);
     }
     return 2.0 / count * std::hypot(sine, cosine);
 }
@@ -90,7 +90,7 @@ inline std::vector<double> accelerationTorque(Axis &axis, int cycles, double ine
     double before = axis.axis().motor().velocity();
     return record(axis, cycles, [&, inertia] {
         const double now = axis.axis().motor().velocity();
-        const double torque = (now - before) / CountsPerRadian * cycleRate * cycleRate * inertia;
+        const double torque = (now - before) / countsPerRadian * cycleRate * cycleRate * inertia;
         before = now;
         return torque;
     });

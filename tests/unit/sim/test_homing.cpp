@@ -23,31 +23,28 @@ protected:
     }
 };
 
-struct Search
-{
-    const char *name;
-    std::int32_t bits;
-    int velocity;
-    std::int32_t faults = 0;
-};
-
-const Search Searches[] = {
-    {"hard stop", 0x80, 2000},
-    {"hard stop backwards", 0x80, -2000},
-    {"home switch", 0x80 | 0x08 | 0x04, 2000},
-    {"home switch backwards", 0x80 | 0x08 | 0x04, -2000},
-    {"hard stop, then index away from it", 0x80 | 0x10, 2000},
-    {"backwards, then index away from it", 0x80 | 0x10 | 0x02, -2000},
-    {"home switch, then index forwards", 0x80 | 0x08 | 0x04 | 0x10 | 0x02, 2000},
-    {"backwards, then index forwards", 0x80 | 0x08 | 0x04 | 0x10 | 0x02, -2000},
-    {"index through the stop", 0x80 | 0x10, -2000, FaultTracking},
-};
-
 } // namespace
 
 TEST_F(HomingSearch, EveryKindOfSearchEndsAtZeroOrSaysWhyNot)
 {
-    for (const Search &search : Searches) {
+    const struct
+    {
+        const char *name;
+        std::int32_t bits;
+        int velocity;
+        std::int32_t faults = 0;
+    } searches[] = {
+        {"hard stop", 0x80, 2000},
+        {"hard stop backwards", 0x80, -2000},
+        {"home switch", 0x80 | 0x08 | 0x04, 2000},
+        {"home switch backwards", 0x80 | 0x08 | 0x04, -2000},
+        {"hard stop, then index away from it", 0x80 | 0x10, 2000},
+        {"backwards, then index away from it", 0x80 | 0x10 | 0x02, -2000},
+        {"home switch, then index forwards", 0x80 | 0x08 | 0x04 | 0x10 | 0x02, 2000},
+        {"backwards, then index forwards", 0x80 | 0x08 | 0x04 | 0x10 | 0x02, -2000},
+        {"index through the stop", 0x80 | 0x10, -2000, FaultTracking},
+    };
+    for (const auto &search : searches) {
         SCOPED_TRACE(search.name);
         startAfresh();
         drive.write(reg::HomingVelocity, search.velocity);

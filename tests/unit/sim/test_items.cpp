@@ -23,7 +23,7 @@ struct Exchange
 };
 
 // Register 202 = 0xCA (KVP) is 360 = 0x168, 411 = 0x19B (MMC) goes from 0 to 35000 = 0x88B8.
-const Exchange Exchanges[] = {
+const Exchange exchanges[] = {
     {"register 0 in four bytes at power-on", {0x80, 0x09, 0x40, 0x00, 0xCA}, {0, 0, 0, 0, 0, 0, 0x01, 0x68}, true},
     {"then in three", {0x80, 0x0A, 0x40, 0x00, 0x01}, {0x00, 0x00, 0x01, 0x68, 0x40, 0x01, 0x68}},
     {"in two", {0x40, 0x00, 0x02}, {0x81, 0x68}},
@@ -50,7 +50,7 @@ const Exchange Exchanges[] = {
 
 TEST_F(Items, EveryItemYieldsOneReturnValueOfTheSelectedRegisterAndLength)
 {
-    for (const Exchange &exchange : Exchanges) {
+    for (const Exchange &exchange : exchanges) {
         if (exchange.isFresh)
             startAfresh();
         drive.set(sim::reg::HighLimit, -500000000); // 0xE2329B00

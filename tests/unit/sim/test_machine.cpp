@@ -75,7 +75,7 @@ TEST(Machine, FrictionAndInertiaTakeTheirTorque)
             axis.moved(fast ? 16384 : 8192, 10000);
             torque[fast] = 0.1 * mean(record(axis, 2500, [&] { return axis.axis().motor().amperes(); }));
         }
-        const double speed = 100.0 * cycleRate / CountsPerRadian;
+        const double speed = 100.0 * cycleRate / countsPerRadian;
         EXPECT_NEAR((torque[1] - torque[0]) / speed, row.viscous, 0.01 * row.viscous);
         EXPECT_NEAR(2.0 * torque[0] - torque[1], row.dry, 0.02 * row.dry + 0.0005);
         // And what a torque of 0.4 Nm leaves over speeds the inertia up.
@@ -83,7 +83,7 @@ TEST(Machine, FrictionAndInertiaTakeTheirTorque)
         axis.enable();
         axis.moved(2048, 20);
         const auto driving = accelerationTorque(axis, 50, row.inertia);
-        const double turning = axis.axis().motor().velocity() * cycleRate / CountsPerRadian;
+        const double turning = axis.axis().motor().velocity() * cycleRate / countsPerRadian;
         EXPECT_NEAR(mean(driving), 0.4 - row.dry - row.viscous * turning / 1.5, 0.02);
     }
 }
@@ -107,7 +107,7 @@ TEST(Machine, RippleAndCoggingComeAsOftenAndAsStrongAsSaid)
         for (int tick = 0; tick < 1000; ++tick) {
             const double before = axis.axis().motor().velocity();
             axis.advance(std::chrono::microseconds(50));
-            torques.push_back((axis.axis().motor().velocity() - before) / CountsPerRadian * cycleRate * 20000.0 * 1e-4);
+            torques.push_back((axis.axis().motor().velocity() - before) / countsPerRadian * cycleRate * 20000.0 * 1e-4);
         }
         const auto [low, high] = std::minmax_element(torques.begin(), torques.end());
         EXPECT_NEAR(*high - *low, row.swing, 0.025);

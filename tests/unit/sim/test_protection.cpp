@@ -10,77 +10,30 @@ namespace {
 
 using Protection = DriveBench;
 
-/// What is changed from outside or in the settings, and the fault that it leads to on a move of 1000 counts.
-struct Cause
-{
-    const char *name;
-    int address;
-    std::int32_t value, fault, location;
-    std::int32_t good; ///< takes the cause away
-    bool recovers = true;
-};
-
-const Cause Causes[] = {
-    {"over current", reg::OverCurrentLimit, 10, FaultOverCurrent, 301, 800},    // 0.6 A
-    {"over voltage", reg::OverVoltageLimit, 4700, FaultOverVoltage, 303, 5800}, // under the 48 V bus
-    {"under voltage", reg::UnderVoltageLimit, 4900, FaultUnderVoltage, 302, 3600},
-    {"low supply", reg::BusVoltage, 1500, FaultUnderVoltage, 302, 4800},
-    {"hot drive", reg::Temperature, 85, FaultOverTemperature, 304, 34},
-    {"over speed", reg::OverSpeedLimit, 15, FaultOverVelocity, 203, 240},
-    {"velocity error", reg::VelocityErrorLimit, 1, FaultTracking, 202, 120},
-    {"position error", reg::PositionErrorLimit, 900, FaultTracking, 201, 2000},
-    {"limit switch with fault", reg::LimitSwitches, 2, FaultMotionRange, 205, 0},
-    {"inverted feedback", reg::Flags, 0x0009, FaultTracking, 202, 1},
-    {"wrong motor type", reg::MotorType, 1, FaultInit, 401, 3, false},
-    {"wrong pole count", reg::PolePairs, 2, FaultInit, 401, 4, false},
-    {"both Hall settings", reg::Flags, 0x6001, FaultInit, 402, 1},
-    {"wrong feedback device", reg::FeedbackDevice, 5, FaultFeedback, 403, 1, false},
-};
-
-/// Enable conditions, one after the other on the same drive.
-struct EnableStep
-{
-    const char *what;
-    int address;
-    std::int32_t value;
-    bool isSetFromOutside, runs;
-};
-
-const EnableStep EnableSteps[] = {
-    {"software enable", reg::SoftEnable, 1, false, true},
-    {"enable input open", reg::ControlInputs, 6, true, false},
-    {"closed again", reg::ControlInputs, 7, true, true},
-    {"software disable", reg::SoftEnable, 0, false, false},
-    {"a drive that needs no software enable", reg::Flags, 0, false, true},
-    {"one that needs pulses, too", reg::Flags, 0x21, false, false},
-    {"the enable input does not pulse", reg::SoftEnable, 1, false, false},
-    {"forced", reg::ForceEnable, 7, false, true},
-    {"a disable ends force, too", reg::SoftEnable, 0, false, false},
-    {"which has to be asked for again", reg::SoftEnable, 1, false, false},
-};
-
-/// Full torque asked for with a locked shaft.
-struct Limit
-{
-    Writes fromOutside, settings;
-    int cycles;
-    LimitReason reason;
-};
-
-const Limit Limits[] = {
-    {{}, {}, 100, LimitReason::PeakCurrent},
-    {{{reg::Temperature, 80}}, {}, 100, LimitReason::Temperature},
-    {{{reg::BusVoltage, 3610}}, {{reg::UnderVoltageLimit, 1000}}, 100, LimitReason::PeakCurrent},
-    {{{reg::BusVoltage, 300}, {reg::UnderVoltageLimit, 0}}, {}, 100, LimitReason::SupplyVoltage},
-    // 32 A against 13 A continuous: full heat after about a sixth of the time constant, here 1 s.
-    {{}, {{reg::ThermalTime, 1}}, 6000, LimitReason::ThermalModel},
-};
-
 } // namespace
 
 TEST_F(Protection, EnableNeedsInputSoftwareAndPulses)
 {
-    for (const EnableStep &step : EnableSteps) {
+    // Enable conditions, one after the other on the same drive.
+    const struct
+    {
+        const char *what;
+        int address;
+        std::int32_t value;
+        bool isSetFromOutside, runs;
+    } steps[] = {
+        {"software enable", reg::SoftEnable, 1, false, true},
+        {"enable input open", reg::ControlInputs, 6, true, false},
+        {"closed again", reg::ControlInputs, 7, true, true},
+        {"software disable", reg::SoftEnable, 0, false, false},
+        {"a drive that needs no software enable", reg::Flags, 0, false, true},
+        {"one that needs pulses, too", reg::Flags, 0x21, false, false},
+        {"the enable input does not pulse", reg::SoftEnable, 1, false, false},
+        {"forced", reg::ForceEnable, 7, false, true},
+        {"a disable ends force, too", reg::SoftEnable, 0, false, false},
+        {"which has to be asked for again", reg::SoftEnable, 1, false, false},
+    };
+    for (const auto &step : steps) {
         SCOPED_TRACE(step.what);
         if (step.isSetFromOutside)
             drive.set(step.address, step.value);
@@ -95,7 +48,31 @@ TEST_F(Protection, EnableNeedsInputSoftwareAndPulses)
 
 TEST_F(Protection, EveryCauseRaisesItsFaultStopsTheMotorAndCanBeCleared)
 {
-    for (const Cause &cause : Causes) {
+    // What is changed from outside or in the settings, and the fault that it leads to on a move of 1000 counts.
+    const struct
+    {
+        const char *name;
+        int address;
+        std::int32_t value, fault, location;
+        std::int32_t good; ///< takes the cause away
+        bool recovers = true;
+    } causes[] = {
+        {"over current", reg::OverCurrentLimit, 10, FaultOverCurrent, 301, 800},    // 0.6 A
+        {"over voltage", reg::OverVoltageLimit, 4700, FaultOverVoltage, 303, 5800}, // under the 48 V bus
+        {"under voltage", reg::UnderVoltageLimit, 4900, FaultUnderVoltage, 302, 3600},
+        {"low supply", reg::BusVoltage, 1500, FaultUnderVoltage, 302, 4800},
+        {"hot drive", reg::Temperature, 85, FaultOverTemperature, 304, 34},
+        {"over speed", reg::OverSpeedLimit, 15, FaultOverVelocity, 203, 240},
+        {"velocity error", reg::VelocityErrorLimit, 1, FaultTracking, 202, 120},
+        {"position error", reg::PositionErrorLimit, 900, FaultTracking, 201, 2000},
+        {"limit switch with fault", reg::LimitSwitches, 2, FaultMotionRange, 205, 0},
+        {"inverted feedback", reg::Flags, 0x0009, FaultTracking, 202, 1},
+        {"wrong motor type", reg::MotorType, 1, FaultInit, 401, 3, false},
+        {"wrong pole count", reg::PolePairs, 2, FaultInit, 401, 4, false},
+        {"both Hall settings", reg::Flags, 0x6001, FaultInit, 402, 1},
+        {"wrong feedback device", reg::FeedbackDevice, 5, FaultFeedback, 403, 1, false},
+    };
+    for (const auto &cause : causes) {
         SCOPED_TRACE(cause.name);
         BenchDrive other;
         const auto change = [&](std::int32_t value) {
@@ -141,7 +118,21 @@ TEST_F(Protection, CurrentOfAnUnpoweredMotorIsNoOverCurrent)
 
 TEST_F(Protection, LimitReasonsNameWhatLimits)
 {
-    for (const Limit &limit : Limits) {
+    // Full torque asked for with a locked shaft.
+    const struct
+    {
+        Writes fromOutside, settings;
+        int cycles;
+        LimitReason reason;
+    } limits[] = {
+        {{}, {}, 100, LimitReason::PeakCurrent},
+        {{{reg::Temperature, 80}}, {}, 100, LimitReason::Temperature},
+        {{{reg::BusVoltage, 3610}}, {{reg::UnderVoltageLimit, 1000}}, 100, LimitReason::PeakCurrent},
+        {{{reg::BusVoltage, 300}, {reg::UnderVoltageLimit, 0}}, {}, 100, LimitReason::SupplyVoltage},
+        // 32 A against 13 A continuous: full heat after about a sixth of the time constant, here 1 s.
+        {{}, {{reg::ThermalTime, 1}}, 6000, LimitReason::ThermalModel},
+    };
+    for (const auto &limit : limits) {
         BenchDrive other;
         other.writeAll({{reg::ControlMode, 3}, {reg::Divider, 100}}); // full scale asks for twice the peak current
         other.axis().inputs().locked = true;

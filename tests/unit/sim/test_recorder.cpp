@@ -2,14 +2,13 @@
 #include "drivebench.h"
 
 #include <algorithm>
-#include <cmath>
 #include <vector>
 
 using namespace sim;
 
 namespace {
 
-constexpr std::int32_t AllSources = 0x2 | 0x4 | 0x8 | 0x10 | 0x20 | 0x40 | 0x80 | 0x100 | 0x200 | 0x10000 | 0x20000 |
+constexpr std::int32_t allSources = 0x2 | 0x4 | 0x8 | 0x10 | 0x20 | 0x40 | 0x80 | 0x100 | 0x200 | 0x10000 | 0x20000 |
                                     0x40000 | 0x80000 | 0x100000 | 0x800000 | 0x1000000;
 
 class RecorderBench : public DriveBench
@@ -38,7 +37,7 @@ protected:
 TEST_F(RecorderBench, FillsTwoThousandWordsAtTheDividedRate)
 {
     // Sixteen sources, 125 samples of each: every second base period of 0.05 ms, so 12.5 ms or 31.2 cycles.
-    arm(AllSources, 1, 4);
+    arm(allSources, 1, 4);
     EXPECT_EQ(drive.read(reg::RecorderState), 4);
     drive.advanceCycles(31);
     EXPECT_FALSE(isDone());
@@ -129,7 +128,7 @@ TEST_F(RecorderBench, RefusesUnknownTriggersAndNoSources)
 TEST_F(RecorderBench, EverySourceOfAMoveIsPlausible)
 {
     drive.enable();
-    arm(AllSources, 7, 1); // 50 ms of a step
+    arm(allSources, 7, 1); // 50 ms of a step
     drive.write(reg::SetpointAbsolute, 1900);
     drive.advanceCycles(200);
     ASSERT_TRUE(isDone());

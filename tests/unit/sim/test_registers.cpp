@@ -92,15 +92,14 @@ TEST_F(Registers, RefusedWritesSetTheirErrorBitAndChangeNothing)
 TEST_F(Registers, IdleDriveLooksHealthy)
 {
     drive.advanceCycles(1);
-    EXPECT_EQ(drive.read(reg::Status), StatusInitialized | StatusVoltagesGood);
-    EXPECT_EQ(drive.read(reg::Faults), 0);
-    EXPECT_EQ(drive.read(reg::BusVoltage), 4800);
-    EXPECT_EQ(drive.read(reg::CurrentLimit), 32000);
-    EXPECT_EQ(drive.read(reg::LimitReason), 0);
+    const std::pair<int, std::int32_t> healthy[] = {
+        {reg::Status, StatusInitialized | StatusVoltagesGood}, {reg::Faults, 0},      {reg::BusVoltage, 4800},
+        {reg::CurrentLimit, 32000},                            {reg::LimitReason, 0}, {reg::SoftEnable, 0},
+        {9999, 0}, // unknown, and no error to read
+        {reg::ErrorBits, 0}};
+    for (const auto &[address, value] : healthy)
+        EXPECT_EQ(drive.read(address), value) << address;
     EXPECT_EQ(drive.read(reg::ControlInputs) & 7, 7) << "enable and both feed inputs closed";
-    EXPECT_EQ(drive.read(reg::SoftEnable), 0);
-    EXPECT_EQ(drive.read(9999), 0) << "unknown, and no error to read";
-    EXPECT_EQ(drive.read(reg::ErrorBits), 0);
     drive.advanceCycles(999);
     EXPECT_EQ(drive.answer({GetClock, 5, {}})->payload, (Bytes{0xA0, 0x0F})) << "400 ms in tenths";
     EXPECT_FALSE(drive.answer({GetClock, 6, {}})) << "another address";

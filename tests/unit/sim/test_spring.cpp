@@ -23,16 +23,14 @@ TEST(Spring, ResonanceDampingAndInertiaRatioAreWhereTheyWereSet)
         // Without viscous friction, which would damp the swing, too.
         Axis axis(std::string(row.load) + "+viscous=0", {{reg::ControlMode, 3}});
         axis.enable();
-        axis.write(reg::SetpointAbsolute, 4000);
-        axis.advanceCycles(50);
-        axis.write(reg::SetpointAbsolute, 102); // what friction takes, so that the speed stays
-        axis.advanceCycles(25);
+        axis.moved(4000, 50);
+        axis.moved(102, 25); // what friction takes, so that the speed stays
         const auto speed = record(axis, 2000, [&] { return axis.axis().motor().velocity(); });
         EXPECT_NEAR(strongest(speed, row.hertz), row.hertz, 0.002 * row.hertz);
         // The swing decays by exp(-2 pi f d t).
         const std::vector<double> early(speed.begin(), speed.begin() + 1000), late(speed.begin() + 1000, speed.end());
         const double decay = std::log(amplitude(early, row.hertz) / amplitude(late, row.hertz)) / (1000.0 / cycleRate);
-        EXPECT_NEAR(decay / (2.0 * Pi * row.hertz), row.damping, 0.1 * row.damping + 0.0005);
+        EXPECT_NEAR(decay / (2.0 * pi * row.hertz), row.damping, 0.1 * row.damping + 0.0005);
 
         // With the motor held, the load swings alone: slower by the root of 1 + ratio.
         Axis held(row.load);
@@ -82,7 +80,7 @@ TEST(Spring, BacklashIsThePlayBetweenBothFlanks)
     };
     // The spring gives way by itself: k = w² J r / (1 + r)², here 300 Hz, or 60 Hz where it is said.
     const auto wound = [](double hertz, double torque) {
-        return 2.0 * torque / (4.0 * Pi * Pi * hertz * hertz * 1e-4 * 2.0 / 9.0) * CountsPerRadian;
+        return 2.0 * torque / (4.0 * pi * pi * hertz * hertz * 1e-4 * 2.0 / 9.0) * countsPerRadian;
     };
     EXPECT_NEAR(playUnder("backlash=100", 0.1), 100.0 + wound(300, 0.1), 0.5);
     EXPECT_NEAR(playUnder("backlash=1000", 0.1), 1000.0 + wound(300, 0.1), 0.5);
@@ -93,7 +91,7 @@ TEST(Spring, BacklashIsThePlayBetweenBothFlanks)
 TEST(Spring, FlanksWithPlayPushAndNeverPull)
 {
     const SwingingLoad stiff(machine("backlash=100+damping=0.7")), joined(machine("flexible=300+damping=0.7"));
-    const double touching = 60.0 / CountsPerRadian, away = -1000.0; // beyond the play of 50 each way, and fleeing
+    const double touching = 60.0 / countsPerRadian, away = -1000.0; // beyond the play of 50 each way, and fleeing
     EXPECT_EQ(stiff.torque(touching, away), 0.0);
     EXPECT_LT(joined.torque(touching, away), 0.0) << "what is joined does";
     EXPECT_GT(stiff.torque(touching, 0.0), 0.0);

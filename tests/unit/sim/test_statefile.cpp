@@ -137,9 +137,9 @@ TEST_F(StateFile, PlantedLinksAreNotWrittenThroughAndOwnOnesAreKept)
     EXPECT_EQ(loadState(path, again), "");
     EXPECT_EQ(again[0]->read(reg::VelocityP), 433) << "written behind the link, which is still one";
 
-    // Somebody else's: only root can make one for a test.
-    constexpr uid_t Somebody = 65534;
-    if (lchown(link.c_str(), Somebody, Somebody) == 0) {
+    // somebody else's: only root can make one for a test.
+    constexpr uid_t somebody = 65534;
+    if (lchown(link.c_str(), somebody, somebody) == 0) {
         EXPECT_THAT(saveState(link, list), HasSubstr("belongs to somebody else"));
         EXPECT_THAT(loadState(link, list), HasSubstr("belongs to somebody else"));
     }
