@@ -27,7 +27,7 @@ bool covers(const Estimate &estimate, double truth)
 TEST(AxisSheet, TellsWhatTheVirtualMotorIsMadeOf)
 {
     const Move moves[] = {
-        {"keta", 1900, 300, 7},      {"keta", 1000, 300, 7},        {"keta", -1500, 300, 7}, {"keta", 1900, 300, 7, 0.1},
+        {"keta", 1900, 300, 7},        {"keta", 1000, 300, 7}, {"keta", -1500, 300, 7}, {"keta", 1900, 300, 7, 0.1},
         {"keta", 1900, 300, 7, -0.05}, {"keta", 1900, 160, 3}, {"torva", 1900, 300, 6},
     };
     for (const Move &move : moves) {
@@ -62,7 +62,8 @@ TEST(AxisSheet, PlusMinusHoldsTheTruthInNinetyFiveOfAHundred)
         held["acceleration"] += covers(sheet.acceleration, acceleration);
         held["dry friction"] += covers(sheet.dryFriction, dryFriction);
         held["hanging load"] += covers(sheet.hangingLoad, load);
-        held["drags"] += covers(sheet.dragForward, dryFriction + load) && covers(sheet.dragBackward, dryFriction - load);
+        held["drags"] +=
+            covers(sheet.dragForward, dryFriction + load) && covers(sheet.dragBackward, dryFriction - load);
         held["viscous friction"] += covers(sheet.viscousFriction, viscousFriction);
         EXPECT_LT(sheet.acceleration.plusMinus, 0.03 * acceleration) << "a range that holds everything is no range";
         EXPECT_LT(sheet.dryFriction.plusMinus, dryFriction);

@@ -25,7 +25,6 @@ TEST(CommandLine, WhatMakesNoSenseIsRefusedWithAReason)
     const QString drive = "--port COM1 ", capture = drive + "capture --channels posmeas --csv a ";
     const std::pair<QString, const char *> wrong[] = {
         {"", "Either --port NAME or --virtual-drive is needed."},
-        {"scan", "Either --port NAME or --virtual-drive is needed."},
         {drive + "--virtual-drive scan", "Either --port NAME or --virtual-drive is needed."},
         {"--port COM1", "There is no command."},
         {drive + "format", "There is no command \"format\"."},

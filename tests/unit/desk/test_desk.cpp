@@ -14,6 +14,7 @@
 
 #include <clocale>
 #include <csignal>
+#include <ctime>
 #include <fcntl.h>
 #include <gtest/gtest.h>
 #include <langinfo.h>
@@ -48,10 +49,7 @@ protected:
 /// As if nobody had touched it for two minutes.
 void makeOld(const QString &folder)
 {
-    timespec times[2] = {};
-    clock_gettime(CLOCK_REALTIME, &times[1]);
-    times[1].tv_sec -= 120;
-    times[0] = times[1];
+    const timespec then = {std::time(nullptr) - 120, 0}, times[2] = {then, then};
     ASSERT_EQ(utimensat(AT_FDCWD, qPrintable(folder), times, 0), 0);
 }
 

@@ -14,7 +14,8 @@ Parameters valuesOf(double kvpValue, double cvlValue)
 {
     Parameters list;
     for (const char *name : {"KVP", "CVL", "PIF"})
-        list.addParameter(0, name, list.getParamCount() == cvl ? 100.0 : 1.0, 0.0, list.getParamCount() == pif, true, "KETA");
+        list.addParameter(0, name, list.getParamCount() == cvl ? 100.0 : 1.0, 0.0, list.getParamCount() == pif, true,
+                          "KETA");
     return withValues(list, {{"KVP", kvpValue}, {"CVL", cvlValue}});
 }
 

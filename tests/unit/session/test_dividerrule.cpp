@@ -26,8 +26,9 @@ TEST(DividerRule, SetsTheDividerAndTellsWhetherItChanged)
     EXPECT_FALSE(autoSetDIVvalue(list));
 
     // Nor does a list change that lacks one of them.
-    for (Parameters lacking : {withValues({}, {{"MMS", 3000}, {"FBR", 4000}}),
-                               withValues({}, {{"DIV", 50}, {"FBR", 4000}}), withValues({}, {{"DIV", 50}, {"MMS", 3000}})}) {
+    for (Parameters lacking :
+         {withValues({}, {{"MMS", 3000}, {"FBR", 4000}}), withValues({}, {{"DIV", 50}, {"FBR", 4000}}),
+          withValues({}, {{"DIV", 50}, {"MMS", 3000}})}) {
         const double before = lacking.getParam("DIV").value;
         EXPECT_FALSE(autoSetDIVvalue(lacking));
         EXPECT_EQ(lacking.getParam("DIV").value, before);

@@ -50,7 +50,7 @@ TEST(SettingsChecks, AssignmentsAreNamesAndFiniteNumbers)
 {
     EXPECT_EQ(parseAssignment("HMV=-2000")->value, -2000);
     EXPECT_EQ(parseAssignment("AXS=2.5e-1")->value, 0.25);
-    for (const char *text : {"", "=", "=5", "KVP", "KVP=", "KVP=1,5", "KVP=1 2", "KVP=inf", "KVP=0x10"})
+    for (const char *text : {"", "=", "=5", "KVP", "KVP=", "KVP=1,5", "KVP=1 2", "KVP=inf", "KVP=nan", "KVP=0x10"})
         EXPECT_FALSE(parseAssignment(text)) << text;
 }
 
@@ -68,5 +68,6 @@ TEST(ApplyResults, TellWhatTheDriveTookAndWhatItHasInstead)
     EXPECT_EQ(lineOf({{"KVP", 400}}, {}), "0 applied, 1 not taken: KVP 400 -> 360");
     EXPECT_EQ(lineOf({{"KVI", 500}}, {{"KVI", 500}, {"MCC", 2.5}}), "1 applied, 1 not taken: MCC 13 -> 2.5")
         << "by another hand";
-    EXPECT_EQ(lineOf({{"MCC", 13.0000001}}, {}), "Applied: the drive had these values already") << "the same on the bus";
+    EXPECT_EQ(lineOf({{"MCC", 13.0000001}}, {}), "Applied: the drive had these values already")
+        << "the same on the bus";
 }

@@ -10,10 +10,7 @@ namespace {
 
 QueuedTask enableTask(bool enable)
 {
-    QueuedTask entry;
-    entry.task = SessionTasks::TaskApplyEnableState;
-    entry.request = EnableRequest{enable, false};
-    return entry;
+    return {SessionTasks::TaskApplyEnableState, EnableRequest{enable, false}};
 }
 
 } // namespace
@@ -52,13 +49,9 @@ TEST(TaskQueue, PutsStopsFirstAndKeepsTheOrderOfTheRest)
 TEST(TaskQueue, OneScanWaitsAtATimeTheNewest)
 {
     TaskQueue queue;
-    QueuedTask scan;
-    scan.task = SessionTasks::TaskScanBus;
-    scan.request = ScanRequest{"/dev/ttyS0"};
-    queue.push(scan);
+    queue.push(QueuedTask{SessionTasks::TaskScanBus, ScanRequest{"/dev/ttyS0"}});
     queue.push(SessionTasks::TaskSaveSettingsFile);
-    scan.request = ScanRequest{"/dev/ttyS1"};
-    queue.push(scan);
+    queue.push(QueuedTask{SessionTasks::TaskScanBus, ScanRequest{"/dev/ttyS1"}});
     EXPECT_THAT(queue.codes(), ElementsAre(21, 23));
     QueuedTask taken;
     ASSERT_TRUE(queue.take(taken));

@@ -137,7 +137,8 @@ TEST(VersionCheck, RefusesAModelWithoutARecord)
             EXPECT_FALSE(verdict.accepted || verdict.restartToDFU);
             EXPECT_EQ(verdict.statusText, "Unsupported device connected, try upgrading Velbrin");
             EXPECT_EQ(verdict.errorText, QString("Unsupported device model connected. Try upgrading Velbrin to latest "
-                                                 "version. Connected device ID %1").arg(type));
+                                                 "version. Connected device ID %1")
+                                             .arg(type));
         }
     }
 }
@@ -145,8 +146,8 @@ TEST(VersionCheck, RefusesAModelWithoutARecord)
 TEST(VersionCheck, RecommendsAnUpgradeAndSkipsTheProtocolThen)
 {
     // The companion alone is within the bounds.
-    const VersionVerdict verdict = checkVersions(
-        with(keta(), {{&D::coreVersion, 1077}, {&D::protocolVersion, 99}, {&D::protocolCompanion, 99}}));
+    const VersionVerdict verdict =
+        checkVersions(with(keta(), {{&D::coreVersion, 1077}, {&D::protocolVersion, 99}, {&D::protocolCompanion, 99}}));
     EXPECT_TRUE(verdict.accepted && !verdict.restartToDFU && verdict.statusText.isEmpty());
     EXPECT_EQ(verdict.errorText,
               "Connected device firmware version is outdated, an upgrade is recommended. Download the latest FW from "

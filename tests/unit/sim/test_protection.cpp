@@ -40,9 +40,8 @@ TEST_F(Protection, EnableNeedsInputSoftwareAndPulses)
         else
             drive.write(step.address, step.value);
         drive.advanceCycles(2);
-        EXPECT_EQ(has(StatusRun), step.runs);
-        EXPECT_EQ(has(StatusEnabled), step.runs);
-        EXPECT_EQ(has(StatusReady), step.runs);
+        for (const std::int32_t bit : {StatusRun, StatusEnabled, StatusReady})
+            EXPECT_EQ(has(bit), step.runs) << bit;
     }
 }
 

@@ -92,11 +92,14 @@ TEST_F(Registers, RefusedWritesSetTheirErrorBitAndChangeNothing)
 TEST_F(Registers, IdleDriveLooksHealthy)
 {
     drive.advanceCycles(1);
-    const std::pair<int, std::int32_t> healthy[] = {
-        {reg::Status, StatusInitialized | StatusVoltagesGood}, {reg::Faults, 0},      {reg::BusVoltage, 4800},
-        {reg::CurrentLimit, 32000},                            {reg::LimitReason, 0}, {reg::SoftEnable, 0},
-        {9999, 0}, // unknown, and no error to read
-        {reg::ErrorBits, 0}};
+    const std::pair<int, std::int32_t> healthy[] = {{reg::Status, StatusInitialized | StatusVoltagesGood},
+                                                    {reg::Faults, 0},
+                                                    {reg::BusVoltage, 4800},
+                                                    {reg::CurrentLimit, 32000},
+                                                    {reg::LimitReason, 0},
+                                                    {reg::SoftEnable, 0},
+                                                    {9999, 0}, // unknown, and no error to read
+                                                    {reg::ErrorBits, 0}};
     for (const auto &[address, value] : healthy)
         EXPECT_EQ(drive.read(address), value) << address;
     EXPECT_EQ(drive.read(reg::ControlInputs) & 7, 7) << "enable and both feed inputs closed";

@@ -22,8 +22,8 @@ protected:
 TEST_F(Upgrade, ShowsOnlyTheBootloadersRegisters)
 {
     EXPECT_EQ(drive.address(), 255);
-    for (const auto &[address, value] :
-         {std::pair(2, 0), std::pair(3, 25), std::pair(552, 0), std::pair(6010, 1260), std::pair(6011, 1260), std::pair(6020, 11000)})
+    for (const auto &[address, value] : {std::pair(2, 0), std::pair(3, 25), std::pair(552, 0), std::pair(6010, 1260),
+                                         std::pair(6011, 1260), std::pair(6020, 11000)})
         EXPECT_EQ(drive.read(address), value) << address;
     for (const int normalOnly : {202, 553, 950, 2533, 5011, 6014, 6055}) {
         EXPECT_EQ(drive.read(normalOnly), 0) << normalOnly;
