@@ -4,14 +4,6 @@
 
 namespace {
 
-QList<CaptureData> channelsWith(std::initializer_list<int> enabled)
-{
-    QList<CaptureData> channels = scopeChannels();
-    for (int i : enabled)
-        channels[i].enabled = true;
-    return channels;
-}
-
 const int busVoltage = 8, fluxVoltage = 15;
 
 } // namespace
@@ -47,7 +39,8 @@ TEST(ScopeChannels, AreSixteenDisabledAndEmpty)
 
 TEST(ScopeChannels, SelectionShorterThanTheListKeepsTheRestUncounted)
 {
-    QList<CaptureData> channels = channelsWith({0, fluxVoltage});
+    QList<CaptureData> channels = scopeChannels();
+    channels[0].enabled = channels[fluxVoltage].enabled = true;
     EXPECT_EQ(selectScopeChannels(channels, {false, true, true}), 2);
     EXPECT_FALSE(channels[0].enabled);
     EXPECT_TRUE(channels[1].enabled);
@@ -82,7 +75,8 @@ TEST(ScopeRates, DividersOfTheOfferedRates)
 TEST(ScopeDownload, OnlyTheBusVoltageIsUnsigned)
 {
     for (int i = 0; i < 16; ++i) {
-        QList<CaptureData> channels = channelsWith({i});
+        QList<CaptureData> channels = scopeChannels();
+        channels[i].enabled = true;
         storeCaptureSample(channels, 0, static_cast<qint16>(0xFFFF), 1.0);
         const double expected = i == busVoltage ? 655.35 : -channels[i].scale;
         EXPECT_DOUBLE_EQ(channels[i].samples[0].second, expected) << i;

@@ -36,10 +36,6 @@ TEST(Profiles, EachHasItsIdentityLimitsAndOwnSettings)
         SCOPED_TRACE(model.profile);
         VirtualDrive drive(*findProfile(model.profile));
         const std::pair<int, int> values[] = {{6020, model.type},
-                                              {6010, model.firmware},
-                                              {6011, model.firmware},
-                                              {6014, model.firmware},
-                                              {6015, model.firmware},
                                               {2, 1},
                                               {3, 25},
                                               {4, 25},
@@ -50,6 +46,8 @@ TEST(Profiles, EachHasItsIdentityLimitsAndOwnSettings)
                                               {6003, model.isKeta ? 0x1C35A90B : 0}};
         for (const auto &[address, value] : values)
             EXPECT_EQ(drive.read(address), value) << address;
+        for (const int version : {6010, 6011, 6014, 6015})
+            EXPECT_EQ(drive.read(version), model.firmware) << version;
         EXPECT_GT(drive.read(6002), 0);
         EXPECT_EQ(limit(drive, reg::PeakCurrent, 0x8000), model.peakMaximum);
         EXPECT_EQ(limit(drive, reg::OverVoltageLimit, 0x4000), model.overVoltageMinimum);
