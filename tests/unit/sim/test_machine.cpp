@@ -176,6 +176,8 @@ TEST(Machine, WiringFaultsShowTheirSignsAndCanBeSetRight)
         {"swapped", {}, FaultTracking, 1990, registerMinimum, registerMaximum},
         {"stuck-positive", {}, 0, 1000, 1000, 1000},
         {"stuck-positive", {{reg::LimitSwitches, 1}}, 0, 1000, 0, 0},
+        {"stuck-positive", {{reg::LimitSwitches, 1}}, 0, -1000, -1000, -1000},
+        {"stuck-negative", {{reg::LimitSwitches, 1}}, 0, -1000, 0, 0},
         {"stuck-negative", {{reg::LimitSwitches, 1}}, 0, 1000, 1000, 1000},
         {"stuck-negative", {{reg::LimitSwitches, 2}}, FaultMotionRange, 1000, 0, 0},
     };
