@@ -69,6 +69,10 @@ int main(int count, char **arguments)
         std::fputs(sim::helpText().c_str(), stdout);
         return 0;
     }
+    if (options.wantsVersion) {
+        std::puts("velbrin-sim " VELBRIN_SIM_VERSION);
+        return 0;
+    }
     if (!options.firmwareFile.empty())
         return writeFirmware(options);
 

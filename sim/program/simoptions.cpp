@@ -16,6 +16,7 @@ struct Arguments
     bool lineRate = false;
     bool upgradeMode = false;
     bool help = false;
+    bool version = false;
 };
 
 std::string profileHelp()
@@ -65,6 +66,7 @@ void addOptions(CLI::App &app, Arguments &typed)
     value("--write-firmware", typed.firmware, "FILE",
           "write a small valid firmware file for the first drive's model,\nand end");
     app.add_flag("-h,--help", typed.help, "this text");
+    app.add_flag("-v,--version", typed.version, "the program's version");
 }
 
 /// The help begins with how it is called, as that of the other programs does; then comes what it is.
@@ -75,7 +77,8 @@ public:
     std::string make_option_name(const CLI::Option *option, bool isPositional) const override
     {
         const std::string names = CLI::Formatter::make_option_name(option, isPositional);
-        return names == "-h,--help" ? "-h, --help" : names;
+        const std::size_t comma = names.find(",--");
+        return comma == std::string::npos ? names : names.substr(0, comma) + ", " + names.substr(comma + 1);
     }
     std::string make_usage(const CLI::App *, std::string) const override
     {
@@ -146,6 +149,7 @@ std::string takeOver(const Arguments &typed, SimOptions &options)
     options.bus.lineRate = typed.lineRate;
     options.firmwareFile = typed.firmware;
     options.wantsHelp = typed.help;
+    options.wantsVersion = typed.version;
     std::string error = takeNumbers(typed, options);
     for (const std::string &set : typed.sets) {
         if (error.empty())

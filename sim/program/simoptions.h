@@ -23,6 +23,7 @@ struct SimOptions
     int bootloaderVersion = Bootloader::defaultVersion;
     std::string firmwareFile; ///< write one and end, when not empty
     bool wantsHelp = false;
+    bool wantsVersion = false;
 };
 
 /// Reads the arguments. Empty on success, else what is wrong with them.
