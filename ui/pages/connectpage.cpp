@@ -21,10 +21,9 @@ ConnectPage::ConnectPage(QWidget *window, const Ui_ConnectPage &form, Connection
 
 // --- Ports --------------------------------------------------------------------------------------------------------
 
-void ConnectPage::listPorts(const Ports &chosen)
+void ConnectPage::listPorts(const Ports &chosen, const QList<SerialPort> &ports)
 {
     m_ports = chosen;
-    const QList<SerialPort> ports = serialPortsOfThisMachine();
     qDebug() << "List of ports:";
     for (const SerialPort &port : ports) {
         qDebug() << "port name:" << port.portName;
@@ -48,7 +47,7 @@ void ConnectPage::listPorts(const Ports &chosen)
 void ConnectPage::refreshPorts()
 {
     const QString before = m_form.communicationInterface->currentText();
-    listPorts(Ports(m_ports));
+    listPorts(Ports(m_ports), serialPortsOfThisMachine());
     if (!before.trimmed().isEmpty())
         m_form.communicationInterface->setCurrentText(before);
 }

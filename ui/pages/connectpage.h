@@ -7,6 +7,7 @@
 #include "nodechooser.h"
 
 class Ui_ConnectPage;
+struct SerialPort;
 enum class Reach;
 
 /// Of the session it asks for searches and connections and ends them. User-interface thread.
@@ -23,8 +24,8 @@ public:
     };
     ConnectPage(QWidget *window, const Ui_ConnectPage &form, Connection &session, QuestionQueue *questions);
 
-    /// Lists the machine's ports.
-    void listPorts(const Ports &ports);
+    /// Lists the machine's ports, serialPortsOfThisMachine().
+    void listPorts(const Ports &chosen, const QList<SerialPort> &ports);
     /// Lists them again; what was chosen or typed stays.
     void refreshPorts();
 

@@ -15,6 +15,7 @@
 #include "makernews.h"
 #include "pagetable.h"
 #include "parameterpages.h"
+#include "portlist.h"
 #include "questionqueue.h"
 #include "statusstrip.h"
 #include "testingpage.h"
@@ -33,6 +34,7 @@
 #include "windowlayout.h"
 
 #include <QScrollArea>
+#include <future>
 
 namespace {
 
@@ -49,6 +51,8 @@ static void initResources()
 MW::MW(const Options &options, QWidget *parent)
     : QMainWindow(parent), m_form(new Ui_MW), m_overridesForm(new Ui_overrideParams)
 {
+    // Thousands of small files are looked at for it, while this thread builds the window.
+    std::future<QList<SerialPort>> ports = std::async(std::launch::async, serialPortsOfThisMachine);
     initResources();
     qRegisterMetaType<Parameters>("Parameters");
     qRegisterMetaType<QList<CaptureData>>("QList <CaptureData>");
@@ -63,7 +67,7 @@ MW::MW(const Options &options, QWidget *parent)
     createShortcuts();
     new WheelGuard(this);
     restoreLayout(*this);
-    showFirstState(options);
+    showFirstState(options, ports.get());
     if (Disclaimer::isAgreedTo(this) && !options.file.isEmpty())
         m_apply->loadFile(options.file);
 }
@@ -80,9 +84,15 @@ MW::~MW()
 
 void MW::buildForms()
 {
+    // The menu bar is never seen, and a desktop's own would have to be asked for over the session bus, now and waiting.
+    QCoreApplication::setAttribute(Qt::AA_DontUseNativeMenuBar);
     m_form->setupUi(this);
-    for (const PageInfo &page : pageTable())
-        m_form->pages->addWidget(page.build());
+    for (const PageInfo &page : pageTable()) {
+        QWidget *built = page.build();
+        built->layout()->setEnabled(false); // the stack would lay the first one out at once, in a size it never has
+        m_form->pages->addWidget(built);
+        built->layout()->setEnabled(true);
+    }
     // Apply stands below the pages, and the keyboard comes to it after them.
     QWidget::setTabOrder(previousInFocusChain(), m_form->apply_button);
     // The areas around the pages scroll to the control that has the keyboard: Tab need not stop at them.
@@ -156,7 +166,7 @@ void MW::hideForGood()
     }
 }
 
-void MW::showFirstState(const Options &options)
+void MW::showFirstState(const Options &options, const QList<SerialPort> &ports)
 {
     hideForGood();
     on_FB2D_currentIndexChanged(0);
@@ -165,7 +175,7 @@ void MW::showFirstState(const Options &options)
     on_HME_currentIndexChanged(0);
     on_AXT_currentIndexChanged(0);
     updateUnitLabels();
-    m_connectPage->listPorts({options.port, options.virtualPort});
+    m_connectPage->listPorts({options.port, options.virtualPort}, ports);
     m_connection.setPauseScale(options.pauseScale);
     m_connection.setDebugValuesShown(options.debugValues);
     m_connection.emitParameters();

@@ -32,6 +32,7 @@ class TestingPage;
 class TriesDesk;
 class Ui_MW;
 class Ui_overrideParams;
+struct SerialPort;
 
 /// One per program, on the user-interface thread. It never waits on the bus: every slot stores what is asked on the
 /// Connection and queues a task, and the answers come back as queued signals. Each slot hands over to the page or desk
@@ -153,7 +154,7 @@ private:
     void connectSession();
     void createShortcuts();
     void hideForGood();
-    void showFirstState(const Options &options);
+    void showFirstState(const Options &options, const QList<SerialPort> &ports);
     void pictureSaved(const QString &failure);
 
     // The drive at a glance (mwboard.cpp)

@@ -2,6 +2,7 @@
 #include "bitfields.h"
 #include "catalogue.h"
 #include "formreader.h"
+#include "longtext.h"
 #include "pagetable.h"
 #include "printqt.h"
 #include "visibility.h"
@@ -161,4 +162,24 @@ TEST(Pages, FormPictureAndHelpOfEachRowAreThereAndOnlyPagesWithSettingsApply)
             hasSettings |= isEditable(windowForms()[form].widgets.value(catalogue.getParam(i).name).kind);
         EXPECT_EQ(page.hasSettings, hasSettings) << page.name;
     }
+}
+
+TEST(LongText, IsAsHighAsALabelAlsoWhenTextOrFontHaveChanged)
+{
+    LongText longText;
+    QLabel label;
+    const auto expectSame = [&](const QString &text, int points) {
+        for (QLabel *each : {&label, static_cast<QLabel *>(&longText)}) {
+            QFont font = each->font();
+            font.setPointSize(points);
+            each->setFont(font);
+            each->setWordWrap(true);
+            each->setText(text);
+        }
+        for (int width : {150, 400, 150})
+            EXPECT_EQ(longText.heightForWidth(width), label.heightForWidth(width)) << width << ' ' << points;
+    };
+    expectSame("<p>one of its <b>lines</b></p>", 10);
+    expectSame(QString("<p>one of its <b>lines</b></p>").repeated(9), 10);
+    expectSame(QString("<p>one of its <b>lines</b></p>").repeated(9), 18);
 }

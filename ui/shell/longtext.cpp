@@ -1,0 +1,17 @@
+#include "longtext.h"
+
+int LongText::heightForWidth(int width) const
+{
+    if (m_text != text()) { // setting a text tells nobody
+        m_text = text();
+        m_heights.clear();
+    }
+    const auto known = m_heights.constFind(width);
+    return known != m_heights.constEnd() ? *known : *m_heights.insert(width, QLabel::heightForWidth(width));
+}
+
+void LongText::changeEvent(QEvent *event)
+{
+    m_heights.clear(); // font, style, direction
+    QLabel::changeEvent(event);
+}
