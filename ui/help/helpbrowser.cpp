@@ -52,11 +52,12 @@ void HelpBrowser::load()
 {
     qDebug() << "   start loading";
     m_shows = m_help;
-    m_offlineNotice->setVisible(m_help == Shows::Offline);
     if (m_help == Shows::Offline) {
         m_view->loadPage(offlineHelpPage(QFileInfo(QLatin1String(m_page->helpFile)).fileName()));
+        m_offlineNotice->show(); // second: the window is laid out anew for it, while the page loads
         return;
     }
+    m_offlineNotice->hide();
     qDebug() << "   try online";
     m_limit.start();
     m_view->loadPage(QUrl(makerWikiPage(QLatin1String(m_page->wikiPath))), HelpView::Failure::Replaced);

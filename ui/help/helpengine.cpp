@@ -34,14 +34,19 @@ HelpEngine::HelpEngine(QWidget *owner) : page(&profile, owner)
     plotFiles.installIn(&profile);
     QObject::connect(&profile, &QWebEngineProfile::downloadRequested, owner,
                      [](QWebEngineDownloadRequest *download) { download->cancel(); });
+    followPalette(owner->palette());
+    view.setContextMenuPolicy(Qt::NoContextMenu); // the engine's own offers to save and to open windows
+}
+
+void HelpEngine::preparePlots()
+{
+    if (!profile.scripts()->isEmpty())
+        return;
     QWebEngineScript script;
     script.setSourceCode(plotScripts());
     script.setInjectionPoint(QWebEngineScript::DocumentReady);
     script.setWorldId(QWebEngineScript::MainWorld);
     profile.scripts()->insert(script);
-    followPalette(owner->palette());
-    view.setPage(&page);
-    view.setContextMenuPolicy(Qt::NoContextMenu); // the engine's own offers to save and to open windows
 }
 
 void HelpEngine::followPalette(const QPalette &palette)

@@ -21,10 +21,12 @@ struct HelpEngine
     RequestGate gate;
     PlotFiles plotFiles;
     HelpPage page;
-    QWebEngineView view;
+    QWebEngineView view; ///< gets the page from whoever shows it
     std::unique_ptr<PlotPicture> picture; ///< while one is being drawn
     bool plotStands = false;              ///< the plot page on display is loaded to its end
 
+    /// To be called before a plot page is loaded: help does without the charts' scripts.
+    void preparePlots();
     /// Dark pages under a dark palette, from the next load on; the one on display follows by itself.
     void followPalette(const QPalette &palette);
 };

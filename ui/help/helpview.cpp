@@ -68,9 +68,21 @@ void HelpView::startEngine()
         emit pictureSaved(tr("The picture of the graphs was given up: the browser engine was started again"));
     m_engine.reset();
     m_engine = std::make_unique<HelpEngine>(this);
+    listenToEngine();
+    m_isUnderWay = false;
+    if (!m_plot.isEmpty())
+        loadPlot();
+    else if (m_wantedUrl.isValid())
+        loadWanted();
+    // Last: it takes as long as the page's process to start, which runs beside it.
+    m_engine->view.setPage(&m_engine->page);
     m_stack->addWidget(&m_engine->view);
     m_stack->setCurrentWidget(&m_engine->view);
     setFocusProxy(&m_engine->view);
+}
+
+void HelpView::listenToEngine()
+{
     connect(&m_engine->page, &QWebEnginePage::loadingChanged, this, [this](const QWebEngineLoadingInfo &info) {
         if (info.status() == QWebEngineLoadingInfo::LoadStartedStatus)
             m_replaces &= info.url() != m_wantedUrl;
@@ -88,11 +100,6 @@ void HelpView::startEngine()
             processEnded(ended ? tr("it closed") : tr("status %1").arg(code));
         },
         Qt::QueuedConnection);
-    m_isUnderWay = false;
-    if (!m_plot.isEmpty())
-        loadPlot();
-    else if (m_wantedUrl.isValid())
-        loadWanted();
 }
 
 void HelpView::loadEnded(bool ok, const QUrl &url)
@@ -200,6 +207,7 @@ void HelpView::updateScope(const QJsonObject &news)
 void HelpView::loadPlot()
 {
     const QUrl url = plotPageUrl(m_plotBase);
+    m_engine->preparePlots();
     m_engine->plotFiles.page = m_plot.toUtf8();
     m_engine->plotFiles.pageUrl = url;
     m_engine->plotStands = false;

@@ -76,6 +76,7 @@ protected:
 
 private:
     void startEngine();
+    void listenToEngine();
     bool isRunning() const;
     void loadEnded(bool ok, const QUrl &url);
     void processEnded(const QString &how);

@@ -10,6 +10,17 @@ int LongText::heightForWidth(int width) const
     return known != m_heights.constEnd() ? *known : *m_heights.insert(width, QLabel::heightForWidth(width));
 }
 
+QSize LongText::sizeHint() const
+{
+    const int width = fontMetrics().averageCharWidth() * 80;
+    return {width, heightForWidth(width)};
+}
+
+QSize LongText::minimumSizeHint() const
+{
+    return {fontMetrics().averageCharWidth() * 40, fontMetrics().height()};
+}
+
 void LongText::changeEvent(QEvent *event)
 {
     m_heights.clear(); // font, style, direction

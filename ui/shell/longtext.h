@@ -16,6 +16,9 @@ class LongText : public QLabel
 public:
     using QLabel::QLabel;
     int heightForWidth(int width) const override;
+    /// Eighty characters wide, and no less than forty: a label would try a dozen widths to find out.
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
 
 protected:
     void changeEvent(QEvent *event) override;
