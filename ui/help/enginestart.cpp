@@ -42,6 +42,9 @@ void prepareEngine()
     registerPlotScheme();
     // Help and charts need no graphics processor, and then no driver of one can fail.
     QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
+    // The toolkit would load the driver all the same: some 50 ms before the first paint, and 35 MB.
+    if (!qEnvironmentVariableIsSet("QT_XCB_GL_INTEGRATION"))
+        qputenv("QT_XCB_GL_INTEGRATION", "none");
     QByteArray flags = qgetenv("QTWEBENGINE_CHROMIUM_FLAGS");
     flags += " --disable-gpu";
     if (geteuid() == 0) // the engine refuses to start a sandbox for root
