@@ -21,7 +21,7 @@ struct HelpEngine
     RequestGate gate;
     PlotFiles plotFiles;
     HelpPage page;
-    QWebEngineView view; ///< gets the page from whoever shows it
+    QWebEngineView view;                  ///< gets the page from whoever shows it
     std::unique_ptr<PlotPicture> picture; ///< while one is being drawn
     bool plotStands = false;              ///< the plot page on display is loaded to its end
 
