@@ -5,6 +5,7 @@
 #include <QCoreApplication>
 #include <QFileInfo>
 #include <QLibraryInfo>
+#include <QLoggingCategory>
 #include <QQuickWindow>
 #include <sched.h>
 #include <sys/wait.h>
@@ -35,10 +36,27 @@ bool systemAllowsSandbox()
     return child > 0 && waitpid(child, &status, 0) == child && WIFEXITED(status) && WEXITSTATUS(status) == 0;
 }
 
+QtMessageHandler otherMessages = nullptr;
+
+/// Without what Qt and the engine say about a graphics driver that is not wanted: it reads like a fault.
+void withoutDriverTalk(QtMsgType type, const QMessageLogContext &context, const QString &text)
+{
+    if (!text.startsWith(QLatin1String("QXcbIntegration: Cannot create platform OpenGL context")))
+        otherMessages(type, context, text);
+}
+
+void keepQuietAboutDriver()
+{
+    QLoggingCategory::setFilterRules(QStringLiteral("qt.webenginecontext=false"));
+    if (!otherMessages)
+        otherMessages = qInstallMessageHandler(withoutDriverTalk);
+}
+
 } // namespace
 
 void prepareEngine()
 {
+    keepQuietAboutDriver();
     registerPlotScheme();
     // Help and charts need no graphics processor, and then no driver of one can fail.
     QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
