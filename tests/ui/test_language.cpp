@@ -5,20 +5,15 @@
 #include "language.h"
 #include "translations.h"
 
-#include <QComboBox>
 #include <QLocale>
 #include <QMetaProperty>
 #include <QProcess>
 #include <QRegularExpression>
-#include <QShortcut>
-#include <QTableWidget>
 #include <QTemporaryDir>
 #include <QTranslator>
 #include <gmock/gmock.h>
 
 namespace {
-
-constexpr int UNDER_VOLTAGE_LIMIT = 570; // register, 1/100 V
 
 /// What has to be the same in every language, in any order.
 QStringList fixedParts(const QString &text)
@@ -206,11 +201,11 @@ TEST_F(Language, NoTextOfTheWindowIsBeyondTranslation)
         goTo(page);
         collectUnmarked();
     }
-    control<QSpinBox>("KVP")->setValue(400);
+    kvp()->setValue(400);
     click("stripEnable");
     ASSERT_TRUE(waitForThreePolls());
     collectUnmarked();
-    bus().set(DriveAddress, UNDER_VOLTAGE_LIMIT, 6000); // the drive trips by itself, at 48 V
+    bus().set(DriveAddress, underVoltage, 6000); // the drive trips by itself, at 48 V
     ASSERT_TRUE(waitFor([this] { return m_state.faultRegister != 0; }));
     ASSERT_TRUE(waitForThreePolls());
     collectUnmarked();

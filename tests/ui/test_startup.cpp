@@ -1,14 +1,9 @@
 // Opening the window: disclaimer, pages, names.
 #include "pagetable.h"
+#include "settingfacts.h"
 #include "windowfixture.h"
 
-#include <QCheckBox>
-#include <QComboBox>
-#include <QDir>
 #include <QProcess>
-#include <QSettings>
-#include <QSpinBox>
-#include <QStackedWidget>
 #include <csignal>
 #include <utime.h>
 
@@ -44,6 +39,12 @@ TEST_F(Startup, AgreeingOpensTheWindowOnTheWelcomePage)
         EXPECT_EQ(selector->item(i)->text(), pageTable()[std::size_t(i)].text);
         EXPECT_FALSE(selector->item(i)->icon().pixmap(64).isNull()) << i;
         EXPECT_EQ(selector->item(i)->sizeHint(), QSize(79, 96));
+    }
+    for (const char *name : {"CM", "CRI", "AXT", "MT", "FBD", "FB2D", "LSF", "CEI", "TBW", "TRF1", "TRF2"}) {
+        QStringList words;
+        for (int i = 0; i < control<QComboBox>(name)->count(); ++i)
+            words << control<QComboBox>(name)->itemText(i);
+        EXPECT_EQ(settingFacts(name, false)->choices, words) << name << " has other words in a report";
     }
 }
 
@@ -104,7 +105,11 @@ TEST_F(Startup, WithoutADriveNothingIsPendingAndNothingCanBeSent)
     press(Qt::Key_Escape);
     QTest::qWait(400); // one idle pass of the worker
     EXPECT_TRUE(bus().received().empty());
-    EXPECT_EQ(shownMessage(m_window.get()), QString());
+    EXPECT_EQ(shownMessage(), QString());
+    EXPECT_EQ(label("setpointNow")->text(), "Setpoint now: no data");
+    EXPECT_EQ(label("statusRegisterl")->text(), "Status");
+    click("copyDeviceStateToClipboard");
+    EXPECT_EQ(QApplication::clipboard()->text(), "No data\n\nNo data\n\nNo data");
 }
 
 TEST_F(Startup, CtrlClickCannotLeaveThePageListWithoutASelection)

@@ -73,9 +73,9 @@ protected:
         return CapturePlotter().generatePlotPage(captures, parameters.getParamsHTMLList(), "KETA");
     }
 
-    void show(const QString &page, HelpView::Zoom zoom = HelpView::Zoom::Keep)
+    void show(const QString &page, HelpView::Zoom zoom = HelpView::Zoom::Keep, const QJsonObject &scope = {})
     {
-        view.showPlot(page, QUrl("file:///" + QDir::currentPath() + "/flot/examples/"), zoom);
+        view.showPlot(page, QUrl("file:///" + QDir::currentPath() + "/flot/examples/"), zoom, scope);
         ASSERT_TRUE(waitFor([this] { return run("window.velbrinView && velbrinView.drawn").toBool(); }, 15000));
     }
     void show(int channels, int samples) { show(pageOf(channels, samples)); }
@@ -114,7 +114,7 @@ protected:
     void zoomIn() { drag(middleOf("#Torque canvas"), middleOf("#Torque canvas") + QPoint(100, 60)); }
 
     /// Three channels of two groups as a drive records them, with what the program says about them.
-    QJsonObject showScope(const QJsonObject &more = {}, HelpView::Zoom zoom = HelpView::Zoom::Keep)
+    void showScope(const QJsonObject &more = {})
     {
         QList<CaptureData> captures;
         QJsonArray channels;
@@ -137,10 +137,7 @@ protected:
                           {"units", QJsonArray{QJsonObject{{"name", "Machine"}, {"units", degrees}}}}};
         for (auto member = more.begin(); member != more.end(); ++member)
             scope.insert(member.key(), member.value());
-        view.showPlot(CapturePlotter().generatePlotPage(captures, QString(), "KETA"),
-                      QUrl("file:///" + QDir::currentPath() + "/flot/examples/"), zoom, scope);
-        EXPECT_TRUE(waitFor([this] { return run("window.velbrinView && velbrinView.drawn").toBool(); }, 15000));
-        return scope;
+        show(CapturePlotter().generatePlotPage(captures, QString(), "KETA"), HelpView::Zoom::Keep, scope);
     }
     double axis(const char *chart, const char *limit)
     {
