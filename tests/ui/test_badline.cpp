@@ -42,6 +42,14 @@ protected:
 TEST_F(BadLine, ALostLineIsReportedOnceLosesNoEditAndCanBeConnectedAgain)
 {
     openWindow();
+    bus().setFault({LineFault::Missing}); // at first silent from the beginning
+    startConnecting();
+    ASSERT_TRUE(waitFor([this] { return connectionText() == "Connect failed"; }));
+    EXPECT_TRUE(button("connect_button")->isEnabled());
+    EXPECT_FALSE(button("apply_button")->isEnabled());
+    ASSERT_TRUE(waitForMessage());
+    closeMessage();
+    bus().clearFaults();
     for (const bool pulled : {false, true}) { // in the middle of an apply
         connectToDrive();
         kvp()->setValue(777);
@@ -54,19 +62,5 @@ TEST_F(BadLine, ALostLineIsReportedOnceLosesNoEditAndCanBeConnectedAgain)
         bus().clearFaults();
         ASSERT_TRUE(!pulled || bus().plugIn().empty());
     }
-    connectToDrive();
-}
-
-TEST_F(BadLine, SilenceWhileConnectingEndsInTheDisconnectedState)
-{
-    openWindow();
-    bus().setFault({LineFault::Missing});
-    startConnecting();
-    ASSERT_TRUE(waitFor([this] { return connectionText() == "Connect failed"; }));
-    EXPECT_TRUE(button("connect_button")->isEnabled());
-    EXPECT_FALSE(button("apply_button")->isEnabled());
-    ASSERT_TRUE(waitForMessage());
-    bus().clearFaults();
-    closeMessage();
     connectToDrive();
 }

@@ -53,4 +53,5 @@ TEST_F(Stimulus, ClosingTheWindowStopsIt)
     m_answers.press("Continue without applying");
     EXPECT_TRUE(m_window->close());
     EXPECT_TRUE(waitForWrite(systemCommand, stopStream));
+    EXPECT_NE(bus().read(DriveAddress, KVP), 1) << "nor does it apply";
 }

@@ -18,12 +18,6 @@
 
 inline QStringList complaints; ///< of the page's scripts
 
-inline void keepComplaints(QtMsgType, const QMessageLogContext &context, const QString &text)
-{
-    if (context.category && qstrcmp(context.category, "js") == 0)
-        complaints << text;
-}
-
 class PlotPage : public testing::Test
 {
 protected:
@@ -33,7 +27,10 @@ protected:
         makeFlotFolder(folder.path());
         QDir::setCurrent(folder.path());
         complaints.clear();
-        before = qInstallMessageHandler(keepComplaints);
+        before = qInstallMessageHandler([](QtMsgType, const QMessageLogContext &context, const QString &text) {
+            if (context.category && qstrcmp(context.category, "js") == 0)
+                complaints << text;
+        });
         view.resize(900, 700);
         view.show();
         view.activateWindow();
