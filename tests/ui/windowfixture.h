@@ -144,10 +144,12 @@ private:
 class WindowFixture : public VirtualBusFixture
 {
 protected:
-    /// Addresses in the drive, and rows of the page list.
+    /// Addresses in the drive.
     static constexpr int KVP = 202, feedbackDevice = 493, incrementalSetpoint = 550, absoluteSetpoint = 551,
                          faultBits = 552, systemCommand = 554, underVoltage = 570, positionRegister = 956,
-                         softEnable = 2533, scopeState = 5011, tuningPage = 4, testingPage = 6;
+                         softEnable = 2533, scopeState = 5011;
+    /// Rows of the page list.
+    static constexpr int tuningPage = 4, testingPage = 6;
 
     void SetUp() override
     {
