@@ -13,7 +13,7 @@
 
 #include <QSignalSpy>
 #include <QTest>
-#include <QtWidgets>
+#include <QtWidgets> // of every kind, for the tests that include this
 
 /// Answers every request with a small page that names its path, or with nothing at all while silent.
 class LoopbackWiki : public LoopbackHttpServer
