@@ -118,15 +118,10 @@ private:
         m_answering = true;
         if (auto *box = qobject_cast<QMessageBox *>(open))
             texts << box->text();
-        if (m_expected.isEmpty()) {
-            ADD_FAILURE() << "nobody expected " << qPrintable(describe(open));
+        const bool expected = !m_expected.isEmpty();
+        if (!expected || !m_expected.takeFirst()(open)) {
+            ADD_FAILURE() << (expected ? "cannot answer " : "nobody expected ") << qPrintable(describe(open));
             open->close();
-        } else {
-            const auto action = m_expected.takeFirst();
-            if (!action(open)) {
-                ADD_FAILURE() << "cannot answer " << qPrintable(describe(open));
-                open->close();
-            }
         }
         m_answering = false;
     }

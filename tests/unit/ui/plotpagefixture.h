@@ -10,8 +10,10 @@
 
 #include <gtest/gtest.h>
 
+#include <QImage>
 #include <QJsonArray>
 #include <QJsonObject>
+#include <QSignalSpy>
 #include <QTemporaryDir>
 
 #include <cmath>
@@ -76,6 +78,15 @@ protected:
         ASSERT_TRUE(waitFor([this] { return run("window.velbrinView && velbrinView.drawn").toBool(); }, 15000));
     }
     void show(int channels, int samples) { show(pageOf(channels, samples)); }
+
+    QImage picture(int wide)
+    {
+        QSignalSpy saved(&view, &HelpView::pictureSaved);
+        view.savePng(folder.filePath("p.png"), wide);
+        EXPECT_TRUE(saved.wait(30000));
+        EXPECT_EQ(saved.value(0).value(0).toString().toStdString(), "");
+        return QImage(folder.filePath("p.png"));
+    }
 
     QVariant run(const QString &script) { return runScript(&view, script); }
     QPoint middleOf(const char *element)
