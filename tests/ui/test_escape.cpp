@@ -169,9 +169,10 @@ TEST_F(Escape, TellsWhenAPollShowsTheDriveDisabledUntilItIsEnabledAgain)
     // One that stays enabled is not called disabled, not for a moment either.
     QSignalSpy told(m_window->statusBar(), &QStatusBar::messageChanged);
     bus().withDrive(DriveAddress, [](sim::VirtualDrive &drive) { drive.refuseWrites(softEnable); });
-    bus().clearReceived();
+    QSignalSpy finished(&m_window->session(), &Connection::disableFinished);
     press(Qt::Key_Escape);
-    ASSERT_TRUE(waitForWrite(softEnable, 0));
+    ASSERT_TRUE(waitFor([&] { return !finished.isEmpty(); }));
+    EXPECT_EQ(finished.first().first().value<DisableOutcome>(), DisableOutcome::StillEnabled);
     ASSERT_TRUE(waitForThreePolls());
     EXPECT_EQ(bus().read(DriveAddress, softEnable), 1);
     for (const auto &message : told)
