@@ -20,7 +20,6 @@ struct Form
 {
     QString className; ///< the context of its texts
     QMap<QString, Widget> widgets;
-    QStringList names; ///< of widgets and layouts, with repetitions
     QStringList tabStops;
 };
 
@@ -46,14 +45,11 @@ inline Form readForm(const QString &name)
         if (!xml.isStartElement())
             continue;
         Widget *widget = open.isEmpty() ? nullptr : &form.widgets[open.last()];
-        if (element == QLatin1String("class") && open.isEmpty() && form.names.isEmpty()) {
+        if (element == QLatin1String("class") && open.isEmpty() && form.widgets.isEmpty()) {
             form.className = xml.readElementText();
         } else if (element == QLatin1String("widget")) {
             open.append(name);
-            form.names.append(name);
             form.widgets[name].kind = xml.attributes().value("class").toString();
-        } else if (element == QLatin1String("layout")) {
-            form.names.append(name);
         } else if (element == QLatin1String("item") && widget && widget->kind == QLatin1String("QComboBox")) {
             widget->choices.append(QString());
         } else if (element == QLatin1String("property")) {

@@ -4,42 +4,27 @@
 #include "applybox.h"
 #include "driveboard.h"
 
-#include <QComboBox>
-#include <QDir>
-#include <QLineEdit>
-#include <QSpinBox>
-#include <QStatusBar>
-#include <QToolButton>
-
 namespace {
 
-constexpr int KVP = 202;
-constexpr int SERIAL_NUMBER = 6002;
-constexpr int UNDER_VOLTAGE = 570;
-constexpr int TUNING_PAGE = 4;
+constexpr int serialNumber = 6002;
 
 class Board : public WindowFixture
 {
 protected:
-    QSpinBox *kvp() const { return control<QSpinBox>("KVP"); }
     QString word() const { return label("stripWord")->text(); }
     QString spoken() const { return label("stripWord")->accessibleName(); }
-    bool waitForWord(const QString &wanted, int limitMs = 10000)
+    bool waitForWord(const QString &wanted)
     {
-        return waitFor([&] { return word() == wanted; }, limitMs);
+        return waitFor([&] { return word() == wanted; });
     }
-    bool waitToBeSaid(const QString &text)
+    void expectSaid(const QString &text)
     {
-        const bool came = waitFor([&] { return said() == text; }, 5000);
-        EXPECT_TRUE(came) << qPrintable(said());
-        return came;
+        EXPECT_TRUE(waitFor([&] { return said() == text; })) << qPrintable(said());
     }
     QString mark(const char *name) const { return label(name)->accessibleName(); }
-    bool waitForMark(const char *name, const QString &text)
+    void expectMark(const char *name, const QString &text)
     {
-        const bool came = waitFor([&] { return mark(name) == text; }, 5000);
-        EXPECT_TRUE(came) << qPrintable(mark(name));
-        return came;
+        EXPECT_TRUE(waitFor([&] { return mark(name) == text; })) << qPrintable(mark(name));
     }
 };
 
@@ -57,16 +42,16 @@ TEST_F(Board, StripFollowsTheDriveWhoeverMovesItAndSaysWhenItIsThePast)
     EXPECT_TRUE(spoken().startsWith("disabled, standing, KETA at address")) << qPrintable(spoken());
     click("stripEnable");
     EXPECT_TRUE(waitForWord("ENABLED"));
-    EXPECT_TRUE(waitToBeSaid("Enabled: the motor is powered"));
+    expectSaid("Enabled: the motor is powered");
 
-    bus().set(DriveAddress, UNDER_VOLTAGE, 6000); // the drive trips by itself, at 48 V
+    bus().set(DriveAddress, underVoltage, 6000); // the drive trips by itself, at 48 V
     EXPECT_TRUE(waitForWord("FAULT"));
     EXPECT_TRUE(waitFor([this] { return said().startsWith("The drive has stopped by itself: Under voltage"); }));
     EXPECT_TRUE(label("stripDetail")->text().startsWith("Under voltage")) << qPrintable(spoken());
     EXPECT_TRUE(control<QToolButton>("stripFaultHelp")->isVisible());
-    bus().set(DriveAddress, UNDER_VOLTAGE, 3600);
+    bus().set(DriveAddress, underVoltage, 3600);
     click("stripClearFaults");
-    EXPECT_TRUE(waitToBeSaid("Faults cleared"));
+    expectSaid("Faults cleared");
     EXPECT_TRUE(waitFor([this] { return !word().startsWith("FAULT"); }));
     click("stripDisable");
     EXPECT_TRUE(waitForWord("disabled"));
@@ -81,12 +66,12 @@ TEST_F(Board, StripFollowsTheDriveWhoeverMovesItAndSaysWhenItIsThePast)
 TEST_F(Board, MarksTellAtAnyMomentWhereTheValuesLive)
 {
     openConnectedWindow();
-    EXPECT_TRUE(waitForMark("markEdited", "Nothing edited"));
-    EXPECT_TRUE(waitForMark("markWorking", "In the drive"));
+    expectMark("markEdited", "Nothing edited");
+    expectMark("markWorking", "In the drive");
     EXPECT_EQ(mark("markFlash"), "Saved over power-off: not known");
-    goTo(TUNING_PAGE);
+    goTo(tuningPage);
     kvp()->setValue(400);
-    EXPECT_TRUE(waitForMark("markEdited", "Edited (1 change)"));
+    expectMark("markEdited", "Edited (1 change)");
     EXPECT_EQ(mark("markWorking"), "Not in the drive yet");
     EXPECT_EQ(label("changeCount")->text(), "1 change");
     auto *drive = control<QToolButton>("KVPdrive");
@@ -94,34 +79,32 @@ TEST_F(Board, MarksTellAtAnyMomentWhereTheValuesLive)
     EXPECT_TRUE(drive->isVisible());
     drive->click();
     EXPECT_EQ(kvp()->value(), 360);
-    EXPECT_TRUE(waitForMark("markEdited", "Nothing edited"));
+    expectMark("markEdited", "Nothing edited");
     EXPECT_FALSE(drive->isVisible());
 
     kvp()->setValue(400);
     click("apply_button");
-    EXPECT_TRUE(waitToBeSaid("1 applied"));
-    EXPECT_TRUE(waitForMark("markWorking", "In the drive, lost at power-off"));
+    expectSaid("1 applied");
+    expectMark("markWorking", "In the drive, lost at power-off");
     EXPECT_EQ(mark("markFlash"), "Not saved over power-off");
     ASSERT_TRUE(button("stripSaveToDrive")->isVisible());
     click("stripSaveToDrive");
-    EXPECT_TRUE(waitForMark("markFlash", "Saved over power-off"));
+    expectMark("markFlash", "Saved over power-off");
     EXPECT_EQ(said(), "Saved to the drive: the settings survive a power-off");
     EXPECT_FALSE(button("stripSaveToDrive")->isVisible());
 
     EXPECT_EQ(mark("markFile"), "In no file");
-    const QString file = QDir::current().filePath("mine.drc");
-    m_answers.chooseFile(file);
-    click("save_settings_to_file");
-    EXPECT_TRUE(waitForMark("markFile", "In the file mine.drc"));
-    EXPECT_EQ(said(), "Saved to the file " + file);
+    saveFile(path("mine.drc"));
+    expectMark("markFile", "In the file mine.drc");
+    EXPECT_EQ(said(), "Saved to the file " + path("mine.drc"));
     kvp()->setValue(401);
-    EXPECT_TRUE(waitForMark("markFile", "In no file"));
+    expectMark("markFile", "In no file");
 }
 
 TEST_F(Board, UndoTakesPendingEditsBackOverAllPagesAsNamedSteps)
 {
     openConnectedWindow();
-    goTo(TUNING_PAGE);
+    goTo(tuningPage);
     bringToFront();
     kvp()->setFocus();
     kvp()->stepBy(1);
@@ -129,9 +112,7 @@ TEST_F(Board, UndoTakesPendingEditsBackOverAllPagesAsNamedSteps)
     goTo(3);
     auto *continuous = control<QDoubleSpinBox>("MCC");
     auto *peak = control<QDoubleSpinBox>("MMC");
-    continuous->setFocus();
-    continuous->selectAll();
-    QTest::keyClicks(continuous, "33");
+    typeOver(continuous, "33");
     QTest::keyClick(continuous, Qt::Key_Return);
     EXPECT_EQ(peak->value(), 33.0);
     EXPECT_EQ(said(), "[MMC] Raised with [MCC]: the peak is never below it.");
@@ -153,10 +134,10 @@ TEST_F(Board, UndoTakesPendingEditsBackOverAllPagesAsNamedSteps)
 
     // Applied is applied: undoing makes another edit of it, and nothing goes to the drive.
     click("apply_button");
-    EXPECT_TRUE(waitToBeSaid("1 applied"));
+    expectSaid("1 applied");
     press(Qt::Key_Z, Qt::ControlModifier);
     EXPECT_EQ(kvp()->value(), 360);
-    EXPECT_TRUE(waitForMark("markEdited", "Edited (1 change)"));
+    expectMark("markEdited", "Edited (1 change)");
     EXPECT_EQ(bus().read(DriveAddress, KVP), 380);
 }
 
@@ -165,9 +146,9 @@ TEST_F(Board, BoxBeforeAnApplyListsWhatWillChangeAndLeadsBack)
     openConnectedWindow();
     control<QDoubleSpinBox>("FOC")->setValue(57);
     control<QDoubleSpinBox>("MCC")->setValue(2);
-    EXPECT_TRUE(waitForMark("markEdited", "Edited (2 changes)"));
+    expectMark("markEdited", "Edited (2 changes)");
     click("apply_button"); // no box
-    EXPECT_TRUE(waitToBeSaid("2 applied"));
+    expectSaid("2 applied");
 
     control<QDoubleSpinBox>("MCC")->setValue(12);
     const auto answer = [this](const char *buttonText, const QString &part) {
@@ -184,36 +165,36 @@ TEST_F(Board, BoxBeforeAnApplyListsWhatWillChangeAndLeadsBack)
     control<QSpinBox>("FEV")->setValue(50); // the drive would trip at its own velocity limit
     answer("Apply settings", "Parameter sanity check warnings:");
     click("apply_button");
-    EXPECT_TRUE(waitToBeSaid("2 applied"));
+    expectSaid("2 applied");
     for (const char *name : {"KVP", "KVI", "KPP", "FPT"})
         control<QSpinBox>(name)->setValue(control<QSpinBox>(name)->value() + 1);
     control<QSpinBox>("FEV")->setValue(240);
     answer("Apply settings", QString()); // five are listed, nothing warns
     click("apply_button");
-    EXPECT_TRUE(waitToBeSaid("5 applied"));
+    expectSaid("5 applied");
 }
 
 TEST_F(Board, WhatTheDriveDoesNotTakeIsToldByNameAndEditsMadeMeanwhileStay)
 {
     openConnectedWindow();
-    goTo(TUNING_PAGE);
+    goTo(tuningPage);
     bus().withDrive(DriveAddress, [](sim::VirtualDrive &drive) { drive.refuseWrites(KVP); });
     kvp()->setValue(400);
     control<QSpinBox>("KVI")->setValue(370);
     bus().setTurnAround(std::chrono::milliseconds(3));
     click("apply_button");
     control<QSpinBox>("KPP")->setValue(99); // while the write is on its way
-    EXPECT_TRUE(waitToBeSaid("1 applied, 1 not taken: KVP 400 -> 360"));
+    expectSaid("1 applied, 1 not taken: KVP 400 -> 360");
     EXPECT_EQ(kvp()->value(), 360);
     EXPECT_EQ(control<QSpinBox>("KPP")->value(), 99);
-    EXPECT_TRUE(waitForMark("markEdited", "Edited (1 change)"));
+    expectMark("markEdited", "Edited (1 change)");
 }
 
 TEST_F(Board, EditsThatWaitedWhenTheLineWasLostCanBeBroughtBackToTheSameDriveOnly)
 {
     openConnectedWindow();
     ASSERT_TRUE(waitForThreePolls());
-    goTo(TUNING_PAGE);
+    goTo(tuningPage);
     const auto loseTheLine = [this] {
         bus().setFault({sim::LineFault::Deaf});
         ASSERT_TRUE(waitFor([this] { return connectionText() == "Disconnected"; }));
@@ -223,15 +204,15 @@ TEST_F(Board, EditsThatWaitedWhenTheLineWasLostCanBeBroughtBackToTheSameDriveOnl
     kvp()->setValue(400);
     control<QSpinBox>("KVI")->setValue(370);
     loseTheLine();
-    EXPECT_TRUE(waitToBeSaid("2 edits were not applied when the connection was lost: Ctrl+Z brings them back"));
+    expectSaid("2 edits were not applied when the connection was lost: Ctrl+Z brings them back");
     EXPECT_EQ(kvp()->value(), 360); // what the drive has, until it is asked for
     press(Qt::Key_Z, Qt::ControlModifier);
     EXPECT_EQ(kvp()->value(), 400);
-    EXPECT_TRUE(waitForMark("markEdited", "Edited (2 changes)"));
+    expectMark("markEdited", "Edited (2 changes)");
 
-    bus().set(DriveAddress, SERIAL_NUMBER, 5);
+    bus().set(DriveAddress, serialNumber, 5);
     loseTheLine();
-    EXPECT_TRUE(waitToBeSaid("Edits that were not applied are gone: they were another drive's"));
+    expectSaid("Edits that were not applied are gone: they were another drive's");
     press(Qt::Key_Z, Qt::ControlModifier);
     EXPECT_EQ(kvp()->value(), 360);
 }
@@ -249,7 +230,7 @@ TEST_F(Board, FindingLeadsToTheFieldWhereverItIs)
         return first;
     };
     EXPECT_EQ(find("kpp"), "[KPP] Position P gain: Tuning");
-    EXPECT_EQ(control<QListWidget>("pageSelector")->currentRow(), TUNING_PAGE);
+    EXPECT_EQ(control<QListWidget>("pageSelector")->currentRow(), tuningPage);
     EXPECT_TRUE(control<QSpinBox>("KPP")->hasFocus());
     EXPECT_EQ(find("brake closing"), "[BED] Brake engage delay (s): Machine"); // words of its help
     EXPECT_TRUE(control<QDoubleSpinBox>("BED")->hasFocus());

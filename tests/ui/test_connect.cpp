@@ -1,14 +1,7 @@
 // From the port to the filled pages, and back to disconnected.
 #include "windowfixture.h"
 
-#include <QCheckBox>
-#include <QComboBox>
-#include <QListWidget>
-#include <QSpinBox>
-
 namespace {
-
-constexpr int FEEDBACK_DEVICE = 493;
 
 using Connecting = WindowFixture;
 
@@ -19,13 +12,21 @@ class TwoFamilies : public WindowFixture
 
 } // namespace
 
-TEST_F(TwoFamilies, SearchListsBothDrivesAndOpensTheChosenOne)
+TEST_F(TwoFamilies, SearchThatFoundNobodySaysWhatToCheckAndTheNextListsBothDrivesAndOpensTheChosenOne)
 {
     openWindow();
-    goTo(1);
+    m_answers.expect([](QWidget *dialog) {
+        EXPECT_TRUE(dialog->findChild<QLabel *>("label")->text().contains("Check that"));
+        EXPECT_FALSE(dialog->findChild<QListWidget *>("nodeList")->isVisible());
+        for (QPushButton *button : dialog->findChildren<QPushButton *>()) {
+            if (button->isDefault())
+                button->click();
+        }
+        return true;
+    });
     QStringList rows;
     m_answers.chooseNode(1, &rows);
-    press(Qt::Key_O, Qt::AltModifier);
+    offer({});
     EXPECT_EQ(button("connect_button")->text(), "Searching devices...");
     ASSERT_TRUE(waitFor([this] { return connectionText() == "Connected"; }));
     EXPECT_EQ(rows, QStringList({"Tarnwell Devices KETA at bus address 5", "Tarnwell Devices TORVA at bus address 7"}));
@@ -36,14 +37,14 @@ TEST_F(TwoFamilies, SearchListsBothDrivesAndOpensTheChosenOne)
 
 TEST_F(Connecting, FillsThePagesWithTheDrivesValuesAndLimits)
 {
-    bus().set(DriveAddress, 202, 1234); // KVP
-    openWindow();
-    connectToDrive();
+    bus().set(DriveAddress, KVP, 1234);
+    bus().set(DriveAddress, feedbackDevice, 9); // the program knows fewer
+    openConnectedWindow();
     EXPECT_EQ(label("HWMODEL")->text(), "Tarnwell Devices KETA");
     EXPECT_EQ(label("HWVER")->text(), "11000");
     EXPECT_EQ(label("TCFWVER")->text(), "1078");
-    EXPECT_EQ(control<QSpinBox>("KVP")->value(), 1234);
-    EXPECT_EQ(control<QSpinBox>("KVP")->maximum(), 32767);
+    EXPECT_EQ(kvp()->value(), 1234);
+    EXPECT_EQ(kvp()->maximum(), 32767);
     EXPECT_EQ(control<QDoubleSpinBox>("FOV")->value(), 58.0);
     EXPECT_EQ(control<QComboBox>("CM")->currentText(), "Position control");
     EXPECT_EQ(label("CVLrvel")->text(), "= 50 revolutions/s");
@@ -53,9 +54,16 @@ TEST_F(Connecting, FillsThePagesWithTheDrivesValuesAndLimits)
     EXPECT_FALSE(button("connect_button")->isEnabled());
     EXPECT_FALSE(control<QComboBox>("communicationInterface")->isEnabled());
     EXPECT_TRUE(waitForPending(false));
+    EXPECT_EQ(control<QComboBox>("FBD")->currentText(), "Value 9");
+    click("apply_button");
+    EXPECT_TRUE(waitForWrite(feedbackDevice, 9)) << "as it is";
+    ASSERT_TRUE(waitForMessage()); // the drive refuses it
+    closeMessage();
+    EXPECT_EQ(bus().read(DriveAddress, feedbackDevice), 9);
 
     control<QCheckBox>("stimulusEnabled")->setChecked(true);
     EXPECT_FALSE(button("setAbs1")->isEnabled());
+    m_answers.press("Discard changes");
     press(Qt::Key_D, Qt::AltModifier);
     ASSERT_TRUE(waitFor([this] { return connectionText() == "Disconnected"; }));
     for (const char *name : {"HWMODEL", "HWVER", "HWSERIAL", "TCFWVER", "FWVER", "BUILDREVISION"})
@@ -63,22 +71,6 @@ TEST_F(Connecting, FillsThePagesWithTheDrivesValuesAndLimits)
     EXPECT_FALSE(control<QCheckBox>("stimulusEnabled")->isChecked());
     EXPECT_FALSE(button("setAbs1")->isEnabled());
     EXPECT_TRUE(button("connect_button")->isEnabled());
-}
-
-TEST_F(Connecting, CancellingTheNodeListLeavesEverythingAsItWas)
-{
-    openWindow();
-    m_answers.expect([](QWidget *dialog) {
-        dialog->findChild<QDialogButtonBox *>("buttonBox")->button(QDialogButtonBox::Cancel)->click();
-        return true;
-    });
-    const NodeType node{DriveAddress, false, 11000, false};
-    button("connect_button")->setText("Searching devices...");
-    QMetaObject::invokeMethod(m_window.get(), "availableBusNodesListReceived", Q_ARG(QList<NodeType>, {node}));
-    EXPECT_EQ(button("connect_button")->text(), "Connect to drive");
-    QTest::qWait(100);
-    EXPECT_TRUE(bus().received().empty());
-    EXPECT_EQ(connectionText(), "Not connected");
 }
 
 TEST_F(TwoFamilies, NoRowOfTheNodeListIsChosenButASingleOrTheLastDrives)
@@ -97,7 +89,7 @@ TEST_F(TwoFamilies, NoRowOfTheNodeListIsChosenButASingleOrTheLastDrives)
             dialog->close();
             return true;
         });
-        QMetaObject::invokeMethod(m_window.get(), "availableBusNodesListReceived", Q_ARG(QList<NodeType>, nodes));
+        offer(nodes);
     };
     pressReturn(both, false);
     pressReturn({damaged}, false);
@@ -112,7 +104,7 @@ TEST_F(TwoFamilies, NoRowOfTheNodeListIsChosenButASingleOrTheLastDrives)
         EXPECT_FALSE(dialog->isVisible());
         return true;
     });
-    QMetaObject::invokeMethod(m_window.get(), "availableBusNodesListReceived", Q_ARG(QList<NodeType>, both));
+    offer(both);
     ASSERT_TRUE(waitFor([this] { return label("HWMODEL")->text() == "Tarnwell Devices TORVA"; }));
     disconnectFromDrive();
     for (const QList<NodeType> &nodes : {QList<NodeType>{keta, torva, damaged}, QList<NodeType>{torva}}) {
@@ -122,59 +114,39 @@ TEST_F(TwoFamilies, NoRowOfTheNodeListIsChosenButASingleOrTheLastDrives)
     }
 }
 
-TEST_F(Connecting, SearchThatFoundNobodySaysWhatToCheckAndSearchesAgain)
-{
-    openWindow();
-    m_answers.expect([](QWidget *dialog) {
-        EXPECT_TRUE(dialog->findChild<QLabel *>("label")->text().contains("Check that"));
-        EXPECT_FALSE(dialog->findChild<QListWidget *>("nodeList")->isVisible());
-        for (QPushButton *button : dialog->findChildren<QPushButton *>()) {
-            if (button->isDefault())
-                button->click();
-        }
-        return true;
-    });
-    m_answers.chooseNode(0);
-    QMetaObject::invokeMethod(m_window.get(), "availableBusNodesListReceived", Q_ARG(QList<NodeType>, {}));
-    EXPECT_EQ(button("connect_button")->text(), "Searching devices...");
-    EXPECT_TRUE(waitFor([this] { return connectionText() == "Connected"; }));
-}
-
-TEST_F(Connecting, ATypedPortIsNotCompletedToAListedOneThatBeginsLikeIt)
+TEST_F(Connecting, ATypedPortIsNotCompletedAndOneThatCannotBeOpenedGivesTheButtonItsTextBackAndOneMessage)
 {
     openWindow();
     auto *ports = control<QComboBox>("communicationInterface");
-    ports->addItem("/dev/ttyS10");
+    ports->addItem("/dev/ttyS10"); // begins like it
     ports->setEditText("");
     bringToFront();
     QTest::keyClicks(ports, "/dev/ttyS1");
     EXPECT_EQ(ports->currentText(), "/dev/ttyS1");
     click("refreshPorts");
     EXPECT_EQ(ports->currentText(), "/dev/ttyS1");
-}
 
-TEST_F(Connecting, PortThatCannotBeOpenedGivesTheButtonItsTextBackAndOneMessage)
-{
-    openWindow();
-    control<QComboBox>("communicationInterface")->setEditText("COM9");
+    ports->setEditText("COM9");
     click("connect_button");
     ASSERT_TRUE(waitFor([this] { return connectionText() == "Connect failed"; }));
     EXPECT_EQ(button("connect_button")->text(), "Connect to drive");
-    ASSERT_TRUE(waitFor([this] { return !shownMessage(m_window.get()).isEmpty(); }));
-    EXPECT_TRUE(shownMessage(m_window.get()).startsWith("Unable to connect."));
+    ASSERT_TRUE(waitForMessage());
+    EXPECT_TRUE(shownMessage().startsWith("Unable to connect."));
 }
 
 TEST_F(TwoFamilies, ModelDecidesWhatIsShownAndWhatCanBeEdited)
 {
+    const auto expectModel = [this](bool keta) {
+        EXPECT_EQ(control<QSpinBox>("ZBO")->isEnabled(), keta);
+        EXPECT_EQ(control<QSpinBox>("ZBO")->toolTip().contains("not on this model"), !keta);
+        for (const char *name : {"BUILDREVGROUP", "restartToDFUMode", "measureRLbutton"})
+            EXPECT_EQ(control<QWidget>(name)->isHidden(), !keta) << name;
+        EXPECT_EQ(control<QWidget>("IOFWVERGROUP")->isHidden(), keta);
+    };
     openWindow();
     connectToDrive(7, 4000);
-    EXPECT_FALSE(control<QSpinBox>("ZBO")->isEnabled());
-    EXPECT_TRUE(control<QSpinBox>("ZBO")->toolTip().contains("not on this model"));
-    EXPECT_TRUE(control<QWidget>("BUILDREVGROUP")->isHidden());
-    EXPECT_FALSE(control<QWidget>("IOFWVERGROUP")->isHidden());
+    expectModel(false);
     EXPECT_TRUE(control<QWidget>("ELMODE")->isHidden());
-    EXPECT_TRUE(button("restartToDFUMode")->isHidden());
-    EXPECT_TRUE(button("measureRLbutton")->isHidden());
     EXPECT_EQ(control<QComboBox>("ScopeSampleRate")->itemText(0), "17500 Hz");
     control<QDoubleSpinBox>("FUV")->setValue(69.9);
     EXPECT_FALSE(label("FUVwarning")->isHidden());
@@ -185,30 +157,13 @@ TEST_F(TwoFamilies, ModelDecidesWhatIsShownAndWhatCanBeEdited)
     disconnectFromDrive();
     EXPECT_TRUE(label("FUVwarning")->isHidden());
     connectToDrive();
-    EXPECT_TRUE(control<QSpinBox>("ZBO")->isEnabled());
-    EXPECT_FALSE(control<QSpinBox>("ZBO")->toolTip().contains("not on this model"));
-    EXPECT_FALSE(control<QWidget>("BUILDREVGROUP")->isHidden());
-    EXPECT_TRUE(control<QWidget>("IOFWVERGROUP")->isHidden());
-    EXPECT_FALSE(button("restartToDFUMode")->isHidden());
-    EXPECT_FALSE(button("measureRLbutton")->isHidden());
+    expectModel(true);
     click("showAdvancedSettings");
     EXPECT_FALSE(control<QSpinBox>("VFF")->isHidden());
     EXPECT_TRUE(control<QWidget>("torqueCompensationGroup")->isHidden()); // only a Pro compensates cogging
 }
 
-TEST_F(Connecting, ValueWithoutAnItemIsShownAndWrittenBackAsItIs)
-{
-    bus().set(DriveAddress, FEEDBACK_DEVICE, 9); // the program knows fewer
-    openWindow();
-    connectToDrive();
-    EXPECT_EQ(control<QComboBox>("FBD")->currentText(), "Value 9");
-    EXPECT_TRUE(waitForPending(false));
-    click("apply_button");
-    EXPECT_TRUE(waitForWrite(FEEDBACK_DEVICE, 9));
-    EXPECT_EQ(bus().read(DriveAddress, FEEDBACK_DEVICE), 9);
-}
-
-TEST_F(Connecting, ANewerListTakesTheOlderOnesPlace)
+TEST_F(Connecting, ANewerListTakesTheOlderOnesPlaceAndCancellingItLeavesEverythingAsItWas)
 {
     openWindow();
     const NodeType older{3, false, 11000, false}, newer{DriveAddress, false, 11000, false};
@@ -216,14 +171,18 @@ TEST_F(Connecting, ANewerListTakesTheOlderOnesPlace)
         return QMetaObject::invokeMethod(m_window.get(), "availableBusNodesListReceived", Qt::QueuedConnection,
                                          Q_ARG(QList<NodeType>, {newer}));
     });
-    QStringList rows;
     m_answers.expect([&](QWidget *dialog) {
-        auto *nodes = dialog->findChild<QListWidget *>("nodeList");
-        for (int i = 0; i < nodes->count(); ++i)
-            rows << nodes->item(i)->text();
-        return dialog->close();
+        const auto *nodes = dialog->findChild<QListWidget *>("nodeList");
+        EXPECT_EQ(nodes->count(), 1);
+        EXPECT_EQ(nodes->item(0)->text(), "Tarnwell Devices KETA at bus address 5");
+        dialog->findChild<QDialogButtonBox *>("buttonBox")->button(QDialogButtonBox::Cancel)->click();
+        return true;
     });
-    QMetaObject::invokeMethod(m_window.get(), "availableBusNodesListReceived", Q_ARG(QList<NodeType>, {older}));
+    button("connect_button")->setText("Searching devices...");
+    offer({older});
     ASSERT_TRUE(waitFor([this] { return m_answers.isDone(); }));
-    EXPECT_EQ(rows, QStringList(QString("Tarnwell Devices KETA at bus address %1").arg(int(DriveAddress))));
+    EXPECT_EQ(button("connect_button")->text(), "Connect to drive");
+    QTest::qWait(100);
+    EXPECT_TRUE(bus().received().empty());
+    EXPECT_EQ(connectionText(), "Not connected");
 }

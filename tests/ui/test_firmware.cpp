@@ -4,21 +4,11 @@
 #include "firmwarewriter.h"
 #include "numberedwords.h"
 
-#include <QComboBox>
-#include <QElapsedTimer>
-#include <QFile>
-#include <QPlainTextEdit>
-#include <QProgressBar>
-#include <QScrollBar>
-#include <QSpinBox>
-
 namespace {
 
 constexpr int KetaType = 11000;
 constexpr int TorvaType = 4000;
 constexpr int BootloaderAddress = 255;
-constexpr int SoftEnable = 2533;
-constexpr int FaultRegister = 552;
 constexpr int OperatingMode = 2;
 constexpr int UpgradeCutOff = 0x120;
 constexpr int SearchLimitMs = 40000; // 25 addresses, most of them silent, on a machine that does other things as well
@@ -32,11 +22,6 @@ protected:
         openWindow();
         goTo(1); // the Connect page
     }
-    void message(const char *text, bool done = false, bool failed = false)
-    {
-        QMetaObject::invokeMethod(m_window.get(), "firmwareUpgradeMsg", Q_ARG(QString, text), Q_ARG(bool, done),
-                                  Q_ARG(bool, failed));
-    }
     QDialog *dialog() const { return control<QDialog>("firmwareUpgradeDlg"); }
     QString log() const { return control<QPlainTextEdit>("log")->toPlainText(); }
 
@@ -44,12 +29,6 @@ protected:
     {
         m_answers.chooseFile(QFileInfo(file).absoluteFilePath());
         click("openFile");
-    }
-    /// Opens a firmware file that is none; the session then says so.
-    void startUpgradeWithNonsense()
-    {
-        ASSERT_EQ(sim::writeFile("some.tdf", {'n', 'o'}), "");
-        startUpgrade("some.tdf");
     }
     bool waitForGreeting()
     {
@@ -99,8 +78,9 @@ protected:
 TEST_F(FirmwareDialogTest, FirstMessageOpensItAndTheLogGrows)
 {
     EXPECT_FALSE(dialog()->isVisible());
-    message("one <b>bold</b>");
-    message("two");
+    for (const char *text : {"one <b>bold</b>", "two"})
+        QMetaObject::invokeMethod(m_window.get(), "firmwareUpgradeMsg", Q_ARG(QString, text), Q_ARG(bool, false),
+                                  Q_ARG(bool, false));
     EXPECT_TRUE(dialog()->isVisible());
     EXPECT_TRUE(dialog()->isModal());
     EXPECT_EQ(log(), "one bold\ntwo");
@@ -113,7 +93,7 @@ TEST_F(FirmwareDialogTest, InstallFirmwareLeadsAKetaToItsNewFirmwareAndBack)
 {
     connectToDrive();
     ASSERT_TRUE(button("restartToDFUMode")->isVisible());
-    control<QSpinBox>("KVP")->setValue(control<QSpinBox>("KVP")->value() + 1);
+    kvp()->setValue(kvp()->value() + 1);
     m_answers.press("Abort"); // stays as it was
     click("restartToDFUMode");
     EXPECT_EQ(connectionText(), "Connected");
@@ -153,27 +133,7 @@ TEST_F(TorvaInUpgradeMode, IsOfferedNothingThatOnlyAKetaCan)
     ASSERT_TRUE(waitFor([this] { return label("FWVER")->text() == "1260 (bootloader)"; }));
 }
 
-TEST_F(KetaInUpgradeMode, IsGreetedByTheDialogAndLeftWithIt)
-{
-    startConnecting(BootloaderAddress);
-    ASSERT_TRUE(waitForGreeting());
-    EXPECT_TRUE(button("openFile")->isEnabled());
-    EXPECT_FALSE(control<QProgressBar>("progressBar")->isVisible());
-    m_answers.chooseFile(QString()); // cancelled
-    click("openFile");
-    EXPECT_TRUE(button("openFile")->isEnabled());
-    EXPECT_EQ(connectionText(), "Connected");
-
-    startUpgradeWithNonsense();
-    EXPECT_FALSE(button("close")->isEnabled() || button("openFile")->isEnabled());
-    ASSERT_TRUE(waitFor([this] { return button("close")->isEnabled(); }));
-    EXPECT_FALSE(button("openFile")->isEnabled());
-    EXPECT_TRUE(log().endsWith("Error: Unknown file type"));
-    EXPECT_TRUE(waitForConnection("Disconnected"));
-    EXPECT_TRUE(dialog()->isVisible()); // its log is still to be read
-}
-
-TEST_F(KetaInUpgradeMode, ShowsWhatABootloaderKnowsAndOffersWhatItCanDo)
+TEST_F(KetaInUpgradeMode, IsGreetedByTheDialogShowsWhatABootloaderKnowsAndOffersWhatItCanDo)
 {
     startConnecting(BootloaderAddress);
     ASSERT_TRUE(waitForGreeting());
@@ -192,10 +152,23 @@ TEST_F(KetaInUpgradeMode, ShowsWhatABootloaderKnowsAndOffersWhatItCanDo)
         EXPECT_TRUE(button(name)->isEnabled()) << name;
     click("disable_drive");
     EXPECT_EQ(said(), "Nothing to disable: the drive is in firmware upgrade mode, which drives no motor");
-    EXPECT_EQ(timesWritten(SoftEnable, 0), 0);
+    EXPECT_EQ(timesWritten(softEnable, 0), 0);
+
+    EXPECT_FALSE(control<QProgressBar>("progressBar")->isVisible());
+    m_answers.chooseFile(QString()); // cancelled
+    click("openFile");
+    EXPECT_TRUE(button("openFile")->isEnabled());
+    EXPECT_EQ(connectionText(), "Connected");
+    ASSERT_EQ(sim::writeFile("some.tdf", {'n', 'o'}), "");
+    startUpgrade("some.tdf");
+    EXPECT_FALSE(button("close")->isEnabled() || button("openFile")->isEnabled());
+    ASSERT_TRUE(waitFor([this] { return button("close")->isEnabled(); }));
+    EXPECT_FALSE(button("openFile")->isEnabled());
+    EXPECT_TRUE(log().endsWith("Error: Unknown file type"));
+    EXPECT_TRUE(waitForConnection("Disconnected"));
+    EXPECT_TRUE(dialog()->isVisible()); // its log is still to be read
 
     click("close"); // back to a drive that runs
-    ASSERT_TRUE(waitForConnection("Disconnected"));
     bus().powerCycle();
     connectToDrive();
     EXPECT_TRUE(button("enable_drive")->isEnabled());
@@ -245,13 +218,13 @@ TEST_F(RunningUpgrade, ClosedAnywayEndsAtOnce)
     EXPECT_LT(timer.elapsed(), 5000);
     bus().setTurnAround(std::chrono::microseconds(0));
     bus().powerCycle();
-    EXPECT_EQ(bus().read(DriveAddress, FaultRegister), UpgradeCutOff);
+    EXPECT_EQ(bus().read(DriveAddress, faultBits), UpgradeCutOff);
 }
 
 TEST_F(FirmwareDialogTest, PermanentStopIsCuredByTheRestartThatIsSuggestedOnce)
 {
     connectToDrive();
-    bus().set(DriveAddress, SoftEnable, 1);
+    bus().set(DriveAddress, softEnable, 1);
     const int motor = control<QComboBox>("MT")->currentIndex();
     control<QComboBox>("MT")->setCurrentIndex(motor == 1 ? 3 : 1);
     m_answers.press("Restart drive now");
@@ -264,5 +237,5 @@ TEST_F(FirmwareDialogTest, PermanentStopIsCuredByTheRestartThatIsSuggestedOnce)
     // Asked again it would be an unexpected box: some polls go by.
     bus().clearReceived();
     ASSERT_TRUE(waitFor([this] { return receivedAt(DriveAddress).size() > 4; }));
-    EXPECT_EQ(shownMessage(m_window.get()), "");
+    EXPECT_EQ(shownMessage(), "");
 }

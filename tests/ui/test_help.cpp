@@ -3,9 +3,6 @@
 
 #include "errorwindow.h"
 #include "language.h"
-#include "pagescript.h"
-
-#include <QDir>
 
 namespace {
 
@@ -18,8 +15,6 @@ protected:
         WindowFixture::TearDown();
         speak("en");
     }
-    HelpView *view() const { return control<HelpView>("helpView"); }
-    QString shownText() const { return pageText(view()); }
     void writeOfflinePages()
     {
         QDir().mkpath("help");
@@ -31,11 +26,6 @@ protected:
         QFile page(file);
         page.open(QIODevice::WriteOnly);
         page.write("<html><body>" + text + "</body></html>");
-    }
-    void plot() { QMetaObject::invokeMethod(m_window.get(), "plotCapture", Q_ARG(QList<CaptureData>, {})); }
-    void clickLink(const char *url)
-    {
-        QMetaObject::invokeMethod(m_window.get(), "browserLinkClicked", Q_ARG(QUrl, QUrl(url)));
     }
 };
 
@@ -53,7 +43,7 @@ TEST_F(Help, FollowsThePageListOnline)
         goTo(page);
     ASSERT_TRUE(waitFor([this] { return shownText() == "online /wiki/Velbrin_user_guide/Testing"; }));
     EXPECT_TRUE(label("offlineHelpNotification")->isHidden());
-    EXPECT_EQ(shownMessage(m_window.get()), QString());
+    EXPECT_EQ(shownMessage(), QString());
 }
 
 TEST_F(Help, WithoutANetworkTheOfflineCopyIsShownAndALineAboveItSaysSo)
@@ -68,7 +58,7 @@ TEST_F(Help, WithoutANetworkTheOfflineCopyIsShownAndALineAboveItSaysSo)
     goTo(2);
     ASSERT_TRUE(waitFor([this] { return shownText() == "offline Goals tab"; }));
     EXPECT_FALSE(label("offlineHelpNotification")->isHidden());
-    EXPECT_EQ(shownMessage(m_window.get()), QString());
+    EXPECT_EQ(shownMessage(), QString());
     EXPECT_TRUE(m_wiki.paths.isEmpty());
     // Links to single wiki pages, such as the "?" of the fault panel, find their offline copies too.
     emit label("faultRegister")->linkActivated("http://wiki.tarnwell.example/wiki/Fault_location");
@@ -85,7 +75,7 @@ TEST_F(Help, PlotOrPageDuringAPendingLoadIsNotTakenForOffline)
     m_wiki.silent = true;
     openWindow();
     ASSERT_TRUE(waitFor([this] { return m_wiki.paths.size() == 1; }));
-    plot();
+    showPlot();
     ASSERT_TRUE(waitFor([this] { return shownText().contains("Velbrin servo scope"); }));
     EXPECT_TRUE(label("offlineHelpNotification")->isHidden());
     goTo(5); // the plot stays, and no help is asked for
@@ -100,7 +90,7 @@ TEST_F(Help, PlotOrPageDuringAPendingLoadIsNotTakenForOffline)
     ASSERT_TRUE(waitFor([this] { return shownText() == "online /wiki/Velbrin_user_guide/Goals"; }))
         << qPrintable(shownText());
     EXPECT_TRUE(label("offlineHelpNotification")->isHidden());
-    EXPECT_EQ(shownMessage(m_window.get()), QString());
+    EXPECT_EQ(shownMessage(), QString());
 }
 
 TEST_F(Help, PendingLoadThatTakesTooLongEndsOffline)
@@ -136,10 +126,10 @@ TEST_F(Help, IsInTheWindowsLanguagePageByPageAndSoIsWhatIsFound)
     goTo(1);
     goTo(0);
     ASSERT_TRUE(waitFor([this] { return shownText() == "deutsch z v"; }));
-    const auto follow = [this](int link) { runScript(view(), QString("document.links[%1].click()").arg(link)); };
+    const auto follow = [this](int link) { run(QString("document.links[%1].click()").arg(link)); };
     follow(0); // German pages lack it
     EXPECT_TRUE(waitFor([this] { return shownText() == "offline Goals tab"; }));
-    EXPECT_EQ(runScript(view(), "location.hash").toString(), "#CM");
+    EXPECT_EQ(run("location.hash").toString(), "#CM");
     goTo(1);
     goTo(0);
     ASSERT_TRUE(waitFor([this] { return shownText() == "deutsch z v"; }));

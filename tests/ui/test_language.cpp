@@ -5,20 +5,15 @@
 #include "language.h"
 #include "translations.h"
 
-#include <QComboBox>
 #include <QLocale>
 #include <QMetaProperty>
 #include <QProcess>
 #include <QRegularExpression>
-#include <QShortcut>
-#include <QTableWidget>
 #include <QTemporaryDir>
 #include <QTranslator>
 #include <gmock/gmock.h>
 
 namespace {
-
-constexpr int UNDER_VOLTAGE_LIMIT = 570; // register, 1/100 V
 
 /// What has to be the same in every language, in any order.
 QStringList fixedParts(const QString &text)
@@ -125,15 +120,6 @@ protected:
         }
         return cut;
     }
-    QStringList shownTexts() const
-    {
-        QStringList texts;
-        for (const QWidget *widget : widgets()) {
-            if (widget->isVisible() && !qobject_cast<const QAbstractSpinBox *>(widget))
-                texts << widget->property("text").toString();
-        }
-        return texts;
-    }
     void collectUnmarked()
     {
         for (const QWidget *widget : widgets()) {
@@ -206,11 +192,11 @@ TEST_F(Language, NoTextOfTheWindowIsBeyondTranslation)
         goTo(page);
         collectUnmarked();
     }
-    control<QSpinBox>("KVP")->setValue(400);
+    kvp()->setValue(400);
     click("stripEnable");
     ASSERT_TRUE(waitForThreePolls());
     collectUnmarked();
-    bus().set(DriveAddress, UNDER_VOLTAGE_LIMIT, 6000); // the drive trips by itself, at 48 V
+    bus().set(DriveAddress, underVoltage, 6000); // the drive trips by itself, at 48 V
     ASSERT_TRUE(waitFor([this] { return m_state.faultRegister != 0; }));
     ASSERT_TRUE(waitForThreePolls());
     collectUnmarked();
@@ -236,8 +222,9 @@ TEST_F(Language, GermanFitsIntoTheWindow)
             QStringList cut, letters;
             EXPECT_TRUE(waitFor([&] { return (cut = cutOff()).isEmpty(); }, 2000))
                 << page << size.width() << qPrintable(cut.join("; "));
-            for (const QString &text : shownTexts()) {
-                if (const auto match = accelerator.match(text); match.hasMatch())
+            for (const QWidget *widget : widgets()) {
+                const auto match = accelerator.match(widget->property("text").toString());
+                if (widget->isVisible() && match.hasMatch() && !qobject_cast<const QAbstractSpinBox *>(widget))
                     letters << match.captured(1).toLower();
             }
             EXPECT_EQ(letters.removeDuplicates(), 0) << page;

@@ -1,8 +1,6 @@
 // Saving a plot from the window, as a picture and as numbers, where it can be written and where it can't.
 #include "testingfixture.h"
 
-#include <QImage>
-
 namespace {
 
 class SavePlot : public TestingFixture
@@ -10,9 +8,7 @@ class SavePlot : public TestingFixture
 protected:
     void SetUp() override
     {
-        TestingFixture::SetUp();
-        if (HasFatalFailure())
-            return;
+        ASSERT_NO_FATAL_FAILURE(TestingFixture::SetUp());
         tick({"ScopeTorqRef", "ScopeVelMeas", "ScopePosMeas"});
         choose(Instantly, "20000 Hz");
         click("ScopeCaptureNow");
@@ -31,24 +27,20 @@ protected:
         }
         clickLink("tdext://exportpdf");
     }
-    QString path(const char *name) const { return QString::fromStdString(m_folder.path() / name); }
 };
 
 /// Rows of the picture in which the blue of a first series is found, as bands with at least 40 rows between them.
 int bandsOfInk(const QImage &image)
 {
     int bands = 0;
-    int last = -1000;
-    for (int y = 0; y < image.height(); ++y) {
-        bool ink = false;
-        for (int x = 0; x < image.width() && !ink; ++x) {
+    for (int y = 0, last = -1000; y < image.height(); ++y) {
+        for (int x = 0; x < image.width() && last != y; ++x) {
             const QColor c = image.pixelColor(x, y);
-            ink = c.blue() > 150 && c.blue() - c.red() > 130;
+            if (c.blue() <= 150 || c.blue() - c.red() <= 130)
+                continue;
+            bands += y - last > 100;
+            last = y;
         }
-        if (!ink)
-            continue;
-        bands += y - last > 100;
-        last = y;
     }
     return bands;
 }
@@ -74,7 +66,7 @@ TEST_F(SavePlot, PictureHoldsAllChartsAt1100PixelsWhateverThePaneAndTheLinkIsGre
         EXPECT_GE(bandsOfInk(image), 3);
         EXPECT_EQ(view()->size(), before) << "nothing on the screen moves";
     }
-    EXPECT_EQ(shownMessage(m_window.get()), QString());
+    EXPECT_EQ(shownMessage(), QString());
 }
 
 TEST_F(SavePlot, ClosingWaitsForThePicture)
@@ -95,15 +87,15 @@ TEST_F(SavePlot, WhatCannotBeWrittenIsSaid)
          {QString("/proc/graphs.png"), QString("/proc/graphs.csv"), path("full.png"), path("full.csv")}) {
         SCOPED_TRACE(qPrintable(name));
         save(name);
-        ASSERT_TRUE(waitFor([this] { return !shownMessage(m_window.get()).isEmpty(); }));
-        EXPECT_TRUE(shownMessage(m_window.get()).startsWith("Error writing graphs to file " + name));
-        control<QDialog>("errorWindow")->close();
+        ASSERT_TRUE(waitForMessage());
+        EXPECT_TRUE(shownMessage().startsWith("Error writing graphs to file " + name));
+        closeMessage();
     }
 
     // Another ending writes nothing, and the status bar tells which there are.
     save(path("graphs.txt"));
     EXPECT_FALSE(QFile::exists(path("graphs.txt")));
-    EXPECT_EQ(shownMessage(m_window.get()), QString());
+    EXPECT_EQ(shownMessage(), QString());
     EXPECT_EQ(said(), "Nothing saved: give the file a name that ends in .png, .csv or .html");
     m_window->statusBar()->clearMessage();
     save(QString());

@@ -36,17 +36,12 @@ TEST(Tour, WalksThroughTheWholeWindowAndLeavesAScreenshotOfEveryPage)
     }
 }
 
-TEST(Tour, NeverMovesARealDrive)
+TEST(Tour, NeverMovesARealDriveAndSaysWhereItGotStuck)
 {
     QString errors;
     EXPECT_EQ(velbrin({"--tour", "shots"}, &errors), 2);
     EXPECT_THAT(errors.toStdString(), testing::HasSubstr("--tour goes with --virtual-drive"));
     EXPECT_EQ(velbrin({"--tour", "shots", "--virtual-drive", "--port", "/dev/ttyUSB0"}), 2);
-}
-
-TEST(Tour, SaysWhereItGotStuck)
-{
-    QString errors;
     EXPECT_EQ(velbrin({"--virtual-drive", "--tour", "/proc/nowhere"}, &errors), 1);
     EXPECT_THAT(errors.toStdString(), testing::HasSubstr("The tour failed at \"make the folder /proc/nowhere\""));
 }

@@ -6,24 +6,10 @@
 #include "windowfixture.h" // before Qt, whose keywords it uses as names
 
 #include "flotfolder.h"
-#include "pagescript.h"
-
-#include <QCheckBox>
-#include <QComboBox>
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QSpinBox>
 
 class TestingFixture : public WindowFixture
 {
 protected:
-    static constexpr int SOFT_ENABLE = 2533;
-    static constexpr int STATUS = 553;
-    static constexpr int FAULTS = 552;
-    static constexpr int POSITION = 956;
-    static constexpr int SCOPE_STATE = 5011;
-    static constexpr int TUNING_PAGE = 4;
-    static constexpr int TESTING_PAGE = 6;
     enum Trigger { Rise, Change, Fault, Instantly };
 
     TestingFixture() { m_webEngine = HelpView::Engine::Allowed; }
@@ -31,10 +17,8 @@ protected:
     {
         WindowFixture::SetUp();
         makeFlotFolder(".");
-        openConnectedWindow();
-        if (HasFatalFailure())
-            return;
-        goTo(TESTING_PAGE);
+        ASSERT_NO_FATAL_FAILURE(openConnectedWindow());
+        goTo(testingPage);
     }
 
     void enableDrive()
@@ -66,14 +50,14 @@ protected:
     void arm()
     {
         click("ScopeCaptureNow");
-        ASSERT_TRUE(waitFor([this] { return bus().read(DriveAddress, SCOPE_STATE) != 0; }));
+        ASSERT_TRUE(waitFor([this] { return bus().read(DriveAddress, scopeState) != 0; }));
         ASSERT_TRUE(waitFor([this] { return captureText() == "Scope waiting.."; }));
     }
     void waitForPlot()
     {
         ASSERT_TRUE(waitFor([this] { return captureText() == "Start capture"; }));
         ASSERT_TRUE(waitFor([this] { return run("$('canvas.flot-base').length").toInt() > 0; }))
-            << qPrintable(connectionText() + ", " + shownMessage(m_window.get()) + ", " + shownText().left(80));
+            << qPrintable(connectionText() + ", " + shownMessage() + ", " + shownText().left(80));
     }
     /// Types a target and presses "Set Abs".
     void stepTo(int target)
@@ -82,26 +66,16 @@ protected:
         click("setAbs1");
     }
 
-    HelpView *view() const { return control<HelpView>("helpView"); }
-    QVariant run(const QString &script) const { return runScript(view(), script); }
-    QString shownText() const { return pageText(view()); }
     /// Samples (time in s, value as recorded) of a series in a chart of the plot on display, whatever its unit is
     /// there.
     QVector<QPointF> samples(const char *group, int series) const
     {
-        const QString text = run(QString("(c => JSON.stringify(c.times.map((t, k) => [t, c.values[k]])))"
-                                         "(velbrinScope.charts.find(chart => chart.id === '%1').channels[%2])")
-                                     .arg(group)
-                                     .arg(series))
-                                 .toString();
+        const QString script("(c => c.times.map((t, k) => [t, c.values[k]]))"
+                             "(velbrinScope.charts.find(chart => chart.id === '%1').channels[%2])");
         QVector<QPointF> result;
-        for (const QJsonValue point : QJsonDocument::fromJson(text.toUtf8()).array())
-            result << QPointF(point.toArray().at(0).toDouble(), point.toArray().at(1).toDouble());
+        for (const QVariant &point : run(script.arg(group).arg(series)).toList())
+            result << QPointF(point.toList().value(0).toDouble(), point.toList().value(1).toDouble());
         return result;
-    }
-    void clickLink(const char *url)
-    {
-        QMetaObject::invokeMethod(m_window.get(), "browserLinkClicked", Q_ARG(QUrl, QUrl(url)));
     }
 };
 

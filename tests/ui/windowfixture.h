@@ -8,23 +8,12 @@
 
 #include "loopbackhttpserver.h"
 #include "mw.h"
+#include "pagescript.h"
 #include "printqt.h"
-#include "waitfor.h"
 
-#include <QAbstractButton>
-#include <QApplication>
-#include <QDialogButtonBox>
-#include <QFileDialog>
-#include <QLabel>
-#include <QLineEdit>
-#include <QListWidget>
-#include <QMessageBox>
-#include <QPushButton>
 #include <QSignalSpy>
-#include <QStatusBar>
 #include <QTest>
-#include <QTextEdit>
-#include <QTimer>
+#include <QtWidgets> // of every kind, for the tests that include this
 
 /// Answers every request with a small page that names its path, or with nothing at all while silent.
 class LoopbackWiki : public LoopbackHttpServer
@@ -129,15 +118,10 @@ private:
         m_answering = true;
         if (auto *box = qobject_cast<QMessageBox *>(open))
             texts << box->text();
-        if (m_expected.isEmpty()) {
-            ADD_FAILURE() << "nobody expected " << qPrintable(describe(open));
+        const bool expected = !m_expected.isEmpty();
+        if (!expected || !m_expected.takeFirst()(open)) {
+            ADD_FAILURE() << (expected ? "cannot answer " : "nobody expected ") << qPrintable(describe(open));
             open->close();
-        } else {
-            const auto action = m_expected.takeFirst();
-            if (!action(open)) {
-                ADD_FAILURE() << "cannot answer " << qPrintable(describe(open));
-                open->close();
-            }
         }
         m_answering = false;
     }
@@ -155,6 +139,13 @@ private:
 class WindowFixture : public VirtualBusFixture
 {
 protected:
+    /// Addresses in the drive.
+    static constexpr int KVP = 202, feedbackDevice = 493, incrementalSetpoint = 550, absoluteSetpoint = 551,
+                         faultBits = 552, systemCommand = 554, underVoltage = 570, positionRegister = 956,
+                         softEnable = 2533, scopeState = 5011;
+    /// Rows of the page list.
+    static constexpr int tuningPage = 4, testingPage = 6;
+
     void SetUp() override
     {
         VirtualBusFixture::SetUp();
@@ -197,10 +188,11 @@ protected:
     void startConnecting(int address = DriveAddress, int deviceType = 11000)
     {
         m_answers.chooseNode(0);
-        NodeType node;
-        node.address = address;
-        node.deviceType = deviceType;
-        QMetaObject::invokeMethod(m_window.get(), "availableBusNodesListReceived", Q_ARG(QList<NodeType>, {node}));
+        offer({{address, false, deviceType, false}});
+    }
+    void offer(const QList<NodeType> &nodes)
+    {
+        QMetaObject::invokeMethod(m_window.get(), "availableBusNodesListReceived", Q_ARG(QList<NodeType>, nodes));
     }
     void connectToDrive(int address = DriveAddress, int deviceType = 11000)
     {
@@ -216,9 +208,7 @@ protected:
     }
     void openConnectedWindow()
     {
-        openWindow();
-        if (HasFatalFailure())
-            return;
+        ASSERT_NO_FATAL_FAILURE(openWindow());
         connectToDrive();
     }
 
@@ -239,6 +229,46 @@ protected:
         bringToFront();
         QWidget *target = QApplication::focusWidget();
         QTest::keyClick(target ? target : m_window.get(), key, modifiers);
+    }
+    /// Types over what stands in a field, which keeps the keyboard.
+    void typeOver(QAbstractSpinBox *field, const char *text)
+    {
+        bringToFront();
+        field->setFocus();
+        field->selectAll();
+        QTest::keyClicks(field, text);
+    }
+    QSpinBox *kvp() const { return control<QSpinBox>("KVP"); }
+    QString path(const QString &name) const { return QDir::current().filePath(name); }
+    void loadFile(const QString &file)
+    {
+        m_answers.chooseFile(file);
+        click("load_settings_from_file");
+    }
+    void saveFile(const QString &file)
+    {
+        m_answers.chooseFile(file);
+        click("save_settings_to_file");
+        ASSERT_TRUE(waitFor([&] { return QFile::exists(file); }));
+    }
+    /// Texts in the error window, which is not modal and so is nobody's to answer.
+    QString shownMessage() const
+    {
+        const auto *errors = control<QDialog>("errorWindow");
+        return errors->isVisible() ? errors->findChild<QTextEdit *>()->toPlainText() : QString();
+    }
+    bool waitForMessage()
+    {
+        return waitFor([this] { return !shownMessage().isEmpty(); });
+    }
+    void closeMessage() { control<QDialog>("errorWindow")->close(); }
+    HelpView *view() const { return control<HelpView>("helpView"); }
+    QVariant run(const QString &script) const { return runScript(view(), script); }
+    QString shownText() const { return pageText(view()); }
+    void showPlot() { QMetaObject::invokeMethod(m_window.get(), "plotCapture", Q_ARG(QList<CaptureData>, {})); }
+    void clickLink(const char *url)
+    {
+        QMetaObject::invokeMethod(m_window.get(), "browserLinkClicked", Q_ARG(QUrl, QUrl(url)));
     }
     QString connectionText() const { return label("connectionStatus")->text(); }
     /// In the status bar.
@@ -292,13 +322,5 @@ protected:
     Answerer m_answers;
     std::unique_ptr<MW> m_window;
 };
-
-/// Texts in the error window, which is not modal and so is nobody's to answer.
-inline QString shownMessage(const MW *window)
-{
-    const auto *errors = window->findChild<QDialog *>("errorWindow");
-    const auto *text = errors ? errors->findChild<QTextEdit *>() : nullptr;
-    return errors && errors->isVisible() && text ? text->toPlainText() : QString();
-}
 
 #endif

@@ -42,11 +42,6 @@ void PrintTo(const Words &printed, std::ostream *out)
     *out << printed.language;
 }
 
-std::string languageName(const testing::TestParamInfo<Words> &info)
-{
-    return info.param.language;
-}
-
 /// A value as people write it: no exponent, no zeros at the end.
 QString plain(double value)
 {
@@ -102,7 +97,8 @@ void expectExplained(const QList<DriveFlag> &flags, int count, const QString &pr
 
 } // namespace
 
-INSTANTIATE_TEST_SUITE_P(In, HelpPages, testing::ValuesIn(languages), languageName);
+INSTANTIATE_TEST_SUITE_P(In, HelpPages, testing::ValuesIn(languages),
+                         [](const auto &info) { return std::string(info.param.language); });
 
 TEST(HelpTranslations, HaveThePagesAnchorsLinksAndPicturesOfTheEnglish)
 {

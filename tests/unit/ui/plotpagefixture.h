@@ -10,19 +10,15 @@
 
 #include <gtest/gtest.h>
 
+#include <QImage>
 #include <QJsonArray>
 #include <QJsonObject>
+#include <QSignalSpy>
 #include <QTemporaryDir>
 
 #include <cmath>
 
 inline QStringList complaints; ///< of the page's scripts
-
-inline void keepComplaints(QtMsgType, const QMessageLogContext &context, const QString &text)
-{
-    if (context.category && qstrcmp(context.category, "js") == 0)
-        complaints << text;
-}
 
 class PlotPage : public testing::Test
 {
@@ -33,7 +29,10 @@ protected:
         makeFlotFolder(folder.path());
         QDir::setCurrent(folder.path());
         complaints.clear();
-        before = qInstallMessageHandler(keepComplaints);
+        before = qInstallMessageHandler([](QtMsgType, const QMessageLogContext &context, const QString &text) {
+            if (context.category && qstrcmp(context.category, "js") == 0)
+                complaints << text;
+        });
         view.resize(900, 700);
         view.show();
         view.activateWindow();
@@ -73,12 +72,21 @@ protected:
         return CapturePlotter().generatePlotPage(captures, parameters.getParamsHTMLList(), "KETA");
     }
 
-    void show(const QString &page, HelpView::Zoom zoom = HelpView::Zoom::Keep)
+    void show(const QString &page, HelpView::Zoom zoom = HelpView::Zoom::Keep, const QJsonObject &scope = {})
     {
-        view.showPlot(page, QUrl("file:///" + QDir::currentPath() + "/flot/examples/"), zoom);
+        view.showPlot(page, QUrl("file:///" + QDir::currentPath() + "/flot/examples/"), zoom, scope);
         ASSERT_TRUE(waitFor([this] { return run("window.velbrinView && velbrinView.drawn").toBool(); }, 15000));
     }
     void show(int channels, int samples) { show(pageOf(channels, samples)); }
+
+    QImage picture(int wide)
+    {
+        QSignalSpy saved(&view, &HelpView::pictureSaved);
+        view.savePng(folder.filePath("p.png"), wide);
+        EXPECT_TRUE(saved.wait(30000));
+        EXPECT_EQ(saved.value(0).value(0).toString().toStdString(), "");
+        return QImage(folder.filePath("p.png"));
+    }
 
     QVariant run(const QString &script) { return runScript(&view, script); }
     QPoint middleOf(const char *element)
@@ -114,7 +122,7 @@ protected:
     void zoomIn() { drag(middleOf("#Torque canvas"), middleOf("#Torque canvas") + QPoint(100, 60)); }
 
     /// Three channels of two groups as a drive records them, with what the program says about them.
-    QJsonObject showScope(const QJsonObject &more = {}, HelpView::Zoom zoom = HelpView::Zoom::Keep)
+    void showScope(const QJsonObject &more = {})
     {
         QList<CaptureData> captures;
         QJsonArray channels;
@@ -137,10 +145,7 @@ protected:
                           {"units", QJsonArray{QJsonObject{{"name", "Machine"}, {"units", degrees}}}}};
         for (auto member = more.begin(); member != more.end(); ++member)
             scope.insert(member.key(), member.value());
-        view.showPlot(CapturePlotter().generatePlotPage(captures, QString(), "KETA"),
-                      QUrl("file:///" + QDir::currentPath() + "/flot/examples/"), zoom, scope);
-        EXPECT_TRUE(waitFor([this] { return run("window.velbrinView && velbrinView.drawn").toBool(); }, 15000));
-        return scope;
+        show(CapturePlotter().generatePlotPage(captures, QString(), "KETA"), HelpView::Zoom::Keep, scope);
     }
     double axis(const char *chart, const char *limit)
     {

@@ -46,18 +46,6 @@ bool isEditable(const QString &kind)
 
 } // namespace
 
-TEST(Forms, NoNameIsUsedTwiceInOneWindow)
-{
-    QMap<QString, QString> seen;
-    for (auto form = windowForms().begin(); form != windowForms().end(); ++form)
-        for (const QString &name : form->names) {
-            EXPECT_FALSE(seen.contains(name))
-                << qPrintable(name) << " in " << qPrintable(form.key()) << " and " << qPrintable(seen.value(name));
-            seen.insert(name, form.key());
-        }
-    EXPECT_GT(seen.size(), 300);
-}
-
 TEST(Forms, EveryParameterThatCanBeEditedHasItsControl)
 {
     const QSet<QString> withoutControl{"HWTYPE", "UID", "PIF"};

@@ -157,11 +157,3 @@ TEST_P(NumberFields, NumberBeingTypedIsNobodysValueUntilReturnOrAStep)
     for (const auto &value : values)
         EXPECT_NE(value.first().toDouble(), 40.0);
 }
-
-TEST_P(NumberFields, LimitsOfADriveAreCalledSo)
-{
-    NumberField::of(current)->setLimitsAreDrives(true);
-    EXPECT_EQ(type(current, "40"), "40 A is beyond this drive's limit of 35 A; it stays at 13 A");
-    current->setRange(0, 34.5);
-    EXPECT_EQ(NumberField::of(current)->driveLimitsText(), "This drive: 0 to 34.5 A");
-}
