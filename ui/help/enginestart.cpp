@@ -41,8 +41,12 @@ QtMessageHandler otherMessages = nullptr;
 /// Without what Qt and the engine say about a graphics driver that is not wanted: it reads like a fault.
 void withoutDriverTalk(QtMsgType type, const QMessageLogContext &context, const QString &text)
 {
-    if (!text.startsWith(QLatin1String("QXcbIntegration: Cannot create platform OpenGL context")))
-        otherMessages(type, context, text);
+    for (const char *known :
+         {"QXcbIntegration: Cannot create platform OpenGL context", "No suitable graphics backend found"}) {
+        if (text.startsWith(QLatin1String(known)))
+            return;
+    }
+    otherMessages(type, context, text);
 }
 
 void keepQuietAboutDriver()
