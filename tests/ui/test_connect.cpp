@@ -129,7 +129,7 @@ TEST_F(Connecting, ATypedPortIsNotCompletedAndOneThatCannotBeOpenedGivesTheButto
     ports->setEditText("COM9");
     click("connect_button");
     ASSERT_TRUE(waitFor([this] { return connectionText() == "Connect failed"; }));
-    EXPECT_EQ(button("connect_button")->text(), "Connect to drive");
+    EXPECT_TRUE(waitFor([this] { return button("connect_button")->text() == "Connect to drive"; }));
     ASSERT_TRUE(waitForMessage());
     EXPECT_TRUE(shownMessage().startsWith("Unable to connect."));
 }
