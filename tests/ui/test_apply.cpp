@@ -76,6 +76,7 @@ TEST_F(Apply, ShortcutCommitsTheFieldThatIsBeingTypedInButNoNumberBeyondTheDrive
     press(Qt::Key_A, Qt::AltModifier);
     EXPECT_EQ(control<QSpinBox>("MPC")->value(), 6); // poles come in pairs
     EXPECT_TRUE(driveHas(566, 3));                   // the drive counts pairs
+    ASSERT_TRUE(waitFor([this] { return said().endsWith(" applied"); })) << qPrintable(said());
 
     auto *current = control<QDoubleSpinBox>("MCC");
     const double before = current->value();
