@@ -66,7 +66,7 @@ TEST_F(DeviceState, IsLastKnownAfterADisconnectAndLiveWithTheNextConnection)
 {
     const QColor live = ink("statusRegister");
     changePosition(42);
-    EXPECT_EQ(label("setpointNow")->text(), "Setpoint now: 42");
+    ASSERT_TRUE(waitFor([this] { return label("setpointNow")->text() == "Setpoint now: 42"; }));
     EXPECT_FALSE(copied().contains("last known"));
 
     disconnectFromDrive();
