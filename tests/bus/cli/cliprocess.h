@@ -93,25 +93,26 @@ inline void sendSignal(const QProcess &process, int signal = SIGINT)
 }
 
 // Registers, bits of the status and the fault register, and payloads: select a register, write a value.
-constexpr int Faults = 552, Status = 553, Setpoint = 957, SoftEnable = 2533;
-constexpr int Running = 8, TrackingFault = 2;
-const char *const EnablePayload = "89e500000001";
-const char *const DisablePayload = "89e500000000";
-const char *const ArmForFaultPayload = "939300000003";
+constexpr int faultRegister = 552, statusRegister = 553, setpointInUse = 957, softEnable = 2533;
+constexpr int running = 8, trackingFault = 2;
+const char *const enablePayload = "89e500000001";
+const char *const disablePayload = "89e500000000";
+const char *const armForFaultPayload = "939300000003";
 
 class CliFixture : public VirtualBusFixture
 {
 protected:
     std::vector<std::string> sent() { return payloadsOf(bus().received()); }
-    bool isRunning() { return bus().read(DriveAddress, Status) & Running; }
+    bool isRunning() { return bus().read(DriveAddress, statusRegister) & running; }
     bool waitUntilRunning(bool on = true)
     {
-        return bus().waitForRegister(DriveAddress, Status, [on](int bits) { return bool(bits & Running) == on; });
+        return bus().waitForRegister(DriveAddress, statusRegister,
+                                     [on](int bits) { return bool(bits & running) == on; });
     }
     /// As another master would; false when the drive does not come to run.
     bool enableByHand()
     {
-        write(SoftEnable, 1);
+        write(softEnable, 1);
         return waitUntilRunning();
     }
     void write(int reg, int value, int address = DriveAddress)

@@ -17,7 +17,7 @@ using testing::Not;
 
 namespace {
 
-const char *const StopStreamPayload = "822a00000004";
+const char *const stopStreamPayload = "822a00000004";
 /// A stimulus while the capture waits for a fault that does not come.
 const QStringList movingForEver = {"capture", "--enable",   "--channels",    "posmeas", "--trigger",
                                    "fault",   "--stimulus", "0,0.1,100,0.1", "--csv",   "none.csv"};
@@ -30,7 +30,7 @@ protected:
         qunsetenv("VELBRIN_DATA");
         CliFixture::TearDown();
     }
-    bool isOff() { return bus().read(DriveAddress, SoftEnable) == 0 && !isRunning(); }
+    bool isOff() { return bus().read(DriveAddress, softEnable) == 0 && !isRunning(); }
 };
 
 /// A data folder with everything but the last of the plot page's scripts; the test's end forgets it.
@@ -69,7 +69,7 @@ TEST_F(CliCapture, RecordsAStepThatItMakesAndLeavesTheDriveDisabled)
     ASSERT_EQ(column(csv, 0).size(), 1000u);
     EXPECT_DOUBLE_EQ(column(csv, 0).back(), 0.0999);
     EXPECT_NEAR(column(csv, 2).back(), 1000, 10);
-    EXPECT_THAT(sent(), Contains(EnablePayload));
+    EXPECT_THAT(sent(), Contains(enablePayload));
     EXPECT_TRUE(isOff());
 }
 
@@ -83,7 +83,7 @@ TEST_F(CliCapture, MovesNothingUnlessAskedTo)
     EXPECT_EQ(json["channels"].toArray().size(), 16);
     EXPECT_EQ(column(contents("all.csv"), 16).size(), 125u);
     EXPECT_EQ(column(contents("all.csv"), 9).front(), 48.0) << "supply voltage";
-    EXPECT_THAT(sent(), Not(Contains(EnablePayload)));
+    EXPECT_THAT(sent(), Not(Contains(enablePayload)));
 
     bus().clearReceived();
     for (const QStringList &excitation : {QStringList{"--step", "10"}, QStringList{"--stimulus", "0,1,10,1"}}) {
@@ -105,7 +105,7 @@ TEST_F(CliCapture, FollowsAStimulusAndStopsItAtTheEnd)
     ASSERT_GE(levels.size(), 5u); // half a second, and perhaps a moment before the first
     for (std::size_t i = levels.size() - 5; i + 1 < levels.size(); ++i)
         EXPECT_EQ(levels[i] + levels[i + 1], 300) << "100 and 200 by turns";
-    EXPECT_THAT(sent(), testing::IsSupersetOf({StopStreamPayload, DisablePayload}));
+    EXPECT_THAT(sent(), testing::IsSupersetOf({stopStreamPayload, disablePayload}));
     EXPECT_TRUE(isOff());
 }
 
@@ -113,14 +113,14 @@ TEST_F(CliCapture, InterruptedStimulusIsStoppedAndTheDriveDisabled)
 {
     for (const int signal : {SIGINT, SIGTERM, SIGQUIT}) {
         write(551, 0);
-        ASSERT_TRUE(bus().waitForRegister(DriveAddress, Setpoint, 0));
+        ASSERT_TRUE(bus().waitForRegister(DriveAddress, setpointInUse, 0));
         bus().clearReceived();
         RunningOnDrive process(movingForEver);
-        ASSERT_TRUE(bus().waitForRegister(DriveAddress, Setpoint, 100)) << "the motor does not move";
+        ASSERT_TRUE(bus().waitForRegister(DriveAddress, setpointInUse, 100)) << "the motor does not move";
         ASSERT_TRUE(isRunning());
         sendSignal(process, signal);
         failed(finish(process), "Interrupted.\n");
-        EXPECT_THAT(sent(), Contains(StopStreamPayload));
+        EXPECT_THAT(sent(), Contains(stopStreamPayload));
         EXPECT_EQ(bus().read(DriveAddress, 6), 2048) << "setpoints are still waiting in the drive";
         EXPECT_TRUE(isOff());
         EXPECT_FALSE(QFile::exists("none.csv"));
@@ -131,8 +131,8 @@ TEST_F(CliCapture, DisableThatIsNotConfirmedIsNoSuccess)
 {
     RunningOnDrive process({"capture", "--enable", "--channels", "posmeas", "--stimulus", "100,0.1,200,0.1", "--rate",
                             "2000", "--csv", "wave.csv"});
-    ASSERT_TRUE(bus().waitForRegister(DriveAddress, Setpoint, 200));
-    refuseWrites(SoftEnable);
+    ASSERT_TRUE(bus().waitForRegister(DriveAddress, setpointInUse, 200));
+    refuseWrites(softEnable);
     failed(finish(process), AllOf(HasSubstr("The drive shows that it is still enabled."),
                                   HasSubstr("The drive is not known to be disabled.")));
     EXPECT_EQ(column(contents("wave.csv"), 1).size(), 2000u) << "what was captured is kept";
@@ -237,7 +237,7 @@ TEST_F(CliCapture, LostLineSaysThatTheDriveMayStillRunOrDisablesItThroughANewOpe
 {
     for (const bool comesBack : {true, false}) { // the second leaves the drive enabled
         RunningOnDrive process(movingForEver);
-        ASSERT_TRUE(bus().waitForRegister(DriveAddress, Setpoint, 100));
+        ASSERT_TRUE(bus().waitForRegister(DriveAddress, setpointInUse, 100));
         bus().unplug();
         if (comesBack) {
             ASSERT_EQ(bus().plugIn(), "");
@@ -245,7 +245,7 @@ TEST_F(CliCapture, LostLineSaysThatTheDriveMayStillRunOrDisablesItThroughANewOpe
         const Ran ran = failed(finish(process), testing::_);
         EXPECT_EQ(ran.err.contains("has not confirmed that it is disabled. It may still be running or start to"),
                   !comesBack);
-        EXPECT_EQ(bus().read(DriveAddress, SoftEnable), !comesBack) << ran.err.toStdString();
+        EXPECT_EQ(bus().read(DriveAddress, softEnable), !comesBack) << ran.err.toStdString();
         EXPECT_FALSE(QFile::exists("none.csv"));
         EXPECT_TRUE(!comesBack || waitUntilRunning(false)) << "the end of a controlled stop";
         bus().powerCycle();

@@ -39,19 +39,19 @@ TEST_F(CliTwoDrives, DisableWithoutAnAddressLeavesNoDriveRunning)
     const QStringList disable = {"--port", port(), "disable"};
     const auto enableBoth = [this] {
         for (int address : {3, 7})
-            write(SoftEnable, 1, address);
+            write(softEnable, 1, address);
     };
     enableBoth();
     bus().setFault({sim::LineFault::Missing, 0, 0, 1}); // hides the first drive from the first search
     good(run(disable), "7\tTORVA\tdisabled\n3\tKETA\tdisabled\n",
          "Without --node, only the drives that answered on COM1 were told to disable.\n");
-    EXPECT_EQ(bus().read(3, SoftEnable) + bus().read(7, SoftEnable), 0);
+    EXPECT_EQ(bus().read(3, softEnable) + bus().read(7, softEnable), 0);
 
     enableBoth();
-    bus().withDrive(3, [](sim::VirtualDrive &drive) { drive.refuseWrites(SoftEnable); });
+    bus().withDrive(3, [](sim::VirtualDrive &drive) { drive.refuseWrites(softEnable); });
     failed(run(disable), HasSubstr("The drive at address 3 on COM1 answers, but shows that it is still"),
            "3\tKETA\tunconfirmed\n7\tTORVA\tdisabled\n");
-    EXPECT_EQ(bus().read(7, SoftEnable), 0);
+    EXPECT_EQ(bus().read(7, softEnable), 0);
 }
 
 TEST_F(Cli, WhatWritesOrMovesNeedsANameForItsDrive)

@@ -12,9 +12,9 @@ using testing::StartsWith;
 namespace {
 
 // Registers, and bits of the status, the fault register and the control inputs.
-constexpr int ProtocolVersion = 3, ProtocolCompanion = 4, ControlInputs = 963, Temperature = 952;
-constexpr int HomingSettings = 806, HomingVelocity = 804;
-constexpr int Homing = 2048, OverTemperature = 32, AllButPhysicalEnable = 6;
+constexpr int protocolVersion = 3, protocolCompanion = 4, controlInputs = 963, temperature = 952;
+constexpr int homingSettings = 806, homingVelocity = 804;
+constexpr int homing = 2048, overTemperature = 32, allButPhysicalEnable = 6;
 
 using CliMotion = CliFixture;
 
@@ -24,40 +24,40 @@ TEST_F(CliMotion, EnablePowersTheMotorAndLeavesItSo)
 {
     good(onDrive({"enable"}), "running\t0\t0\n", "");
     EXPECT_TRUE(isRunning());
-    EXPECT_THAT(sent(), Contains(EnablePayload));
-    EXPECT_THAT(sent(), Not(Contains(DisablePayload)));
+    EXPECT_THAT(sent(), Contains(enablePayload));
+    EXPECT_THAT(sent(), Not(Contains(disablePayload)));
 
     bus().clearReceived();
     EXPECT_EQ(onDrive({"--json", "enable"}).json().object()["state"], "running");
-    EXPECT_THAT(sent(), Not(Contains(EnablePayload))) << "it was enabled already";
+    EXPECT_THAT(sent(), Not(Contains(enablePayload))) << "it was enabled already";
 }
 
 TEST_F(CliMotion, EnableThatDoesNotWorkIsTakenBackAndSaysWhy)
 {
-    bus().set(DriveAddress, Faults, TrackingFault);
+    bus().set(DriveAddress, faultRegister, trackingFault);
     failed(onDrive({"enable"}),
            "The drive did not enable.\n"
            "Reason for inactivity: Fault stopped (on), Tracking error (on).\n",
            "");
-    EXPECT_EQ(bus().read(DriveAddress, SoftEnable), 0);
+    EXPECT_EQ(bus().read(DriveAddress, softEnable), 0);
 
-    bus().set(DriveAddress, Faults, 0);
-    bus().set(DriveAddress, ControlInputs, AllButPhysicalEnable);
+    bus().set(DriveAddress, faultRegister, 0);
+    bus().set(DriveAddress, controlInputs, allButPhysicalEnable);
     failed(onDrive({"enable"}), HasSubstr("Phys enable (off)"));
-    EXPECT_EQ(bus().read(DriveAddress, SoftEnable), 0) << "it would start when the input closes";
+    EXPECT_EQ(bus().read(DriveAddress, softEnable), 0) << "it would start when the input closes";
 }
 
 TEST_F(CliMotion, EnableThatIsInterruptedDisables)
 {
     for (const int signal : {SIGINT, SIGTERM}) {
-        bus().set(DriveAddress, ControlInputs, AllButPhysicalEnable);
+        bus().set(DriveAddress, controlInputs, allButPhysicalEnable);
         bus().clearReceived();
         RunningOnDrive process({"enable"});
-        ASSERT_TRUE(waitForPayload(EnablePayload));
+        ASSERT_TRUE(waitForPayload(enablePayload));
         sendSignal(process, signal);
         failed(finish(process), HasSubstr("Interrupted."));
-        EXPECT_THAT(sent(), Contains(DisablePayload));
-        EXPECT_EQ(bus().read(DriveAddress, SoftEnable), 0);
+        EXPECT_THAT(sent(), Contains(disablePayload));
+        EXPECT_EQ(bus().read(DriveAddress, softEnable), 0);
     }
 }
 
@@ -67,11 +67,11 @@ TEST_F(CliMotion, DisableStopsTheMotorEvenOfADriveThatCannotBeIdentified)
     EXPECT_THAT(onDrive({"disable"}).out.toStdString(), StartsWith("disabled\t"));
     EXPECT_FALSE(isRunning());
     ASSERT_TRUE(enableByHand());
-    bus().set(DriveAddress, ProtocolVersion, 1000); // not one that this program speaks
-    bus().set(DriveAddress, ProtocolCompanion, 1000);
+    bus().set(DriveAddress, protocolVersion, 1000); // not one that this program speaks
+    bus().set(DriveAddress, protocolCompanion, 1000);
     bus().clearReceived();
     good(onDrive({"disable"}), "disabled\n", "");
-    EXPECT_THAT(sent().front(), StartsWith(DisablePayload));
+    EXPECT_THAT(sent().front(), StartsWith(disablePayload));
     EXPECT_FALSE(isRunning());
 }
 
@@ -79,7 +79,7 @@ TEST_F(CliMotion, EnableThatCannotBeConfirmedIsUndone)
 {
     good(onDrive({"enable"}));
     const std::vector<std::string> all = sent();
-    const int before = int(std::find(all.begin(), all.end(), EnablePayload) - all.begin());
+    const int before = int(std::find(all.begin(), all.end(), enablePayload) - all.begin());
     good(onDrive({"disable"}));
     int undone = 0;
     for (const int skip : {before, before + 1}) { // now and then a poll more comes before the enable
@@ -87,10 +87,10 @@ TEST_F(CliMotion, EnableThatCannotBeConfirmedIsUndone)
         const Ran ran = onDrive({"enable"});
         bus().clearFaults();
         EXPECT_EQ(ran.status == 0, isRunning()) << ran.err.toStdString();
-        EXPECT_EQ(ran.status == 0, bus().read(DriveAddress, SoftEnable) == 1);
+        EXPECT_EQ(ran.status == 0, bus().read(DriveAddress, softEnable) == 1);
         EXPECT_EQ(ran.status == 0, !ran.err.contains("did not confirm that it was enabled"));
         undone += ran.status != 0;
-        write(SoftEnable, 0);
+        write(softEnable, 0);
         ASSERT_TRUE(waitUntilRunning(false));
     }
     EXPECT_GE(undone, 1);
@@ -99,13 +99,13 @@ TEST_F(CliMotion, EnableThatCannotBeConfirmedIsUndone)
 TEST_F(CliMotion, DisableThatIsNotConfirmedIsNoSuccess)
 {
     ASSERT_TRUE(enableByHand());
-    refuseWrites(SoftEnable);
+    refuseWrites(softEnable);
     failed(onDrive({"disable"}), HasSubstr("The drive shows that it is still enabled. It may still be running"), "");
     // A drive that its enable input alone enables.
     bus().withDrive(DriveAddress, [](sim::VirtualDrive &drive) {
-        constexpr int Flags = 567;
+        constexpr int flags = 567;
         drive.acceptWrites();
-        drive.set(Flags, drive.read(Flags) & ~1);
+        drive.set(flags, drive.read(flags) & ~1);
     });
     failed(onDrive({"disable"}), HasSubstr("stays enabled: by its settings, its enable input alone decides."));
 }
@@ -132,38 +132,38 @@ TEST_F(CliMotion, SetpointThatTheDriveCannotTakeOrFollowIsSaidSo)
 
 TEST_F(CliMotion, ClearFaultsTellsWhichOnesStay)
 {
-    bus().set(DriveAddress, Faults, TrackingFault);
+    bus().set(DriveAddress, faultRegister, trackingFault);
     good(onDrive({"clear-faults"}));
-    EXPECT_EQ(bus().read(DriveAddress, Faults), 0);
+    EXPECT_EQ(bus().read(DriveAddress, faultRegister), 0);
 
-    bus().set(DriveAddress, Temperature, 120);
-    ASSERT_TRUE(bus().waitForRegister(DriveAddress, Faults, OverTemperature));
+    bus().set(DriveAddress, temperature, 120);
+    ASSERT_TRUE(bus().waitForRegister(DriveAddress, faultRegister, overTemperature));
     failed(onDrive({"clear-faults"}), "Still active: Over temperature.\n");
 }
 
 TEST_F(CliMotion, HomingRunsToItsEnd)
 {
-    bus().set(DriveAddress, HomingSettings, 0x80); // to the stop pin
-    bus().set(DriveAddress, HomingVelocity, 4000);
+    bus().set(DriveAddress, homingSettings, 0x80); // to the stop pin
+    bus().set(DriveAddress, homingVelocity, 4000);
     failed(onDrive({"home"}), HasSubstr("not enabled, so it was not asked to home.\nReason for inactivity: "));
-    EXPECT_EQ(bus().read(DriveAddress, Status) & Homing, 0);
+    EXPECT_EQ(bus().read(DriveAddress, statusRegister) & homing, 0);
 
     ASSERT_TRUE(enableByHand());
     good(onDrive({"home"}), StartsWith("running\t0\t"));
     EXPECT_THAT(sent(), Contains("9d6c00000001"));
     EXPECT_THAT(sent(), Not(Contains("9d6c00000000")));
 
-    bus().set(DriveAddress, HomingSettings, 0);
+    bus().set(DriveAddress, homingSettings, 0);
     failed(onDrive({"home"}), HasSubstr("The drive did not start homing."));
 }
 
 TEST_F(CliMotion, HomingThatTakesTooLongOrIsInterruptedIsAborted)
 {
-    bus().set(DriveAddress, HomingSettings, 0x80);
-    bus().set(DriveAddress, HomingVelocity, 50);
+    bus().set(DriveAddress, homingSettings, 0x80);
+    bus().set(DriveAddress, homingVelocity, 50);
     ASSERT_TRUE(enableByHand());
     failed(onDrive({"home", "--time-out", "0.1"}), "Homing was aborted before it was done.\n");
-    EXPECT_EQ(bus().read(DriveAddress, Status) & Homing, 0);
+    EXPECT_EQ(bus().read(DriveAddress, statusRegister) & homing, 0);
     EXPECT_TRUE(isRunning()) << "the command had not enabled it";
 
     for (const bool abortIsTaken : {true, false}) {
@@ -179,6 +179,6 @@ TEST_F(CliMotion, HomingThatTakesTooLongOrIsInterruptedIsAborted)
         EXPECT_NE(ran.status, 0);
         EXPECT_EQ(ran.err.contains("has not confirmed that homing is aborted"), !abortIsTaken);
         EXPECT_THAT(sent(), Contains("9d6c00000000"));
-        EXPECT_EQ(!(bus().read(DriveAddress, Status) & Homing), abortIsTaken);
+        EXPECT_EQ(!(bus().read(DriveAddress, statusRegister) & homing), abortIsTaken);
     }
 }

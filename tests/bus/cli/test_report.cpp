@@ -12,8 +12,8 @@ using testing::Not;
 namespace {
 
 constexpr int KVP = 202;
-constexpr int AbsoluteSetpoint = 551;
-constexpr int Position = 956;
+constexpr int absoluteSetpoint = 551;
+constexpr int positionFeedback = 956;
 
 using CliReport = CliFixture;
 
@@ -47,13 +47,14 @@ TEST_F(CliReport, IsWrittenAndCanBeChecked)
 
 TEST_F(CliReport, StopTestListensUntilTheStopIsPressed)
 {
-    write(AbsoluteSetpoint, 100000); // where it goes once it is enabled
+    write(absoluteSetpoint, 100000); // where it goes once it is enabled
     ASSERT_TRUE(enableByHand());
     RunningOnDrive process({"--json", "report", "r.html", "--stop-test", "--stop-seconds", "1"});
-    ASSERT_TRUE(waitForPayload(ArmForFaultPayload));
-    write(AbsoluteSetpoint, -100000);
-    ASSERT_TRUE(bus().waitForRegister(DriveAddress, Position, [](std::int32_t counts) { return counts < 50000; }));
-    bus().set(DriveAddress, Faults, TrackingFault);
+    ASSERT_TRUE(waitForPayload(armForFaultPayload));
+    write(absoluteSetpoint, -100000);
+    ASSERT_TRUE(
+        bus().waitForRegister(DriveAddress, positionFeedback, [](std::int32_t counts) { return counts < 50000; }));
+    bus().set(DriveAddress, faultRegister, trackingFault);
     const Ran ran = good(finish(process), testing::_, "Stop test: let the axis move, then press the machine's stop.\n");
     const QJsonObject stop = ran.json().object()["stopTest"].toObject();
     EXPECT_GT(stop["time"].toDouble(), 0.0);
