@@ -63,6 +63,7 @@ protected:
         const int before = log().outcomes.size();
         disable();
         EXPECT_TRUE(waitUntil([&] { return log().outcomes.size() > before; }));
+        EXPECT_EQ(log().outcomes.size(), before + 1);
         return log().outcomes.value(before, DisableOutcome::NoAnswer);
     }
     /// The first request is lost, and what follows it at once is the stop.
