@@ -14,11 +14,39 @@
 
 #include "virtualbus.h"
 
+#include <algorithm>
 #include <cstdlib>
 #include <filesystem>
 #include <gtest/gtest.h>
 #include <memory>
 #include <string>
+
+/// Payload in hexadecimal, as one types it from the protocol: "800f00000000" for register 15 := 0.
+inline std::string hex(const sim::Bytes &bytes)
+{
+    std::string text;
+    for (std::uint8_t byte : bytes) {
+        text += "0123456789abcdef"[byte >> 4];
+        text += "0123456789abcdef"[byte & 15];
+    }
+    return text;
+}
+
+inline std::vector<std::string> payloadsOf(const sim::ReceivedRequests &requests)
+{
+    std::vector<std::string> payloads;
+    for (const sim::ReceivedRequest &request : requests)
+        payloads.push_back(hex(request.packet.payload));
+    return payloads;
+}
+
+/// How many there are of one kind of packet.
+inline int packetsIn(const sim::ReceivedRequests &requests, int id)
+{
+    return static_cast<int>(std::count_if(requests.begin(), requests.end(), [id](const sim::ReceivedRequest &request) {
+        return request.packet.id == id;
+    }));
+}
 
 /// A private folder that is the working folder while this lives; removed with all its contents.
 class PrivateFolder
@@ -90,6 +118,18 @@ protected:
     bool waitForRequests(std::size_t count, std::chrono::milliseconds limit = std::chrono::seconds(20)) const
     {
         return m_bus->waitForReceived([count](const sim::ReceivedRequests &all) { return all.size() >= count; }, limit);
+    }
+    /// Waits until so many requests of one kind of packet have arrived.
+    bool waitForPackets(int id, int count = 1) const
+    {
+        return m_bus->waitForReceived([=](const sim::ReceivedRequests &all) { return packetsIn(all, id) >= count; });
+    }
+    bool waitForPayload(const std::string &payload) const
+    {
+        return m_bus->waitForReceived([&](const sim::ReceivedRequests &all) {
+            const std::vector<std::string> payloads = payloadsOf(all);
+            return std::find(payloads.begin(), payloads.end(), payload) != payloads.end();
+        });
     }
 
     PrivateFolder m_folder; ///< before the bus, whose link lies in it

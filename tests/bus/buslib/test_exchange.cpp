@@ -3,6 +3,8 @@
 
 #include <gmock/gmock.h>
 
+using testing::ElementsAre;
+
 namespace {
 
 // The line hands over in order, so a reply may stand ready before its request: no second thread, no waiting.
@@ -31,16 +33,14 @@ TEST_F(Exchange, ReadsAParameterInOnePacketEachWay)
 TEST_F(Exchange, ReadsTwoAndThreeParametersInOnePacket)
 {
     long a = 0, b = 0, c = 0;
+    const auto values = [&] { return std::vector<long>{a, b, c}; };
     line.write(withChecksum({0x25, 8, 3, 0xC1, 0xC1, 0xC1, 0xC5, 0xC1, 0xC1, 0xC1, 0xC6}));
     EXPECT_EQ(zbRead2Parameters(bus, 3, 100, &a, 101, &b), ZB_OK);
-    EXPECT_EQ(a, 5);
-    EXPECT_EQ(b, 6);
+    EXPECT_THAT(values(), ElementsAre(5, 6, 0));
     EXPECT_EQ(line.read(25)[1], 20); // payload size: two reads
     line.write(withChecksum({0x25, 12, 3, 0xC1, 0xC1, 0xC1, 0xC7, 0xC1, 0xC1, 0xC1, 0xC8, 0xC1, 0xC1, 0xC1, 0xC9}));
     EXPECT_EQ(zbRead3Parameters(bus, 3, 100, &a, 101, &b, 102, &c), ZB_OK);
-    EXPECT_EQ(a, 7);
-    EXPECT_EQ(b, 8);
-    EXPECT_EQ(c, 9);
+    EXPECT_THAT(values(), ElementsAre(7, 8, 9));
     EXPECT_EQ(line.read(35)[1], 30);
 }
 
@@ -49,15 +49,6 @@ TEST_F(Exchange, WritesAParameter)
     line.write(withChecksum({0x25, 2, 3, 0xC1, 0xC1}));
     EXPECT_EQ(zbSetParameter(bus, 3, 404, -1), ZB_OK);
     EXPECT_EQ(line.read(11), (Bytes{0x24, 0x06, 0x03, 0x81, 0x94, 0x3F, 0xFF, 0xFF, 0xFF, 0x0A, 0x73}));
-}
-
-TEST_F(Exchange, AsksForTheBufferClock)
-{
-    line.write({0x53, 0x03, 0x34, 0x12, 0x77, 0x89});
-    std::uint16_t clock = 0;
-    EXPECT_EQ(zbGetBufferClock(bus, 3, &clock), ZB_OK);
-    EXPECT_EQ(clock, 0x1234);
-    EXPECT_EQ(line.read(4), (Bytes{0x50, 0x03, 0x7C, 0x01}));
 }
 
 TEST_F(Exchange, UploadsForTimedExecutionUnderItsOwnId)
@@ -98,13 +89,9 @@ TEST_F(Exchange, APacketThatDoesNotFitTheTransmitBufferIsDroppedWhole)
     EXPECT_EQ(line.read(4), (Bytes{0x50, 0x03, 0x7C, 0x01}));
 }
 
-TEST_F(Exchange, IsToldInDebugLinesByPacketAndByByte)
+TEST_F(Exchange, AsksForTheBufferClockAndTellsItInDebugLinesByPacketAndByByte)
 {
-    const struct
-    {
-        int threshold;
-        const char *text;
-    } cases[] = {
+    const std::pair<int, const char *> cases[] = {
         {1, ""},
         {2, "COM1: > ZBCMD_GET_CLOCK (id=80, addr=3, payload=0)\nCOM1: < ZBCMD_GET_CLOCK_RET (id=83, addr=3, "
             "payload=2)\n"},
@@ -116,17 +103,19 @@ TEST_F(Exchange, IsToldInDebugLinesByPacketAndByByte)
             "COM1:   got byte 12 \nCOM1:   got byte 77 \nCOM1:   got byte 89 \n"
             "COM1: < ZBCMD_GET_CLOCK_RET (id=83, addr=3, payload=2)\n"},
     };
-    for (const auto &entry : cases) {
+    for (const auto &[threshold, expected] : cases) {
         char *text = nullptr;
         std::size_t size = 0;
         std::FILE *stream = open_memstream(&text, &size);
-        zbSetDebugOutput(entry.threshold, stream);
+        zbSetDebugOutput(threshold, stream);
         line.write({0x53, 0x03, 0x34, 0x12, 0x77, 0x89});
         std::uint16_t clock = 0;
         EXPECT_EQ(zbGetBufferClock(bus, 3, &clock), ZB_OK);
+        EXPECT_EQ(clock, 0x1234);
+        EXPECT_EQ(line.read(4), (Bytes{0x50, 0x03, 0x7C, 0x01}));
         zbSetDebugOutput(4, nullptr);
         std::fclose(stream);
-        EXPECT_STREQ(text, entry.text);
+        EXPECT_STREQ(text, expected);
         std::free(text);
     }
 }

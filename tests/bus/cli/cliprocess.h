@@ -6,13 +6,14 @@
 #include "virtualbusfixture.h"
 
 #include "printqt.h"
+#include "pseudoterminal.h"
 
 #include <QJsonDocument>
 #include <QProcess>
 #include <QStringList>
-#include <algorithm>
 #include <csignal>
 #include <gmock/gmock.h>
+#include <optional>
 
 /// What a run came to. `status` is -1 when it crashed or did not end.
 struct Ran
@@ -38,7 +39,7 @@ inline Ran finish(QProcess &process)
 inline void start(QProcess &process, const QStringList &arguments)
 {
     process.start(QStringLiteral(VELBRIN_BINARY_DIR "/bin/velbrin-cli"), arguments);
-    ASSERT_TRUE(process.waitForStarted()) << qPrintable(process.errorString());
+    EXPECT_TRUE(process.waitForStarted()) << qPrintable(process.errorString());
 }
 
 inline Ran run(const QStringList &arguments)
@@ -48,23 +49,40 @@ inline Ran run(const QStringList &arguments)
     return finish(process);
 }
 
+/// With the fixture's bus and its drive.
+inline QStringList toDrive(const QStringList &arguments)
+{
+    return QStringList{"--port", VirtualBusFixture::port(), "--node", "5"} + arguments;
+}
+inline Ran onDrive(const QStringList &arguments)
+{
+    return run(toDrive(arguments));
+}
+/// The same, running while the test goes on.
+struct RunningOnDrive : QProcess
+{
+    explicit RunningOnDrive(const QStringList &arguments) { ::start(*this, toDrive(arguments)); }
+};
+
 using Text = testing::Matcher<std::string>;
 
-/// A run that has to have ended well and with these results.
-inline Ran good(const Ran &ran, const Text &results = testing::_, int line = __builtin_LINE())
+/// A run that has to have ended with this status, these results, and this on standard error.
+inline Ran ended(int status, const Ran &ran, const Text &results = testing::_, const Text &says = testing::_,
+                 int line = __builtin_LINE())
 {
-    EXPECT_EQ(ran.status, 0) << "line " << line << ": " << ran.err.toStdString();
+    EXPECT_EQ(ran.status, status) << "line " << line << ": " << ran.err.toStdString();
     EXPECT_THAT(ran.out.toStdString(), results) << "line " << line;
+    EXPECT_THAT(ran.err.toStdString(), says) << "line " << line;
     return ran;
 }
-
-/// A run that has to have ended with status 1, this on standard error, and these results.
+inline Ran good(const Ran &ran, const Text &results = testing::_, const Text &says = testing::_,
+                int line = __builtin_LINE())
+{
+    return ended(0, ran, results, says, line);
+}
 inline Ran failed(const Ran &ran, const Text &says, const Text &results = testing::_, int line = __builtin_LINE())
 {
-    EXPECT_EQ(ran.status, 1) << "line " << line << ": " << ran.err.toStdString();
-    EXPECT_THAT(ran.err.toStdString(), says) << "line " << line;
-    EXPECT_THAT(ran.out.toStdString(), results) << "line " << line;
-    return ran;
+    return ended(1, ran, results, says, line);
 }
 
 /// As Ctrl+C does, or a service manager.
@@ -74,44 +92,46 @@ inline void sendSignal(const QProcess &process, int signal = SIGINT)
     kill(static_cast<pid_t>(process.processId()), signal);
 }
 
-/// Payloads as hexadecimal digits, as one types them from the protocol.
-inline std::vector<std::string> payloads(const sim::ReceivedRequests &requests)
-{
-    std::vector<std::string> result;
-    for (const sim::ReceivedRequest &request : requests)
-        result.push_back(QByteArray(reinterpret_cast<const char *>(request.packet.payload.data()),
-                                    int(request.packet.payload.size()))
-                             .toHex()
-                             .toStdString());
-    return result;
-}
-
-/// Until a request with this payload has arrived.
-inline bool waitForPayload(const sim::VirtualBus &bus, const std::string &payload)
-{
-    return bus.waitForReceived([&payload](const sim::ReceivedRequests &requests) {
-        const std::vector<std::string> all = payloads(requests);
-        return std::find(all.begin(), all.end(), payload) != all.end();
-    });
-}
-
 // Registers, bits of the status and the fault register, and payloads: select a register, write a value.
-constexpr int Faults = 552, Status = 553, Setpoint = 957, SoftEnable = 2533;
-constexpr int Running = 8, TrackingFault = 2;
-const char *const EnablePayload = "89e500000001";
-const char *const DisablePayload = "89e500000000";
-const char *const ArmForFaultPayload = "939300000003";
+constexpr int faultRegister = 552, statusRegister = 553, setpointInUse = 957, softEnable = 2533;
+constexpr int running = 8, trackingFault = 2;
+const char *const enablePayload = "89e500000001";
+const char *const disablePayload = "89e500000000";
+const char *const armForFaultPayload = "939300000003";
 
 class CliFixture : public VirtualBusFixture
 {
 protected:
-    std::vector<std::string> sent() { return payloads(bus().received()); }
+    std::vector<std::string> sent() { return payloadsOf(bus().received()); }
+    bool isRunning() { return bus().read(DriveAddress, statusRegister) & running; }
+    bool waitUntilRunning(bool on = true)
+    {
+        return bus().waitForRegister(DriveAddress, statusRegister,
+                                     [on](int bits) { return bool(bits & running) == on; });
+    }
+    /// As another master would; false when the drive does not come to run.
+    bool enableByHand()
+    {
+        write(softEnable, 1);
+        return waitUntilRunning();
+    }
+    void write(int reg, int value, int address = DriveAddress)
+    {
+        bus().withDrive(address, [=](sim::VirtualDrive &drive) { drive.write(reg, value); });
+    }
+    void refuseWrites(int reg, std::optional<int> value = {})
+    {
+        bus().withDrive(DriveAddress, [=](sim::VirtualDrive &drive) { drive.refuseWrites(reg, value); });
+    }
 };
 
-/// With the fixture's bus and its drive.
-inline Ran onDrive(QStringList arguments)
+/// What a terminal shows since the last look.
+inline std::string shownOn(sim::PseudoTerminal &terminal)
 {
-    return run(QStringList{"--port", VirtualBusFixture::port(), "--node", "5"} + arguments);
+    std::string text;
+    for (sim::Bytes bytes = terminal.read(); !bytes.empty(); bytes = terminal.read())
+        text.append(bytes.begin(), bytes.end());
+    return text;
 }
 
 #endif

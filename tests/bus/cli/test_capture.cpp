@@ -9,18 +9,18 @@
 
 #include <sys/stat.h>
 
+using testing::AllOf;
 using testing::Contains;
 using testing::Each;
-using testing::ElementsAre;
-using testing::EndsWith;
 using testing::HasSubstr;
 using testing::Not;
 
 namespace {
 
-constexpr int BufferedCommand = 52;
-
-const char *const StopStreamPayload = "822a00000004";
+const char *const stopStreamPayload = "822a00000004";
+/// A stimulus while the capture waits for a fault that does not come.
+const QStringList movingForEver = {"capture", "--enable",   "--channels",    "posmeas", "--trigger",
+                                   "fault",   "--stimulus", "0,0.1,100,0.1", "--csv",   "none.csv"};
 
 class CliCapture : public CliFixture
 {
@@ -30,12 +30,13 @@ protected:
         qunsetenv("VELBRIN_DATA");
         CliFixture::TearDown();
     }
-    bool isOff() { return bus().read(DriveAddress, SoftEnable) == 0 && !(bus().read(DriveAddress, Status) & Running); }
+    bool isOff() { return bus().read(DriveAddress, softEnable) == 0 && !isRunning(); }
 };
 
-/// A data folder with everything but the last of the plot page's scripts.
+/// A data folder with everything but the last of the plot page's scripts; the test's end forgets it.
 void putScripts()
 {
+    qputenv("VELBRIN_DATA", QDir::current().filePath("data").toLocal8Bit());
     ASSERT_TRUE(QDir().mkpath("data/flot/css"));
     put("data/flot/css/plotlayout.css", "h1 { color: red; }");
     put("data/flot/jquery.js", "var jquery = '</script>';");
@@ -68,7 +69,7 @@ TEST_F(CliCapture, RecordsAStepThatItMakesAndLeavesTheDriveDisabled)
     ASSERT_EQ(column(csv, 0).size(), 1000u);
     EXPECT_DOUBLE_EQ(column(csv, 0).back(), 0.0999);
     EXPECT_NEAR(column(csv, 2).back(), 1000, 10);
-    EXPECT_THAT(sent(), Contains(EnablePayload));
+    EXPECT_THAT(sent(), Contains(enablePayload));
     EXPECT_TRUE(isOff());
 }
 
@@ -76,13 +77,13 @@ TEST_F(CliCapture, MovesNothingUnlessAskedTo)
 {
     const QString all = "torqueref,torquemeas,velreference,velmeas,posreference,posmeas,posferror,outputvolt,hvbusvolt,"
                         "pwm1,pwm2,pwm3,debug,debug2,fluxcurrent,fluxvoltage";
-    Ran ran = good(onDrive({"--json", "capture", "--channels", all, "--csv", "all.csv"}));
+    const Ran ran = good(onDrive({"--json", "capture", "--channels", all, "--csv", "all.csv"}));
     const QJsonObject json = ran.json().object();
     EXPECT_EQ(json["sampleRate"], 20000);
     EXPECT_EQ(json["channels"].toArray().size(), 16);
     EXPECT_EQ(column(contents("all.csv"), 16).size(), 125u);
     EXPECT_EQ(column(contents("all.csv"), 9).front(), 48.0) << "supply voltage";
-    EXPECT_THAT(sent(), Not(Contains(EnablePayload)));
+    EXPECT_THAT(sent(), Not(Contains(enablePayload)));
 
     bus().clearReceived();
     for (const QStringList &excitation : {QStringList{"--step", "10"}, QStringList{"--stimulus", "0,1,10,1"}}) {
@@ -90,8 +91,7 @@ TEST_F(CliCapture, MovesNothingUnlessAskedTo)
                HasSubstr("The drive is not enabled, so nothing would move"));
         EXPECT_FALSE(QFile::exists("none.csv"));
     }
-    for (const sim::ReceivedRequest &request : bus().received())
-        EXPECT_NE(request.packet.id, BufferedCommand);
+    EXPECT_EQ(packetsIn(bus().received(), 52), 0) << "buffered setpoints";
     EXPECT_THAT(sent(), Each(Not(testing::StartsWith("8227")))) << "no setpoint";
     EXPECT_THAT(sent(), Each(Not(testing::StartsWith("9393")))) << "not armed";
 }
@@ -105,30 +105,23 @@ TEST_F(CliCapture, FollowsAStimulusAndStopsItAtTheEnd)
     ASSERT_GE(levels.size(), 5u); // half a second, and perhaps a moment before the first
     for (std::size_t i = levels.size() - 5; i + 1 < levels.size(); ++i)
         EXPECT_EQ(levels[i] + levels[i + 1], 300) << "100 and 200 by turns";
-    EXPECT_THAT(sent(), Contains(StopStreamPayload));
-    EXPECT_THAT(sent(), Contains(DisablePayload));
+    EXPECT_THAT(sent(), testing::IsSupersetOf({stopStreamPayload, disablePayload}));
     EXPECT_TRUE(isOff());
 }
 
 TEST_F(CliCapture, InterruptedStimulusIsStoppedAndTheDriveDisabled)
 {
     for (const int signal : {SIGINT, SIGTERM, SIGQUIT}) {
-        bus().withDrive(DriveAddress, [](sim::VirtualDrive &drive) { drive.write(551, 0); });
-        ASSERT_TRUE(bus().waitForRegister(DriveAddress, Setpoint, 0));
+        write(551, 0);
+        ASSERT_TRUE(bus().waitForRegister(DriveAddress, setpointInUse, 0));
         bus().clearReceived();
-        QProcess process;
-        start(process, {"--port", port(), "--node", "5", "capture", "--enable", "--channels", "posmeas", "--trigger",
-                        "fault", "--stimulus", "0,0.1,100,0.1", "--csv", "none.csv"});
-        ASSERT_TRUE(bus().waitForRegister(DriveAddress, Setpoint, 100)) << "the motor does not move";
-        ASSERT_TRUE(bus().read(DriveAddress, Status) & Running);
+        RunningOnDrive process(movingForEver);
+        ASSERT_TRUE(bus().waitForRegister(DriveAddress, setpointInUse, 100)) << "the motor does not move";
+        ASSERT_TRUE(isRunning());
         sendSignal(process, signal);
         failed(finish(process), "Interrupted.\n");
-        EXPECT_THAT(sent(), Contains(StopStreamPayload));
-        bool isEmpty = false;
-        bus().withDrive(DriveAddress, [&isEmpty](sim::VirtualDrive &drive) {
-            isEmpty = drive.commandBuffer().freeBytes() == sim::CommandBuffer::capacity;
-        });
-        EXPECT_TRUE(isEmpty) << "setpoints are still waiting in the drive";
+        EXPECT_THAT(sent(), Contains(stopStreamPayload));
+        EXPECT_EQ(bus().read(DriveAddress, 6), 2048) << "setpoints are still waiting in the drive";
         EXPECT_TRUE(isOff());
         EXPECT_FALSE(QFile::exists("none.csv"));
     }
@@ -136,13 +129,12 @@ TEST_F(CliCapture, InterruptedStimulusIsStoppedAndTheDriveDisabled)
 
 TEST_F(CliCapture, DisableThatIsNotConfirmedIsNoSuccess)
 {
-    QProcess process;
-    start(process, {"--port", port(), "--node", "5", "capture", "--enable", "--channels", "posmeas", "--stimulus",
-                    "100,0.1,200,0.1", "--rate", "2000", "--csv", "wave.csv"});
-    ASSERT_TRUE(bus().waitForRegister(DriveAddress, Setpoint, 200));
-    bus().withDrive(DriveAddress, [](sim::VirtualDrive &drive) { drive.refuseWrites(SoftEnable); });
-    const Ran ran = failed(finish(process), HasSubstr("The drive shows that it is still enabled."));
-    EXPECT_THAT(ran.err.toStdString(), HasSubstr("The drive is not known to be disabled."));
+    RunningOnDrive process({"capture", "--enable", "--channels", "posmeas", "--stimulus", "100,0.1,200,0.1", "--rate",
+                            "2000", "--csv", "wave.csv"});
+    ASSERT_TRUE(bus().waitForRegister(DriveAddress, setpointInUse, 200));
+    refuseWrites(softEnable);
+    failed(finish(process), AllOf(HasSubstr("The drive shows that it is still enabled."),
+                                  HasSubstr("The drive is not known to be disabled.")));
     EXPECT_EQ(column(contents("wave.csv"), 1).size(), 2000u) << "what was captured is kept";
 }
 
@@ -150,11 +142,9 @@ TEST_F(CliCapture, TellsAllThatItKnowsInJsonAndInThePage)
 {
     putScripts();
     put("data/flot/jquery.flot.resize.js", "");
-    qputenv("VELBRIN_DATA", QDir::current().filePath("data").toLocal8Bit());
-    const Ran ran =
+    const Ran ran = good(
         onDrive({"--json", "capture", "--enable", "--channels", "posreference,posmeas", "--rate", "5000", "--step",
-                 "1000", "--note", "first <try>", "--html", "step.html", "--csv", "step.csv", "--format", "comma"});
-    EXPECT_EQ(ran.status, 0) << ran.err.toStdString();
+                 "1000", "--note", "first <try>", "--html", "step.html", "--csv", "step.csv", "--format", "comma"}));
     const QJsonObject json = ran.json().object();
     EXPECT_EQ(json["sampleRate"], 5000);
     EXPECT_EQ(json["settings"].toArray().isEmpty(), false);
@@ -178,10 +168,9 @@ TEST_F(CliCapture, TellsAllThatItKnowsInJsonAndInThePage)
         EXPECT_EQ(run({"figures", file, "--json"}).json().object()["figures"].toObject(), figures) << file;
     // Columns do not say what was asked for: where the recorder's first word is behind the step, nothing is defined.
     const bool beginsBefore = contents("step.csv").split('\n').value(2).startsWith("0.000000000,0.");
-    const Ran columns = run({"figures", "step.csv", "--json"});
-    const QJsonValue overshoot = columns.json().object()["figures"].toObject()["overshoot"];
-    EXPECT_EQ(overshoot, beginsBefore ? figures["overshoot"] : QJsonValue());
-    EXPECT_FALSE(columns.json().object().contains("axisSheet")) << "it went one way only";
+    const QJsonObject columns = run({"figures", "step.csv", "--json"}).json().object();
+    EXPECT_EQ(columns["figures"].toObject()["overshoot"], beginsBefore ? figures["overshoot"] : QJsonValue());
+    EXPECT_FALSE(columns.contains("axisSheet")) << "it went one way only";
     EXPECT_THAT(run({"figures", "step.csv"}).out.toStdString(),
                 HasSubstr(beginsBefore ? "Peak tracking error\t1000 counts\n" : "the setpoint does not change"));
     EXPECT_EQ(run({"figures", "missing.html"}).status, 1);
@@ -230,19 +219,12 @@ TEST_F(CliCapture, PlotPageHoldsAllThatItNeeds)
     putScripts();
     ASSERT_TRUE(QDir().mkpath("flot"));
     put("flot/jquery.flot.js", "var strangers = 1;"); // a folder of downloads: the program's own goes first
-    QProcess process;
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert("VELBRIN_DATA", QDir::current().filePath("data"));
-    process.setProcessEnvironment(environment);
-    const QStringList arguments = {"--port",     port(),    "--node", "5",        "capture",
-                                   "--channels", "posmeas", "--html", "page.html"};
-    start(process, arguments);
-    failed(finish(process), HasSubstr("jquery.flot.resize.js cannot be read"));
+    const QStringList arguments = {"capture", "--channels", "posmeas", "--html", "page.html"};
+    failed(onDrive(arguments), HasSubstr("jquery.flot.resize.js cannot be read"));
     EXPECT_FALSE(QFile::exists("page.html"));
 
     put("data/flot/jquery.flot.resize.js", "var resize = 1;");
-    start(process, arguments);
-    good(finish(process));
+    good(onDrive(arguments));
     const std::string page = contents("page.html").toStdString();
     for (const char *part : {"h1 { color: red; }", "var jquery = '<\\/script>';", "var flot = 1;", "var resize = 1;",
                              "var posmeas=[[0,", "Tarnwell Devices KETA", "KVP"})
@@ -254,10 +236,8 @@ TEST_F(CliCapture, PlotPageHoldsAllThatItNeeds)
 TEST_F(CliCapture, LostLineSaysThatTheDriveMayStillRunOrDisablesItThroughANewOpening)
 {
     for (const bool comesBack : {true, false}) { // the second leaves the drive enabled
-        QProcess process;
-        start(process, {"--port", port(), "--node", "5", "capture", "--enable", "--channels", "posmeas", "--trigger",
-                        "fault", "--stimulus", "0,0.1,100,0.1", "--csv", "none.csv"});
-        ASSERT_TRUE(bus().waitForRegister(DriveAddress, Setpoint, 100));
+        RunningOnDrive process(movingForEver);
+        ASSERT_TRUE(bus().waitForRegister(DriveAddress, setpointInUse, 100));
         bus().unplug();
         if (comesBack) {
             ASSERT_EQ(bus().plugIn(), "");
@@ -265,12 +245,9 @@ TEST_F(CliCapture, LostLineSaysThatTheDriveMayStillRunOrDisablesItThroughANewOpe
         const Ran ran = failed(finish(process), testing::_);
         EXPECT_EQ(ran.err.contains("has not confirmed that it is disabled. It may still be running or start to"),
                   !comesBack);
-        EXPECT_EQ(bus().read(DriveAddress, SoftEnable), !comesBack) << ran.err.toStdString();
+        EXPECT_EQ(bus().read(DriveAddress, softEnable), !comesBack) << ran.err.toStdString();
         EXPECT_FALSE(QFile::exists("none.csv"));
-        if (!comesBack)
-            break;
-        EXPECT_TRUE(bus().waitForRegister(DriveAddress, Status, [](std::int32_t bits) { return !(bits & Running); }))
-            << "the end of a controlled stop";
+        EXPECT_TRUE(!comesBack || waitUntilRunning(false)) << "the end of a controlled stop";
         bus().powerCycle();
     }
 }

@@ -5,8 +5,9 @@
 #include <QJsonArray>
 #include <QJsonObject>
 
-using testing::ElementsAre;
+using testing::AllOf;
 using testing::HasSubstr;
+using testing::Not;
 
 namespace {
 
@@ -38,32 +39,26 @@ TEST_F(CliTwoDrives, DisableWithoutAnAddressLeavesNoDriveRunning)
     const QStringList disable = {"--port", port(), "disable"};
     const auto enableBoth = [this] {
         for (int address : {3, 7})
-            bus().withDrive(address, [](sim::VirtualDrive &drive) { drive.write(SoftEnable, 1); });
+            write(softEnable, 1, address);
     };
     enableBoth();
     bus().setFault({sim::LineFault::Missing, 0, 0, 1}); // hides the first drive from the first search
-    Ran ran = good(run(disable), "7\tTORVA\tdisabled\n3\tKETA\tdisabled\n");
-    EXPECT_EQ(ran.err, "Without --node, only the drives that answered on COM1 were told to disable.\n");
-    EXPECT_EQ(bus().read(3, SoftEnable) + bus().read(7, SoftEnable), 0);
+    good(run(disable), "7\tTORVA\tdisabled\n3\tKETA\tdisabled\n",
+         "Without --node, only the drives that answered on COM1 were told to disable.\n");
+    EXPECT_EQ(bus().read(3, softEnable) + bus().read(7, softEnable), 0);
 
     enableBoth();
-    bus().withDrive(3, [](sim::VirtualDrive &drive) { drive.refuseWrites(SoftEnable); });
-    ran = run(disable);
-    EXPECT_EQ(ran.status, 1);
-    EXPECT_EQ(ran.out, "3\tKETA\tunconfirmed\n7\tTORVA\tdisabled\n");
-    EXPECT_THAT(ran.err.toStdString(), HasSubstr("The drive at address 3 on COM1 answers, but shows that it is still"));
-    EXPECT_EQ(bus().read(7, SoftEnable), 0);
+    bus().withDrive(3, [](sim::VirtualDrive &drive) { drive.refuseWrites(softEnable); });
+    failed(run(disable), HasSubstr("The drive at address 3 on COM1 answers, but shows that it is still"),
+           "3\tKETA\tunconfirmed\n7\tTORVA\tdisabled\n");
+    EXPECT_EQ(bus().read(7, softEnable), 0);
 }
 
 TEST_F(Cli, WhatWritesOrMovesNeedsANameForItsDrive)
 {
-    const QString reason =
-        "This command writes to a drive or moves it: name the drive with --node. The search found:\n5\tKETA\n";
-    for (const QStringList &command : {QStringList{"write", "KVP=400"}, QStringList{"setpoint", "1"}}) {
-        const Ran ran = run(QStringList{"--port", port()} + command);
-        EXPECT_EQ(ran.status, 1);
-        EXPECT_EQ(ran.err, reason) << command.first().toStdString();
-    }
+    for (const QStringList &command : {QStringList{"write", "KVP=400"}, QStringList{"setpoint", "1"}})
+        failed(run(QStringList{"--port", port()} + command),
+               "This command writes to a drive or moves it: name the drive with --node. The search found:\n5\tKETA\n");
     EXPECT_EQ(bus().read(DriveAddress, KVP), 360);
     EXPECT_EQ(run({"--virtual-drive", "write", "KVP=400"}).out, "KVP\t400\t0\t32767\n") << "its own bus";
 }
@@ -71,25 +66,21 @@ TEST_F(Cli, WhatWritesOrMovesNeedsANameForItsDrive)
 TEST_F(Cli, TheOnlyDriveNeedsNoNode)
 {
     const Ran ran = good(run({"--port", port(), "--json", "read", "KPP", "AXS"}));
-    const QJsonArray rows = ran.json().array();
-    ASSERT_EQ(rows.size(), 2);
-    EXPECT_EQ(rows[0].toObject(), (QJsonObject{{"name", "KPP"}, {"value", 120}, {"minimum", 0}, {"maximum", 32767}}));
-    EXPECT_EQ(rows[1].toObject(),
-              (QJsonObject{{"name", "AXS"}, {"value", 1}, {"minimum", 0.00001}, {"maximum", 5000}}));
+    const QJsonObject kpp{{"name", "KPP"}, {"value", 120}, {"minimum", 0}, {"maximum", 32767}};
+    const QJsonObject axs{{"name", "AXS"}, {"value", 1}, {"minimum", 0.00001}, {"maximum", 5000}};
+    EXPECT_EQ(ran.json().array(), (QJsonArray{kpp, axs}));
 }
 
 TEST_F(Cli, ReadPrintsAllSettingsInCatalogueOrderOrThoseNamedInTheirs)
 {
     EXPECT_THAT(onDrive({"read"}).out.toStdString(), testing::StartsWith("TCFWVER\t1078\t0\t536870911\nFWVER\t"));
     // 800 drive units at 50/3 a unit.
-    EXPECT_THAT(onDrive({"read", "KVP", "FOC", "CM"}).lines(),
-                ElementsAre(QString("KVP\t360\t0\t32767"), QString("FOC\t48\t0.6\t57.6"), QString("CM\t0\t0\t2")));
+    EXPECT_EQ(onDrive({"read", "KVP", "FOC", "CM"}).out, "KVP\t360\t0\t32767\nFOC\t48\t0.6\t57.6\nCM\t0\t0\t2\n");
 }
 
 TEST_F(Cli, WriteAppliesAndShowsWhatTheDriveHoldsThen)
 {
-    const Ran ran = good(onDrive({"write", "KVP=400.4", "KPP=99"}));
-    EXPECT_THAT(ran.lines(), ElementsAre(QString("KVP\t400\t0\t32767"), QString("KPP\t99\t0\t32767")));
+    good(onDrive({"write", "KVP=400.4", "KPP=99"}), "KVP\t400\t0\t32767\nKPP\t99\t0\t32767\n");
     EXPECT_EQ(bus().read(DriveAddress, KVP), 400);
     EXPECT_EQ(bus().read(DriveAddress, KPP), 99);
     bus().powerCycle();
@@ -102,23 +93,17 @@ TEST_F(Cli, WriteAppliesAndShowsWhatTheDriveHoldsThen)
 
 TEST_F(Cli, AValueThatTheDriveDoesNotTakeIsReportedAndNothingGoesToFlash)
 {
-    bus().withDrive(DriveAddress, [](sim::VirtualDrive &drive) { drive.refuseWrites(KVP); });
-    const Ran ran = onDrive({"write", "KVP=400", "KPP=99", "--to-flash"});
-    EXPECT_EQ(ran.status, 1);
-    EXPECT_THAT(ran.lines(), ElementsAre(QString("KVP\t360\t0\t32767"), QString("KPP\t99\t0\t32767")));
-    EXPECT_THAT(ran.err.toStdString(), HasSubstr("KVP: 400 was not taken, the drive has 360."));
-    EXPECT_THAT(ran.err.toStdString(), HasSubstr("nothing was saved to flash"));
+    refuseWrites(KVP);
+    failed(onDrive({"write", "KVP=400", "KPP=99", "--to-flash"}),
+           AllOf(HasSubstr("KVP: 400 was not taken, the drive has 360."), HasSubstr("nothing was saved to flash")),
+           "KVP\t360\t0\t32767\nKPP\t99\t0\t32767\n");
     bus().powerCycle();
     EXPECT_EQ(bus().read(DriveAddress, KPP), 120);
 }
 
 TEST_F(Cli, RefusesBeforeAnythingIsWritten)
 {
-    const struct
-    {
-        const char *assignment;
-        const char *reason;
-    } refused[] = {
+    const std::pair<const char *, std::string> refused[] = {
         {"KPP=32768", "KPP=32768 is outside the drive's limits, 0 to 32767."},
         {"KPP=-1", "KPP=-1 is outside the drive's limits, 0 to 32767."},
         {"HWTYPE=4000", "HWTYPE is read-only."},
@@ -126,68 +111,56 @@ TEST_F(Cli, RefusesBeforeAnythingIsWritten)
         {"overrideAddr1=554",
          "overrideAddr1=554 is refused: that register is a command to the drive and not a setting."},
     };
-    for (const auto &each : refused) {
-        const Ran ran = onDrive({"write", "KVP=400", each.assignment});
-        EXPECT_EQ(ran.status, 1);
-        EXPECT_EQ(ran.out, "");
-        EXPECT_EQ(ran.err, QString(each.reason) + "\nNothing was written.\n");
-        EXPECT_EQ(bus().read(DriveAddress, KVP), 360) << each.assignment;
+    for (const auto &[assignment, reason] : refused) {
+        failed(onDrive({"write", "KVP=400", assignment}), reason + "\nNothing was written.\n", "");
+        EXPECT_EQ(bus().read(DriveAddress, KVP), 360) << assignment;
     }
 }
 
 TEST_F(Cli, FileGoesOutAndComesBack)
 {
     good(onDrive({"save", "axis.drc"}), "");
-    Ran ran = good(onDrive({"compare", "axis.drc"}));
-    EXPECT_EQ(ran.out, "");
-
+    good(onDrive({"compare", "axis.drc"}), "");
     bus().set(DriveAddress, KVP, 400);
-    ran = onDrive({"compare", "axis.drc"});
-    EXPECT_EQ(ran.status, 3);
-    EXPECT_EQ(ran.out, "KVP\t400\t360\n");
-
+    ended(3, onDrive({"compare", "axis.drc"}), "KVP\t400\t360\n");
     EXPECT_EQ(onDrive({"--json", "compare", "axis.drc"}).json().array(),
               (QJsonArray{QJsonObject{{"name", "KVP"}, {"drive", 400}, {"file", 360}}}));
 
     good(onDrive({"load", "axis.drc"}), "KVP\t360\t0\t32767\n");
     EXPECT_EQ(bus().read(DriveAddress, KVP), 360);
-    EXPECT_EQ(onDrive({"compare", "axis.drc"}).status, 0);
 }
 
 TEST_F(Cli, FileOfAModelThatLacksASettingLeavesTheDriveItsOwn)
 {
     startBus({{{"torva", DriveAddress, false}}});
-    ASSERT_EQ(onDrive({"save", "torva.drc"}).status, 0);
+    good(onDrive({"save", "torva.drc"}));
     startBus({{{"keta", DriveAddress, false}}});
     constexpr int inputLogic = 573; // CEI, not on Torva: -1 in the file
     bus().set(DriveAddress, inputLogic, 1);
-    const Ran ran = onDrive({"compare", "torva.drc"});
-    EXPECT_EQ(ran.status, 3);
-    EXPECT_FALSE(ran.out.contains("CEI")) << ran.out.toStdString();
-    EXPECT_THAT(ran.err.toStdString(), HasSubstr("Warning: the loaded file is saved on different device type TORVA"));
-    EXPECT_THAT(ran.err.toStdString(), HasSubstr("The file has no value for CEI"));
+    ended(3, onDrive({"compare", "torva.drc"}), Not(HasSubstr("CEI")),
+          AllOf(HasSubstr("Warning: the loaded file is saved on different device type TORVA"),
+                HasSubstr("The file has no value for CEI")));
     onDrive({"load", "torva.drc"});
     EXPECT_EQ(bus().read(DriveAddress, inputLogic), 1);
 }
 
 TEST_F(Cli, FileThatWantsACommandWrittenIsNoSuccess)
 {
-    ASSERT_EQ(onDrive({"save", "axis.drc"}).status, 0);
+    good(onDrive({"save", "axis.drc"}));
     QByteArray text = contents("axis.drc");
     const int value = text.indexOf("value=", text.indexOf("overrideAddr2"));
     text.replace(value, int(strlen("value=0")), "value=554");
     put("axis.drc", text);
-    const Ran ran = failed(onDrive({"load", "axis.drc", "--to-flash"}),
-                           HasSubstr("overrideAddr2 was not written: register 554 is a command"));
-    EXPECT_THAT(ran.err.toStdString(), HasSubstr("nothing was saved to flash"));
+    failed(onDrive({"load", "axis.drc", "--to-flash"}),
+           AllOf(HasSubstr("overrideAddr2 was not written: register 554 is a command"),
+                 HasSubstr("nothing was saved to flash")));
 }
 
 TEST_F(Cli, BadFileIsRefusedAndNothingIsWritten)
 {
     put("noise.drc", QByteArray(100000, '\x5a'));
-    for (const char *file : {"noise.drc", "missing.drc", "."}) {
+    for (const char *file : {"noise.drc", "missing.drc", "."})
         failed(onDrive({"load", file}), testing::EndsWith("Nothing was written.\n"));
-    }
     EXPECT_EQ(onDrive({"compare", "noise.drc"}).status, 1);
     EXPECT_EQ(onDrive({"save", "/nowhere/axis.drc"}).err, "Error writing settings to file /nowhere/axis.drc\n");
 }

@@ -28,8 +28,8 @@ protected:
     }
     static void write(const char *name, const sim::Bytes &bytes) { ASSERT_EQ(sim::writeFile(name, bytes), ""); }
     void useDrive(const char *profile, bool upgradeMode) { startBus({{{profile, DriveAddress, upgradeMode}}}); }
-    /// Without --node, and without the pauses that a real flash needs.
-    static Ran withoutNode(const QStringList &arguments)
+    /// Without the pauses that a real flash needs.
+    static Ran withoutPauses(const QStringList &arguments)
     {
         return run(QStringList{"--port", port(), "--pause-scale", "0.02"} + arguments);
     }
@@ -46,32 +46,30 @@ protected:
 TEST_F(CliFirmware, UpgradeIsToldLineByLineOrAsJson)
 {
     useDrive("keta", true);
-    Ran ran = good(withoutNode({"flash", "keta.tdf"}));
-    EXPECT_EQ(ran.err, "");
+    Ran ran = good(withoutPauses({"flash", "keta.tdf"}), testing::_, "");
     EXPECT_THAT(ran.lines().first().toStdString(), EndsWith("keta.tdf firmware file loaded successfully"));
     EXPECT_THAT(ran.lines().last().toStdString(), StartsWith("All done with success! Drive has been started with"));
     EXPECT_EQ(addressNow(), 16);
-    EXPECT_EQ(run({"--port", port(), "--pause-scale", "0.02", "--node", "16", "restart"}).out,
-              "5\tKETA\t11000\tnormal\n");
+    EXPECT_EQ(withoutPauses({"--node", "16", "restart"}).out, "5\tKETA\t11000\tnormal\n");
 
     useDrive("torva", true);
-    ran = good(withoutNode({"--json", "flash", "torva.tdf"}));
+    ran = good(withoutPauses({"--json", "flash", "torva.tdf"}));
     EXPECT_EQ(ran.json().object()["done"], true);
     EXPECT_TRUE(ran.json().object()["messages"].toArray().contains("STEP2: TarnwellCore firmware"));
 
     useDrive("keta", true);
-    good(withoutNode({"flash", "keta.tdf", "--reset-to-factory"}));
+    good(withoutPauses({"flash", "keta.tdf", "--reset-to-factory"}));
     EXPECT_THAT(sent(), Contains("80bf0000000b"));
 }
 
 TEST_F(CliFirmware, WhatCannotWorkIsRefusedBeforeTheErase)
 {
     useDrive("keta", true);
-    failed(withoutNode({"flash", "torva.tdf"}),
+    failed(withoutPauses({"flash", "torva.tdf"}),
            "Error: Selected firmware file not meant for the connected device type\n", "");
 
     useDrive("torva", true);
-    failed(withoutNode({"flash", "torva.tdf", "--reset-to-factory"}),
+    failed(withoutPauses({"flash", "torva.tdf", "--reset-to-factory"}),
            "A TORVA cannot reset its settings in an upgrade.\n");
     EXPECT_THAT(sent(), Not(Contains(StartsWith("80bf"))));
 
@@ -96,8 +94,7 @@ TEST_F(CliFirmware, OneCtrlCLeavesTheUpgradeRunningASecondBreaksItOff)
         EXPECT_THAT(told.toStdString(), StartsWith("An upgrade is running."));
         if (twice)
             sendSignal(process);
-        const Ran ran = finish(process);
-        EXPECT_EQ(ran.status, twice ? 1 : 0);
+        const Ran ran = ended(twice, finish(process));
         EXPECT_EQ(ran.err.contains("Interrupted."), twice) << ran.err.toStdString();
         EXPECT_EQ(addressNow(), twice ? 255 : 16);
     }
@@ -105,10 +102,8 @@ TEST_F(CliFirmware, OneCtrlCLeavesTheUpgradeRunningASecondBreaksItOff)
 
 TEST_F(CliFirmware, RestartsAndFindsTheDriveAgain)
 {
-    const QStringList drive = {"--port", port(), "--pause-scale", "0.02", "--node", "5"};
-    good(run(drive + QStringList{"restart"}), "5\tKETA\t11000\tnormal\n");
-
-    Ran ran = good(run(drive + QStringList{"--json", "restart", "--upgrade-mode"}));
+    good(withoutPauses({"--node", "5", "restart"}), "5\tKETA\t11000\tnormal\n");
+    const Ran ran = good(withoutPauses({"--node", "5", "--json", "restart", "--upgrade-mode"}));
     EXPECT_EQ(ran.json().object(),
               (QJsonObject{{"address", 255}, {"model", "KETA"}, {"typeId", 11000}, {"mode", "upgrade"}}));
     EXPECT_EQ(addressNow(), 255);
@@ -117,20 +112,15 @@ TEST_F(CliFirmware, RestartsAndFindsTheDriveAgain)
 TEST_F(CliFirmware, RestartThatCannotBeOrIsNotSeenIsNoSuccess)
 {
     useDrive("torva", false);
-    const QStringList drive = {"--port", port(), "--pause-scale", "0.02", "--node", "5", "restart"};
-    failed(run(drive + QStringList{"--upgrade-mode"}),
+    failed(withoutPauses({"--node", "5", "restart", "--upgrade-mode"}),
            StartsWith("A TORVA cannot be restarted into firmware-upgrade mode"));
     EXPECT_EQ(addressNow(), 5);
 
     // 554 := 2 executed, and from then on silence.
-    QProcess process;
-    start(process, drive);
-    ASSERT_TRUE(waitForPayload(bus(), "822a00000002"));
+    RunningOnDrive process({"--pause-scale", "0.02", "restart"});
+    ASSERT_TRUE(waitForPayload("822a00000002"));
     bus().setFault({sim::LineFault::Deaf});
-    Ran ran = finish(process);
-    EXPECT_EQ(ran.status, 1);
-    EXPECT_EQ(ran.out, "");
-    EXPECT_NE(ran.err, "");
+    failed(finish(process), Not(""), "");
 }
 
 TEST(CliFirmwareInfo, TellsWhatAFileHoldsWithoutADrive)
@@ -147,8 +137,7 @@ TEST(CliFirmwareInfo, TellsWhatAFileHoldsWithoutADrive)
     good(run({"firmware-info", "good.tdf"}),
          "Format version\t300\nDevice type\t4000\nDevice family\tTorva\nI/O image\t200 bytes\n"
          "TarnwellCore image\t100 bytes\nChecksum\tright\n");
-    Ran ran = run({"--json", "firmware-info", "flipped.tdf"});
-    EXPECT_EQ(ran.status, 1);
+    const Ran ran = ended(1, run({"--json", "firmware-info", "flipped.tdf"}));
     EXPECT_EQ(ran.json().object()["checksum"], "wrong");
     EXPECT_EQ(ran.json().object()["coreImageBytes"], 100);
     failed(run({"firmware-info", "cut.tdf"}), "File corrupted: it has 200 bytes, its header says 320\n",

@@ -11,134 +11,108 @@ using testing::StartsWith;
 
 namespace {
 
-// Registers.
-constexpr int ProtocolVersion = 3;
-constexpr int ProtocolCompanion = 4;
-constexpr int ControlInputs = 963;
-constexpr int Temperature = 952;
-constexpr int HomingSettings = 806;
-constexpr int HomingVelocity = 804;
+// Registers, and bits of the status, the fault register and the control inputs.
+constexpr int protocolVersion = 3, protocolCompanion = 4, controlInputs = 963, temperature = 952;
+constexpr int homingSettings = 806, homingVelocity = 804;
+constexpr int homing = 2048, overTemperature = 32, allButPhysicalEnable = 6;
 
-constexpr int Homing = 2048;
-constexpr int OverTemperature = 32;
-constexpr int AllButPhysicalEnable = 6;
-
-class CliMotion : public CliFixture
-{
-protected:
-    bool isRunning() { return bus().read(DriveAddress, Status) & Running; }
-    void enableByHand()
-    {
-        bus().withDrive(DriveAddress, [](sim::VirtualDrive &drive) { drive.write(SoftEnable, 1); });
-        ASSERT_TRUE(bus().waitForRegister(DriveAddress, Status, [](std::int32_t bits) { return bits & Running; }));
-    }
-};
+using CliMotion = CliFixture;
 
 } // namespace
 
 TEST_F(CliMotion, EnablePowersTheMotorAndLeavesItSo)
 {
-    Ran ran = good(onDrive({"enable"}), "running\t0\t0\n");
-    EXPECT_EQ(ran.err, "");
+    good(onDrive({"enable"}), "running\t0\t0\n", "");
     EXPECT_TRUE(isRunning());
-    EXPECT_THAT(sent(), Contains(EnablePayload));
-    EXPECT_THAT(sent(), Not(Contains(DisablePayload)));
+    EXPECT_THAT(sent(), Contains(enablePayload));
+    EXPECT_THAT(sent(), Not(Contains(disablePayload)));
 
     bus().clearReceived();
-    ran = onDrive({"--json", "enable"});
-    EXPECT_EQ(ran.json().object()["state"], "running");
-    EXPECT_THAT(sent(), Not(Contains(EnablePayload))) << "it was enabled already";
+    EXPECT_EQ(onDrive({"--json", "enable"}).json().object()["state"], "running");
+    EXPECT_THAT(sent(), Not(Contains(enablePayload))) << "it was enabled already";
 }
 
 TEST_F(CliMotion, EnableThatDoesNotWorkIsTakenBackAndSaysWhy)
 {
-    bus().set(DriveAddress, Faults, TrackingFault);
+    bus().set(DriveAddress, faultRegister, trackingFault);
     failed(onDrive({"enable"}),
            "The drive did not enable.\n"
            "Reason for inactivity: Fault stopped (on), Tracking error (on).\n",
            "");
-    EXPECT_EQ(bus().read(DriveAddress, SoftEnable), 0);
+    EXPECT_EQ(bus().read(DriveAddress, softEnable), 0);
 
-    bus().set(DriveAddress, Faults, 0);
-    bus().set(DriveAddress, ControlInputs, AllButPhysicalEnable);
+    bus().set(DriveAddress, faultRegister, 0);
+    bus().set(DriveAddress, controlInputs, allButPhysicalEnable);
     failed(onDrive({"enable"}), HasSubstr("Phys enable (off)"));
-    EXPECT_EQ(bus().read(DriveAddress, SoftEnable), 0) << "it would start when the input closes";
+    EXPECT_EQ(bus().read(DriveAddress, softEnable), 0) << "it would start when the input closes";
 }
 
 TEST_F(CliMotion, EnableThatIsInterruptedDisables)
 {
     for (const int signal : {SIGINT, SIGTERM}) {
-        bus().set(DriveAddress, ControlInputs, AllButPhysicalEnable);
+        bus().set(DriveAddress, controlInputs, allButPhysicalEnable);
         bus().clearReceived();
-        QProcess process;
-        start(process, {"--port", port(), "--node", "5", "enable"});
-        ASSERT_TRUE(waitForPayload(bus(), EnablePayload));
+        RunningOnDrive process({"enable"});
+        ASSERT_TRUE(waitForPayload(enablePayload));
         sendSignal(process, signal);
         failed(finish(process), HasSubstr("Interrupted."));
-        EXPECT_THAT(sent(), Contains(DisablePayload));
-        EXPECT_EQ(bus().read(DriveAddress, SoftEnable), 0);
+        EXPECT_THAT(sent(), Contains(disablePayload));
+        EXPECT_EQ(bus().read(DriveAddress, softEnable), 0);
     }
 }
 
 TEST_F(CliMotion, DisableStopsTheMotorEvenOfADriveThatCannotBeIdentified)
 {
-    enableByHand();
+    ASSERT_TRUE(enableByHand());
     EXPECT_THAT(onDrive({"disable"}).out.toStdString(), StartsWith("disabled\t"));
     EXPECT_FALSE(isRunning());
-    enableByHand();
-    bus().set(DriveAddress, ProtocolVersion, 1000); // not one that this program speaks
-    bus().set(DriveAddress, ProtocolCompanion, 1000);
+    ASSERT_TRUE(enableByHand());
+    bus().set(DriveAddress, protocolVersion, 1000); // not one that this program speaks
+    bus().set(DriveAddress, protocolCompanion, 1000);
     bus().clearReceived();
-    const Ran ran = good(onDrive({"disable"}), "disabled\n");
-    EXPECT_EQ(ran.err, "");
-    EXPECT_THAT(sent().front(), StartsWith(DisablePayload));
+    good(onDrive({"disable"}), "disabled\n", "");
+    EXPECT_THAT(sent().front(), StartsWith(disablePayload));
     EXPECT_FALSE(isRunning());
 }
 
 TEST_F(CliMotion, EnableThatCannotBeConfirmedIsUndone)
 {
-    ASSERT_EQ(onDrive({"enable"}).status, 0);
+    good(onDrive({"enable"}));
     const std::vector<std::string> all = sent();
-    const int before = int(std::find(all.begin(), all.end(), EnablePayload) - all.begin());
-    ASSERT_EQ(onDrive({"disable"}).status, 0);
-    const std::pair<sim::LineFault::Kind, int> rows[] = {
-        {sim::LineFault::Missing, before},
-        {sim::LineFault::Missing, before + 1}, // now and then a poll more comes before the enable
-    };
+    const int before = int(std::find(all.begin(), all.end(), enablePayload) - all.begin());
+    good(onDrive({"disable"}));
     int undone = 0;
-    for (const auto &[kind, skip] : rows) {
-        bus().setFault({kind, 1200, skip, 1}); // ms, where it matters: a reply may take a second
+    for (const int skip : {before, before + 1}) { // now and then a poll more comes before the enable
+        bus().setFault({sim::LineFault::Missing, 0, skip, 1});
         const Ran ran = onDrive({"enable"});
         bus().clearFaults();
         EXPECT_EQ(ran.status == 0, isRunning()) << ran.err.toStdString();
-        EXPECT_EQ(ran.status == 0, bus().read(DriveAddress, SoftEnable) == 1);
+        EXPECT_EQ(ran.status == 0, bus().read(DriveAddress, softEnable) == 1);
         EXPECT_EQ(ran.status == 0, !ran.err.contains("did not confirm that it was enabled"));
         undone += ran.status != 0;
-        bus().withDrive(DriveAddress, [](sim::VirtualDrive &drive) { drive.write(SoftEnable, 0); });
-        ASSERT_TRUE(bus().waitForRegister(DriveAddress, Status, [](std::int32_t bits) { return !(bits & Running); }));
+        write(softEnable, 0);
+        ASSERT_TRUE(waitUntilRunning(false));
     }
     EXPECT_GE(undone, 1);
 }
 
 TEST_F(CliMotion, DisableThatIsNotConfirmedIsNoSuccess)
 {
-    enableByHand();
-    bus().withDrive(DriveAddress, [](sim::VirtualDrive &drive) { drive.refuseWrites(SoftEnable); });
-    Ran ran = failed(onDrive({"disable"}),
-                     HasSubstr("The drive shows that it is still enabled. It may still be running"), "");
-
+    ASSERT_TRUE(enableByHand());
+    refuseWrites(softEnable);
+    failed(onDrive({"disable"}), HasSubstr("The drive shows that it is still enabled. It may still be running"), "");
     // A drive that its enable input alone enables.
     bus().withDrive(DriveAddress, [](sim::VirtualDrive &drive) {
-        constexpr int Flags = 567;
+        constexpr int flags = 567;
         drive.acceptWrites();
-        drive.set(Flags, drive.read(Flags) & ~1);
+        drive.set(flags, drive.read(flags) & ~1);
     });
     failed(onDrive({"disable"}), HasSubstr("stays enabled: by its settings, its enable input alone decides."));
 }
 
 TEST_F(CliMotion, SetpointIsSentAndSeen)
 {
-    enableByHand();
+    ASSERT_TRUE(enableByHand());
     EXPECT_THAT(onDrive({"setpoint", "100"}).out.toStdString(), StartsWith("running\t100\t"));
     EXPECT_THAT(onDrive({"setpoint", "-30", "--incremental"}).out.toStdString(), StartsWith("running\t70\t"));
     EXPECT_THAT(onDrive({"setpoint", "-30"}).out.toStdString(), StartsWith("running\t-30\t"));
@@ -146,68 +120,65 @@ TEST_F(CliMotion, SetpointIsSentAndSeen)
 
 TEST_F(CliMotion, SetpointThatTheDriveCannotTakeOrFollowIsSaidSo)
 {
-    Ran ran = good(onDrive({"setpoint", "536870911"}), "disabled\t536870911\t0\n");
-    EXPECT_EQ(ran.err, "The drive is not running; the axis goes there when it does.\n");
-
+    good(onDrive({"setpoint", "536870911"}), "disabled\t536870911\t0\n",
+         "The drive is not running; the axis goes there when it does.\n");
     bus().clearReceived();
     failed(onDrive({"setpoint", "1", "--incremental"}), HasSubstr("would be 536870912, beyond the 30 bits"));
     EXPECT_THAT(sent(), Not(Contains("822600000001")));
 
-    bus().withDrive(DriveAddress, [](sim::VirtualDrive &drive) { drive.refuseWrites(551); });
+    refuseWrites(551);
     failed(onDrive({"setpoint", "5"}), HasSubstr("did not take it: its setpoint in use is 536870911."));
 }
 
 TEST_F(CliMotion, ClearFaultsTellsWhichOnesStay)
 {
-    bus().set(DriveAddress, Faults, TrackingFault);
+    bus().set(DriveAddress, faultRegister, trackingFault);
     good(onDrive({"clear-faults"}));
-    EXPECT_EQ(bus().read(DriveAddress, Faults), 0);
+    EXPECT_EQ(bus().read(DriveAddress, faultRegister), 0);
 
-    bus().set(DriveAddress, Temperature, 120);
-    ASSERT_TRUE(bus().waitForRegister(DriveAddress, Faults, OverTemperature));
+    bus().set(DriveAddress, temperature, 120);
+    ASSERT_TRUE(bus().waitForRegister(DriveAddress, faultRegister, overTemperature));
     failed(onDrive({"clear-faults"}), "Still active: Over temperature.\n");
 }
 
 TEST_F(CliMotion, HomingRunsToItsEnd)
 {
-    bus().set(DriveAddress, HomingSettings, 0x80); // to the stop pin
-    bus().set(DriveAddress, HomingVelocity, 4000);
+    bus().set(DriveAddress, homingSettings, 0x80); // to the stop pin
+    bus().set(DriveAddress, homingVelocity, 4000);
     failed(onDrive({"home"}), HasSubstr("not enabled, so it was not asked to home.\nReason for inactivity: "));
-    EXPECT_EQ(bus().read(DriveAddress, Status) & Homing, 0);
+    EXPECT_EQ(bus().read(DriveAddress, statusRegister) & homing, 0);
 
-    enableByHand();
+    ASSERT_TRUE(enableByHand());
     good(onDrive({"home"}), StartsWith("running\t0\t"));
     EXPECT_THAT(sent(), Contains("9d6c00000001"));
     EXPECT_THAT(sent(), Not(Contains("9d6c00000000")));
 
-    bus().set(DriveAddress, HomingSettings, 0);
+    bus().set(DriveAddress, homingSettings, 0);
     failed(onDrive({"home"}), HasSubstr("The drive did not start homing."));
 }
 
 TEST_F(CliMotion, HomingThatTakesTooLongOrIsInterruptedIsAborted)
 {
-    bus().set(DriveAddress, HomingSettings, 0x80);
-    bus().set(DriveAddress, HomingVelocity, 50);
-    enableByHand();
+    bus().set(DriveAddress, homingSettings, 0x80);
+    bus().set(DriveAddress, homingVelocity, 50);
+    ASSERT_TRUE(enableByHand());
     failed(onDrive({"home", "--time-out", "0.1"}), "Homing was aborted before it was done.\n");
-    EXPECT_EQ(bus().read(DriveAddress, Status) & Homing, 0);
+    EXPECT_EQ(bus().read(DriveAddress, statusRegister) & homing, 0);
     EXPECT_TRUE(isRunning()) << "the command had not enabled it";
 
-    bus().clearReceived();
-    QProcess process;
-    start(process, {"--port", port(), "--node", "5", "home"});
-    ASSERT_TRUE(waitForPayload(bus(), "9d6c00000001"));
-    sendSignal(process);
-    EXPECT_EQ(finish(process).status, 1);
-    EXPECT_THAT(sent(), Contains("9d6c00000000"));
-    EXPECT_EQ(bus().read(DriveAddress, Status) & Homing, 0);
-
-    bus().clearReceived();
-    bus().withDrive(DriveAddress, [](sim::VirtualDrive &drive) { drive.refuseWrites(7532, 0); });
-    // Time to interrupt it before a poll shows that it homes: what was polled before the abort must not count.
-    bus().setTurnAround(std::chrono::milliseconds(50));
-    start(process, {"--port", port(), "--node", "5", "home"});
-    ASSERT_TRUE(waitForPayload(bus(), "9d6c00000001"));
-    sendSignal(process);
-    EXPECT_THAT(finish(process).err.toStdString(), HasSubstr("has not confirmed that homing is aborted"));
+    for (const bool abortIsTaken : {true, false}) {
+        if (!abortIsTaken)
+            refuseWrites(7532, 0);
+        // Time to interrupt it before a poll shows that it homes: what was polled before the abort must not count.
+        bus().setTurnAround(std::chrono::milliseconds(abortIsTaken ? 0 : 50));
+        bus().clearReceived();
+        RunningOnDrive process({"home"});
+        ASSERT_TRUE(waitForPayload("9d6c00000001"));
+        sendSignal(process);
+        const Ran ran = finish(process);
+        EXPECT_NE(ran.status, 0);
+        EXPECT_EQ(ran.err.contains("has not confirmed that homing is aborted"), !abortIsTaken);
+        EXPECT_THAT(sent(), Contains("9d6c00000000"));
+        EXPECT_EQ(!(bus().read(DriveAddress, statusRegister) & homing), abortIsTaken);
+    }
 }

@@ -1,7 +1,7 @@
 // "status --watch": in a pipe, as JSON, on a terminal, and how it ends.
 #include "cliprocess.h"
 
-#include "pseudoterminal.h"
+#include "waitfor.h"
 
 #include <QElapsedTimer>
 #include <QJsonObject>
@@ -14,45 +14,36 @@ using testing::HasSubstr;
 
 namespace {
 
-class CliWatch : public CliFixture
+using CliWatch = CliFixture;
+
+/// Output until it holds `text` so many times.
+QByteArray readUntil(QProcess &process, const char *text, int times)
 {
-protected:
-    /// Output until it holds `text` so many times.
-    static QByteArray readUntil(QProcess &process, const char *text, int times)
-    {
-        QByteArray output;
-        while (output.count(text) < times && process.waitForReadyRead(20000))
-            output += process.readAllStandardOutput();
-        return output;
-    }
-    static QStringList watch(const QStringList &more = {})
-    {
-        return QStringList{"--port", port(), "--node", "5", "status", "--watch"} + more;
-    }
-};
+    QByteArray output;
+    while (output.count(text) < times && process.waitForReadyRead(20000))
+        output += process.readAllStandardOutput();
+    return output;
+}
 
 } // namespace
 
 TEST_F(CliWatch, PipeGetsBlocksThatABlankLineEnds)
 {
-    QProcess process;
-    start(process, watch());
+    RunningOnDrive process({"status", "--watch"});
     const QByteArray first = readUntil(process, "\n\n", 1);
     EXPECT_THAT(first.toStdString(), HasSubstr("HV bus voltage  48.0 VDC\n"));
     bus().set(DriveAddress, 950, 3600);
     const QByteArray later = readUntil(process, "\n\n", 2);
     EXPECT_THAT(later.toStdString(), HasSubstr("HV bus voltage  36.0 VDC\n"));
     sendSignal(process);
-    const Ran ran = good(finish(process));
-    EXPECT_EQ(ran.err, "");
+    good(finish(process), testing::_, "");
     for (const QString &block : QString::fromUtf8(first + later).split("\n\n", Qt::SkipEmptyParts))
         EXPECT_TRUE(block.startsWith("Connection\tConnected\n")) << block.toStdString();
 }
 
 TEST_F(CliWatch, JsonIsOneObjectALine)
 {
-    QProcess process;
-    start(process, watch({"--json"}));
+    RunningOnDrive process({"status", "--watch", "--json"});
     const QByteArray output = readUntil(process, "\n", 3);
     sendSignal(process, SIGTERM);
     EXPECT_EQ(finish(process).status, 0);
@@ -66,25 +57,16 @@ TEST_F(CliWatch, TerminalIsRedrawnInPlaceAndGivenBack)
     ASSERT_EQ(terminal.open(), "");
     QProcess process;
     process.setStandardOutputFile(QString::fromStdString(terminal.name()));
-    start(process, watch());
+    start(process, toDrive({"status", "--watch"}));
     std::string shown;
-    const auto draws = [&shown] {
-        int count = 0;
-        for (std::size_t at = shown.find("\x1b[H"); at != std::string::npos; at = shown.find("\x1b[H", at + 1))
-            ++count;
-        return count;
+    const auto take = [&] {
+        shown += shownOn(terminal);
+        return QString::fromStdString(shown).count("\x1b[H") >= 3; // draws
     };
-    const auto begin = std::chrono::steady_clock::now();
-    while (draws() < 3 && std::chrono::steady_clock::now() - begin < std::chrono::seconds(20)) {
-        for (const std::uint8_t byte : terminal.read())
-            shown.push_back(static_cast<char>(byte));
-        process.waitForFinished(20);
-    }
-    EXPECT_GE(draws(), 3);
+    EXPECT_TRUE(waitFor(take, 20000));
     sendSignal(process);
-    EXPECT_EQ(finish(process).status, 0);
-    for (const std::uint8_t byte : terminal.read())
-        shown.push_back(static_cast<char>(byte));
+    good(finish(process));
+    take();
     EXPECT_THAT(shown, HasSubstr("\x1b[?1049h\x1b[?25l"));
     EXPECT_THAT(shown, HasSubstr("\x1b[?25h\x1b[?1049l"));
 }
@@ -97,7 +79,7 @@ TEST_F(CliWatch, AReaderThatHasStoppedDoesNotKeepItFromEnding)
         fcntl(ends[0], F_SETPIPE_SZ, 4096); // a few reports fill it
         QProcess process;
         process.setStandardOutputFile(QString("/proc/%1/fd/%2").arg(getpid()).arg(ends[1]));
-        start(process, watch({"--json"}));
+        start(process, toDrive({"status", "--watch", "--json"}));
         int waiting = 0;
         for (int before = -1; before != waiting || waiting == 0;) {
             before = waiting;
@@ -119,8 +101,7 @@ TEST_F(CliWatch, AReaderThatHasStoppedDoesNotKeepItFromEnding)
 
 TEST_F(CliWatch, LostLineAndClosedPipeEndIt)
 {
-    QProcess process;
-    start(process, watch());
+    RunningOnDrive process({"status", "--watch"});
     readUntil(process, "\n\n", 1);
     bus().unplug();
     failed(finish(process), HasSubstr("The drive's state could not be read.\n"));
@@ -128,6 +109,6 @@ TEST_F(CliWatch, LostLineAndClosedPipeEndIt)
     ASSERT_EQ(bus().plugIn(), "");
     QProcess closed;
     closed.start("/bin/sh",
-                 {"-c", QString("'%1' %2 | head -1").arg(VELBRIN_BINARY_DIR "/bin/velbrin-cli", watch().join(' '))});
+                 {"-c", "'" VELBRIN_BINARY_DIR "/bin/velbrin-cli' --port COM1 --node 5 status --watch | head -1"});
     EXPECT_EQ(finish(closed).out, "Connection\tConnected\n");
 }

@@ -22,6 +22,7 @@
 /// it. A late reply comes in the middle of the time that it is waited for before anything is asked again.
 constexpr int shortTimeoutMs = 400;
 constexpr int tooLateMs = 600;
+constexpr int patientTimeoutMs = 4000; ///< where none is lost
 
 /// What a Connection has signalled, in order, as the user interface's thread receives it.
 struct SessionLog : QObject
@@ -37,7 +38,36 @@ struct SessionLog : QObject
         bool done, failed;
     };
 
-    explicit SessionLog(Connection &session);
+    explicit SessionLog(Connection &session)
+    {
+        const auto on = [&](auto signal, auto slot) { connect(&session, signal, this, slot, Qt::QueuedConnection); };
+        const auto keep = [&](auto signal, auto &list) { on(signal, [&list](const auto &value) { list << value; }); };
+        using C = Connection;
+        on(&C::statusChanged, [this](bool connected, QString text) { statuses << Status{connected, text}; });
+        on(&C::parametersRetreived, [this](Parameters all, bool file) { (file ? loaded : read) << all; });
+        on(&C::firmwareUpgradeMsg, [this](QString text, bool done, bool failed) {
+            upgrade << UpgradeMessage{text, done, failed};
+        });
+        on(&C::busy, [this](bool isBusy, bool) { busy << isBusy; });
+        on(&C::suggestDeviceRestart, [this] { ++restartSuggestions; });
+        on(&C::setUnsavedState, [this] { ++unsaved; });
+        keep(&C::error, errors);
+        keep(&C::availableBusNodes, nodes);
+        keep(&C::updateCaptureButtonText, captureButton);
+        keep(&C::plotReady, plots);
+        keep(&C::statusRegisterUpdated, statusPanels);
+        keep(&C::faultRegisterUpdated, faultPanels);
+        keep(&C::physInputsUpdated, inputPanels);
+        keep(&C::setpointChanged, setpoints);
+        keep(&C::controlModeChanged, controlModes);
+        keep(&C::disableAnswered, disables);
+        keep(&C::enableStatePolled, enabled);
+        keep(&C::message, messages);
+        keep(&C::statePolled, states);
+        keep(&C::captureStateChanged, captures);
+        keep(&C::disableFinished, outcomes);
+        keep(&C::driveParametersChanged, held);
+    }
 
     QList<Status> statuses;
     QStringList errors;
@@ -62,48 +92,6 @@ struct SessionLog : QObject
     int unsaved = 0;
 };
 
-inline SessionLog::SessionLog(Connection &s)
-{
-    const auto queued = Qt::QueuedConnection;
-    const auto keep = [&](auto signal, auto &list) {
-        connect(
-            &s, signal, this, [&list](const auto &value) { list << value; }, queued);
-    };
-    using C = Connection;
-    connect(
-        &s, &C::statusChanged, this,
-        [this](bool on, QString text) {
-            statuses << Status{on, text};
-        },
-        queued);
-    connect(
-        &s, &C::parametersRetreived, this, [this](Parameters p, bool file) { (file ? loaded : read) << p; }, queued);
-    const auto keepMessage = [this](QString t, bool done, bool failed) { upgrade << UpgradeMessage{t, done, failed}; };
-    connect(&s, &C::firmwareUpgradeMsg, this, keepMessage, queued);
-    connect(
-        &s, &C::busy, this, [this](bool on, bool) { busy << on; }, queued);
-    connect(
-        &s, &C::suggestDeviceRestart, this, [this] { ++restartSuggestions; }, queued);
-    connect(
-        &s, &C::setUnsavedState, this, [this] { ++unsaved; }, queued);
-    keep(&C::error, errors);
-    keep(&C::availableBusNodes, nodes);
-    keep(&C::updateCaptureButtonText, captureButton);
-    keep(&C::plotReady, plots);
-    keep(&C::statusRegisterUpdated, statusPanels);
-    keep(&C::faultRegisterUpdated, faultPanels);
-    keep(&C::physInputsUpdated, inputPanels);
-    keep(&C::setpointChanged, setpoints);
-    keep(&C::controlModeChanged, controlModes);
-    keep(&C::disableAnswered, disables);
-    keep(&C::enableStatePolled, enabled);
-    keep(&C::message, messages);
-    keep(&C::statePolled, states);
-    keep(&C::captureStateChanged, captures);
-    keep(&C::disableFinished, outcomes);
-    keep(&C::driveParametersChanged, held);
-}
-
 /// Runs the event loop until the condition holds; false when it did not within the limit.
 inline bool waitUntil(const std::function<bool()> &condition, int limitMs = 30000)
 {
@@ -116,17 +104,6 @@ inline bool waitUntil(const std::function<bool()> &condition, int limitMs = 3000
             return holds;
         QThread::msleep(1); // not every condition comes with an event of ours
     }
-}
-
-/// Payload in hexadecimal, e.g. "800f00000000" for register 15 := 0.
-inline std::string hex(const sim::Bytes &bytes)
-{
-    std::string text;
-    for (std::uint8_t byte : bytes) {
-        text += "0123456789abcdef"[byte >> 4];
-        text += "0123456789abcdef"[byte & 15];
-    }
-    return text;
 }
 
 /// "800a 400000" without the blanks that make it readable.
@@ -208,15 +185,38 @@ protected:
         session().command(Connection::TaskApplyEnableState);
     }
     void setFault(sim::LineFault::Kind kind) { bus().setFault({kind}); }
+    /// One reply goes wrong, late or at a byte that is there in all of them.
+    void spoil(sim::LineFault::Kind kind, int skip)
+    {
+        bus().setFault({kind, kind == sim::LineFault::Late ? tooLateMs : 4, skip, 1});
+    }
+    void repairLine()
+    {
+        bus().clearFaults();
+        if (!bus().isPluggedIn()) {
+            ASSERT_EQ(bus().plugIn(), "");
+        }
+    }
+    /// Waits for as many polls as that.
+    bool waitForPolls(int count)
+    {
+        const int before = log().statusPanels.size();
+        return waitUntil([=] { return log().statusPanels.size() >= before + count; });
+    }
+    /// Waits for what was told since the log of errors was cleared; it has to be one thing.
+    void expectToldOnce(MessageKind kind, const testing::Matcher<std::string> &text = testing::_,
+                        int line = __builtin_LINE())
+    {
+        EXPECT_TRUE(waitUntil([this] { return !log().errors.isEmpty(); })) << "line " << line;
+        ASSERT_THAT(log().errors, testing::SizeIs(1)) << "line " << line;
+        EXPECT_THAT(log().errors.first().toStdString(), text) << "line " << line;
+        EXPECT_EQ(log().messages.last().kind, kind) << "line " << line;
+    }
     /// How often a payload has arrived.
     int received(const std::string &payload)
     {
         const std::vector<std::string> all = payloads();
         return static_cast<int>(std::count(all.begin(), all.end(), payload));
-    }
-    bool waitForPayload(const std::string &payload)
-    {
-        return waitUntil([&] { return received(payload) > 0; });
     }
     /// A write that the drive refuses, as another master's: its bit stays in register 13.
     void leaveErrorBit()
@@ -253,13 +253,12 @@ protected:
     /// Payloads that arrived, without those of the periodic poll and the questions whether a write was refused.
     std::vector<std::string> payloads()
     {
-        std::vector<std::string> result;
-        for (const sim::ReceivedRequest &request : bus().received()) {
-            const std::string payload = hex(request.packet.payload);
-            const bool isPoll = payload.rfind("800a400000800940", 0) == 0 && payload.size() > 60;
-            if (!isPoll && payload != wire("800a 400000 8009 40000d"))
-                result.push_back(payload);
-        }
+        std::vector<std::string> result = payloadsOf(bus().received());
+        const auto isNoTopic = [](const std::string &payload) {
+            return (payload.rfind("800a400000800940", 0) == 0 && payload.size() > 60) ||
+                   payload == wire("800a 400000 8009 40000d");
+        };
+        result.erase(std::remove_if(result.begin(), result.end(), isNoTopic), result.end());
         return result;
     }
 
@@ -268,5 +267,44 @@ private:
     std::unique_ptr<SessionLog> m_log;
     int m_marks = 0;
 };
+
+/// Connected from the start, idle, and nothing of that among what has arrived. However busy the machine, no reply comes
+/// too late; who loses some on purpose reconnects impatiently.
+class ConnectedFixture : public SessionFixture
+{
+protected:
+    void SetUp() override
+    {
+        SessionFixture::SetUp();
+        session().setReplyTimeout(patientTimeoutMs);
+        ASSERT_TRUE(connectTo() && waitUntilIdle());
+        bus().clearReceived();
+    }
+};
+
+/// What a session can be busy with, from its begin.
+struct LongTask
+{
+    const char *name;
+    void (*begin)(Connection &);
+};
+inline void PrintTo(const LongTask &task, std::ostream *out)
+{
+    *out << task.name;
+}
+
+inline constexpr LongTask idle = {"Idle", [](Connection &) {}};
+inline constexpr LongTask fullRead = {"FullRead", [](Connection &session) { session.getParams(); }};
+inline constexpr LongTask fullWrite = {"FullWrite", [](Connection &s) { s.command(Connection::TaskSetParams); }};
+inline constexpr LongTask measuring = {"Measuring", [](Connection &s) { s.command(Connection::TaskMeasure); }};
+inline constexpr LongTask stream = {"Stream", [](Connection &s) { s.setStimulus(100, 0.1, -100, 0.1, true); }};
+inline constexpr LongTask capture = {"Capture", [](Connection &session) {
+                                         session.setupCapture(20000, 3, {true, true, true});
+                                         session.command(Connection::TaskInitScope);
+                                     }};
+inline constexpr LongTask download = {"Download", [](Connection &session) {
+                                          capture.begin(session);
+                                          session.command(Connection::TaskDownloadScope);
+                                      }};
 
 #endif

@@ -10,6 +10,8 @@
 
 #include <QSignalSpy>
 
+using testing::ElementsAre;
+using testing::SizeIs;
 using Fault = sim::LineFault;
 
 namespace {
@@ -32,12 +34,25 @@ protected:
     }
     int received(const std::string &payloadStart)
     {
-        const auto all = bus().received();
-        return static_cast<int>(std::count_if(all.begin(), all.end(), [&](const sim::ReceivedRequest &request) {
-            return hex(request.packet.payload).rfind(payloadStart, 0) == 0;
-        }));
+        int count = 0;
+        for (const std::string &payload : payloadsOf(bus().received()))
+            count += payload.rfind(payloadStart, 0) == 0;
+        return count;
     }
     void setFault(Fault fault) { bus().setFault(fault); }
+    void beginTask()
+    {
+        with.line.clearStatus();
+        with.line.startTask();
+    }
+    /// What was told since the last look.
+    std::vector<MessageKind> told()
+    {
+        std::vector<MessageKind> kinds;
+        while (!messages.isEmpty())
+            kinds.push_back((last = messages.takeFirst().at(0).value<Message>()).kind);
+        return kinds;
+    }
     void askToDisable()
     {
         QueuedTask disable;
@@ -48,6 +63,8 @@ protected:
     SessionData data;
     TaskQueue queue;
     SessionEvents out;
+    QSignalSpy messages{&out, &SessionEvents::message};
+    Message last;
     OperationContext with{data, queue, out};
     StatusMonitor monitor{with};
     StopService stops{with, [this] { return monitor.poll(); }};
@@ -60,16 +77,11 @@ protected:
 TEST_F(Operations, NothingIsForcedBehindAnEnableThatFailedOrPastADisable)
 {
     const std::string refused = "refused";
-    const struct
-    {
-        std::string name;
-        std::function<void()> prepare;
-        int forced;
-    } cases[] = {
+    const std::tuple<std::string, std::function<void()>, int> cases[] = {
         {"well", [] {}, 1},
         {"lost",
          [this] {
-             setFault({Fault::Missing, 0, 0, 1});
+             setFault(Fault{Fault::Missing, 0, 0, 1});
          },
          0},
         {refused, [this] { bus().withDrive(5, [](sim::VirtualDrive &drive) { drive.refuseWrites(2533, 1); }); }, 0},
@@ -81,42 +93,37 @@ TEST_F(Operations, NothingIsForcedBehindAnEnableThatFailedOrPastADisable)
          },
          0},
     };
-    for (const auto &c : cases) {
+    for (const auto &[name, prepare, forced] : cases) {
         bus().clearFaults();
         bus().withDrive(5, [](sim::VirtualDrive &drive) { drive.acceptWrites(); });
         bus().clearReceived();
-        c.prepare();
+        prepare();
         commands.applyEnableState({true, true});
-        EXPECT_EQ(received(enables), 1) << c.name;
-        EXPECT_EQ(received(disables) > 0, c.forced == 0 && c.name != refused) << c.name;
-        EXPECT_EQ(received("89e600"), c.forced) << c.name;
-        with.line.clearStatus();
-        with.line.startTask();
+        EXPECT_EQ(received(enables), 1) << name;
+        EXPECT_EQ(received(disables) > 0, forced == 0 && name != refused) << name;
+        EXPECT_EQ(received("89e600"), forced) << name;
+        beginTask();
         bus().withDrive(5, [](sim::VirtualDrive &drive) { drive.write(2533, 0); });
     }
 }
 
 TEST_F(Operations, AnEnableThatWasUndoneLeavesNoRefusalForTheNextOne)
 {
-    QSignalSpy messages(&out, &SessionEvents::message);
     setFault({Fault::Missing, 0, 0, 1});
     commands.applyEnableState({true, false}); // taken back also by 2534 := 0, which a drive that was not forced refuses
     commands.applyEnableState({true, false});
-    ASSERT_EQ(messages.count(), 1);
-    EXPECT_EQ(messages.at(0).at(0).value<Message>().kind, MessageKind::Undone);
+    EXPECT_THAT(told(), ElementsAre(MessageKind::Undone));
     EXPECT_EQ(bus().read(5, 2533), 1);
 }
 
 TEST_F(Operations, ADisableInsideTheUndoingOfAnEnableLeavesThatAStop)
 {
-    QSignalSpy messages(&out, &SessionEvents::message);
     // The enable, what is read after both disables, and the disable that is served before that is read again: three
     // failures in a row, after which only a stop is still sent.
     bus().setFaults({{Fault::Missing, 0, 0, 1}, {Fault::Missing, 0, 1, 1}, {Fault::Missing, 0, 0, 1}});
     askToDisable();
     commands.applyEnableState({true, false});
-    ASSERT_EQ(messages.count(), 1);
-    EXPECT_EQ(messages.at(0).at(0).value<Message>().kind, MessageKind::Undone) << "it was seen to be disabled";
+    EXPECT_THAT(told(), ElementsAre(MessageKind::Undone)) << "it was seen to be disabled";
     EXPECT_EQ(received(disables), 3) << "with 2534 := 0, then the one that was asked for, twice";
 }
 
@@ -128,15 +135,13 @@ TEST_F(Operations, APollWithoutAGoodReplyCountsForNothing)
     bus().withDrive(5, [](sim::VirtualDrive &drive) { drive.write(2533, 1); });
     for (Fault::Kind kind : {Fault::Cut, Fault::Missing, Fault::Flip}) {
         setFault({kind, 9, 0, Fault::unlimited});
-        with.line.startTask();
-        with.line.clearStatus();
+        beginTask();
         EXPECT_FALSE(monitor.poll()) << Fault::name(kind);
         EXPECT_EQ(monitor.state().sequence, before.sequence);
     }
     EXPECT_EQ(enabled.count() + panels.count(), 0) << "its zeros would mean: not enabled";
     bus().clearFaults();
-    with.line.startTask();
-    with.line.clearStatus();
+    beginTask();
     EXPECT_TRUE(monitor.poll());
     EXPECT_EQ(monitor.state().sequence, before.sequence + 1);
 }
@@ -203,15 +208,13 @@ TEST_F(Operations, OnlyTheIdentityIsReadFromABootloader)
 
 TEST_F(Operations, WithTheLatchSetEveryTaskEndsWithAQuestionForErrors)
 {
-    QSignalSpy messages(&out, &SessionEvents::message);
     bus().withDrive(5, [](sim::VirtualDrive &drive) { drive.write(6020, 1); }); // refused: its bit stays
     with.errors.finishTask();
     EXPECT_EQ(bus().received().size(), 0u);
     with.errors.setLatch(true);
     with.errors.finishTask();
     EXPECT_EQ(bus().received().size(), 1u);
-    ASSERT_EQ(messages.count(), 1);
-    EXPECT_EQ(messages.at(0).at(0).value<Message>().kind, MessageKind::Refused);
+    EXPECT_THAT(told(), ElementsAre(MessageKind::Refused));
     EXPECT_TRUE(queue.isEmpty()) << "a refusal is an answer: the connection goes on";
 }
 
@@ -230,21 +233,18 @@ TEST_F(Operations, AStreamIsSetUpOnceInAConnection)
     setFault({Fault::Deaf});
     EXPECT_FALSE(stream.stop());
     EXPECT_EQ(stream.state(), Stream::Running) << "as far as anybody knows";
-    QSignalSpy messages(&out, &SessionEvents::message);
     with.errors.finishTask();
-    ASSERT_EQ(messages.count(), 1) << "the only one about a stop that is tried again and may fail again";
-    const QString told = messages.at(0).at(0).value<Message>().text;
-    EXPECT_TRUE(told.startsWith("<b>The drive may still be powered.</b>") &&
-                told.contains("The test stimulus was running"))
-        << qPrintable(told);
+    EXPECT_THAT(told(), SizeIs(1)) << "the only one about a stop that is tried again and may fail again";
+    EXPECT_TRUE(last.text.startsWith("<b>The drive may still be powered.</b>") &&
+                last.text.contains("The test stimulus was running"))
+        << qPrintable(last.text);
     stream.reset();
     EXPECT_EQ(stream.state(), Stream::Fresh);
     EXPECT_FALSE(data.stimulusIsActive());
 
     // A disable that waits comes before its first setpoint, and ends it.
     bus().clearFaults();
-    with.line.clearStatus();
-    with.line.startTask();
+    beginTask();
     bus().clearReceived();
     data.stimulus.set(100, 1, 0, 1, true);
     askToDisable();
@@ -256,18 +256,15 @@ TEST_F(Operations, AStreamIsSetUpOnceInAConnection)
 TEST_F(Operations, AFullReadOnADamagedLineSucceeds)
 {
     // One reply in a hundred damaged, in thirty reads: each of the about two thousand replies has its chance.
-    bus().setFaults([] {
-        std::vector<Fault> faults;
-        std::minstd_rand random(7);
-        for (int i = 0; i < 400; ++i)
-            faults.push_back({i % 8 ? Fault::Flip : Fault::Cut, 5, static_cast<int>(random() % 199), 1});
-        return faults;
-    }());
+    std::vector<Fault> faults;
+    std::minstd_rand random(7);
+    for (int i = 0; i < 400; ++i)
+        faults.push_back({i % 8 ? Fault::Flip : Fault::Cut, 5, static_cast<int>(random() % 199), 1});
+    bus().setFaults(faults);
     ParameterTransfer transfer(with);
     QSignalSpy read(&out, &SessionEvents::parametersRetreived);
     for (int i = 0; i < 30; ++i) {
-        with.line.startTask();
-        with.line.clearStatus();
+        beginTask();
         transfer.getParams();
     }
     EXPECT_GE(read.count(), 29);

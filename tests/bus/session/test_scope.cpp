@@ -3,6 +3,7 @@
 
 using testing::ElementsAre;
 using testing::SizeIs;
+using Fault = sim::LineFault;
 
 namespace {
 
@@ -11,21 +12,14 @@ constexpr int captureAtOnce = 3, captureOnFault = 2;                    // rows 
 
 const std::string selectMemory = wire("800a 400001 8009 4014d6 94d5");
 
-class Scope : public SessionFixture
+class Scope : public ConnectedFixture
 {
 protected:
-    void SetUp() override
-    {
-        SessionFixture::SetUp();
-        ASSERT_TRUE(connectTo());
-        ASSERT_TRUE(waitUntilIdle());
-        bus().clearReceived();
-    }
     static QList<bool> selection(std::initializer_list<int> channels)
     {
-        QList<bool> selected;
-        for (int i = 0; i < 16; ++i)
-            selected << (std::find(channels.begin(), channels.end(), i) != channels.end());
+        QList<bool> selected(16, false);
+        for (int channel : channels)
+            selected[channel] = true;
         return selected;
     }
     void arm(double rate, int trigger, const QList<bool> &selected)
@@ -106,14 +100,13 @@ TEST_F(Scope, PutsEveryWordIntoItsChannelAtItsTime)
 
 TEST_F(Scope, OneBadReplyOfADownloadChangesNoWord)
 {
-    using F = sim::LineFault;
     ASSERT_TRUE(reconnectImpatiently());
     arm(20000, captureAtOnce, selection({torqueSetpoint, busVoltage}));
     ASSERT_TRUE(waitForPlot());
     const auto whole = log().plots.last()[busVoltage].samples;
-    for (F::Kind kind : {F::Twice, F::Flip, F::Missing, F::Late}) {
+    for (Fault::Kind kind : {Fault::Twice, Fault::Flip, Fault::Missing, Fault::Late}) {
         ASSERT_TRUE(waitUntilIdle());
-        bus().setFault({kind, kind == F::Late ? tooLateMs : 9, 10, 1});
+        spoil(kind, 10);
         log().plots.clear();
         session().command(Connection::TaskDownloadScope);
         ASSERT_TRUE(waitForPlot()) << kind;
@@ -124,6 +117,7 @@ TEST_F(Scope, OneBadReplyOfADownloadChangesNoWord)
 
 TEST_F(Scope, ADownloadIsNotBelievedWhenThePollBehindItFails)
 {
+    ASSERT_TRUE(reconnectImpatiently());
     arm(20000, captureAtOnce, selection({busVoltage}));
     ASSERT_TRUE(waitForPlot());
     log().plots.clear();
@@ -131,11 +125,10 @@ TEST_F(Scope, ADownloadIsNotBelievedWhenThePollBehindItFails)
     bus().setTurnAround(std::chrono::milliseconds(5));
     bus().clearReceived();
     session().command(Connection::TaskDownloadScope);
-    ASSERT_TRUE(waitUntil([this] {
-        const std::vector<std::string> sent = payloads();
-        return !sent.empty() && sent.back().rfind("4007a8", 0) == 0; // the last forty words
+    ASSERT_TRUE(bus().waitForReceived([](const sim::ReceivedRequests &all) {
+        return !all.empty() && hex(all.back().packet.payload).rfind("4007a8", 0) == 0; // the last forty words
     }));
-    setFault(sim::LineFault::Cut);
+    setFault(Fault::Cut);
     ASSERT_TRUE(waitForDisconnect());
     EXPECT_TRUE(log().plots.isEmpty());
     EXPECT_EQ(log().captures.last(), CaptureState::Idle);
@@ -153,7 +146,7 @@ TEST_F(Scope, WithoutAChannelNothingIsSent)
 TEST_F(Scope, ACaptureThatNeverTriggersWaitsUntilItIsArmedAnewOrLeft)
 {
     arm(20000, captureOnFault, selection({busVoltage}));
-    ASSERT_TRUE(waitUntil([this] { return log().statusPanels.size() > 2; }));
+    ASSERT_TRUE(waitForPolls(3));
     EXPECT_EQ(log().captureButton.last(), "Scope waiting..");
     arm(20000, captureAtOnce, selection({busVoltage}));
     ASSERT_TRUE(waitForPlot());
@@ -208,8 +201,7 @@ TEST_F(Scope, ADisableInsideADownloadIsFollowedByTheSetUpAgain)
                    return request.packet.payload.size() == 120;
                }) > 3;
     }));
-    session().setDriveEnableStatus(false);
-    session().command(Connection::TaskApplyEnableState);
+    disable();
     ASSERT_TRUE(waitForPlot());
     const std::vector<std::string> sent = payloads();
     const auto disable = std::find(sent.begin(), sent.end(), wire("89e5 00000000"));

@@ -7,16 +7,9 @@ namespace {
 
 const std::string readFree = wire("800a 400000 8009 400006");
 
-class Stimulus : public SessionFixture
+class Stimulus : public ConnectedFixture
 {
 protected:
-    void SetUp() override
-    {
-        SessionFixture::SetUp();
-        ASSERT_TRUE(connectTo());
-        ASSERT_TRUE(waitUntilIdle());
-        bus().clearReceived();
-    }
     void start() { session().setStimulus(100, 0.11, -3.7, 10, true); }
     /// Chunks of the first run: up to the reading of the clock, which ends each.
     std::vector<std::string> uploads()
@@ -30,12 +23,7 @@ protected:
         }
         return result;
     }
-    bool waitForClock()
-    {
-        return bus().waitForReceived([](const sim::ReceivedRequests &all) {
-            return std::any_of(all.begin(), all.end(), [](const auto &request) { return request.packet.id == 80; });
-        });
-    }
+    bool waitForClock() { return waitForPackets(80); }
 };
 
 } // namespace
@@ -70,8 +58,7 @@ TEST_F(Stimulus, ANewConnectionBeginsAnewAndDoesNotMoveByItself)
     EXPECT_EQ(sent.back(), wire("800f 00000000"));
 
     ASSERT_TRUE(connectTo());
-    const int before = log().statusPanels.size();
-    ASSERT_TRUE(waitUntil([&] { return log().statusPanels.size() > before + 1; }));
+    ASSERT_TRUE(waitForPolls(2));
     EXPECT_THAT(uploads(), SizeIs(0)) << "it does not move by itself";
     bus().clearReceived();
     start();
@@ -91,10 +78,8 @@ TEST_F(Stimulus, ADisableAndARestartEndItForGood)
             disable(); // as a program without a window does it
         ASSERT_TRUE(waitUntilIdle());
         bus().clearReceived();
-        const int before = log().statusPanels.size();
-        ASSERT_TRUE(waitUntil([&] { return log().statusPanels.size() > before + 2; }));
-        for (const sim::ReceivedRequest &request : bus().received())
-            EXPECT_NE(request.packet.id, 52);
+        ASSERT_TRUE(waitForPolls(3));
+        EXPECT_EQ(packetsIn(bus().received(), 52), 0);
         EXPECT_EQ(bus().read(5, 6), 2048) << "nothing waits in the drive for the next enable";
         EXPECT_TRUE(log().errors.isEmpty());
     }
@@ -102,12 +87,10 @@ TEST_F(Stimulus, ADisableAndARestartEndItForGood)
 
 TEST_F(Stimulus, NeverRunsDryBesidePollsAndACapture)
 {
-    session().setDriveEnableStatus(true);
-    session().command(Connection::TaskApplyEnableState);
+    enable();
     session().setStimulus(100, 0.5, -100, 0.5, true);
     ASSERT_TRUE(waitForClock());
-    session().setupCapture(20000, 3, {true, true, true});
-    session().command(Connection::TaskInitScope);
+    capture.begin(session());
     int most = 0;
     bool up = false, down = false;
     // Longer than the five seconds that the buffer holds.

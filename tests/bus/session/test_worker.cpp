@@ -7,55 +7,16 @@ using testing::HasSubstr;
 namespace {
 
 const std::string disableWrite = "89e500000000"; // register 2533 := 0
-const std::string enableWrite = "89e500000001";
 
 class Worker : public SessionFixture
 {
-protected:
-    /// Requests between the moment of asking and the disable on the line.
-    int requestsBeforeDisable(std::size_t asked)
-    {
-        EXPECT_TRUE(waitUntil([this] { return !log().disables.isEmpty(); }));
-        const std::vector<std::string> sent = allPayloads();
-        const auto found = std::find(sent.begin(), sent.end(), disableWrite);
-        EXPECT_NE(found, sent.end());
-        return static_cast<int>(found - sent.begin()) - static_cast<int>(asked);
-    }
-    std::vector<std::string> allPayloads()
-    {
-        std::vector<std::string> result;
-        for (const sim::ReceivedRequest &request : bus().received())
-            result.push_back(hex(request.packet.payload));
-        return result;
-    }
 };
 
-struct LongTask
-{
-    const char *name;
-    void (*begin)(Connection &);
-};
-
-void PrintTo(const LongTask &task, std::ostream *out)
-{
-    *out << task.name;
-}
-
-const LongTask longTasks[] = {
-    {"FullRead", [](Connection &session) { session.getParams(); }},
-    {"FullWrite", [](Connection &session) { session.command(Connection::TaskSetParams); }},
-    {"Download",
-     [](Connection &session) {
-         session.setupCapture(20000, 3, {true});
-         session.command(Connection::TaskInitScope);
-         session.command(Connection::TaskDownloadScope);
-     }},
-    {"Stream", [](Connection &session) { session.setStimulus(100, 0.1, -100, 0.1, true); }},
-};
+const LongTask longTasks[] = {fullRead, fullWrite, download, stream};
 
 const LongTask waitingTasks[] = {
-    {"Idle", [](Connection &) {}},
-    {"Measuring", [](Connection &session) { session.command(Connection::TaskMeasure); }},
+    idle,
+    measuring,
     {"Restarting", [](Connection &session) { session.command(Connection::TaskRestartDrive); }},
     {"Scanning",
      [](Connection &session) {
@@ -69,11 +30,11 @@ std::string nameOf(const testing::TestParamInfo<LongTask> &info)
     return info.param.name;
 }
 
-class DuringATask : public Worker, public testing::WithParamInterface<LongTask>
+class DuringATask : public SessionFixture, public testing::WithParamInterface<LongTask>
 {
 };
 
-class EndingATask : public Worker, public testing::WithParamInterface<LongTask>
+class EndingATask : public SessionFixture, public testing::WithParamInterface<LongTask>
 {
 };
 
@@ -108,17 +69,19 @@ TEST_F(Worker, SettersAndCommandsReturnAtOnceWhileTheDriveAnswersNothing)
 
 TEST_P(DuringATask, ADisableIsTheNextThingOnTheLine)
 {
-    ASSERT_TRUE(connectTo());
-    ASSERT_TRUE(readAll());
+    session().setReplyTimeout(patientTimeoutMs);
+    ASSERT_TRUE(connectTo() && readAll());
     bus().setTurnAround(std::chrono::milliseconds(3));
     bus().clearReceived();
     GetParam().begin(session());
     ASSERT_TRUE(waitForRequests(6));
     disable();
     const std::size_t asked = bus().received().size();
-    // What was on its way when it was asked for, and with a time-out's luck one more.
-    EXPECT_LE(requestsBeforeDisable(asked), 2);
+    ASSERT_TRUE(waitUntil([this] { return !log().disables.isEmpty(); }));
     EXPECT_TRUE(log().disables.first());
+    // What was on its way when it was asked for, and with a time-out's luck one more.
+    const std::vector<std::string> sent = payloadsOf(bus().received());
+    EXPECT_LE(std::find(sent.begin(), sent.end(), disableWrite) - sent.begin(), asked + 2);
     ASSERT_TRUE(waitUntil([this] { return !log().enabled.isEmpty() && !log().enabled.last(); }));
     EXPECT_TRUE(log().errors.isEmpty());
 }
@@ -139,10 +102,9 @@ TEST_F(Worker, ADisableThatNothingAcknowledgesIsSentThreeTimesAndTold)
     EXPECT_THAT(log().disables, testing::ElementsAre(false));
     EXPECT_EQ(bus().read(5, 2533), 1);
     EXPECT_EQ(received(disableWrite), 3);
-    ASSERT_TRUE(waitUntil([this] { return log().errors.size() == 1; }));
-    EXPECT_EQ(log().messages.last().kind, MessageKind::UnconfirmedStop);
-    EXPECT_TRUE(log().errors.last().startsWith("<b>The drive may still be powered.</b> Esc tries to disable it; the "
-                                               "sure way is the machine's own stop.<br>"));
+    expectToldOnce(MessageKind::UnconfirmedStop,
+                   testing::StartsWith("<b>The drive may still be powered.</b> Esc tries to disable it; the "
+                                       "sure way is the machine's own stop.<br>"));
 }
 
 TEST_F(Worker, ADisableIsSentAlsoWhereTheLineCountsAsDead)
@@ -151,29 +113,23 @@ TEST_F(Worker, ADisableIsSentAlsoWhereTheLineCountsAsDead)
     ASSERT_TRUE(connectTo());
     bus().setTurnAround(std::chrono::milliseconds(50));
     session().setStimulus(100, 1, -100, 1, true);
-    const auto uploads = [](std::size_t least) {
-        return [least](const sim::ReceivedRequests &all) {
-            const auto isUpload = [](const sim::ReceivedRequest &request) { return request.packet.id == 52; };
-            return std::count_if(all.begin(), all.end(), isUpload) >= static_cast<long>(least);
-        };
-    };
-    ASSERT_TRUE(bus().waitForReceived(uploads(1)));
+    constexpr int upload = 52;
+    ASSERT_TRUE(waitForPackets(upload));
     setFault(sim::LineFault::Deaf);
     bus().clearReceived();
-    ASSERT_TRUE(bus().waitForReceived(uploads(3))); // the last that this task sends
+    ASSERT_TRUE(waitForPackets(upload, 3)); // the last that this task sends
     disable();
     bus().clearFaults();
     ASSERT_TRUE(waitForDisconnect());
     EXPECT_THAT(log().disables, testing::ElementsAre(true));
     EXPECT_EQ(received(disableWrite), 1);
-    EXPECT_FALSE(uploads(4)(bus().received())) << "and the task is still over";
+    EXPECT_EQ(packetsIn(bus().received(), upload), 3) << "and the task is still over";
 }
 
 TEST_F(Worker, ALateReplyToSomethingElseDoesNotAcknowledgeADisable)
 {
     session().setReplyTimeout(shortTimeoutMs);
-    ASSERT_TRUE(connectTo());
-    ASSERT_TRUE(waitUntilIdle());
+    ASSERT_TRUE(connectTo() && waitUntilIdle());
     bus().setFaults({{sim::LineFault::Late, tooLateMs, 0, 1}, {sim::LineFault::Deaf}});
     bus().clearReceived();
     ASSERT_TRUE(waitForRequests(1)); // a poll
@@ -284,8 +240,7 @@ TEST_F(Worker, ClosingOnABabblingLineEndsInTime)
 
 TEST_F(Worker, LeavingCarriesOutWhatWasChosenOnTheWayOut)
 {
-    ASSERT_TRUE(connectTo());
-    ASSERT_TRUE(readAll());
+    ASSERT_TRUE(connectTo() && readAll());
     session().setParams(with({{"KVP", 432}}));
     session().getParams();
     session().command(Connection::TaskSetParams);
@@ -298,8 +253,7 @@ TEST_F(Worker, LeavingCarriesOutWhatWasChosenOnTheWayOut)
 
 TEST_F(Worker, SettingsTravelThroughAFile)
 {
-    ASSERT_TRUE(connectTo());
-    ASSERT_TRUE(readAll());
+    ASSERT_TRUE(connectTo() && readAll());
     session().setParams(with({{"KVP", 123}}));
     session().setSettingsFileName("saved.drc");
     session().command(Connection::TaskSaveSettingsFile);
