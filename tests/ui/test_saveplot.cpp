@@ -17,10 +17,8 @@ protected:
     void save(const QString &name)
     {
         if (QFileInfo::exists(name)) {
-            m_answers.expect([name](QWidget *dialog) {
-                qobject_cast<QFileDialog *>(dialog)->selectFile(name);
-                return QMetaObject::invokeMethod(dialog, "accept", Qt::QueuedConnection); // which asks
-            });
+            m_answers.expect(
+                [name](QWidget *dialog) { return Answerer::answerFileDialog(dialog, name, Qt::QueuedConnection); });
             m_answers.press("Yes"); // replace it
         } else {
             m_answers.chooseFile(name);

@@ -93,11 +93,8 @@ public:
     /// Whatever is open is handed to `action`.
     void expect(const std::function<bool(QWidget *)> &action) { m_expected << action; }
 
-    bool isDone() const { return m_expected.isEmpty(); }
-    QStringList texts; ///< of all message boxes that were open, in order
-
-private:
-    static bool answerFileDialog(QWidget *widget, const QString &file)
+    /// Queued, where accepting asks another question first.
+    static bool answerFileDialog(QWidget *widget, const QString &file, Qt::ConnectionType how = Qt::AutoConnection)
     {
         auto *dialog = qobject_cast<QFileDialog *>(widget);
         if (!dialog)
@@ -107,8 +104,12 @@ private:
         dialog->selectFile(file);
         if (auto *name = dialog->findChild<QLineEdit *>("fileNameEdit")) // unset while the folder is being read
             name->setText(file);
-        return QMetaObject::invokeMethod(dialog, "accept");
+        return QMetaObject::invokeMethod(dialog, "accept", how);
     }
+    bool isDone() const { return m_expected.isEmpty(); }
+    QStringList texts; ///< of all message boxes that were open, in order
+
+private:
     void look()
     {
         QWidget *open = QApplication::activeModalWidget();

@@ -43,7 +43,7 @@ void withoutDriverTalk(QtMsgType type, const QMessageLogContext &context, const 
 {
     for (const char *known :
          {"QXcbIntegration: Cannot create platform OpenGL context", "No suitable graphics backend found"}) {
-        if (text.startsWith(QLatin1String(known)))
+        if (type == QtWarningMsg && text.startsWith(QLatin1String(known)))
             return;
     }
     otherMessages(type, context, text);
@@ -51,7 +51,7 @@ void withoutDriverTalk(QtMsgType type, const QMessageLogContext &context, const 
 
 void keepQuietAboutDriver()
 {
-    QLoggingCategory::setFilterRules(QStringLiteral("qt.webenginecontext=false"));
+    QLoggingCategory::setFilterRules(QStringLiteral("qt.webenginecontext.info=false\nqt.webenginecontext.debug=false"));
     if (!otherMessages)
         otherMessages = qInstallMessageHandler(withoutDriverTalk);
 }

@@ -88,13 +88,16 @@ QJsonValue overlay(const KeptCapture *under, const KeptCapture &shown)
 QJsonArray lines(const QList<FigureLine> &figures)
 {
     QJsonArray list;
-    for (const FigureLine &line : figures)
-        list.append(QJsonObject{{QStringLiteral("caption"), line.caption},
+    for (const FigureLine &line : figures) {
+        // The one line of a refusal stands under a heading that says the same as its caption.
+        const bool isRefusal = line.name == QLatin1String("stepFigures");
+        list.append(QJsonObject{{QStringLiteral("caption"), isRefusal ? QString() : line.caption},
                                 {QStringLiteral("value"), line.value},
                                 {QStringLiteral("isDefined"), line.isDefined},
                                 {QStringLiteral("number"), line.number},
                                 {QStringLiteral("unit"), line.channelUnit},
                                 {QStringLiteral("brief"), briefCaption(line.name)}});
+    }
     return list;
 }
 

@@ -63,7 +63,6 @@ void MW::connectPages()
     });
     connect(m_parameters, &ParameterPages::bootloaderRead, m_connectPage, &ConnectPage::showBootloader);
     connect(m_connectPage, &ConnectPage::searching, statusBar(), &QStatusBar::clearMessage);
-    connect(m_connectPage, &ConnectPage::leaving, statusBar(), &QStatusBar::clearMessage);
     connect(m_connectPage, &ConnectPage::leaving, m_testing, &TestingPage::stopStimulus);
     connect(m_connectPage, &ConnectPage::connecting, this, [this](int address) {
         m_board->connectingTo(address);

@@ -156,6 +156,7 @@ TEST_F(VelbrinSim, WhatItCannotDoEndsWithItsStatusAndAWord)
     const std::string port = running.line();
     const std::tuple<QStringList, int, std::string> rows[] = {
         {{"--help"}, 0, "Usage"},
+        {{"--version"}, 0, "velbrin-sim "},
         {{"--drive", "toaster"}, 2, "toaster"},
         {{"--state", "broken.state"}, 1, "broken.state"},
         {{"--set", "9999=1"}, 1, "9999"},

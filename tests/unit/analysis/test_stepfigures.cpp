@@ -133,7 +133,10 @@ TEST(StepFigures, WhatIsNoStepHasNoNumbers)
         for (const char *name : {"riseTime", "timeTo90", "overshoot", "settlingTime", "peakError", "rmsError",
                                  "timeInCurrentLimit", "ringing", "ringingResolution"})
             EXPECT_TRUE(json.contains(name) && json.value(name).isNull()) << name;
+        EXPECT_EQ(figureLines(stepFigures(record)).size(), 9);
+        EXPECT_EQ(figureLines(stepFigures(record), Reasons::Once).size(), 1) << "for people";
     }
+    EXPECT_EQ(figureLines(stepFigures(back), Reasons::Once).size(), 9);
     const StepFigures returned = stepFigures(back);
     EXPECT_TRUE(returned.peakError.value && returned.timeInCurrentLimit.value);
     EXPECT_FALSE(returned.riseTime.value || returned.overshoot.value || returned.settlingTime.value);

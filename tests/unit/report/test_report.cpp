@@ -95,7 +95,8 @@ TEST(ReportPage, MarksWhatDiffersAndKeepsTextsFromActing)
     const std::string text = page.toStdString();
     EXPECT_EQ(page.count("<tr class=\"differs\">"), 2);
     for (const char *part :
-         {"Control mode: Torque control (new drive: Position control)", "Motor type: 3 phase AC or BLDC<",
+         {"<html lang=\"en\">", "Control mode: Torque control (new drive: Position control)",
+          "Motor type: 3 phase AC or BLDC<",
           "<tr class=\"differs\"><th scope=\"row\">KVP</th><td class=\"value\">400</td>", "&lt;b&gt;loud"})
         EXPECT_THAT(text, HasSubstr(part));
     for (const char *never : {"<script", "<img", "<svg onload", "<b>", "href=", "TRF1"}) // the last: not on this model
