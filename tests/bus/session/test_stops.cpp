@@ -171,6 +171,20 @@ TEST_F(Stops, ADisableWithoutAConnectionSaysWhatTheDriveShows)
     EXPECT_TRUE(connectTo()) << "and the next connection works";
 }
 
+TEST_F(Stops, ADriveThatStaysEnabledIsNeverCalledDisabledWithAConnectionOrWithout)
+{
+    begin(true);
+    bus().withDrive(5, [](sim::VirtualDrive &drive) { drive.refuseWrites(2533, 0); });
+    EXPECT_EQ(outcomeOfADisable(), DisableOutcome::StillEnabled);
+    ASSERT_TRUE(runToEnd(Connection::TaskDisconnect));
+    EXPECT_EQ(outcomeOfADisable(), DisableOutcome::StillEnabled);
+    ASSERT_TRUE(waitUntil([this] { return lastKind() == MessageKind::UnconfirmedStop; }));
+    EXPECT_THAT(log().errors.last().toStdString(), HasSubstr("answers, but shows that it is still enabled"));
+    EXPECT_TRUE(isEnabled());
+    bus().withDrive(5, [](sim::VirtualDrive &drive) { drive.acceptWrites(); });
+    EXPECT_EQ(outcomeOfADisable(), DisableOutcome::Disabled);
+}
+
 TEST_F(Stops, AnEnableThatCouldNotBeTakenBackIsTakenBackThroughANewOpeningOfThePort)
 {
     begin(false);
@@ -240,6 +254,7 @@ TEST_F(Stops, ADisableDoesNotWaitForTheEndOfASearch)
     EXPECT_EQ(outcomeOfADisable(), DisableOutcome::Disabled);
     const std::vector<std::string> sent = payloads();
     const auto served = std::find(sent.begin(), sent.end(), bothDisables);
+    ASSERT_NE(served, sent.end());
     EXPECT_LE(served - sent.begin(), asked + 2) << "of 25 addresses";
     ASSERT_TRUE(waitUntil([this] { return !log().nodes.isEmpty(); })) << "the search goes on";
     ASSERT_THAT(log().nodes.last(), SizeIs(1));
@@ -302,11 +317,12 @@ TEST_F(Stops, ThePollGoesOnAndCountsWhateverHappensToOneReply)
             ASSERT_TRUE(runToEnd(Connection::TaskUpdateStatus));
         EXPECT_TRUE(session().isConnected());
         EXPECT_TRUE(log().errors.isEmpty());
-        // At least: on a busy machine one more reply may come too late.
+        // On a busy machine one more reply may come too late.
+        const auto isOrOneMore = [](int count) { return testing::AnyOf(count, count + 1); };
         const LineMeter now = log().states.last().line;
-        EXPECT_GE(now.errors - before.errors, kind == Fault::Twice ? 0 : 1) << kind;
-        EXPECT_GE(now.repeats - before.repeats, kind == Fault::Twice ? 0 : 1) << kind;
-        EXPECT_GE(now.strays - before.strays, kind == Fault::Twice || kind == Fault::Late ? 1 : 0) << kind;
+        EXPECT_THAT(now.errors - before.errors, isOrOneMore(kind == Fault::Twice ? 0 : 1)) << kind;
+        EXPECT_THAT(now.repeats - before.repeats, isOrOneMore(kind == Fault::Twice ? 0 : 1)) << kind;
+        EXPECT_THAT(now.strays - before.strays, isOrOneMore(kind == Fault::Twice || kind == Fault::Late)) << kind;
     }
     const DriveState &last = log().states.last();
     EXPECT_EQ(last.sequence, log().states.at(log().states.size() - 2).sequence + 1);
