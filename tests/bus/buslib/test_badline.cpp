@@ -138,6 +138,7 @@ TEST_F(BadLine, AdapterPulledOutBeforeAnExchangeFailsAtOnceAndOpensAgain)
     replugged.write(reply);
     long value = 0;
     EXPECT_EQ(zbRead1Parameter(bus, 3, 6012, &value), ZB_OK);
+    EXPECT_EQ(value, 6020);
 }
 
 TEST_F(BadLine, AdapterPulledOutDuringAReplyFailsAtOnce)

@@ -81,7 +81,9 @@ TEST_P(DuringATask, ADisableIsTheNextThingOnTheLine)
     EXPECT_TRUE(log().disables.first());
     // What was on its way when it was asked for, and with a time-out's luck one more.
     const std::vector<std::string> sent = payloadsOf(bus().received());
-    EXPECT_LE(std::find(sent.begin(), sent.end(), disableWrite) - sent.begin(), asked + 2);
+    const auto found = std::find(sent.begin(), sent.end(), disableWrite);
+    ASSERT_NE(found, sent.end());
+    EXPECT_LE(found - sent.begin(), asked + 2);
     ASSERT_TRUE(waitUntil([this] { return !log().enabled.isEmpty() && !log().enabled.last(); }));
     EXPECT_TRUE(log().errors.isEmpty());
 }
