@@ -175,3 +175,13 @@ TEST_F(Registers, MotorSettingsChangedWhileRunningStopUntilRestart)
         EXPECT_FALSE(hasStopped());
     }
 }
+
+TEST_F(Registers, WritesCanBeRefusedOnPurpose)
+{
+    drive.refuseWrites(reg::VelocityP, std::nullopt, 1);
+    EXPECT_EQ(errorsOfWriting(reg::VelocityP, 10), 0);
+    EXPECT_EQ(errorsOfWriting(reg::VelocityP, 11), ErrorValueNotAllowed);
+    EXPECT_EQ(drive.read(reg::VelocityP), 10);
+    drive.acceptWrites();
+    EXPECT_EQ(errorsOfWriting(reg::VelocityP, 11), 0);
+}
