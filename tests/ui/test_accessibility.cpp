@@ -114,14 +114,14 @@ TEST_F(Accessibility, KeysWalkPanesAndPagesAndFoldTheHelpAway)
     EXPECT_EQ(control<QListWidget>("pageSelector")->currentRow(), 4);
     kvp()->setFocus();
     QStringList walked;
-    do {
+    for (int presses = 0; presses < 12 && (presses == 0 || !kvp()->hasFocus()); ++presses) {
         press(Qt::Key_F6);
         for (const char *pane : {"pageSelector", "pages", "helpPane", "statusStrip"}) {
             const auto *widget = control<QWidget>(pane);
             if (widget == QApplication::focusWidget() || widget->isAncestorOf(QApplication::focusWidget()))
                 walked << pane;
         }
-    } while (!kvp()->hasFocus() && walked.size() < 12);
+    }
     EXPECT_TRUE(kvp()->hasFocus()) << "back where the keyboard was";
     EXPECT_TRUE(walked.contains("pageSelector") && walked.contains("pages"));
     for (const bool shown : {true, false, true}) {

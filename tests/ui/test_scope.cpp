@@ -146,6 +146,9 @@ TEST_F(Scope, ASeriesKeepsZoomCursorsAndPlaceOnThePage)
     click("ScopeCaptureNow");
     waitForPlot();
     ASSERT_TRUE(waitFor([this] { return !figures().isEmpty(); }));
+    const QString range = "(a => [velbrinScope.seenTime().from, velbrinScope.seenTime().to, a.min, a.max])"
+                          "($('#Position').data('plot').getAxes().xaxis)";
+    const QVariantList whole = run(range).toList();
     run("velbrinScope.showTime(0.01, 0.02); velbrinScope.setCursor(0, 0.015); window.scrollTo(0, 200)");
     const QString state = "[velbrinScope.seenTime(), velbrinScope.cursors, window.scrollY,"
                           " document.documentElement.scrollHeight, $('#Position').offset().top,"
@@ -161,8 +164,9 @@ TEST_F(Scope, ASeriesKeepsZoomCursorsAndPlaceOnThePage)
     // A row or two may have come to the list of captures, below the charts in this narrow pane.
     for (const int i : {0, 1, 2, 4, 5})
         EXPECT_EQ(run(state).toList().value(i), before[i]) << i;
+    EXPECT_EQ(run(range).toList(), (QVariantList{0.01, 0.02, 0.01, 0.02}));
     clickLink("tdext://reloadplots");
-    EXPECT_TRUE(waitFor([this] { return run("velbrinScope.seenTime()").toList().value(0).toDouble() < 0.01; }));
+    EXPECT_TRUE(waitFor([&] { return run(range).toList() == whole; }));
 }
 
 TEST_F(Scope, TheChartsTakeTheWindowAndGiveItBackAndEscStillDisables)
@@ -181,8 +185,12 @@ TEST_F(Scope, TheChartsTakeTheWindowAndGiveItBackAndEscStillDisables)
     press(Qt::Key_S, Qt::AltModifier); // a new capture from here
     ASSERT_TRUE(waitFor([this] { return tries()->rowCount() == 2; }, 20000));
     EXPECT_TRUE(run("$('html').hasClass('scope-open')").toBool());
+    view()->setFocus();
+    ASSERT_TRUE(waitFor([this] { return view()->isAncestorOf(QApplication::focusWidget()); }))
+        << "the page has the keys";
     press(Qt::Key_Escape);
     EXPECT_TRUE(waitForWrite(softEnable, 0));
+    EXPECT_TRUE(view()->isAncestorOf(QApplication::focusWidget())) << "and had them when it was pressed";
     clickLink("tdext://scope/open-out");
     EXPECT_TRUE(control<QWidget>("settingsPane")->isVisible());
     press(Qt::Key_F11);
