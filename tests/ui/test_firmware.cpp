@@ -6,12 +6,12 @@
 
 namespace {
 
-constexpr int KetaType = 11000;
-constexpr int TorvaType = 4000;
-constexpr int BootloaderAddress = 255;
-constexpr int OperatingMode = 2;
-constexpr int UpgradeCutOff = 0x120;
-constexpr int SearchLimitMs = 40000; // 25 addresses, most of them silent, on a machine that does other things as well
+constexpr int ketaType = 11000;
+constexpr int torvaType = 4000;
+constexpr int bootloaderAddress = 255;
+constexpr int operatingMode = 2;
+constexpr int upgradeCutOff = 0x120;
+constexpr int searchLimitMs = 40000; // 25 addresses, most of them silent, on a machine that does other things as well
 
 class FirmwareDialogTest : public WindowFixture
 {
@@ -32,7 +32,7 @@ protected:
     }
     bool waitForGreeting()
     {
-        return waitFor([this] { return dialog()->isVisible(); }, SearchLimitMs);
+        return waitFor([this] { return dialog()->isVisible(); }, searchLimitMs);
     }
     /// The final message, and the end of the connection that it brings.
     bool waitForSuccess()
@@ -42,7 +42,7 @@ protected:
     }
     bool waitForConnection(const char *text)
     {
-        return waitFor([&] { return connectionText() == text; }, SearchLimitMs);
+        return waitFor([&] { return connectionText() == text; }, searchLimitMs);
     }
 };
 
@@ -63,9 +63,9 @@ protected:
     void SetUp() override
     {
         KetaInUpgradeMode::SetUp();
-        startConnecting(BootloaderAddress);
+        startConnecting(bootloaderAddress);
         ASSERT_TRUE(waitForGreeting());
-        ASSERT_EQ(sim::writeFile("keta.tdf", sim::firmwareFile(KetaType, numberedWords(20000, 0), {})), "");
+        ASSERT_EQ(sim::writeFile("keta.tdf", sim::firmwareFile(ketaType, numberedWords(20000, 0), {})), "");
         bus().setTurnAround(std::chrono::milliseconds(10)); // 625 chunks
         startUpgrade("keta.tdf");
         ASSERT_TRUE(waitFor([this] { return progress() > 0; }));
@@ -108,7 +108,7 @@ TEST_F(FirmwareDialogTest, InstallFirmwareLeadsAKetaToItsNewFirmwareAndBack)
     EXPECT_TRUE(log().startsWith("Connected to device in firmware upgrade mode (bootloader version 1260)"));
     EXPECT_TRUE(control<QWidget>("resetToFactoryState")->isVisible());
 
-    ASSERT_EQ(sim::writeFile("keta.tdf", sim::firmwareFile(KetaType, numberedWords(2000, 0x1000), {})), "");
+    ASSERT_EQ(sim::writeFile("keta.tdf", sim::firmwareFile(ketaType, numberedWords(2000, 0x1000), {})), "");
     startUpgrade("keta.tdf");
     ASSERT_TRUE(waitForSuccess());
     found.clear();
@@ -121,12 +121,12 @@ TEST_F(FirmwareDialogTest, InstallFirmwareLeadsAKetaToItsNewFirmwareAndBack)
     ASSERT_TRUE(waitForConnection("Disconnected"));
     bus().powerCycle();
     connectToDrive(DriveAddress);
-    EXPECT_EQ(bus().read(DriveAddress, OperatingMode), 1);
+    EXPECT_EQ(bus().read(DriveAddress, operatingMode), 1);
 }
 
 TEST_F(TorvaInUpgradeMode, IsOfferedNothingThatOnlyAKetaCan)
 {
-    startConnecting(BootloaderAddress, TorvaType);
+    startConnecting(bootloaderAddress, torvaType);
     ASSERT_TRUE(waitForGreeting());
     EXPECT_FALSE(control<QWidget>("resetToFactoryState")->isVisible());
     EXPECT_FALSE(button("restartToDFUMode")->isVisible());
@@ -135,7 +135,7 @@ TEST_F(TorvaInUpgradeMode, IsOfferedNothingThatOnlyAKetaCan)
 
 TEST_F(KetaInUpgradeMode, IsGreetedByTheDialogShowsWhatABootloaderKnowsAndOffersWhatItCanDo)
 {
-    startConnecting(BootloaderAddress);
+    startConnecting(bootloaderAddress);
     ASSERT_TRUE(waitForGreeting());
     ASSERT_TRUE(waitFor([this] { return label("HWMODEL")->text() == "Tarnwell Devices KETA"; }));
     EXPECT_EQ(label("HWVER")->text(), "11000");
@@ -200,7 +200,7 @@ TEST_F(RunningUpgrade, IsNotLeftByAccident)
     EXPECT_EQ(progress(), 2 * 20000);
     EXPECT_EQ(scrollBar->value(), scrollBar->maximum());
     // The search answers while the log is still being read; the drives are shown when it is closed.
-    ASSERT_TRUE(waitFor([this] { return button("connect_button")->text() == "Connect to drive"; }, SearchLimitMs));
+    ASSERT_TRUE(waitFor([this] { return button("connect_button")->text() == "Connect to drive"; }, searchLimitMs));
     EXPECT_TRUE(dialog()->isVisible());
     QTest::keyClick(dialog(), Qt::Key_Escape); // finished, it means "Close"
     EXPECT_FALSE(dialog()->isVisible());
@@ -218,7 +218,7 @@ TEST_F(RunningUpgrade, ClosedAnywayEndsAtOnce)
     EXPECT_LT(timer.elapsed(), 5000);
     bus().setTurnAround(std::chrono::microseconds(0));
     bus().powerCycle();
-    EXPECT_EQ(bus().read(DriveAddress, faultBits), UpgradeCutOff);
+    EXPECT_EQ(bus().read(DriveAddress, faultBits), upgradeCutOff);
 }
 
 TEST_F(FirmwareDialogTest, PermanentStopIsCuredByTheRestartThatIsSuggestedOnce)

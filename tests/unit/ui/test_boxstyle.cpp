@@ -1,7 +1,11 @@
 #include "boxstyle.h"
 
 #include <QCheckBox>
+#include <QImage>
+#include <QPalette>
 #include <QStyleOptionButton>
+#include <algorithm>
+#include <cmath>
 #include <gtest/gtest.h>
 
 namespace {
