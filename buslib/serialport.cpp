@@ -182,6 +182,9 @@ int SendBuf(int port, const std::uint8_t *buffer, int length)
 
 int CloseComport(int port)
 {
+    // By hand: a program that is just being started by another thread still has the port, and with it would keep the
+    // lock.
+    flock(port, LOCK_UN);
     if (!isPseudoTerminal(port))
         ioctl(port, TIOCNXCL);
     tcflush(port, TCOFLUSH); // closing would wait up to 30 s for an adapter that no longer sends

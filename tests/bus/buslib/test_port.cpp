@@ -8,6 +8,7 @@
 #include <fstream>
 #include <memory>
 #include <termios.h>
+#include <unistd.h>
 
 using Port = OnALine;
 
@@ -67,6 +68,18 @@ TEST_F(Port, RefusesOtherNamesWithoutATraceAndMissingOrTakenPortsWithAReason)
     std::filesystem::remove("COM_file");
     zbCloseBus(bus);
     open(); // none of this used up a handle
+}
+
+TEST_F(Port, CanBeOpenedAgainAlthoughAProgramThatIsBeingStartedStillHasIt)
+{
+    const int port = OpenComport("COM1", 460800);
+    ASSERT_GE(port, 0);
+    const int inherited = dup(port); // as between fork and exec
+    EXPECT_EQ(CloseComport(port), 0);
+    const int again = OpenComport("COM1", 460800);
+    EXPECT_GE(again, 0);
+    CloseComport(again);
+    close(inherited);
 }
 
 TEST_F(Port, TheEleventhBusIsRefusedAndTheLowestFreeHandleUsedAgain)
