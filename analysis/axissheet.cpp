@@ -17,8 +17,8 @@ constexpr double highestGain = 32767.0;
 constexpr double shortestBump = 0.006; ///< s
 constexpr std::size_t fewestSamples = 12;
 constexpr double sigmas = 2.0;
-constexpr double widestPlusMinus =
-    0.010; ///< of the acceleration, with a quiet encoder: a stiff axis has 0.002 to 0.005
+/// Of the acceleration, with a quiet encoder: a stiff axis has 0.002 to 0.005.
+constexpr double widestPlusMinus = 0.010;
 constexpr double widestWithNoise = 0.03;
 constexpr double largestSpeedError = 0.002;
 constexpr double harmlessNoise = 0.6;          ///< counts RMS
